@@ -1,0 +1,29 @@
+# The installation: one folder, which can stand anywhere, since the compiler finds everything from its own place.
+
+set(CMAKE_INSTALL_MESSAGE LAZY)
+
+install(TARGETS pozhil DESTINATION .)
+install(DIRECTORY உள்ளடக்கம்/ DESTINATION உள்ளடக்கம்)
+install(FILES ${precompiled_headers} DESTINATION உள்ளடக்கம்)
+install(FILES ${reporter_object} DESTINATION திரட்டு)
+install(FILES src/error_handler.cpp DESTINATION src)
+install(DIRECTORY DESTINATION தொகுப்புகள்)
+install(DIRECTORY தொகுப்புகள்/ DESTINATION தொகுப்புகள் OPTIONAL)
+
+# Every build lays down the same folder in its own directory, for use in place.
+set(stage ${PROJECT_BINARY_DIR}/பொழில்)
+file(GLOB_RECURSE installed_files CONFIGURE_DEPENDS உள்ளடக்கம்/* தொகுப்புகள்/*)
+# The list is a file of its own, so that a deleted header or module disappears from the folder too.
+file(CONFIGURE OUTPUT generated/installed_files.txt CONTENT "${installed_files}")
+
+add_custom_command(
+    OUTPUT ${stage}/பொழி
+    COMMAND ${CMAKE_COMMAND} -E rm -rf ${stage}/உள்ளடக்கம் ${stage}/தொகுப்புகள்
+    COMMAND ${CMAKE_COMMAND} -E env --unset=DESTDIR ${CMAKE_COMMAND} --install ${PROJECT_BINARY_DIR} --prefix ${stage}
+    COMMAND ${CMAKE_COMMAND} -E touch ${stage}/பொழி
+    DEPENDS pozhil ${precompiled_headers} ${reporter_object} ${PROJECT_SOURCE_DIR}/src/error_handler.cpp
+            ${installed_files} ${PROJECT_BINARY_DIR}/generated/installed_files.txt
+    COMMENT "Staging the installation"
+    VERBATIM)
+add_custom_target(installation ALL DEPENDS ${stage}/பொழி)
+add_dependencies(installation generated_program_files)

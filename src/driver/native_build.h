@@ -1,0 +1,50 @@
+#pragma once
+
+#include "platform/process.h"
+
+#include <filesystem>
+#include <future>
+#include <string>
+
+namespace pozhil {
+
+/// Builds the output text with g++ and runs the result in the foreground.
+///
+/// The toolchain works in the background from start() on, so that whatever is shown meanwhile costs no time; what it
+/// wrote appears in finish().
+class NativeBuild {
+public:
+    /// \param appDirectory the installation
+    /// \param generatedSource the output text
+    /// \param temporaryDirectory where the program is made
+    NativeBuild(std::filesystem::path appDirectory, std::filesystem::path generatedSource,
+                std::filesystem::path temporaryDirectory);
+
+    /// Starts the toolchain.
+    void start();
+
+    /// Waits for the toolchain, shows its output, and runs the program.
+    /// \return whether the link succeeded; how the program ended counts for nothing
+    bool finish();
+
+private:
+    struct ToolchainResult {
+        platform::CommandResult object;
+        platform::CommandResult link;
+    };
+
+    ToolchainResult runToolchain() const;
+    platform::Command objectCommand() const;
+    platform::Command linkCommand() const;
+    bool runProgram() const;
+
+    std::filesystem::path appDirectory_;
+    std::filesystem::path generatedSource_;
+    std::filesystem::path freshProgram_;
+    std::filesystem::path program_;
+    std::filesystem::path object_;
+    bool objectIsMissing_ = false;
+    std::future<ToolchainResult> toolchain_;
+};
+
+} // namespace pozhil

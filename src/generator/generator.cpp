@@ -1,0 +1,152 @@
+#include "generator/generator.h"
+
+#include "error_codes.h"
+#include "error_handler.h"
+#include "generator/runtime_text.h"
+
+#include <cstdlib>
+#include <iostream>
+#include <utility>
+
+namespace pozhil {
+namespace {
+
+constexpr std::string_view START_PAGE_PLACEHOLDER = "@START_PAGE@";
+constexpr std::string_view SOURCE_PATH_PLACEHOLDER = "@SOURCE_PATH@";
+
+/// \p text with the first \p placeholder in it replaced by \p value.
+std::string fillPlaceholder(std::string_view text, std::string_view placeholder, std::string_view value) {
+    std::string filled(text);
+    filled.replace(filled.find(placeholder), placeholder.size(), value);
+    return filled;
+}
+
+bool isDefinition(const Statement* statement) {
+    return dynamic_cast<const StructDefinitionStatement*>(statement) != nullptr ||
+           dynamic_cast<const FunctionDefinitionStatement*>(statement) != nullptr ||
+           dynamic_cast<const AbstractStructDefinitionStatement*>(statement) != nullptr;
+}
+
+} // namespace
+
+Generator::Generator(const Program& program, const FunctionTable& functions, const StructTable& structs,
+                     const AbstractStructTable& abstractStructs, std::string source, std::string filePath)
+    : program_(program), structDefs_(structs), abstractStructDefs_(abstractStructs), functionParams_(functions),
+      sourceCode_(std::move(source)), fileName_(std::move(filePath)) {
+    for (const auto& entry : structDefs_) {
+        for (const auto& field : entry.second->fields) {
+            if (field->isPrivate) {
+                privateFields_.insert(field->name);
+            }
+        }
+    }
+}
+
+std::string Generator::generate() {
+    emitRuntime();
+    emitStructures();
+    emitFunctions();
+    emitInitGlobals();
+    emitConsoleMain();
+    return out_.str();
+}
+
+/// The sections that are the same in every program but for the start page and the source path.
+void Generator::emitRuntime() {
+    out_ << runtime::standard_headers << runtime::web_text_layer << runtime::global_state
+         << fillPlaceholder(runtime::navigation, START_PAGE_PLACEHOLDER, detectStartPage()) << runtime::input_state
+         << runtime::web_bridge << runtime::value_types << runtime::error_box
+         << fillPlaceholder(runtime::value_functions, SOURCE_PATH_PLACEHOLDER, fileName_) << runtime::animation_engine
+         << runtime::library << runtime::scrolling << runtime::web_boilerplate;
+}
+
+/// The page that is shown first: the last one that asks for it, else the first that has a name.
+std::string Generator::detectStartPage() const {
+    std::string startPage;
+    for (const StatementPtr& statement : program_.statements) {
+        const auto* app = dynamic_cast<const WebAppNode*>(statement.get());
+        const auto* header = app == nullptr ? nullptr : dynamic_cast<const WidgetNode*>(app->header.get());
+        if (header == nullptr) {
+            continue;
+        }
+        const auto page = header->properties.find("பக்கம்");
+        const auto* name =
+            page == header->properties.end() ? nullptr : dynamic_cast<const StringLiteral*>(page->second.get());
+        if (name == nullptr) {
+            continue;
+        }
+        const auto flag = header->properties.find("ஆரம்ப_பக்கம்");
+        const auto* asks =
+            flag == header->properties.end() ? nullptr : dynamic_cast<const BooleanLiteral*>(flag->second.get());
+        if (startPage.empty() || (asks != nullptr && asks->value == "மெய்")) {
+            startPage = name->value;
+        }
+    }
+    return startPage.empty() ? "home" : startPage;
+}
+
+void Generator::emitStructures() {
+    for (const StatementPtr& statement : program_.statements) {
+        if (const auto* structure = dynamic_cast<const StructDefinitionStatement*>(statement.get())) {
+            visitStructDefinitionStatement(structure);
+        }
+    }
+}
+
+void Generator::emitFunctions() {
+    for (const StatementPtr& statement : program_.statements) {
+        if (const auto* function = dynamic_cast<const FunctionDefinitionStatement*>(statement.get())) {
+            visitFunctionDefinitionStatement(function);
+        }
+    }
+}
+
+/// The set-up of a web application; a console program has nothing to set up.
+void Generator::emitInitGlobals() {
+    out_ << "void init_globals() {\n}\n\n";
+}
+
+void Generator::emitConsoleMain() {
+    out_ << "int main() {\n";
+    ++indentLevel_;
+    for (const StatementPtr& statement : program_.statements) {
+        if (statement != nullptr && !isDefinition(statement.get())) {
+            visitStatement(statement.get());
+        }
+    }
+    --indentLevel_;
+    indent();
+    out_ << "return 0;\n}\n";
+}
+
+void Generator::indent() {
+    for (std::int32_t level = 0; level < indentLevel_; ++level) {
+        out_ << "    ";
+    }
+}
+
+std::string Generator::getLineText(std::int32_t line) const {
+    std::istringstream lines(sourceCode_);
+    std::string text;
+    for (std::int32_t number = 1; std::getline(lines, text); ++number) {
+        if (number == line) {
+            return text;
+        }
+    }
+    return "";
+}
+
+void Generator::பிழை(const std::string& code, std::int32_t line, const std::string& extra) const {
+    const auto info = பிழை_அகராதி.find(code);
+    if (info == பிழை_அகராதி.end()) {
+        std::cerr << "பொழி-399: அறியப்படாத பிழை (" << code << ")" << std::endl;
+        std::exit(1);
+    }
+    std::string description = info->second.விளக்கம்;
+    if (!extra.empty()) {
+        description += " (" + extra + ")";
+    }
+    ErrorHandler::அறிக்கை(பிழைவகை::பொருள்_பிழை, code, description, fileName_, line, getLineText(line), info->second.தீர்வு);
+}
+
+} // namespace pozhil

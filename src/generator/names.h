@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace pozhil {
+
+/// Whether \p name is the object itself inside its methods: தான் or self.
+bool isSelfName(std::string_view name);
+
+/// Whether \p name is a part of a time value, such as ஆண்டு.
+bool isTimePart(std::string_view name);
+
+/// "std::any, std::any" with so many parts.
+std::string anyTypes(std::size_t count);
+
+/// fn_ and \p stem. A name that the runtime uses already gets an underscore behind it, so that a user's function takes
+/// the place of the library's.
+std::string emittedFunctionName(const std::string& stem);
+
+} // namespace pozhil

@@ -1,0 +1,364 @@
+#pragma once
+
+/// Everything that works on values whose kind is known only at run time: their text and type name, comparison,
+/// arithmetic and conversion. The generator puts the path of the source file in place of the marker.
+
+#include "error_box.h"
+
+// --- emitted from here ---
+
+std::string fn_முழுவதும்(std::tm* t);
+
+// உரை, எழுத்து, பைட் ஆகியவற்றின் எழுத்துகள்; உரை அல்லாத மதிப்புக்கு nullptr
+const std::string* pozhil_text_view(const std::any& val, std::string& byte_text) {
+    if (const auto* text = std::any_cast<std::string>(&val)) {
+        return text;
+    }
+    if (const auto* letter = std::any_cast<_PozhilChar>(&val)) {
+        return &letter->val;
+    }
+    if (const auto* byte = std::any_cast<char>(&val)) {
+        byte_text.assign(1, *byte);
+        return &byte_text;
+    }
+    return nullptr;
+}
+
+// முழு எண், தசம எண் ஆகியவற்றின் உரை; எண் அல்லாத மதிப்புக்கு வெற்று உரை
+std::string pozhil_number_text(const std::any& val) {
+    if (const auto* whole = std::any_cast<long long>(&val)) {
+        return std::to_string(*whole);
+    }
+    if (const auto* count = std::any_cast<int>(&val)) {
+        return std::to_string(*count);
+    }
+    if (const auto* decimal = std::any_cast<long double>(&val)) {
+        return std::to_string(*decimal);
+    }
+    return "";
+}
+
+// அச்சிடும் வடிவம்
+std::string fn_any_to_string(const std::any& val) {
+    std::string number = pozhil_number_text(val);
+    if (!number.empty()) {
+        return number;
+    }
+    std::string byte_text;
+    if (const std::string* text = pozhil_text_view(val, byte_text)) {
+        return *text;
+    }
+    if (const auto* truth = std::any_cast<bool>(&val)) {
+        return *truth ? "மெய்" : "பொய்";
+    }
+    if (const auto* clock_reading = std::any_cast<double>(&val)) {
+        return std::to_string(*clock_reading);
+    }
+    if (const auto* time = std::any_cast<std::tm*>(&val)) {
+        return fn_முழுவதும்(*time);
+    }
+    if (const auto* list = std::any_cast<std::vector<std::any>>(&val)) {
+        std::string text = "[";
+        const char* separator = "";
+        for (const std::any& item : *list) {
+            text += separator + fn_any_to_string(item);
+            separator = ", ";
+        }
+        return text + "]";
+    }
+    if (const auto* map = std::any_cast<std::map<std::string, std::any>>(&val)) {
+        std::string text = "{";
+        const char* separator = "";
+        for (const auto& entry : *map) {
+            text += separator + ("\"" + entry.first + "\": ") + fn_any_to_string(entry.second);
+            separator = ", ";
+        }
+        return text + "}";
+    }
+    const std::type_info& type = val.type();
+    if (type == typeid(std::function<std::any(std::any)>) ||
+        type == typeid(std::function<std::any(std::any, std::any)>) ||
+        type == typeid(std::function<std::any(std::any, std::any, std::any)>) ||
+        type == typeid(std::function<std::any()>)) {
+        return "[வினை]";
+    }
+    if (type == typeid(std::shared_ptr<_StructBase>)) {
+        return "[பொருள்]";
+    }
+    return "[தெரியாத வகை]";
+}
+
+// JavaScript உரைக்குள் எழுதும் வடிவம்
+std::string pozhil_script_escape(const std::string& text, bool line_ends) {
+    std::string escaped;
+    for (char c : text) {
+        if (c == '\'' || c == '"' || c == '\\') {
+            escaped += '\\';
+            escaped += c;
+        } else if (line_ends && c == '\n') {
+            escaped += "\\n";
+        } else if (line_ends && c == '\r') {
+            escaped += "\\r";
+        } else {
+            escaped += c;
+        }
+    }
+    return escaped;
+}
+
+// மதிப்பை JavaScript கோவையாக எழுதும் வடிவம்
+std::string fn_any_to_json(const std::any& val) {
+    std::string number = pozhil_number_text(val);
+    if (!number.empty()) {
+        return number;
+    }
+    if (const auto* text = std::any_cast<std::string>(&val)) {
+        return "'" + pozhil_script_escape(*text, true) + "'";
+    }
+    std::string byte_text;
+    if (const std::string* text = pozhil_text_view(val, byte_text)) {
+        return "'" + *text + "'";
+    }
+    if (const auto* truth = std::any_cast<bool>(&val)) {
+        return *truth ? "true" : "false";
+    }
+    if (const auto* list = std::any_cast<std::vector<std::any>>(&val)) {
+        std::string text = "[";
+        const char* separator = "";
+        for (const std::any& item : *list) {
+            text += separator + fn_any_to_json(item);
+            separator = ", ";
+        }
+        return text + "]";
+    }
+    if (const auto* map = std::any_cast<std::map<std::string, std::any>>(&val)) {
+        std::string text = "{";
+        const char* separator = "";
+        for (const auto& entry : *map) {
+            text += separator + ("'" + pozhil_script_escape(entry.first, false) + "': ") + fn_any_to_json(entry.second);
+            separator = ", ";
+        }
+        return text + "}";
+    }
+    return "null";
+}
+
+// மதிப்பின் வகைப் பெயர்
+std::string என்னவகை_கண்டுபிடி(const std::any& மதிப்பு) {
+    const std::type_info& type = மதிப்பு.type();
+    if (type == typeid(long long) || type == typeid(int)) {
+        return "எண் ";
+    }
+    if (type == typeid(long double) || type == typeid(double)) {
+        return "தசம_எண்";
+    }
+    if (type == typeid(std::string)) {
+        return "உரை";
+    }
+    if (type == typeid(_PozhilChar) || type == typeid(char)) {
+        return "எழுத்து";
+    }
+    if (type == typeid(bool)) {
+        return "நிலை ";
+    }
+    if (type == typeid(std::vector<std::any>)) {
+        return "பட்டியல்";
+    }
+    if (type == typeid(std::map<std::string, std::any>)) {
+        return "அகராதி";
+    }
+    if (type == typeid(std::tm*)) {
+        return "நேரம் ";
+    }
+    if (type == typeid(std::shared_ptr<_StructBase>)) {
+        return "பொருள் ";
+    }
+    if (std::string(type.name()).find("function") != std::string::npos) {
+        return "வினை";
+    }
+    return "தெரியாத_வகை (Unknown)";
+}
+
+// எண் மதிப்பானால் அதைப் படித்து true தரும்.
+bool pozhil_read_number(const std::any& val, long double& number) {
+    if (const auto* whole = std::any_cast<long long>(&val)) {
+        number = static_cast<long double>(*whole);
+    } else if (const auto* decimal = std::any_cast<long double>(&val)) {
+        number = *decimal;
+    } else if (const auto* count = std::any_cast<int>(&val)) {
+        number = static_cast<long double>(*count);
+    } else if (const auto* clock_reading = std::any_cast<double>(&val)) {
+        number = static_cast<long double>(*clock_reading);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+long double fn_get_double(const std::any& a) {
+    long double number = 0.0L;
+    pozhil_read_number(a, number);
+    return number;
+}
+
+// ஒப்பீடு. எண்ணோடு எண், உரையோடு உரை, நிலையோடு நிலை; மற்ற இணைகள் எல்லா ஒப்பீட்டிலும் பொய்.
+bool fn_compare_any(const std::any& left, const std::any& right, std::string op) {
+    const bool equal = op == "==" || op == "சமம்";
+    const bool unequal = op == "!=" || op == "சமமில்லை";
+
+    long double left_number = 0.0L, right_number = 0.0L;
+    if (pozhil_read_number(left, left_number) && pozhil_read_number(right, right_number)) {
+        if (equal) {
+            return left_number == right_number;
+        }
+        if (unequal) {
+            return left_number != right_number;
+        }
+        if (op == ">" || op == "பெரிது") {
+            return left_number > right_number;
+        }
+        if (op == "<" || op == "சிறிது") {
+            return left_number < right_number;
+        }
+        if (op == ">=" || op == "பெரிதுசமம்") {
+            return left_number >= right_number;
+        }
+        if (op == "<=" || op == "சிறிதுசமம்") {
+            return left_number <= right_number;
+        }
+        return false;
+    }
+
+    std::string left_byte, right_byte;
+    const std::string* left_text = pozhil_text_view(left, left_byte);
+    const std::string* right_text = pozhil_text_view(right, right_byte);
+    if (left_text && right_text) {
+        return (equal && *left_text == *right_text) || (unequal && *left_text != *right_text);
+    }
+
+    const auto* left_truth = std::any_cast<bool>(&left);
+    const auto* right_truth = std::any_cast<bool>(&right);
+    if (left_truth && right_truth) {
+        return (equal && *left_truth == *right_truth) || (unequal && *left_truth != *right_truth);
+    }
+    return false;
+}
+
+// பட்டியல் குறியீடாகவும் சுழற்சி எல்லையாகவும் பயன்படும் முழு எண்
+long long fn_index(long long val) {
+    return val;
+}
+
+long long fn_index(int val) {
+    return val;
+}
+
+long long fn_index(const std::any& val) {
+    if (const auto* whole = std::any_cast<long long>(&val)) {
+        return *whole;
+    }
+    if (const auto* count = std::any_cast<int>(&val)) {
+        return *count;
+    }
+    if (const auto* decimal = std::any_cast<long double>(&val)) {
+        return static_cast<long long>(*decimal);
+    }
+    throw std::runtime_error("பொருந்தாத தரவு வகை (Type Mismatch)!");
+}
+
+std::any fn_div_any(const std::any& left, const std::any& right) {
+    long double divisor = 0.0L;
+    const bool right_is_number = pozhil_read_number(right, divisor);
+    if (right_is_number && divisor == 0.0L) {
+        throw std::runtime_error("சுழியத்தால் (0) வகுக்க முடியாது!");
+    }
+    const auto* left_whole = std::any_cast<long long>(&left);
+    const auto* right_whole = std::any_cast<long long>(&right);
+    if (left_whole && right_whole) {
+        return std::any(*left_whole / *right_whole);
+    }
+    long double dividend = 0.0L;
+    if (!right_is_number || !pozhil_read_number(left, dividend)) {
+        throw std::bad_any_cast();
+    }
+    return std::any(dividend / divisor);
+}
+
+// கூட்டல்; இரண்டும் எண்கள் இல்லையென்றால் உரைகளாக இணைக்கும்.
+std::any fn_add_any(const std::any& left, const std::any& right) {
+    const auto* left_whole = std::any_cast<long long>(&left);
+    const auto* right_whole = std::any_cast<long long>(&right);
+    if (left_whole && right_whole) {
+        return std::any(*left_whole + *right_whole);
+    }
+    long double left_number = 0.0L, right_number = 0.0L;
+    if (pozhil_read_number(left, left_number) && pozhil_read_number(right, right_number)) {
+        return std::any(left_number + right_number);
+    }
+    return std::any(fn_any_to_string(left) + fn_any_to_string(right));
+}
+
+// தொகுப்பின் கோப்பு: முதலில் நடப்புக் கோப்புறை, பிறகு பொதுத் தொகுப்புகள்
+std::string fn_resolve_module_path(const std::string& module_name) {
+    const std::string file_name = module_name + ".பொழில்";
+    if (std::ifstream(file_name).good()) {
+        return file_name;
+    }
+    const std::string system_path = "/usr/local/lib/Pozhil/தொகுப்புகள்/" + file_name;
+    if (std::ifstream(system_path).good()) {
+        return system_path;
+    }
+    throw std::runtime_error("தொகுப்பு (Module) கிடைக்கவில்லை!");
+}
+
+// உரையை எண்ணாக்கும்; உரை முழுவதும் எண்ணாக இருக்க வேண்டும்.
+std::any fn_cast_to_number(const std::any& val, int line_num) {
+    if (const auto* text = std::any_cast<std::string>(&val)) {
+        std::size_t used = 0;
+        try {
+            const long long whole = std::stoll(*text, &used);
+            if (used == text->size()) {
+                return std::any(whole);
+            }
+        } catch (const std::exception&) {
+            // முழு எண் அல்ல; தசம எண்ணாக இருக்கலாம்
+        }
+        try {
+            const long double decimal = std::stold(*text, &used);
+            if (used == text->size()) {
+                return std::any(decimal);
+            }
+        } catch (const std::exception&) {
+            // எண்ணே அல்ல
+        }
+    } else if (val.type() == typeid(long long) || val.type() == typeid(long double) || val.type() == typeid(int)) {
+        return val;
+    }
+    pozhil_runtime_error("பொழி-302", "@SOURCE_PATH@", line_num);
+    return std::any();
+}
+
+std::any fn_logic_not(const std::any& val) {
+    if (const auto* truth = std::any_cast<bool>(&val)) {
+        return std::any(!*truth);
+    }
+    if (const auto* whole = std::any_cast<long long>(&val)) {
+        return std::any(*whole == 0);
+    }
+    if (const auto* count = std::any_cast<int>(&val)) {
+        return std::any(*count == 0);
+    }
+    if (const auto* decimal = std::any_cast<long double>(&val)) {
+        return std::any(*decimal == 0.0L);
+    }
+    if (const auto* text = std::any_cast<std::string>(&val)) {
+        return std::any(text->empty());
+    }
+    if (const auto* letter = std::any_cast<_PozhilChar>(&val)) {
+        return std::any(letter->val.empty());
+    }
+    if (const auto* byte = std::any_cast<char>(&val)) {
+        return std::any(*byte == 0);
+    }
+    return std::any(false);
+}

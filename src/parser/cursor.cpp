@@ -1,0 +1,112 @@
+#include "error_codes.h"
+#include "error_handler.h"
+#include "parser/parser.h"
+
+#include <algorithm>
+#include <sstream>
+
+namespace pozhil {
+namespace {
+
+/// How high a tree may grow. Everything that walks the tree does so by recursion, and this many levels fit on the
+/// stack of every system; nobody writes that much by hand.
+constexpr int MAX_NESTING = 1000;
+
+} // namespace
+
+const Token& Parser::peek() const {
+    return tokens_[current_];
+}
+
+const Token& Parser::peekBehind(std::size_t offset) const {
+    return tokens_[std::min(current_ + offset, tokens_.size() - 1)];
+}
+
+const Token& Parser::previous() const {
+    return tokens_[current_ == 0 ? 0 : current_ - 1];
+}
+
+bool Parser::is_at_end() const {
+    return peek().type == TokenType::END_OF_FILE;
+}
+
+const Token& Parser::advance() {
+    if (!is_at_end()) {
+        ++current_;
+    }
+    return previous();
+}
+
+bool Parser::check(TokenType type) const {
+    return !is_at_end() && peek().type == type;
+}
+
+bool Parser::checkKeyword(std::string_view text) const {
+    return check(TokenType::KEYWORD) && peek().value == text;
+}
+
+/// Takes the token if it is of this type.
+bool Parser::accept(TokenType type) {
+    if (!check(type)) {
+        return false;
+    }
+    advance();
+    return true;
+}
+
+/// Takes a token of this type, or reports \p code at \p line, at the token's own line if that is -1.
+Token Parser::consume(TokenType type, const char* code, std::int32_t line) {
+    if (!check(type)) {
+        பிழை(code, line == -1 ? peek().line : line);
+    }
+    return advance();
+}
+
+/// Takes a token that can name a variable, or reports like consume.
+Token Parser::consumeName(const char* code, std::int32_t line) {
+    if (is_at_end() || !isValidVariableName(peek())) {
+        பிழை(code, line == -1 ? peek().line : line);
+    }
+    return advance();
+}
+
+void Parser::skipNewlines() {
+    while (check(TokenType::NEWLINE)) {
+        advance();
+    }
+}
+
+/// Inside brackets that may span lines: line ends and indentation mean nothing.
+void Parser::skipLayout() {
+    while (check(TokenType::NEWLINE) || check(TokenType::INDENT) || check(TokenType::DEDENT)) {
+        advance();
+    }
+}
+
+std::string Parser::getLineText(std::int32_t line) const {
+    if (source_.empty()) {
+        return "(சோர்ஸ் கோடு கிடைக்கவில்லை)";
+    }
+    std::istringstream lines(source_);
+    std::string text;
+    for (std::int32_t number = 1; std::getline(lines, text); ++number) {
+        if (number == line) {
+            return text;
+        }
+    }
+    return "";
+}
+
+void Parser::பிழை(const std::string& code, std::int32_t line) const {
+    const பிழைதகவல்& info = பிழை_அகராதி.at(code);
+    ErrorHandler::அறிக்கை(பிழைவகை::இலக்கண_பிழை, code, info.விளக்கம், filename_, line, getLineText(line), info.தீர்வு);
+}
+
+/// Counts one more level of the tree; ends the run before the native stack would.
+void Parser::enterNesting() {
+    if (++nesting_ > MAX_NESTING) {
+        பிழை("பொழி-291", peek().line);
+    }
+}
+
+} // namespace pozhil

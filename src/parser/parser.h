@@ -1,0 +1,157 @@
+#pragma once
+
+#include "parser/syntax_tree.h"
+#include "scanner/token.h"
+
+#include <cstdint>
+#include <initializer_list>
+#include <map>
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace pozhil {
+
+/// Parameters of every function that stands outside all others, by name.
+using FunctionTable = std::map<std::string, std::vector<Param>>;
+/// Structures by name. The nodes are owned by the program.
+using StructTable = std::map<std::string, const StructDefinitionStatement*>;
+/// Abstract structures by name. The nodes are owned by the program.
+using AbstractStructTable = std::map<std::string, const AbstractStructDefinitionStatement*>;
+/// Ordinals of the members of every enumeration.
+using EnumTable = std::map<std::string, std::map<std::string, int>>;
+
+/// Whether \p token can name a variable. Keywords can, so that they read naturally as names.
+bool isValidVariableName(const Token& token);
+
+/// Recursive-descent parser of one source file; imported files are parsed by parsers of their own and merged in.
+///
+/// There is no recovery: the first fault ends the process through the diagnostic report.
+class Parser {
+public:
+    /// \param tokens all tokens of the file, ending in END_OF_FILE
+    /// \param source the file's text, for the source line of diagnostics
+    /// \param filename the path that diagnostics show
+    /// \param moduleDirectories where imports are looked for behind the working directory, in order
+    Parser(std::vector<Token> tokens, std::string source, std::string filename,
+           std::vector<std::string> moduleDirectories = {});
+
+    Parser(const Parser&) = delete;
+    Parser& operator=(const Parser&) = delete;
+
+    /// Parses the whole file. The statements of imported files come first, in the order of their imports.
+    Program parse();
+
+    const FunctionTable& functions() const { return functions_; }
+    const StructTable& structs() const { return structs_; }
+    const AbstractStructTable& abstractStructs() const { return abstractStructs_; }
+
+private:
+    class Siblings;
+
+    // Cursor and diagnostics (cursor.cpp).
+    const Token& peek() const;
+    const Token& peekBehind(std::size_t offset) const;
+    const Token& previous() const;
+    bool is_at_end() const;
+    const Token& advance();
+    bool check(TokenType type) const;
+    bool checkKeyword(std::string_view text) const;
+    bool accept(TokenType type);
+    Token consume(TokenType type, const char* code, std::int32_t line = -1);
+    Token consumeName(const char* code, std::int32_t line = -1);
+    void skipNewlines();
+    void skipLayout();
+    std::string getLineText(std::int32_t line) const;
+    [[noreturn]] void பிழை(const std::string& code, std::int32_t line) const;
+    void enterNesting();
+
+    // Statements and blocks (statements.cpp).
+    StatementPtr parseStatement(bool inStruct);
+    void checkStatementStart() const;
+    bool restOfLineHolds(TokenType type, std::string_view behindText) const;
+    StatementPtr parseStatementFromExpression(bool inStruct);
+    StatementPtr parseExpressionStatement(ExpressionPtr expression);
+    std::unique_ptr<BlockStatement> parseBlockStatement(bool inStruct);
+    std::unique_ptr<BlockStatement> parseColonAndBlock();
+    void endStatementInBlock(bool isNull);
+    void parseIndentedHeader(std::int32_t line = -1);
+    template <class Node> StatementPtr parseSingleWord();
+    StatementPtr parseSetStateStatement();
+
+    // Control flow (control_flow.cpp).
+    StatementPtr parsePrintStatement();
+    StatementPtr parseIfStatement();
+    StatementPtr parseWhileStatement();
+    StatementPtr parseForStatement();
+    StatementPtr parseSwitchStatement();
+    StatementPtr parseTryCatchStatement();
+    StatementPtr parseWaitStatement();
+    StatementPtr parseReturnStatement();
+    StatementPtr parseVarDeclaration(ExpressionPtr target, bool inStruct);
+    StatementPtr parseSetStatement(ExpressionPtr target);
+    StatementPtr parseCompoundAssignmentStatement(ExpressionPtr target);
+    StatementPtr parseIncrementStatement(ExpressionPtr target);
+    VarType declaredType(const Expression& initializer) const;
+
+    // Definitions (functions.cpp, structures.cpp, imports.cpp).
+    StatementPtr parseFunctionDefinitionStatement(bool inStruct);
+    std::vector<Param> parseParameters(std::int32_t line, bool mutableMayBeName);
+    std::unique_ptr<BlockStatement> parseFunctionBody();
+    StatementPtr parseVagaiStatement();
+    StatementPtr parseStructDefinitionStatement();
+    void parseStructMember(StructDefinitionStatement& structure);
+    void parseMethod(StructDefinitionStatement& structure);
+    void parseVisibilityGroup(StructDefinitionStatement& structure, bool isPrivate);
+    void parseSingleMember(StructDefinitionStatement& structure, bool isPrivate);
+    StatementPtr parseFieldDeclaration();
+    void checkParent(const StructDefinitionStatement& structure) const;
+    StatementPtr parseAbstractStructStatement();
+    AbstractMethod parseAbstractMethod();
+    StatementPtr parseImportStatement();
+    void parseImportedFile(const std::string& path, std::string text);
+
+    // Expressions (expressions.cpp, primary.cpp).
+    ExpressionPtr parseExpression();
+    ExpressionPtr parseAssignment();
+    ExpressionPtr parseAssignedValue(ExpressionPtr left);
+    bool isArrowAt(std::size_t offset) const;
+    bool isArrowFunctionAhead();
+    std::size_t bracketEnd();
+    ExpressionPtr parseArrowFunction();
+    ExpressionPtr parseTernary();
+    ExpressionPtr parseBinary(int loosestLevel);
+    ExpressionPtr parseUnary();
+    ExpressionPtr parseCall();
+    ExpressionPtr parseMember(ExpressionPtr object);
+    ExpressionList parseArguments(std::int32_t line);
+    ExpressionPtr parseIndexExpression(ExpressionPtr object, std::int32_t line);
+    ExpressionPtr parsePrimary();
+    ExpressionPtr parseLiteral();
+    ExpressionPtr parseName();
+    ExpressionPtr parseListLiteral(std::int32_t line);
+    std::unique_ptr<MapLiteral> parseMapLiteral(std::int32_t line);
+    ExpressionPtr parseLambdaExpression();
+
+    FunctionTable functions_;
+    StructTable structs_;
+    AbstractStructTable abstractStructs_;
+    std::set<std::string> importedFiles_;
+    StatementList importedStatements_;
+    std::vector<Token> tokens_;
+    std::string source_;
+    std::string filename_;
+    std::size_t current_ = 0;
+    EnumTable enums_;
+    int functionDepth_ = 0;
+    std::vector<std::string> moduleDirectories_;
+    /// Height that the tree under construction has reached at most.
+    int nesting_ = 0;
+    /// Where the search for a closing bracket that began at bracketSearchStart_ ended.
+    std::size_t bracketSearchStart_ = 1;
+    std::size_t bracketSearchEnd_ = 0;
+};
+
+} // namespace pozhil

@@ -1,0 +1,31 @@
+#include "platform/paths.h"
+
+#include "platform/environment.h"
+
+#include <unistd.h>
+
+namespace pozhil::platform {
+
+std::filesystem::path executableDirectory() {
+    return std::filesystem::read_symlink("/proc/self/exe").parent_path();
+}
+
+std::filesystem::path userCacheDirectory() {
+    const auto cache = environmentVariable("XDG_CACHE_HOME");
+    if (cache && !cache->empty()) {
+        return *cache;
+    }
+    const auto home = environmentVariable("HOME");
+    return home && !home->empty() ? std::filesystem::path(*home) / ".cache" : std::filesystem::path();
+}
+
+bool isWritableDirectory(const std::filesystem::path& directory) {
+    std::error_code ignored;
+    return std::filesystem::is_directory(directory, ignored) && access(directory.c_str(), W_OK | X_OK) == 0;
+}
+
+std::string systemName() {
+    return "Linux";
+}
+
+} // namespace pozhil::platform

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace pozhil::platform {
+
+/// A program to start. No shell stands between: every argument arrives as it is, whatever characters it holds.
+struct Command {
+    /// The program, looked up in PATH if it holds no slash, and its arguments.
+    std::vector<std::string> arguments;
+    /// Variables that only this program sees, beside those of this process.
+    std::vector<std::pair<std::string, std::string>> environment;
+};
+
+/// Exit status of a program that could not be started at all.
+constexpr int COULD_NOT_START = 127;
+
+/// How a program ended and what it wrote.
+struct CommandResult {
+    int status = 0;
+    std::string output;
+    std::string errors;
+};
+
+/// Runs a program in the foreground with this process's console and waits for it.
+/// \return its exit status, 128 plus the signal if one ended it, COULD_NOT_START if there was none to start
+int run_command(const Command& command);
+
+/// Runs a program without a console and waits for it.
+/// \return its exit status as above, and everything it wrote
+CommandResult captureCommand(const Command& command);
+
+/// \p text cut into words at blanks; single and double quotes keep blanks together.
+std::vector<std::string> splitWords(const std::string& text);
+
+} // namespace pozhil::platform

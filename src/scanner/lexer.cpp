@@ -1,0 +1,182 @@
+#include "scanner/lexer.h"
+
+#include "error_codes.h"
+#include "error_handler.h"
+#include "scanner/utf8.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+namespace pozhil {
+namespace {
+
+constexpr std::size_t TAB_WIDTH = 4;
+constexpr std::string_view COMMENT = "ஃ";
+constexpr std::string_view BLOCK_COMMENT = "ஃஃ";
+
+bool startsWith(std::string_view text, std::string_view beginning) {
+    return text.substr(0, beginning.size()) == beginning;
+}
+
+} // namespace
+
+Lexer::Lexer(std::string source, std::string fileName) : source_(std::move(source)), fileName_(std::move(fileName)) {}
+
+std::vector<Token> Lexer::tokenize() {
+    while (peek() != 0) {
+        if (atLineStart_ && !startLine()) {
+            continue;
+        }
+        Token token = getNextToken();
+        atLineStart_ = token.type == TokenType::NEWLINE;
+        tokens_.push_back(std::move(token));
+    }
+    closeIndents();
+    return std::move(tokens_);
+}
+
+/// The steps at the start of a line. False if they used the line up: it was blank or held only a comment.
+bool Lexer::startLine() {
+    lineStart_ = position_;
+    checkBlanksAreUniform();
+    const std::size_t width = getCurrentIndent();
+    // The width is a measure, not a count of bytes: behind a tab this lands further on than the blanks reach.
+    position_ += width;
+    if (position_ > source_.size()) {
+        throw std::out_of_range("indentation reaches past the end of the text");
+    }
+    if (peek() == '\n') {
+        ++line_;
+        advance();
+        return false;
+    }
+    if (startsWith(rest(), BLOCK_COMMENT)) {
+        return true;
+    }
+    if (startsWith(rest(), COMMENT)) {
+        skipToLineEnd();
+        return false;
+    }
+    changeIndent(width);
+    return true;
+}
+
+void Lexer::checkBlanksAreUniform() const {
+    const std::string_view line = rest();
+    const std::string_view blanks = line.substr(0, line.find_first_not_of(" \t"));
+    if (blanks.find(' ') != std::string_view::npos && blanks.find('\t') != std::string_view::npos) {
+        பிழை("பொழி-110");
+    }
+}
+
+std::size_t Lexer::getCurrentIndent() const {
+    std::size_t width = 0;
+    for (const char blank : std::string_view(source_).substr(lineStart_)) {
+        if (blank == ' ') {
+            ++width;
+        } else if (blank == '\t') {
+            width += TAB_WIDTH - width % TAB_WIDTH;
+        } else {
+            break;
+        }
+    }
+    return width;
+}
+
+void Lexer::changeIndent(std::size_t width) {
+    if (width > indents_.back()) {
+        indents_.push_back(width);
+        tokens_.push_back(makeToken(TokenType::INDENT, std::to_string(width)));
+    }
+    while (width < indents_.back()) {
+        indents_.pop_back();
+        tokens_.push_back(makeToken(TokenType::DEDENT, std::to_string(indents_.back())));
+        if (indents_.back() < width) {
+            பிழை("பொழி-111");
+        }
+    }
+}
+
+void Lexer::closeIndents() {
+    while (indents_.back() > 0) {
+        indents_.pop_back();
+        tokens_.push_back(makeToken(TokenType::DEDENT, "0"));
+    }
+    tokens_.push_back(makeToken(TokenType::END_OF_FILE, ""));
+}
+
+/// The byte at the cursor; 0 at the end, so that a NUL byte reads as the end of the text.
+char Lexer::peek() const {
+    return peekBehind(0);
+}
+
+char Lexer::peekBehind(std::size_t offset) const {
+    return position_ + offset < source_.size() ? source_[position_ + offset] : '\0';
+}
+
+/// Takes one whole UTF-8 character and returns its first byte.
+char Lexer::advance() {
+    const char lead = peek();
+    if (lead != 0) {
+        position_ += getUTF8SequenceLength(lead);
+    }
+    return lead;
+}
+
+std::string_view Lexer::rest() const {
+    return std::string_view(source_).substr(std::min(position_, source_.size()));
+}
+
+std::string_view Lexer::character() const {
+    const std::string_view text = rest();
+    return text.empty() ? text : firstCharacter(text);
+}
+
+std::string_view Lexer::textSince(std::size_t start) const {
+    return std::string_view(source_).substr(start, position_ - start);
+}
+
+void Lexer::skipWhitespace() {
+    while (peek() == ' ' || peek() == '\t' || peek() == '\r') {
+        ++position_;
+    }
+}
+
+void Lexer::skipToLineEnd() {
+    while (peek() != 0 && peek() != '\n') {
+        advance();
+    }
+}
+
+void Lexer::skipComments() {
+    skipWhitespace();
+    while (startsWith(rest(), COMMENT)) {
+        if (startsWith(rest(), BLOCK_COMMENT)) {
+            skipBlockComment();
+        } else {
+            skipToLineEnd();
+        }
+        skipWhitespace();
+    }
+}
+
+void Lexer::skipBlockComment() {
+    const std::size_t opening = position_ + BLOCK_COMMENT.size();
+    const std::size_t closing = source_.find(BLOCK_COMMENT, opening);
+    if (closing == std::string::npos) {
+        பிழை("பொழி-118");
+    }
+    const std::string_view comment = std::string_view(source_).substr(opening, closing - opening);
+    line_ += static_cast<std::int32_t>(std::count(comment.begin(), comment.end(), '\n'));
+    position_ = closing + BLOCK_COMMENT.size();
+}
+
+void Lexer::பிழை(const std::string& code) const {
+    const பிழைதகவல்& info = பிழை_அகராதி.at(code);
+    const std::string_view fromLineStart = std::string_view(source_).substr(lineStart_);
+    const std::string lineText(fromLineStart.substr(0, fromLineStart.find('\n')));
+    ErrorHandler::அறிக்கை(பிழைவகை::சொல்_பிழை, code, info.விளக்கம், fileName_, line_, lineText, info.தீர்வு);
+}
+
+} // namespace pozhil

@@ -1,0 +1,121 @@
+"""Watching a console program: it is built anew whenever its source changes."""
+
+import os
+import time
+from contextlib import contextmanager
+
+import pytest
+
+from support import texts as t
+from support.box import split_compiler_box
+from support.console import animation_line, behind_animation, failed_build_line
+from support.toolchain import PROGRAM_OUTPUT
+from support.workplace import HELLO, WRONG
+
+SOURCE = "அ.பொழில்"
+CHANGED = 'அச்சிடு("மாற்றம்")\n'
+
+# Longer than the pause between two looks at the source.
+A_WHILE = 0.8
+
+
+@contextmanager
+def watching(place, contents=HELLO):
+    """A compiler that has compiled `contents` and is now waiting for a change."""
+    place.write(SOURCE, contents)
+    with place.session(SOURCE, t.FLAG_WATCH) as session:
+        session.wait_for_output(animation_line(SOURCE))
+        time.sleep(A_WHILE)
+        yield session
+
+
+def change(place, contents, age=-10):
+    """Replaces the source as an editor does; its time differs from the one before in any case."""
+    new = place.folder / "புதியது"
+    new.write_text(contents, encoding="utf-8")
+    moment = time.time() - age
+    os.utime(new, (moment, moment))
+    new.rename(place.folder / SOURCE)
+
+
+def count(session, text):
+    return session.stdout.decode().count(text)
+
+
+@pytest.mark.parametrize("arguments", [[SOURCE, t.FLAG_WATCH], [t.FLAG_WATCH, SOURCE]])
+def test_nothing_is_built_before_the_first_change(place, tools, arguments):
+    place.write(SOURCE)
+    with place.session(*arguments) as session:
+        session.wait_for_output(animation_line(SOURCE))
+        time.sleep(A_WHILE)
+        assert session.process.poll() is None
+        assert behind_animation(session.stdout.decode(), SOURCE) == ""
+        assert "வணக்கம்" in place.emitted
+    assert tools.calls() == []
+
+
+def test_default_source_is_watched(place):
+    place.write(t.DEFAULT_SOURCE)
+    with place.session(t.FLAG_WATCH) as session:
+        session.wait_for_output(animation_line(t.DEFAULT_SOURCE))
+        assert session.stdout.decode().startswith(t.DEFAULT_SOURCE_NOTE)
+
+
+def test_change_is_announced_built_and_run(place, tools):
+    with watching(place) as session:
+        change(place, CHANGED)
+        session.wait_for_output(PROGRAM_OUTPUT)
+        shown = behind_animation(session.stdout.decode(), SOURCE)
+        assert shown in (t.CHANGE_NOTE + PROGRAM_OUTPUT, t.CHANGE_NOTE + "\n" + PROGRAM_OUTPUT)
+        assert session.stderr == b""
+    assert "மாற்றம்" in place.emitted
+    assert len(tools.calls()) == 1
+
+
+def test_source_that_became_older_has_changed_too(place):
+    with watching(place) as session:
+        change(place, CHANGED, age=1000)
+        session.wait_for_output(PROGRAM_OUTPUT)
+
+
+def test_every_change_is_built(place, tools):
+    with watching(place) as session:
+        for number in (1, 2, 3):
+            change(place, CHANGED, age=-10 * number)
+            session.wait_until(lambda: count(session, PROGRAM_OUTPUT) == number)
+        time.sleep(A_WHILE)
+        assert count(session, t.CHANGE_NOTE) == 3
+    assert len(tools.calls()) == 3
+
+
+def test_failed_link_is_told_and_watching_goes_on(place, tools):
+    tools.fails()
+    with watching(place) as session:
+        change(place, CHANGED)
+        session.wait_until(lambda: session.stderr.decode().endswith(failed_build_line()))
+        tools.links()
+        change(place, HELLO, age=-20)
+        session.wait_for_output(PROGRAM_OUTPUT)
+
+
+def test_diagnostic_ends_the_watch(place, tools):
+    with watching(place) as session:
+        change(place, WRONG)
+        assert session.wait_for_end() == 1
+        shown, report = split_compiler_box(session.stdout.decode())
+        assert behind_animation(shown, SOURCE) in (t.CHANGE_NOTE, t.CHANGE_NOTE + "\n")
+        assert report.code == t.CODE_PREFIX + "113"
+    assert tools.calls() == []
+
+
+def test_wrong_program_is_not_watched(place):
+    place.write(SOURCE, WRONG)
+    result = place.run(SOURCE, t.FLAG_WATCH, timeout=10)
+    before, report = split_compiler_box(result.out)
+    assert (result.status, before, report.code) == (1, "", t.CODE_PREFIX + "113")
+
+
+def test_vanished_source_ends_the_watch(place):
+    with watching(place) as session:
+        (place.folder / SOURCE).unlink()
+        assert session.wait_for_end() != 0

@@ -1,0 +1,167 @@
+"""Reads and writes language cases: one program and, in comments behind it, what must come out."""
+
+import re
+import unicodedata
+from dataclasses import dataclass, field
+from pathlib import Path
+
+MARK = "ஃ>"
+
+OUTPUT = "வெளியீடு"
+DIAGNOSTIC = "பிழை"
+DESCRIPTION = "பிழை விளக்கம்"
+RUNTIME = "இயக்கநேர பிழை"
+STATUS = "வெளியேற்றம்"
+EMITTED = "உருவாக்கம்"
+NOT_EMITTED = "உருவாக்கம் இல்லை"
+INPUT = "உள்ளீடு"
+ERROR_STREAM = "பிழையோட்டம்"
+
+KINDS = (OUTPUT, DIAGNOSTIC, DESCRIPTION, RUNTIME, STATUS, EMITTED, NOT_EMITTED, INPUT, ERROR_STREAM)
+
+SOURCE_SUFFIX = ".பொழில்"
+EXPECTATION_SUFFIX = ".எதிர்பார்ப்பு"
+FILES_SUFFIX = ".கோப்புகள்"
+
+# The end of an output whose last line is not ended.
+UNENDED = "␃"
+
+_PLACE = re.compile(r"(?P<code>\S+-\d{3}) வரி (?P<line>\d+)(?: கோப்பு (?P<file>.+))?")
+
+
+class CaseError(Exception):
+    """A case that isn't written as cases are."""
+
+
+@dataclass(frozen=True)
+class Place:
+    """Where a diagnostic points. Without a file it points into the case itself."""
+
+    code: str
+    line: int
+    file: str | None = None
+
+    def __str__(self):
+        return f"{self.code} வரி {self.line}" + (f" கோப்பு {self.file}" if self.file else "")
+
+
+@dataclass
+class Expectation:
+    """What must come out of a case; `entries` are the lines as written, (kind, text) each."""
+
+    entries: list = field(default_factory=list)
+
+    def texts(self, kind):
+        return [text for entry, text in self.entries if entry == kind]
+
+    @property
+    def diagnostic(self):
+        return _place(self.texts(DIAGNOSTIC))
+
+    @property
+    def runtime(self):
+        return _place(self.texts(RUNTIME))
+
+    @property
+    def status(self):
+        """The exit status of the compiler: 1 with a diagnostic and 0 without, unless stated."""
+        stated = self.texts(STATUS)
+        if stated:
+            return int(stated[0])
+        return 1 if self.diagnostic else 0
+
+    @property
+    def needs_program(self):
+        """False when the answer is known before a C++ compiler is asked for."""
+        if self.status != 0:
+            return False
+        told = {kind for kind, _ in self.entries}
+        return not told & {EMITTED, NOT_EMITTED} or bool(told & {OUTPUT, RUNTIME, INPUT, ERROR_STREAM})
+
+
+@dataclass
+class Case:
+    """One case as it stands in the repository."""
+
+    path: Path
+    source: bytes
+    expectation: Expectation
+    sibling: Path | None
+
+    @property
+    def files(self):
+        """The folder whose contents stand beside the program when it runs, if there is one."""
+        folder = self.path.with_name(self.path.stem + FILES_SUFFIX)
+        return folder if folder.is_dir() else None
+
+
+def read_case(path):
+    """Reads the case at `path`; raises `CaseError` when its expectation can't be understood."""
+    path = Path(path)
+    source = path.read_bytes()
+    sibling = path.with_name(path.stem + EXPECTATION_SUFFIX)
+    if sibling.exists():
+        return Case(path, source, parse_expectation(sibling.read_text(encoding="utf-8")), sibling)
+    _, block = _split_block(source)
+    return Case(path, source, parse_expectation(block.decode("utf-8")), None)
+
+
+def parse_expectation(block):
+    """Reads expectation lines; raises `CaseError` with the number of a wrong line."""
+    entries = []
+    for number, line in enumerate(block.split("\n"), start=1):
+        if not line.strip():
+            continue
+        kind, colon, text = line.removeprefix(MARK).partition(":")
+        kind = unicodedata.normalize("NFC", kind.strip())
+        if not line.startswith(MARK) or not colon or kind not in KINDS:
+            raise CaseError(f"expectation line {number} is none of {', '.join(KINDS)}: {line}")
+        entries.append((kind, text.removeprefix(" ")))
+    expectation = Expectation(entries)
+    _check(expectation)
+    return expectation
+
+
+def write_expectation(case, expectation):
+    """Puts `expectation` into the case's file in the place of the old one."""
+    block = "".join(format_entry(*entry) + "\n" for entry in expectation.entries).encode()
+    if case.sibling:
+        case.sibling.write_bytes(block)
+        return
+    program, _ = _split_block(case.source)
+    if program and not program.endswith(b"\n"):
+        program += b"\n"
+    case.path.write_bytes(program + block)
+
+
+def format_entry(kind, text):
+    return f"{MARK} {kind}: {text}" if text else f"{MARK} {kind}:"
+
+
+def _split_block(source):
+    """The program and its expectation block; the block is empty when there is none."""
+    start = source.find(b"\n" + MARK.encode()) + 1
+    if start or source.startswith(MARK.encode()):
+        return source[:start], source[start:]
+    return source, b""
+
+
+def _check(expectation):
+    for kind in (DIAGNOSTIC, RUNTIME, STATUS):
+        if len(expectation.texts(kind)) > 1:
+            raise CaseError(f"more than one line of {kind}")
+    if expectation.diagnostic and (expectation.texts(OUTPUT) or expectation.runtime):
+        raise CaseError(f"a program with {DIAGNOSTIC} never runs")
+    if expectation.texts(DESCRIPTION) and not expectation.diagnostic and not expectation.runtime:
+        raise CaseError(f"{DESCRIPTION} without a diagnostic")
+    if any(not status.strip().isdecimal() for status in expectation.texts(STATUS)):
+        raise CaseError(f"{STATUS} is a number")
+
+
+def _place(texts):
+    if not texts:
+        return None
+    found = _PLACE.fullmatch(texts[0].strip())
+    if not found:
+        raise CaseError(f"not of the form 'பொழி-106 வரி 3': {texts[0]}")
+    return Place(found["code"], int(found["line"]), found["file"])

@@ -1,0 +1,90 @@
+"""Compiles a language case in a folder of its own and tells what came out."""
+
+import shutil
+import tempfile
+import time
+from dataclasses import dataclass
+from pathlib import Path
+
+from support import case_file as cf
+from support import texts as t
+from support.box import Report, split_compiler_box, split_program_box
+from support.compiler import plain_environment
+from support.console import behind_animation
+from support.process import Result, Session, run
+from support.toolchain import Toolchain
+
+TIMEOUT = 60
+
+
+@dataclass
+class Outcome:
+    """What came out of a case: the compiler's own words, and those of the program if it ran."""
+
+    result: Result
+    emitted: str | None
+    output: list[str] | None = None
+    diagnostic: Report | None = None
+    runtime: Report | None = None
+
+
+def run_case(case, compiler, *, with_program, timeout=TIMEOUT):
+    """Compiles the case; only `with_program` does g++ build it and does the program run."""
+    with tempfile.TemporaryDirectory(prefix="pozhil-case-") as scratch:
+        scratch = Path(scratch).resolve()
+        work = scratch / "work"
+        work.mkdir()
+        if case.files:
+            shutil.copytree(case.files, work, dirs_exist_ok=True)
+        (work / case.path.name).write_bytes(case.source)
+        command = [compiler, case.path.name]
+        env = plain_environment(scratch)
+        if with_program:
+            typed = "".join(line + "\n" for line in case.expectation.texts(cf.INPUT)).encode()
+            result = run(command, cwd=work, env=env, stdin=typed, timeout=timeout)
+        else:
+            result = _run_without_toolchain(command, work, env, scratch / "tools", timeout)
+        return _outcome(case, result, _emitted_text(work / t.WORK_DIRECTORY), with_program)
+
+
+def _run_without_toolchain(command, work, env, tools, timeout):
+    """g++ fails at once. em++ doesn't come back, since behind it a web build serves and waits for ever."""
+    toolchain = Toolchain(tools)
+    toolchain.fails()
+    toolchain.stands_in_for("em++", "exec /bin/sleep 600")
+    env["PATH"] = toolchain.in_front_of(env["PATH"])
+    end = time.monotonic() + timeout
+    with Session(command, cwd=work, env=env) as session:
+        while session.process.poll() is None and not toolchain.calls("em++") and time.monotonic() < end:
+            time.sleep(0.002)
+        status = 0 if toolchain.calls("em++") else session.process.poll()
+        return Result(status, session.stdout, session.stderr, timed_out=status is None)
+
+
+def _emitted_text(folder):
+    """The text for em++ if the case is a web program, else the text for g++, else None."""
+    for name in (t.EMITTED_WEB_NAME, t.EMITTED_NAME):
+        if (folder / name).is_file():
+            return (folder / name).read_text(encoding="utf-8", errors="backslashreplace")
+    return None
+
+
+def _outcome(case, result, emitted, with_program):
+    outcome = Outcome(result, emitted)
+    program_output = behind_animation(result.out, case.path.name)
+    if program_output is None:
+        _, outcome.diagnostic = split_compiler_box(result.out)
+    elif with_program:
+        program_output, outcome.runtime = split_program_box(program_output)
+        outcome.output = visible_lines(program_output)
+    return outcome
+
+
+def visible_lines(text):
+    """The lines of an output; control characters are shown as pictures, and so is a missing last line end."""
+    pictures = {code: 0x2400 + code for code in range(0x20) if chr(code) not in "\t\n"}
+    lines = text.translate(pictures).split("\n")
+    if lines[-1]:
+        lines[-1] += cf.UNENDED
+        return lines
+    return lines[:-1]

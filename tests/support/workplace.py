@@ -1,0 +1,94 @@
+"""A folder to compile in, with everything around it that the compiler looks at."""
+
+import os
+import shutil
+from pathlib import Path
+
+from support import texts as t
+from support.compiler import plain_environment
+from support.process import Session, run
+
+HELLO = 'அச்சிடு("வணக்கம்")\n'
+WRONG = "அச்சிடூ\n"
+
+NOBODY = 65534
+
+
+class Workplace:
+    """Runs one compiler in one working directory and one environment."""
+
+    def __init__(self, folder, home, compiler, toolchain=None):
+        self.folder = Path(folder)
+        self.folder.mkdir(parents=True, exist_ok=True)
+        self.compiler = Path(compiler)
+        self.env = plain_environment(home)
+        if toolchain:
+            self.env["PATH"] = toolchain.in_front_of(self.env["PATH"])
+
+    @property
+    def work_directory(self):
+        return self.folder / t.WORK_DIRECTORY
+
+    @property
+    def emitted_path(self):
+        return self.work_directory / t.EMITTED_NAME
+
+    @property
+    def emitted(self):
+        return self.emitted_path.read_text(encoding="utf-8")
+
+    @property
+    def program(self):
+        return self.work_directory / t.PROGRAM_NAME
+
+    def write(self, name, contents=HELLO):
+        """Writes a file and returns its name, to be given to `run`."""
+        data = contents if isinstance(contents, bytes) else contents.encode()
+        (self.folder / name).write_bytes(data)
+        return name
+
+    def run(self, *arguments, **settings):
+        return run([self.compiler, *arguments], cwd=self.folder, env=self.env, **settings)
+
+    def compile(self, contents, **settings):
+        """Compiles one program and returns the result."""
+        return self.run(self.write(f"நிரல்{t.SOURCE_ENDING}", contents), **settings)
+
+    def session(self, *arguments, **settings):
+        return Session([self.compiler, *arguments], cwd=self.folder, env=self.env, **settings)
+
+
+class Installation:
+    """A copy of the whole installation that `compiler` belongs to, for tests that change it or move it."""
+
+    def __init__(self, folder, compiler):
+        self.folder = Path(folder)
+        shutil.copytree(compiler.parent, self.folder, copy_function=_link_or_copy)
+        self.compiler = self.folder / compiler.name
+        self.include = self.folder / t.INCLUDE_DIRECTORY
+        self.cache = self.folder / t.CACHE_DIRECTORY
+        self.object = self.cache / t.CACHED_OBJECT
+        self.reporter = self.folder / t.REPORTER_SOURCE
+
+    def without_object(self):
+        self.object.unlink(missing_ok=True)
+        return self
+
+    def object_call(self, made=None):
+        """The arguments with which g++ makes the reporter's object."""
+        return ["-c", str(self.reporter), "-o", str(made or self.object), "-std=c++17", f"-I{self.include}"]
+
+    def link_call(self, place, linked=None):
+        """The arguments with which g++ makes the program of `place`."""
+        return [
+            str(place.emitted_path), str(linked or self.object), "-o", str(place.work_directory / t.LINK_RESULT),
+            "-std=c++17", f"-I{self.include}", f"-I{self.include}/nanovg",
+            "-static", "-static-libstdc++", "-static-libgcc", "-lm", "-lpthread",
+        ]
+
+
+def _link_or_copy(source, target):
+    try:
+        os.link(source, target)
+    except OSError:
+        shutil.copy2(source, target)

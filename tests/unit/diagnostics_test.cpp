@@ -1,0 +1,441 @@
+#include "error_codes.h"
+#include "error_handler.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <functional>
+#include <iostream>
+#include <map>
+#include <set>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+struct Expected {
+    const char* code;
+    const char* text;
+};
+
+// clang-format off
+const std::vector<Expected> descriptions = {
+    {"பொழி-101", "அடையாளம் தெரியாத குறியீடு கண்டறியப்பட்டது."},
+    {"பொழி-102", "சரத்தை (String) நிறைவு செய்யும் '\"' விடுபட்டுள்ளது."},
+    {"பொழி-103", "எழுத்தை (Char) நிறைவு செய்யும் ''' விடுபட்டுள்ளது."},
+    {"பொழி-104", "எண்ணில் ஒன்றுக்கு மேற்பட்ட தசமப் புள்ளிகள் உள்ளன."},
+    {"பொழி-105", "வெற்று எழுத்து (Empty Char) அனுமதிக்கப்படாது."},
+    {"பொழி-106", "தனித்த உயிர்மெய் குறிகள் பயன்படுத்தப்பட்டுள்ளன."},
+    {"பொழி-107", "தவறான தமிழ் எழுத்து வரிசை கண்டறியப்பட்டது."},
+    {"பொழி-108", "பெயர் (Identifier) எண்களில் தொடங்கக்கூடாது."},
+    {"பொழி-109", "தமிழ் மற்றும் ஆங்கில எண்கள் கலந்துள்ளன."},
+    {"பொழி-110", "ஸ்பேஸ் மற்றும் டேப் (Tab) கலந்து பயன்படுத்தப்பட்டுள்ளன."},
+    {"பொழி-111", "சீரற்ற உள்-தள்ளல் அளவு கண்டறியப்பட்டது."},
+    {"பொழி-112", "திறவுச்சொல்லுக்கு இடையே தேவையற்ற இடைவெளி உள்ளது."},
+    {"பொழி-113", "திறவுச்சொல்லில் ஒற்றுப் பிழை (Typo) உள்ளது."},
+    {"பொழி-114", "குறில்/நெடில் பிழை கண்டறியப்பட்டது."},
+    {"பொழி-115", "அனுமதிக்கப்படாத கிரந்த எழுத்துக்கள் உள்ளன."},
+    {"பொழி-117", "கண்ணுக்குத் தெரியாத குறியீடுகள் கண்டறியப்பட்டுள்ளன."},
+    {"பொழி-118", "கமெண்ட் (Comment) முறையாக நிறைவு பெறவில்லை."},
+    {"பொழி-201", "தனித்து நிற்கும் கோவை (Standalone Expression)."},
+    {"பொழி-202", "எதிர்பார்க்கப்பட்ட ':' விடுபட்டுள்ளது."},
+    {"பொழி-203", "எதிர்பார்க்கப்பட்ட '(' விடுபட்டுள்ளது."},
+    {"பொழி-204", "எதிர்பார்க்கப்பட்ட ')' விடுபட்டுள்ளது."},
+    {"பொழி-205", "எதிர்பார்க்கப்பட்ட ']' விடுபட்டுள்ளது."},
+    {"பொழி-206", "எதிர்பார்க்கப்பட்ட '}' விடுபட்டுள்ளது."},
+    {"பொழி-207", "எதிர்பார்க்கப்பட்ட ',' விடுபட்டுள்ளது."},
+    {"பொழி-208", "எதிர்பார்க்கப்பட்ட '=' விடுபட்டுள்ளது."},
+    {"பொழி-209", "எதிர்பாராத மூடும் குறியீடு கண்டறியப்பட்டது."},
+    {"பொழி-210", "தவறான அடையாளப் பெயர் (Invalid Name)."},
+    {"பொழி-211", "மதிப்பிருத்தல் இலக்கு தவறானது."},
+    {"பொழி-212", "மேப் சாவி (Key) பிழை."},
+    {"பொழி-221", "'எனில்' நிபந்தனைப் பிழை."},
+    {"பொழி-222", "'சுற்று' (While loop) பிழை."},
+    {"பொழி-223", "'ஒவ்வொன்றாக' (For loop) பிழை."},
+    {"பொழி-224", "'தேர்வு' (Switch) பிழை."},
+    {"பொழி-225", "'மற்றவை' பிளாக் மீண்டும் வந்துள்ளது."},
+    {"பொழி-231", "செயல் பெயர் விடுபட்டுள்ளது."},
+    {"பொழி-232", "பராமீட்டர் பெயர் பிழை."},
+    {"பொழி-233", "'திரும்பு' (Return) தவறான இடம்."},
+    {"பொழி-234", "லாம்ப்டா (வினை) அமைப்புப் பிழை."},
+    {"பொழி-241", "'வலைதளம்' பெயர் விடுபட்டுள்ளது."},
+    {"பொழி-242", "'குமரி' (UI Body) விடுபட்டுள்ளது."},
+    {"பொழி-243", "'தலைமை' (Header) அமைப்புப் பிழை."},
+    {"பொழி-244", "'வரையறை' (Logic) பிழை."},
+    {"பொழி-251", "அடையாளம் தெரியாத விட்ஜெட் பெயர்."},
+    {"பொழி-252", "விட்ஜெட் பண்பு (Property) பிழை."},
+    {"பொழி-253", "'உரை' விட்ஜெட் பிழை."},
+    {"பொழி-254", "'படம்' விட்ஜெட் பிழை."},
+    {"பொழி-261", "அசைவூட்ட காலம் (Duration) இல்லை."},
+    {"பொழி-262", "அசைவூட்ட வகை (Curve) தவறு."},
+    {"பொழி-263", "அசைவூட்ட இலக்கு (Target) பிழை."},
+    {"பொழி-271", "'தான்' (Self) விடுபட்டுள்ளது."},
+    {"பொழி-272", "பெற்றோர் கட்டமைப்பு இல்லை."},
+    {"பொழி-273", "இந்த வசதி இன்னும் சேர்க்கப்படவில்லை. அல்லது இந்தச் செயல்பாடு இன்னும் எழுதப்படவில்லை."},
+    {"பொழி-281", "கோப்பு எங்கும் காணப்படவில்லை."},
+    {"பொழி-282", "சுழற்சி இறக்குமதி (Circular Import)."},
+    {"பொழி-291", "முடிவில்லாத லூப் (Safety Break)."},
+    {"பொழி-292", "எதிர்பாராத முடிவு (EOF)."},
+    {"பொழி-301", "பூஜ்ஜியத்தால் வகுக்க முயற்சி "},
+    {"பொழி-302", "வகை மாற்றப் பிழை"},
+    {"பொழி-303", "பொருந்தாத தரவு வகை (Type Mismatch)."},
+    {"பொழி-304", "தவறான கணிதச் செயல்பாடு."},
+    {"பொழி-305", "எண் எல்லை மீறல் (Overflow)."},
+    {"பொழி-311", "பட்டியல் எல்லை மீறல் (Index Out of Bounds)."},
+    {"பொழி-312", "அகராதி சாவி (Map Key) கிடைக்கவில்லை."},
+    {"பொழி-313", "வெற்றுப் பொருளை அணுக முயற்சி (Null Access)."},
+    {"பொழி-314", "பட்டியலில்லாத உறுப்பை நீக்க முயற்சி (Item Not Found)."},
+    {"பொழி-315", "மாறிலியை (Constant) மாற்ற முயற்சி."},
+    {"பொழி-321", "ரகசிய மாறி அணுகல் மீறல் (Private Access Violation)."},
+    {"பொழி-322", "நேரப் பொருள் மாற்றம் (Time Object is Immutable)."},
+    {"பொழி-323", "பெற்றோர் கட்டமைப்பு இல்லை."},
+    {"பொழி-324", "செயல் முறை அல்லது பண்பு கிடைக்கவில்லை (Method/Property Not Found)."},
+    {"பொழி-325", "'தான்' (Self) தவறான பயன்பாடு."},
+    {"பொழி-331", "தவறான உள்ளீடு எண்ணிக்கை (Arguments Mismatch)."},
+    {"பொழி-332", "அழைக்க முடியாத பொருள் (Not a Function)."},
+    {"பொழி-333", "'துவக்கம்' (Constructor) பிழை."},
+    {"பொழி-334", "திரும்பும் மதிப்பு (Return Type) தவறு."},
+    {"பொழி-335", "முடிவில்லாத சுழற்சி செயல் (Infinite Recursion)."},
+    {"பொழி-341", "கோப்பு திறக்க முடியவில்லை (File Open Error)."},
+    {"பொழி-342", "தவறான கோப்புப் பாதை (Invalid Path)."},
+    {"பொழி-343", "கோப்பில் எழுத முடியவில்லை."},
+    {"பொழி-344", "கோப்பு வாசிப்புப் பிழை."},
+    {"பொழி-351", "பக்கம் வரையறுக்கப்படவில்லை (Page Not Found)."},
+    {"பொழி-352", "விட்ஜெட் அடையாளம் (ID) இல்லை."},
+    {"பொழி-353", "இணைய இணைப்பு பிழை."},
+    {"பொழி-354", "பார்வை புலம் (Viewport) பிழை."},
+    {"பொழி-361", "விட்ஜெட் பண்பு விடுபட்டுள்ளது."},
+    {"பொழி-362", "தவறான நிறக் குறியீடு (Invalid Color)."},
+    {"பொழி-363", "எழுத்துரு லோட் ஆகவில்லை (Font Load Error)."},
+    {"பொழி-371", "தவறான அசைவூட்ட வளைவு (Invalid Curve)."},
+    {"பொழி-372", "அசைவூட்ட இலக்கு (Target) தவறு."},
+    {"பொழி-381", "அடுக்கு மீறல் பிழை (Stack Overflow)."},
+    {"பொழி-382", "மெமரி பற்றாக்குறை (Out of Memory)."},
+    {"பொழி-399", "அறியப்படாத பிழை (Unknown Error)."},
+    {"பொழி-401", "வலைதளக் கட்டமைப்பு விடுபட்டுள்ளது."},
+    {"பொழி-402", "வலைதளப் பண்புப் பிழை ."},
+};
+
+// These remedies teach words and forms of the language, so their wording is part of it.
+const std::vector<Expected> remedies = {
+    {"பொழி-102", "வரியின் இறுதியில் ஒரு இரட்டை மேற்கோள் குறியைச் சேர்த்துச் சரி செய்!"},
+    {"பொழி-106", "குறியீடுகளை (ி, ு, ே) மட்டும் தனியாகப் பயன்படுத்த முடியாது; மெய்யெழுத்துடன் சேர்த்துப் பயன்படுத்து."},
+    {"பொழி-110", "உள்-தள்ளலுக்கு (Indentation) ஏதேனும் ஒன்றை மட்டும் பயன்படுத்து."},
+    {"பொழி-112", "திறவுச்சொல்லைப் பிரிக்காமல் (எ.கா: அச்சிடு) சேர்த்து எழுது மச்சி!"},
+    {"பொழி-113", "எழுத்துப் பிழையைச் சரிபார்த்துச் சரியான சொல்லைப் பயன்படுத்து."},
+    {"பொழி-118", "கமெண்ட் குறியீடுகளை (ஃ) சரியாக மூடிவிட்டாயா என்று பார்."},
+    {"பொழி-203", "விட்ஜெட் அல்லது செயலைத் தொடங்கும்போது ')' தேவை."},
+    {"பொழி-223", "'ஒவ்வொன்றாக x இல் y:' - இந்த அமைப்பைப் பின்பற்று மச்சி!"},
+    {"பொழி-224", "'தேர்வு' பிளாக்கிற்குள் 'நிலை' அல்லது 'மற்றவை' மட்டும் தான் வரணும்."},
+    {"பொழி-234", "லாம்ப்டாவை (Anonymous Function) ஒரு வரியில் எழுது மச்சி! நேரடியாக ':' வைத்து block-ஆக எழுதக் கூடாது."},
+    {"பொழி-271", "மெத்தட்ல முதல் ஆளா 'தான்' இருக்கணும் மச்சி, அப்போ தான் அதுக்கு அதிகாரம்!"},
+    {"பொழி-273", "வடிவமைப்புல சொன்ன செயலை இங்க எழுதவே இல்ல பாரு."},
+    {"பொழி-281", "நீ கூப்பிட்ட '.பொழில்' கோப்பு அந்த இடத்துல இல்ல மச்சி!"},
+    {"பொழி-291", "பார்ஸர் ரொம்ப நேரம் ஒரே இடத்துல சுத்துது, லாஜிக்கைச் செக் பண்ணு!"},
+    {"பொழி-301", "மச்சி, ஒரு எண்ணை '0' ஆல வகுக்க முடியாது, வகுக்கும் எண்ணை மாத்து!"},
+    {"பொழி-315", "ஒருமுறை முடிவு செஞ்ச மதிப்ப ('=' மூலம்) மீண்டும் மாற்ற முடியாது மச்சி!"},
+    {"பொழி-335", "உன் செயல் நிக்காம தன்னைத்தானே கூப்பிடுது, அது 'அடுக்கு மீறல்' பிழையைத் தரும்."},
+    {"பொழி-362", "நிறம் சொல்லும்போது 'நிறம்.சிவப்பு' அல்லது '#HEX' குறியீட்டைச் சரியா சொல்லு."},
+    {"பொழி-371", "நீ சொன்ன வளைவு (Curve) நம்ம லிஸ்ட்ல இல்ல, 'இயல்பான' மாதிரி ஏதாச்சும் வை."},
+    {"பொழி-399", "ஏதோ ஒன்னு தப்பா ஆகிடுச்சு மச்சி, கோடை ஒருவாட்டி ஆழமா செக் பண்ணு!"},
+    {"பொழி-401", "மச்சி, 'வலைதளம்' உள்ளே தலைமை(), குமரி(), மற்றும் வரையறை() ஆகிய மூன்றும் இருக்கணும்! ஏதோ ஒன்னு விடுபட்டுருக்கு பாரு."},
+    {"பொழி-402", "இணைய_தலைப்பு மற்றும் சின்னம் ஆகியவற்றுக்கு உரை (String) வடிவில் மட்டுமே மதிப்பளிக்க வேண்டும்! எண்களைக் கொடுக்கக்கூடாது ( \"தலைப்பு\" என இரட்டை மேற்கோள் குறிக்குள் தரவும்)."},
+};
+// clang-format on
+
+TEST(Catalogue, HoldsExactlyTheseCodesWithTheirDescriptions) {
+    std::map<std::string, std::string> expected;
+    for (const Expected& row : descriptions) {
+        expected[row.code] = row.text;
+    }
+    std::map<std::string, std::string> actual;
+    for (const auto& [code, entry] : பிழை_அகராதி) {
+        actual[code] = entry.விளக்கம்;
+    }
+    EXPECT_EQ(expected.size(), 94U);
+    EXPECT_EQ(actual, expected);
+}
+
+TEST(Catalogue, RowsStandInAscendingOrderWithoutRepeats) {
+    std::vector<std::string> codes;
+    for (const auto& row : pozhil::catalogue::entries) {
+        codes.emplace_back(row.code);
+    }
+    EXPECT_EQ(codes.size(), பிழை_அகராதி.size());
+    EXPECT_EQ(std::adjacent_find(codes.begin(), codes.end(), std::greater_equal<>()), codes.end());
+}
+
+TEST(Catalogue, KeepsRemediesThatCarryVocabulary) {
+    for (const Expected& row : remedies) {
+        EXPECT_EQ(பிழை_அகராதி.at(row.code).தீர்வு, row.text) << row.code;
+    }
+}
+
+TEST(Catalogue, NoTwoRemediesAreTheSameAndNoneIsEmpty) {
+    std::map<std::string, std::string> codeOfRemedy;
+    for (const auto& [code, entry] : பிழை_அகராதி) {
+        EXPECT_FALSE(entry.தீர்வு.empty()) << code;
+        const auto [first, isNew] = codeOfRemedy.emplace(entry.தீர்வு, code);
+        EXPECT_TRUE(isNew) << code << " has the remedy of " << first->second;
+    }
+}
+
+TEST(Catalogue, DoesNotHoldTheGaps) {
+    for (const char* code : {"பொழி-116", "பொழி-400", "பொழி-404", "பொழி-100", "பொழி-403"}) {
+        EXPECT_EQ(பிழை_அகராதி.count(code), 0U) << code;
+        EXPECT_THROW(பிழை_அகராதி.at(code), std::out_of_range) << code;
+    }
+}
+
+TEST(Catalogue, ComparesWholeCodes) {
+    ASSERT_EQ(பிழை_அகராதி.count("பொழி-101"), 1U);
+    for (const char* code : {"101", "-101", "பிழை-101", "pozhi-101", "பொழி101", "பொழி-101 ", "பொழி-1010", ""}) {
+        EXPECT_EQ(பிழை_அகராதி.count(code), 0U) << code;
+    }
+}
+
+struct Report {
+    பிழைவகை category = பிழைவகை::சொல்_பிழை;
+    std::string code = "பொழி-102";
+    std::string description = "விளக்கம்.";
+    std::string file = "அடைவு/நிரல்.பொழில்";
+    int line = 7;
+    std::string lineText = "    அச்சிடு(\"வணக்கம்)";
+    std::string remedy = "தீர்வு!";
+};
+
+struct Outcome {
+    int status = 0; ///< as waitpid gives it
+    std::string out;
+    std::string err;
+};
+
+std::string contentOf(std::FILE* file) {
+    std::string content;
+    std::rewind(file);
+    std::array<char, 4096> chunk{};
+    for (std::size_t count = 0; (count = std::fread(chunk.data(), 1, chunk.size(), file)) > 0;) {
+        content.append(chunk.data(), count);
+    }
+    return content;
+}
+
+/// Lets a child process print the report, since the report ends the process that it is called in.
+Outcome print(const Report& report) {
+    Outcome outcome;
+    std::FILE* out = std::tmpfile();
+    std::FILE* err = std::tmpfile();
+    std::cout.flush();
+    std::fflush(nullptr);
+
+    const pid_t child = fork();
+    if (child == 0) {
+        dup2(fileno(out), STDOUT_FILENO);
+        dup2(fileno(err), STDERR_FILENO);
+        ErrorHandler::அறிக்கை(report.category, report.code, report.description, report.file, report.line,
+                             report.lineText, report.remedy);
+    }
+    EXPECT_EQ(waitpid(child, &outcome.status, 0), child);
+    outcome.out = contentOf(out);
+    outcome.err = contentOf(err);
+    std::fclose(out);
+    std::fclose(err);
+    return outcome;
+}
+
+std::vector<std::string> rowsOf(const std::string& text) {
+    std::vector<std::string> rows;
+    std::istringstream stream(text);
+    for (std::string row; std::getline(stream, row);) {
+        rows.push_back(row);
+    }
+    return rows;
+}
+
+constexpr std::size_t categoryRow = 2;
+constexpr std::size_t placeRow = 5;
+constexpr std::size_t sourceRow = 8;
+constexpr std::size_t sayingRow = 15;
+
+std::string rowOf(const Report& report, std::size_t index) {
+    return rowsOf(print(report).out).at(index);
+}
+
+TEST(Report, PrintsTheBoxByteForByte) {
+    const std::string rule(60, '-');
+    const std::string dimRule = "\x1b[2;37m  " + rule + "\x1b[0m";
+    const Outcome outcome = print(Report{});
+    std::vector<std::string> rows = rowsOf(outcome.out);
+    ASSERT_EQ(rows.size(), 18U);
+
+    const std::string before = "  \x1b[1;93m✨ \"";
+    const std::string behind = "\"\x1b[0m";
+    const std::string saying = rows[sayingRow];
+    ASSERT_GT(saying.size(), before.size() + behind.size());
+    EXPECT_EQ(saying.substr(0, before.size()), before);
+    EXPECT_EQ(saying.substr(saying.size() - behind.size()), behind);
+    const auto& sayings = ErrorHandler::பொன்மொழிகள்();
+    const std::string drawn = saying.substr(before.size(), saying.size() - before.size() - behind.size());
+    EXPECT_EQ(std::count(sayings.begin(), sayings.end(), drawn), 1) << drawn;
+
+    rows[sayingRow] = "(saying)";
+    EXPECT_EQ(rows, (std::vector<std::string>{
+                        "",
+                        "\x1b[1;31m" + rule + "\x1b[0m",
+                        "  🚨 [ \x1b[1;93mபொழி-102\x1b[0m ] :: \x1b[1;31mசொல் பிழை\x1b[0m",
+                        "\x1b[1;31m" + rule + "\x1b[0m",
+                        "  \x1b[1;34m📂 கோப்பு  \x1b[0m: அடைவு/நிரல்.பொழில்",
+                        "  \x1b[1;34m📍 இடம்    \x1b[0m: வரி 7",
+                        dimRule,
+                        "\x1b[1;36m  🔍 பிழை கண்டறியப்பட்ட பகுதி:\x1b[0m",
+                        "    07 |      அச்சிடு(\"வணக்கம்)",
+                        "       |  \x1b[1;93m        ▲\x1b[0m",
+                        "\x1b[1;31m       ╰── மச்சி, விளக்கம்.\x1b[0m",
+                        dimRule,
+                        "\x1b[1;32m  💡 சரி செய்யும் முறை:\x1b[0m",
+                        "     தீர்வு!",
+                        dimRule,
+                        "(saying)",
+                        dimRule,
+                        "",
+                    }));
+    EXPECT_EQ(outcome.out.back(), '\n');
+}
+
+TEST(Report, ExitsWithOneAndLeavesStandardErrorEmpty) {
+    const Outcome outcome = print(Report{});
+    ASSERT_TRUE(WIFEXITED(outcome.status));
+    EXPECT_EQ(WEXITSTATUS(outcome.status), 1);
+    EXPECT_EQ(outcome.err, "");
+}
+
+TEST(Report, PadsTheLineNumberToTwoDigitsInTheSourceRowOnly) {
+    const std::vector<std::pair<int, std::string>> cases = {{0, "00"},  {7, "07"},  {9, "09"},
+                                                            {10, "10"}, {99, "99"}, {100, "100"}};
+    for (const auto& [line, shown] : cases) {
+        Report report;
+        report.line = line;
+        report.lineText = "x = 1";
+        const std::vector<std::string> rows = rowsOf(print(report).out);
+        EXPECT_EQ(rows.at(sourceRow), "    " + shown + " |  x = 1");
+        EXPECT_EQ(rows.at(placeRow), "  \x1b[1;34m📍 இடம்    \x1b[0m: வரி " + std::to_string(line));
+    }
+}
+
+TEST(Report, ShowsAnEmptySourceLine) {
+    Report report;
+    report.line = 12;
+    report.lineText = "";
+    EXPECT_EQ(rowOf(report, sourceRow), "    12 |  ");
+}
+
+TEST(Report, NamesTheCategory) {
+    const std::vector<std::pair<int, std::string>> cases = {
+        {0, "சொல் பிழை"},      {1, "இலக்கணப் பிழை"}, {2, "பொருள் பிழை"}, {3, "செயல்பாட்டுப் பிழை"},
+        {4, "இயக்கநேரப் பிழை"}, {5, "பிழை"},        {-1, "பிழை"},      {99, "பிழை"}};
+    for (const auto& [category, word] : cases) {
+        Report report;
+        report.category = static_cast<பிழைவகை>(category);
+        EXPECT_EQ(rowOf(report, categoryRow), "  🚨 [ \x1b[1;93mபொழி-102\x1b[0m ] :: \x1b[1;31m" + word + "\x1b[0m");
+    }
+}
+
+TEST(Category, StandsInItsOrder) {
+    EXPECT_EQ(static_cast<int>(பிழைவகை::சொல்_பிழை), 0);
+    EXPECT_EQ(static_cast<int>(பிழைவகை::இலக்கண_பிழை), 1);
+    EXPECT_EQ(static_cast<int>(பிழைவகை::பொருள்_பிழை), 2);
+    EXPECT_EQ(static_cast<int>(பிழைவகை::செயல்பாட்டு_பிழை), 3);
+    EXPECT_EQ(static_cast<int>(பிழைவகை::இயக்கநேர_பிழை), 4);
+}
+
+TEST(Sayings, AreFiftyDistinctOnes) {
+    const auto& sayings = ErrorHandler::பொன்மொழிகள்();
+    EXPECT_EQ(sayings.size(), 50U);
+    EXPECT_EQ(std::set<std::string>(sayings.begin(), sayings.end()).size(), 50U);
+    EXPECT_EQ(std::count(sayings.begin(), sayings.end(), ""), 0);
+}
+
+TEST(Sayings, KeepTheirOrder) {
+    const auto& sayings = ErrorHandler::பொன்மொழிகள்();
+    const std::map<std::size_t, std::string> expected = {
+        {1, "பிழைகளைக் கண்டு அஞ்சாதே, அவை உன்னைச் சிறந்த நிரலாளனாகச் செதுக்கும்!"},
+        {20, "பிழையைச் சரிசெய்வது என்பது ஒரு புதிர் விளையாட்டை வெல்வது போன்றது."},
+        {21, "கல் தோன்றி மண் தோன்றாக் காலத்தே முன் தோன்றிய மூத்த மொழி தமிழ்!"},
+        {23, "\"யாதும் ஊரே யாவரும் கேளிர்\" - உலகப் பொதுமறையைத் தந்த மொழி நம் தமிழ்."},
+        {27, "உலக மொழிகளுக்குத் தாய் மொழி, நம் செம்மொழித் தமிழ்!"},
+        {29, "தமிழ் மண்ணின் வீரம் உன் உழைப்பில் மிளிரட்டும்."},
+        {36, "கீழடி முதல் விண்வெளி வரை தமிழனின் தடம் பதியட்டும்."},
+        {38, "தமிழ் அறிவுக்கடல், அதில் மூழ்கி முத்தெடுப்பது உன் அறிவுத்திறன்."},
+        {45, "தமிழ் என்ற சொல்லே இனிமை; அதை நிரலாக்கும் போது இன்னும் பெருமை."},
+        {47, "தமிழின் வீச்சு எல்லை இல்லாதது, உன் இலக்கும் அப்படியே இருக்கட்டும்."},
+        {49, "\"உள்ளுவதெல்லாம் உயர்வுள்ளல்\" - எப்போதும் உயரிய இலக்கை நோக்கிப் பயணி."},
+        {50, "தமிழ் வெல்லும், தமிழன் வெல்வான்; தொழில்நுட்பத் துறையிலும் தமிழ் ஆளும்!"},
+    };
+    for (const auto& [number, text] : expected) {
+        EXPECT_EQ(sayings.at(number - 1), text) << number;
+    }
+}
+
+TEST(Sayings, AreDrawnAnewFromTheWholeList) {
+    const auto& sayings = ErrorHandler::பொன்மொழிகள்();
+    std::set<std::string> drawn;
+    for (int draw = 0; draw < 5000; ++draw) {
+        drawn.insert(ErrorHandler::பொன்மொழி_பெறு());
+    }
+    // That one of the fifty stays away in 5000 even draws has a chance below 1 in 10^42.
+    EXPECT_EQ(drawn, std::set<std::string>(sayings.begin(), sayings.end()));
+}
+
+TEST(VisualWidth, CountsOneColumnForEachSequenceAndTwoForFourBytes) {
+    EXPECT_EQ(ErrorHandler::visualWidth(""), 0);
+    EXPECT_EQ(ErrorHandler::visualWidth("abc 1"), 5);
+    EXPECT_EQ(ErrorHandler::visualWidth("éab"), 3);
+    EXPECT_EQ(ErrorHandler::visualWidth("அab"), 3);
+    EXPECT_EQ(ErrorHandler::visualWidth("🚨ab"), 4);
+    EXPECT_EQ(ErrorHandler::visualWidth("தமிழ்"), 5); // vowel sign and virama count as well
+    EXPECT_EQ(ErrorHandler::visualWidth("a அ 🚨é▲"), 8);
+}
+
+TEST(VisualWidth, StepsOverBytesThatAreNotUtf8) {
+    // A stray continuation byte is read as the lead of two.
+    EXPECT_EQ(ErrorHandler::visualWidth(std::string("\x80") + "ab"), 2);
+    EXPECT_EQ(ErrorHandler::visualWidth("a\xf0"), 3);
+}
+
+std::string messageOf(const std::string& code, const std::string& detail) {
+    try {
+        throw_static_error(code, detail);
+    } catch (const std::runtime_error& error) {
+        return error.what();
+    }
+}
+
+TEST(ThrowStaticError, JoinsDescriptionAndRemedy) {
+    const auto& entry = பிழை_அகராதி.at("பொழி-331");
+    EXPECT_EQ(messageOf("பொழி-331", ""), "பொழி-331: " + entry.விளக்கம் + " - " + entry.தீர்வு);
+}
+
+TEST(ThrowStaticError, KeepsTheBlankAtTheEndOfADescription) {
+    EXPECT_EQ(messageOf("பொழி-301", ""), "பொழி-301: பூஜ்ஜியத்தால் வகுக்க முயற்சி  - "
+                                         "மச்சி, ஒரு எண்ணை '0' ஆல வகுக்க முடியாது, வகுக்கும் எண்ணை மாத்து!");
+}
+
+TEST(ThrowStaticError, AppendsTheDetail) {
+    EXPECT_EQ(messageOf("பொழி-399", "Unknown call expression"),
+              "பொழி-399: அறியப்படாத பிழை (Unknown Error). - ஏதோ ஒன்னு தப்பா ஆகிடுச்சு மச்சி, கோடை ஒருவாட்டி ஆழமா "
+              "செக் பண்ணு! (Unknown call expression)");
+}
+
+TEST(ThrowStaticError, NamesACodeThatTheCatalogueDoesNotHold) {
+    EXPECT_EQ(messageOf("பொழி-116", ""), "அறியப்படாத பிழைக் குறியீடு: பொழி-116");
+    EXPECT_EQ(messageOf("பொழி-116", "detail"), "அறியப்படாத பிழைக் குறியீடு: பொழி-116");
+}
+
+} // namespace
