@@ -162,3 +162,7 @@ const std::vector<std::string>& ErrorHandler::பொன்மொழிகள்(
     // clang-format on
     return sayings;
 }
+
+// The instantiations that generated programs leave to this object.
+#define POZHIL_SHARED_TEMPLATE template
+#include "shared_templates.h"

@@ -5,14 +5,10 @@
 ///
 /// Numbers are never reused: a gap stays a gap, and an entry that nothing raises yet keeps its number.
 
+#include "error_record.h"
+
 #include <string>
 #include <unordered_map>
-
-/// What the catalogue says about one diagnostic.
-struct பிழைதகவல் {
-    std::string விளக்கம்; ///< what is wrong
-    std::string தீர்வு;   ///< how to put it right, in friendly spoken Tamil
-};
 
 namespace pozhil::catalogue {
 

@@ -79,6 +79,11 @@ ExpressionPtr Parser::parseName() {
     case TokenType::ON_PRESS:
     case TokenType::WIDTH:
     case TokenType::HEIGHT: return literal<VariableAccess>(advance());
+    case TokenType::BACKGROUND: {
+        // The colours are read as members of this one word: நிறம்.சிவப்பு
+        const bool isColorWord = peek().value == "நிறம்" && peekBehind(1).type == TokenType::DOT;
+        return isColorWord ? literal<VariableAccess>(advance()) : nullptr;
+    }
     default: return isWidgetToken(peek()) ? literal<VariableAccess>(advance()) : nullptr;
     }
 }
@@ -88,16 +93,11 @@ ExpressionPtr Parser::parseListLiteral(std::int32_t line) {
     auto list = std::make_unique<ListLiteral>();
     list->line = line;
     Siblings siblings(*this);
-    while (!check(TokenType::RBRACKET) && !is_at_end()) {
+    const auto isOver = [this] { return check(TokenType::RBRACKET) || check(TokenType::NEWLINE) || is_at_end(); };
+    while (!isOver()) {
         siblings.next();
         list->elements.push_back(parseExpression());
-        if (accept(TokenType::COMMA)) {
-            continue;
-        }
-        if (check(TokenType::NEWLINE) || is_at_end()) {
-            பிழை("பொழி-205", line);
-        }
-        if (!check(TokenType::RBRACKET)) {
+        if (!accept(TokenType::COMMA) && !isOver()) {
             பிழை("பொழி-207", peek().line);
         }
     }

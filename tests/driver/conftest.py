@@ -6,6 +6,7 @@ from pathlib import Path
 
 import pytest
 
+from support import texts as t
 from support.compiler import compiler_path
 from support.toolchain import Toolchain
 from support.workplace import Installation, Workplace
@@ -13,7 +14,11 @@ from support.workplace import Installation, Workplace
 
 @pytest.fixture(scope="session")
 def compiler():
-    return compiler_path()
+    """The compiler in a complete installation, since a missing object would be made there by the recording g++."""
+    path = compiler_path()
+    made = path.parent / t.CACHE_DIRECTORY / t.CACHED_OBJECT
+    assert made.is_file(), f"the installation isn't complete: no {made}"
+    return path
 
 
 @pytest.fixture

@@ -7,7 +7,6 @@ import pytest
 
 from support import texts as t
 from support.box import split_compiler_box
-from support.case_check import own_part
 from support.console import behind_animation, failed_build_line
 from support.workplace import HELLO
 
@@ -46,12 +45,17 @@ def code(result):
 
 
 @pytest.mark.parametrize("contents", [
-    "", "\n", "\n\n\n", "    ", "    \n  ", "\r\n\r\n", "ஃ", "ஃ குறிப்பு", "ஃ குறிப்பு\n", "    ஃ குறிப்பு\n", ";",
+    "", "\n", "\n\n\n", "    \n", "  \n    \n", "\r\n\r\n", "ஃ", "ஃ குறிப்பு", "ஃ குறிப்பு\n", "    ஃ குறிப்பு\n", ";",
     "ஃஃ குறிப்பு\nஇரண்டு வரி ஃஃ", "\0", "\0அச்சிடு(",
 ])
 def test_source_that_holds_nothing(place, contents):
     assert compile_soon(place, contents).status == 0
-    assert own_part(place.emitted).endswith(EMPTY_MAIN)
+    assert place.own_emitted.endswith(EMPTY_MAIN)
+
+
+@pytest.mark.parametrize("contents, line", [("    ", 1), ("\n  \n ", 3), (HELLO + "    ", 2)])
+def test_blanks_on_the_last_line_indent_a_statement_that_is_missing(place, contents, line):
+    assert code(compile_soon(place, contents)) == ("111", line)
 
 
 def test_empty_program_runs_and_prints_nothing(real_place):
@@ -169,12 +173,6 @@ def test_deep_nesting_and_long_chains(place, program):
 
 def test_byte_order_mark(place):
     compile_soon(place, "\ufeff" + HELLO)
-
-
-def test_source_that_is_a_device(place):
-    (place.folder / "நிரல்.பொழில்").symlink_to("/dev/null")
-    result = place.run("நிரல்.பொழில்", timeout=SOON)
-    assert (result.status, result.err) == (0, failed_build_line())
 
 
 def test_source_that_links_to_itself(place):

@@ -28,7 +28,7 @@ def test_last_source_is_compiled_and_other_arguments_are_ignored(place, argument
     assert (result.status, result.err) == (0, "")
     assert animation_line("அ.பொழில்") in result.out
     assert t.DEFAULT_SOURCE_NOTE not in result.out
-    assert "ஒன்று" in place.emitted and "இரண்டு" not in place.emitted
+    assert "ஒன்று" in place.own_emitted and "இரண்டு" not in place.own_emitted
 
 
 def test_ending_alone_is_a_source(place):

@@ -107,13 +107,6 @@ def test_program_reads_the_standard_input(place, tools):
     assert behind_animation(result.out, SOURCE) == "முதல்\nஇரண்டாம்\n"
 
 
-def test_toolchain_leaves_the_standard_input_to_the_program(place, tools):
-    tools.links("cat")
-    tools.stands_in_for("g++", '/bin/cat > /dev/null; /bin/cp "${0%/*}/program" "$out"')
-    place.env["POZHIL_ANIMATION_MS"] = "1"
-    assert behind_animation(place.run(SOURCE, stdin=b"x\n").out, SOURCE) == "x\n"
-
-
 def test_program_has_both_output_streams(place, tools):
     tools.links("echo stdout; echo stderr >&2")
     result = place.run(SOURCE)

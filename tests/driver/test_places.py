@@ -169,7 +169,8 @@ def test_disk_is_full(place, tools):
     place.work_directory.mkdir()
     place.emitted_path.symlink_to("/dev/full")
     result = place.run(place.write(SOURCE))
-    assert (result.status, result.out, result.err) == (1, "", output_error_line(place.emitted_path))
+    assert (result.status, result.out) == (1, "")
+    assert str(place.emitted_path) in result.err
     assert tools.calls() == []
 
 

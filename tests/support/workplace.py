@@ -5,6 +5,7 @@ import shutil
 from pathlib import Path
 
 from support import texts as t
+from support.case_check import own_part
 from support.compiler import plain_environment
 from support.process import Session, run
 
@@ -36,6 +37,11 @@ class Workplace:
     @property
     def emitted(self):
         return self.emitted_path.read_text(encoding="utf-8")
+
+    @property
+    def own_emitted(self):
+        """The emitted text without the runtime that stands in every program."""
+        return own_part(self.emitted)
 
     @property
     def program(self):

@@ -1,0 +1,52 @@
+#include "support/scanning.h"
+
+#include "scanner/lexer.h"
+#include "support/diagnosis.h"
+#include "support/token_kinds.h"
+
+#include <sstream>
+
+namespace pozhil::test {
+namespace {
+
+constexpr const char* FILE_NAME = "நிரல்.பொழில்";
+constexpr int SOURCE_ROW = 9;
+
+std::string written(const Token& token) {
+    std::string text(TOKEN_KINDS[static_cast<std::size_t>(token.type)].name);
+    return token.value.empty() ? text : text + "(" + token.value + ")";
+}
+
+} // namespace
+
+std::vector<Token> scan(const std::string& source) {
+    return Lexer(source, FILE_NAME).tokenize();
+}
+
+std::string tokens(const std::string& source) {
+    std::string text;
+    int line = 0;
+    for (const Token& token : scan(source)) {
+        if (token.line != line) {
+            line = token.line;
+            text += (text.empty() ? "" : "\n") + std::to_string(line) + ":";
+        }
+        text += " " + written(token);
+    }
+    return text;
+}
+
+std::string scanFault(const std::string& source) {
+    return diagnosisOf([&] { scan(source); });
+}
+
+std::string faultySourceRow(const std::string& source) {
+    std::istringstream box(reportOf([&] { scan(source); }));
+    std::string row;
+    for (int number = 0; number < SOURCE_ROW; ++number) {
+        std::getline(box, row);
+    }
+    return row;
+}
+
+} // namespace pozhil::test
