@@ -25,8 +25,8 @@ std::string assignments(std::int64_t lines) {
     constexpr std::int64_t NAMES = 5000;
     std::string source;
     for (std::int64_t line = 0; line < lines; ++line) {
-        source += "பெயர்" + std::to_string(line % NAMES) + " = பெயர்" + std::to_string((line + 1) % NAMES) +
-                  " கூட்டு " + std::to_string(line) + " பெருக்கு (3 கழி 1)\n";
+        source += "பெயர்" + std::to_string(line % NAMES) + " = பெயர்" + std::to_string((line + 1) % NAMES) + " கூட்டு " +
+                  std::to_string(line) + " பெருக்கு (3 கழி 1)\n";
     }
     return source;
 }

@@ -67,7 +67,7 @@ bool Generator::emitInputMethod(const CallExpression* node) {
 /// A call of a function value that stands there itself: the value is cast to its signature and called.
 void Generator::emitFunctionValueCall(const CallExpression* node, std::size_t parameterCount) {
     out_ << "std::any_cast<std::function<std::any(" << anyTypes(parameterCount) << ")>>(";
-    visitExpression(node->callee.get());
+    emitCastOperand(node->callee.get());
     out_ << ")(";
     emitAnyList(node->arguments);
     out_ << ")";

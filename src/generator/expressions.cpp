@@ -5,7 +5,6 @@
 
 #include <cerrno>
 #include <cstdlib>
-#include <utility>
 
 namespace pozhil {
 
@@ -57,9 +56,13 @@ void Generator::emitAnyList(const ExpressionList& expressions) {
     }
 }
 
-/// The operand of a std::any_cast. A literal zero would be taken for a null pointer there.
+/// The operand of a std::any_cast. A literal zero, in parentheses too, would be taken for a null pointer there.
 void Generator::emitCastOperand(const Expression* expression) {
-    const auto* number = dynamic_cast<const NumberLiteral*>(expression);
+    const Expression* inner = expression;
+    while (const auto* grouping = dynamic_cast<const GroupingExpression*>(inner)) {
+        inner = grouping->inner.get();
+    }
+    const auto* number = dynamic_cast<const NumberLiteral*>(inner);
     const bool isZero = number != nullptr && toAsciiDigits(number->value).find_first_not_of('0') == std::string::npos;
     if (isZero) {
         emitAny(expression);
@@ -142,7 +145,7 @@ void Generator::visitTernaryExpression(const TernaryExpression* node) {
 
 /// (a) => a  ->  std::function<std::any(std::any)>([=](std::any a) { return std::any(a); })
 void Generator::visitLambdaExpression(const LambdaExpression* node) {
-    std::set<std::string> outerLocals = localVars_;
+    const std::size_t outerLocals = localsLog_.size();
     std::string declarations;
     for (const Token& parameter : node->parameters) {
         setLocal(parameter.value);
@@ -152,7 +155,7 @@ void Generator::visitLambdaExpression(const LambdaExpression* node) {
          << ") { return ";
     emitAny(node->body.get());
     out_ << "; })";
-    restoreLocals(std::move(outerLocals));
+    dropLocalsBehind(outerLocals);
 }
 
 /// a[i]  ->  fn_எடு(a, std::any(i), file, line)

@@ -4,6 +4,9 @@
 namespace pozhil {
 namespace {
 
+/// The body of a container loop is emitted twice, so each one inside another doubles the text.
+constexpr int MAX_CONTAINER_LOOP_DEPTH = 12;
+
 /// The call if \p iterable is வரம்பு( ... ), null otherwise.
 const CallExpression* asRange(const Expression* iterable) {
     const auto* call = dynamic_cast<const CallExpression*>(iterable);
@@ -50,6 +53,9 @@ void Generator::emitRangeLoop(const ForStatement* node, const CallExpression& ra
 
 /// ஒவ்வொன்றாக v இல் x:  ->  a loop over the elements of a list and one over the keys of a map, chosen at run time
 void Generator::emitContainerLoop(const ForStatement* node) {
+    if (++containerLoopDepth_ > MAX_CONTAINER_LOOP_DEPTH) {
+        பிழை("பொழி-291", node->variable.line, "");
+    }
     const std::string& variable = node->variable.value;
     const auto emitLoop = [&](std::string_view element, std::string_view container, const std::string& value) {
         ++indentLevel_;
@@ -85,6 +91,7 @@ void Generator::emitContainerLoop(const ForStatement* node) {
     --indentLevel_;
     indent();
     out_ << "}\n";
+    --containerLoopDepth_;
 }
 
 /// The body, with the loop variable as a native name.

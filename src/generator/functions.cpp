@@ -17,7 +17,7 @@ void Generator::emitFunction(const FunctionDefinitionStatement* node) {
     const bool isMethod = !currentStruct_.empty();
     const std::string stem = isMethod ? currentStruct_ + "_" + node->name.value : node->name.value;
     currentFunction_ = node->name.value;
-    restoreLocals({});
+    dropLocalsBehind(0);
     out_ << "std::any " << emittedFunctionName(stem) << "(";
     for (std::size_t index = 0; index < node->params.size(); ++index) {
         const Param& param = node->params[index];
@@ -31,7 +31,7 @@ void Generator::emitFunction(const FunctionDefinitionStatement* node) {
     indent();
     out_ << "}\n\n";
     currentFunction_.clear();
-    restoreLocals({});
+    dropLocalsBehind(0);
 }
 
 /// A function in a function  ->  a native variable that holds a closure over copies of the outer ones
@@ -44,7 +44,7 @@ void Generator::emitNestedFunction(const FunctionDefinitionStatement* node) {
     }
     out_ << ") mutable -> std::any {\n";
     std::string outerFunction = std::exchange(currentFunction_, name);
-    std::set<std::string> outerLocals = localVars_;
+    const std::size_t outerLocals = localsLog_.size();
     for (const Param& param : node->params) {
         setLocal(param.name.value);
     }
@@ -52,7 +52,7 @@ void Generator::emitNestedFunction(const FunctionDefinitionStatement* node) {
     indent();
     out_ << "}));\n";
     currentFunction_ = std::move(outerFunction);
-    restoreLocals(std::move(outerLocals));
+    dropLocalsBehind(outerLocals);
     setLocal(name);
 }
 

@@ -3,6 +3,7 @@
 #include "error_codes.h"
 #include "error_handler.h"
 #include "generator/runtime_text.h"
+#include "generator/start_page.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -54,35 +55,10 @@ std::string Generator::generate() {
 /// The sections that are the same in every program but for the start page and the source path.
 void Generator::emitRuntime() {
     out_ << runtime::standard_headers << runtime::web_text_layer << runtime::global_state
-         << fillPlaceholder(runtime::navigation, START_PAGE_PLACEHOLDER, detectStartPage()) << runtime::input_state
-         << runtime::web_bridge << runtime::value_types << runtime::error_box
+         << fillPlaceholder(runtime::navigation, START_PAGE_PLACEHOLDER, findStartPage(program_))
+         << runtime::input_state << runtime::web_bridge << runtime::value_types << runtime::error_box
          << fillPlaceholder(runtime::value_functions, SOURCE_PATH_PLACEHOLDER, fileName_) << runtime::animation_engine
          << runtime::library << runtime::scrolling << runtime::web_boilerplate;
-}
-
-/// The page that is shown first: the last one that asks for it, else the first that has a name.
-std::string Generator::detectStartPage() const {
-    std::string startPage;
-    for (const StatementPtr& statement : program_.statements) {
-        const auto* app = dynamic_cast<const WebAppNode*>(statement.get());
-        const auto* header = app == nullptr ? nullptr : dynamic_cast<const WidgetNode*>(app->header.get());
-        if (header == nullptr) {
-            continue;
-        }
-        const auto page = header->properties.find("பக்கம்");
-        const auto* name =
-            page == header->properties.end() ? nullptr : dynamic_cast<const StringLiteral*>(page->second.get());
-        if (name == nullptr) {
-            continue;
-        }
-        const auto flag = header->properties.find("ஆரம்ப_பக்கம்");
-        const auto* asks =
-            flag == header->properties.end() ? nullptr : dynamic_cast<const BooleanLiteral*>(flag->second.get());
-        if (startPage.empty() || (asks != nullptr && asks->value == "மெய்")) {
-            startPage = name->value;
-        }
-    }
-    return startPage.empty() ? "home" : startPage;
 }
 
 void Generator::emitStructures() {

@@ -45,7 +45,6 @@ private:
 
     // Frame (generator.cpp).
     void emitRuntime();
-    std::string detectStartPage() const;
     void emitStructures();
     void emitFunctions();
     void emitInitGlobals();
@@ -162,7 +161,7 @@ private:
     VarType inferBinaryType(const BinaryExpression& binary);
     void setVarType(const std::string& name, VarType type);
     void setLocal(const std::string& name);
-    void restoreLocals(std::set<std::string> locals);
+    void dropLocalsBehind(std::size_t count);
 
     const Program& program_;
     std::ostringstream out_;
@@ -179,7 +178,10 @@ private:
     std::string sourceCode_;
     std::string fileName_;
     std::set<std::string> localVars_;
+    /// What entered localVars_, in order. Names that left it again may still stand here.
+    std::vector<std::string> localsLog_;
     std::int32_t indentLevel_ = 0;
+    int containerLoopDepth_ = 0;
     std::uint64_t typeEpoch_ = 0;
     std::unordered_map<const Expression*, InferredType> inferredTypes_;
 };

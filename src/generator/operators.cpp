@@ -1,3 +1,4 @@
+#include "generator/digits.h"
 #include "generator/generator.h"
 
 #include <algorithm>
@@ -44,7 +45,7 @@ bool isNumber(VarType type) {
 
 bool isZeroLiteral(const Expression* expression) {
     if (const auto* number = dynamic_cast<const NumberLiteral*>(expression)) {
-        return number->value == "0";
+        return toAsciiDigits(number->value) == "0";
     }
     const auto* decimal = dynamic_cast<const DoubleLiteral*>(expression);
     return decimal != nullptr && (decimal->value == "0.0" || decimal->value == "0.");
@@ -122,7 +123,7 @@ void Generator::emitNativeArithmetic(const BinaryExpression* node, VarType left,
             return;
         }
         out_ << "std::any_cast<" << castType << ">(";
-        visitExpression(operand);
+        emitCastOperand(operand);
         out_ << ")";
     };
     emitOperand(node->left.get());

@@ -3,7 +3,6 @@
 
 #include <string_view>
 #include <unordered_map>
-#include <utility>
 
 namespace pozhil {
 namespace {
@@ -166,12 +165,18 @@ void Generator::setVarType(const std::string& name, VarType type) {
 }
 
 void Generator::setLocal(const std::string& name) {
-    localVars_.insert(name);
+    if (localVars_.insert(name).second) {
+        localsLog_.push_back(name);
+    }
     ++typeEpoch_;
 }
 
-void Generator::restoreLocals(std::set<std::string> locals) {
-    localVars_ = std::move(locals);
+/// Only the first \p count names that entered are native variables from here on. A scope is left so in time that goes
+/// with its own names, however many stand outside.
+void Generator::dropLocalsBehind(std::size_t count) {
+    for (; localsLog_.size() > count; localsLog_.pop_back()) {
+        localVars_.erase(localsLog_.back());
+    }
     ++typeEpoch_;
 }
 

@@ -26,15 +26,18 @@ StatementPtr Parser::parsePrintStatement() {
 
 /// எனில் expr : block, then இல்லைஎனில் and இல்லை branches that stand directly behind the block.
 StatementPtr Parser::parseIfStatement() {
-    enterNesting();
     advance();
     if (check(TokenType::COLON) || check(TokenType::NEWLINE)) {
         பிழை("பொழி-221", peek().line);
     }
+    Siblings parts(*this);
     ExpressionPtr condition = parseExpression();
+    parts.next();
     auto thenBranch = parseColonAndBlock();
     StatementPtr elseBranch;
+    parts.next();
     if (checkKeyword("இல்லைஎனில்")) {
+        enterNesting();
         elseBranch = parseIfStatement();
     } else if (checkKeyword("இல்லை")) {
         advance();
@@ -49,7 +52,9 @@ StatementPtr Parser::parseWhileStatement() {
     if (check(TokenType::COLON) || check(TokenType::NEWLINE)) {
         பிழை("பொழி-222", peek().line);
     }
+    Siblings parts(*this);
     ExpressionPtr condition = parseExpression();
+    parts.next();
     return std::make_unique<WhileStatement>(std::move(condition), parseColonAndBlock());
 }
 
@@ -61,23 +66,26 @@ StatementPtr Parser::parseForStatement() {
         பிழை("பொழி-223", peek().line);
     }
     advance();
+    Siblings parts(*this);
     ExpressionPtr iterable = parseExpression();
+    parts.next();
     return std::make_unique<ForStatement>(std::move(variable), std::move(iterable), parseColonAndBlock());
 }
 
 /// தேர்வு expr : then நிலை expr : blocks and at most one மற்றவை : block, in any order.
 StatementPtr Parser::parseSwitchStatement() {
     const std::int32_t line = advance().line;
+    Siblings parts(*this);
     ExpressionPtr subject = parseExpression();
     parseIndentedHeader(line);
     std::vector<CaseBlock> cases;
     std::unique_ptr<BlockStatement> defaultBlock;
-    Siblings siblings(*this);
     while (!check(TokenType::DEDENT) && !is_at_end()) {
-        siblings.next();
+        parts.next();
         if (checkKeyword("நிலை")) {
             advance();
             ExpressionPtr value = parseExpression();
+            parts.next();
             cases.push_back({std::move(value), parseColonAndBlock()});
         } else if (checkKeyword("மற்றவை")) {
             advance();
@@ -98,6 +106,7 @@ StatementPtr Parser::parseSwitchStatement() {
 /// முயற்சி : block பிடி [ ( name ) ] : block
 StatementPtr Parser::parseTryCatchStatement() {
     advance();
+    Siblings parts(*this);
     auto tryBlock = parseColonAndBlock();
     if (!checkKeyword("பிடி")) {
         பிழை("பொழி-210", peek().line);
@@ -111,6 +120,7 @@ StatementPtr Parser::parseTryCatchStatement() {
         }
         consume(TokenType::RPAREN, "பொழி-204", line);
     }
+    parts.next();
     auto catchBlock = parseColonAndBlock();
     return std::make_unique<TryCatchStatement>(std::move(tryBlock), std::move(catchBlock), std::move(errorName));
 }

@@ -160,30 +160,33 @@ ExpressionPtr Parser::parseArrowFunction() {
 
 /// condition எனில் a இல்லைஎனில் b, or condition ? a : b
 ExpressionPtr Parser::parseTernary() {
+    Siblings parts(*this);
     ExpressionPtr condition = parseBinary(LOOSEST_LEVEL);
     if (!checkKeyword("எனில்") && !check(TokenType::QUESTION)) {
         return condition;
     }
-    enterNesting();
+    parts.wrap();
     const std::int32_t line = advance().line;
     ExpressionPtr thenBranch = parseExpression();
     if (!checkKeyword("இல்லைஎனில்") && !check(TokenType::COLON)) {
         பிழை("பொழி-202", peek().line);
     }
     advance();
+    parts.next();
     ExpressionPtr elseBranch = parseTernary();
     return makeNode<TernaryExpression>(line, std::move(condition), std::move(thenBranch), std::move(elseBranch));
 }
 
 /// Operands joined by operators of this level or tighter ones; equal levels group to the left.
 ExpressionPtr Parser::parseBinary(int loosestLevel) {
+    Siblings operands(*this);
     ExpressionPtr left = parseUnary();
     while (true) {
         const int level = binaryLevel(peek());
         if (level < loosestLevel) {
             return left;
         }
-        enterNesting();
+        operands.wrap();
         Token op = advance();
         const std::int32_t line = op.line;
         ExpressionPtr right = parseBinary(level + 1);
@@ -207,17 +210,18 @@ ExpressionPtr Parser::parseUnary() {
 
 /// A primary with any number of calls, members and indices behind it.
 ExpressionPtr Parser::parseCall() {
+    Siblings links(*this);
     ExpressionPtr left = parsePrimary();
     while (true) {
         const std::int32_t line = peek().line;
         if (accept(TokenType::LPAREN)) {
-            enterNesting();
+            links.wrap();
             left = makeNode<CallExpression>(line, std::move(left), parseArguments(line));
         } else if (accept(TokenType::DOT) || accept(TokenType::ARROW)) {
-            enterNesting();
+            links.wrap();
             left = parseMember(std::move(left));
         } else if (accept(TokenType::LBRACKET)) {
-            enterNesting();
+            links.wrap();
             left = parseIndexExpression(std::move(left), line);
         } else {
             return left;

@@ -70,8 +70,8 @@ private:
 
     // Statements and blocks (statements.cpp).
     StatementPtr parseStatement(bool inStruct);
-    void checkStatementStart() const;
-    bool restOfLineHolds(TokenType type, std::string_view behindText) const;
+    void checkStatementStart();
+    bool restOfLineHolds(TokenType type, std::string_view behindText, std::size_t& searchEnd) const;
     StatementPtr parseStatementFromExpression(bool inStruct);
     StatementPtr parseExpressionStatement(ExpressionPtr expression);
     std::unique_ptr<BlockStatement> parseBlockStatement(bool inStruct);
@@ -152,6 +152,9 @@ private:
     /// Where the search for a closing bracket that began at bracketSearchStart_ ended.
     std::size_t bracketSearchStart_ = 1;
     std::size_t bracketSearchEnd_ = 0;
+    /// Where the searches of checkStatementStart along the line ended without a find.
+    std::size_t functionSearchEnd_ = 0;
+    std::size_t listSearchEnd_ = 0;
 };
 
 } // namespace pozhil

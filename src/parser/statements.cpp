@@ -120,12 +120,12 @@ StatementPtr Parser::parseStatement(bool inStruct) {
 }
 
 /// Faults that are told best by the first tokens of a statement, before its expression is parsed.
-void Parser::checkStatementStart() const {
+void Parser::checkStatementStart() {
     const Token& first = peek();
     if (check(TokenType::INDENT)) {
         பிழை("பொழி-111", first.line);
     }
-    if (restOfLineHolds(TokenType::COLON, "வினை")) {
+    if (restOfLineHolds(TokenType::COLON, "வினை", functionSearchEnd_)) {
         பிழை("பொழி-234", first.line);
     }
     if (check(TokenType::RPAREN) || check(TokenType::RBRACE) || check(TokenType::RBRACKET)) {
@@ -137,24 +137,31 @@ void Parser::checkStatementStart() const {
     if (check(TokenType::IDENTIFIER) && isLiteral && second.line == first.line) {
         பிழை("பொழி-208", first.line);
     }
-    if ((check(TokenType::COMMA) || check(TokenType::NUMBER)) && restOfLineHolds(TokenType::RBRACKET, "")) {
+    if ((check(TokenType::COMMA) || check(TokenType::NUMBER)) &&
+        restOfLineHolds(TokenType::RBRACKET, "", listSearchEnd_)) {
         பிழை("பொழி-209", first.line);
     }
 }
 
 /// Whether a token of this type stands on the rest of the current line, behind a token with this text if one is given.
-bool Parser::restOfLineHolds(TokenType type, std::string_view behindText) const {
+/// \param searchEnd end of the last search that found none, since many statements of one line ask for the same
+bool Parser::restOfLineHolds(TokenType type, std::string_view behindText, std::size_t& searchEnd) const {
+    if (current_ < searchEnd) {
+        return false;
+    }
     bool armed = behindText.empty();
-    for (std::size_t index = current_; index < tokens_.size(); ++index) {
+    std::size_t index = current_;
+    for (; index < tokens_.size(); ++index) {
         const Token& token = tokens_[index];
         if (token.type == TokenType::NEWLINE || token.line != peek().line) {
-            return false;
+            break;
         }
         if (armed && token.type == type) {
             return true;
         }
         armed = armed || token.value == behindText;
     }
+    searchEnd = index;
     return false;
 }
 
@@ -238,6 +245,7 @@ void Parser::parseIndentedHeader(std::int32_t line) {
     consume(TokenType::NEWLINE, "பொழி-202", line);
     skipNewlines();
     consume(TokenType::INDENT, "பொழி-202", line);
+    skipNewlines();
 }
 
 template <class Node> StatementPtr Parser::parseSingleWord() {

@@ -1,7 +1,8 @@
 #include "parser/parser.h"
 #include "parser/siblings.h"
 
-#include <algorithm>
+#include <string_view>
+#include <unordered_map>
 #include <utility>
 
 namespace pozhil {
@@ -20,11 +21,15 @@ void addMember(StructDefinitionStatement& structure, StatementPtr member, bool i
     }
 }
 
-/// The last method of that name, null if there is none.
-const FunctionDefinitionStatement* findMethod(const StructDefinitionStatement& structure, const std::string& name) {
-    const auto found = std::find_if(structure.methods.rbegin(), structure.methods.rend(),
-                                    [&](const auto& method) { return method->name.value == name; });
-    return found == structure.methods.rend() ? nullptr : found->get();
+using ParameterCounts = std::unordered_map<std::string_view, std::size_t>;
+
+/// Number of parameters of each method, of the last one where several have a name.
+ParameterCounts parameterCounts(const StructDefinitionStatement& structure) {
+    ParameterCounts counts;
+    for (const auto& method : structure.methods) {
+        counts[method->name.value] = method->params.size();
+    }
+    return counts;
 }
 
 } // namespace
@@ -128,9 +133,10 @@ void Parser::checkParent(const StructDefinitionStatement& structure) const {
         }
         return;
     }
+    const ParameterCounts own = parameterCounts(structure);
     for (const AbstractMethod& method : abstractParent->second->methods) {
-        const FunctionDefinitionStatement* own = findMethod(structure, method.name.value);
-        if (own == nullptr || own->params.size() != method.params.size()) {
+        const auto found = own.find(method.name.value);
+        if (found == own.end() || found->second != method.params.size()) {
             பிழை("பொழி-273", structure.name.line);
         }
     }

@@ -34,6 +34,7 @@ WORK_DIRECTORY = ".நிலையற்ற"
 EMITTED_NAME = "generated.cpp"
 INCLUDE_DIRECTORY = "உள்ளடக்கம்"
 CACHE_DIRECTORY = "திரட்டு"
+MODULE_DIRECTORY = "தொகுப்புகள்"
 REPORTER_SOURCE = "src/error_handler.cpp"
 LINK_RESULT = "pozhil_temp_app"
 PROGRAM_NAME = "பொழில்_செயலி"
@@ -53,6 +54,13 @@ CHANGE_NOTE = "\n🔄 மாற்றம் கண்டறியப்பட்
 SCANNER_FAILED = "🚨 (சொல் பகுப்பாய்வு): உமது நிரலில் ஏதோ பிழை உள்ளது. சரிபார்க்கவும்!"
 PARSER_FAILED = "🚨 (இலக்கணப் பகுப்பாய்வு): நிரலின் கட்டமைப்பில் பிழை உள்ளது!"
 GENERATOR_FAILED = "🚨 (குறியீடு உருவாக்கம்): குறியீட்டை உருவாக்குவதில் சிக்கல்!"
+
+# What stands in for a source line that can't be read, at compile time and at run time
+NO_SOURCE_TEXT = "(சோர்ஸ் கோடு கிடைக்கவில்லை)"
+NO_SOURCE_FILE = "(கோப்பு கிடைக்கவில்லை)"
+
+# Exceptions of running programs
+DIVISION_BY_ZERO = "சுழியத்தால் (0) வகுக்க முடியாது!"
 
 # Colours
 RED = "\x1b[1;31m"

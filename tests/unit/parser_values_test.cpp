@@ -168,10 +168,10 @@ TEST(Maps, LeaveTheIndentationAroundThemWhole) {
 }
 
 TEST(Maps, HaveStringsAndNamesAsKeys) {
-    for (const std::string key : {"1", "மெய்", "'அ'", "சுற்று", "உரை", "(அ)", "அ.ஆ"}) {
-        const std::string expected = key == "அ.ஆ" ? "பொழி-202 வரி 1" : "பொழி-212 வரி 1";
-        EXPECT_EQ(valueFault("{" + key + ": 1}"), expected) << key;
+    for (const std::string key : {"1", "மெய்", "'அ'", "சுற்று", "உரை", "(அ)"}) {
+        EXPECT_EQ(valueFault("{" + key + ": 1}"), "பொழி-212 வரி 1") << key;
     }
+    EXPECT_EQ(valueFault("{அ.ஆ: 1}"), "பொழி-202 வரி 1");
     EXPECT_EQ(valueTree("{\"\": 1}"), "(Map (\"\" (Number 1)))");
     EXPECT_EQ(valueTree("{\"#fff\": 1}"), "(Map (\"#fff\" (Number 1)))");
 }

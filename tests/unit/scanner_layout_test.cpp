@@ -10,7 +10,6 @@ namespace {
 using namespace std::string_literals;
 using pozhil::test::expectFaults;
 using pozhil::test::expectTokens;
-using pozhil::test::faultySourceRow;
 using pozhil::test::scan;
 using pozhil::test::tokens;
 
@@ -240,22 +239,6 @@ TEST(LineNumbers, DoNotCountTheLinesInsideAString) {
 TEST(Lines, InsideAStringAreNoLineStarts) {
     EXPECT_EQ(tokens("\"\n    \" அ\n    ஃ\nஆ"), "1: STRING(\n    ) IDENTIFIER(அ) NEWLINE(\\n)\n"
                                                 "3: IDENTIFIER(ஆ) END_OF_FILE");
-}
-
-TEST(FaultySourceRow, ShowsTheWholeLine) {
-    EXPECT_EQ(faultySourceRow("அ = 1\n    ஆ = 1 + 2 ஃ கூட்டல்\nஇ = 3"), "    02 |      ஆ = 1 + 2 ஃ கூட்டல்");
-    EXPECT_EQ(faultySourceRow("\n\n\n\n\n\n\n\n\n  +"), "    10 |    +");
-    EXPECT_EQ(faultySourceRow(" \tஅ"), "    01 |   \tஅ");
-}
-
-TEST(FaultySourceRow, ShowsTheRestBehindASemicolon) {
-    EXPECT_EQ(faultySourceRow("அ = 1;  ஆ = 1 + 2"), "    01 |    ஆ = 1 + 2");
-}
-
-TEST(FaultySourceRow, ShowsTheLineWhereAConstructOfManyLinesBegan) {
-    EXPECT_EQ(faultySourceRow("அ = ஃஃ க\n\nஃஃ +\n"), "    03 |  அ = ஃஃ க");
-    EXPECT_EQ(faultySourceRow("அ = \"\n\n\" +\n"), "    01 |  அ = \"");
-    EXPECT_EQ(faultySourceRow("அ = 1\nஆ = \"இ\nஈ"), "    02 |  ஆ = \"இ");
 }
 
 } // namespace

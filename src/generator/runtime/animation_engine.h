@@ -310,12 +310,17 @@ PozhilCurve getEasingFunction(std::string name) {
     return பெறு_அசைவூட்ட_வளைவு(std::move(name));
 }
 
+// நிலை இன்னும் இல்லையென்றால் புதிதாக உருவாகும்.
+AnimationState& pozhil_animation_state(unsigned long long nodeId) {
+    return g_animationStates.insert({nodeId, AnimationState()}).first->second;
+}
+
 // கடந்த நேரத்தின்படி முன்னேற்றும்; முடிந்த அசைவூட்டம் மீண்டும் தொடங்காது.
 void updateAnimationProgress(unsigned long long nodeId, float duration) {
     if (duration <= 0.0f) {
         return;
     }
-    AnimationState& state = g_animationStates[nodeId];
+    AnimationState& state = pozhil_animation_state(nodeId);
     if (state.currentProgress >= 1.0f) {
         return;
     }
@@ -334,5 +339,5 @@ float applyAnimation(unsigned long long nodeId, float duration, std::string curv
                      float targetValue) {
     updateAnimationProgress(nodeId, duration);
     const PozhilCurve ease = getEasingFunction(std::move(curve));
-    return lerp(startValue, targetValue, ease(g_animationStates[nodeId].currentProgress));
+    return lerp(startValue, targetValue, ease(pozhil_animation_state(nodeId).currentProgress));
 }

@@ -5,12 +5,13 @@
 #include "global_state.h"
 #include "value_types.h"
 
+// clang-format off
 // --- emitted from here ---
 
 /* --- 🚨 பொழில் இயக்கநேர பிழை பெட்டி --- */
 void pozhil_runtime_error(std::string code, std::string file, int line) {
     auto info = பிழை_அகராதி.at(code);
-    const std::string separator(60, '-');
+    const char* separator = "------------------------------------------------------------";
     const char* RED = "\033[1;31m";
     const char* GOLD = "\033[1;93m";
     const char* RESET = "\033[0m";
@@ -31,21 +32,33 @@ void pozhil_runtime_error(std::string code, std::string file, int line) {
         }
     }
 
-    std::cout << "\n" << RED << separator << RESET << "\n";
-    std::cout << "  🚨 [ " << GOLD << code << RESET << " ] :: " << RED << "பொருள் பிழை (இயக்கநேரம்)" << RESET << "\n";
-    std::cout << RED << separator << RESET << "\n";
-    std::cout << "  " << BLUE << "📂 கோப்பு  " << RESET << ": " << file << "\n";
-    std::cout << "  " << BLUE << "📍 இடம்    " << RESET << ": வரி " << line << "\n";
-    std::cout << DIM_GREY << "  " << separator << RESET << "\n";
-    std::cout << CYAN << "  🔍 பிழை கண்டறியப்பட்ட பகுதி:" << RESET << "\n";
+    const std::string line_number = std::to_string(line);
+    const std::string saying = ErrorHandler::பொன்மொழி_பெறு();
+    const char* head[] = {
+        "\n", RED, separator, RESET, "\n",
+        "  🚨 [ ", GOLD, code.c_str(), RESET, " ] :: ", RED, "பொருள் பிழை (இயக்கநேரம்)", RESET, "\n",
+        RED, separator, RESET, "\n",
+        "  ", BLUE, "📂 கோப்பு  ", RESET, ": ", file.c_str(), "\n",
+        "  ", BLUE, "📍 இடம்    ", RESET, ": வரி ", line_number.c_str(), "\n",
+        DIM_GREY, "  ", separator, RESET, "\n",
+        CYAN, "  🔍 பிழை கண்டறியப்பட்ட பகுதி:", RESET, "\n",
+    };
+    const char* tail[] = {
+        "       |  ", GOLD, "        ▲", RESET, "\n",
+        RED, "       ╰── மச்சி, ", info.விளக்கம்.c_str(), RESET, "\n",
+        DIM_GREY, "  ", separator, RESET, "\n",
+        GREEN, "  💡 சரி செய்யும் முறை:", RESET, "\n",
+        "     ", info.தீர்வு.c_str(), "\n",
+        DIM_GREY, "  ", separator, RESET, "\n\n",
+        "  ", GOLD, "✨ \"", saying.c_str(), "\"", RESET, "\n",
+        DIM_GREY, "  ", separator, RESET, "\n\n",
+    };
+    for (const char* piece : head) {
+        std::cout << piece;
+    }
     printf("    %02d |  %s\n", line, line_content.c_str());
-    std::cout << "       |  " << GOLD << "        ▲" << RESET << "\n";
-    std::cout << RED << "       ╰── மச்சி, " << info.விளக்கம் << RESET << "\n";
-    std::cout << DIM_GREY << "  " << separator << RESET << "\n";
-    std::cout << GREEN << "  💡 சரி செய்யும் முறை:" << RESET << "\n";
-    std::cout << "     " << info.தீர்வு << "\n";
-    std::cout << DIM_GREY << "  " << separator << RESET << "\n\n";
-    std::cout << "  " << GOLD << "✨ \"" << ErrorHandler::பொன்மொழி_பெறு() << "\"" << RESET << "\n";
-    std::cout << DIM_GREY << "  " << separator << RESET << "\n\n";
+    for (const char* piece : tail) {
+        std::cout << piece;
+    }
     exit(1);
 }

@@ -212,8 +212,9 @@ std::any fn_index_ref(std::any&& obj, const std::any& key, std::string file = ""
 
 // பொருளின் பண்புகள்
 std::any fn_get_property(std::shared_ptr<_StructBase> obj, std::string prop, std::string file, int line) {
-    const auto found = obj->properties.find(prop);
-    if (found == obj->properties.end()) {
+    const std::map<std::string, std::any>& properties = obj->properties;
+    const auto found = properties.find(prop);
+    if (found == properties.end()) {
         pozhil_runtime_error("பொழி-324", file, line);
         return std::any();
     }
@@ -226,7 +227,7 @@ std::any fn_set_property(std::any obj, std::string prop, std::any val, std::stri
         pozhil_runtime_error("பொழி-324", file, line);
         return std::any();
     }
-    (*object)->properties[prop] = val;
+    (*object)->properties[std::move(prop)] = val;
     return val;
 }
 

@@ -13,7 +13,7 @@ struct WidgetPos {
 };
 
 std::map<std::string, WidgetPos> g_widgetPositions;
-std::map<std::string, float> id_map;
+std::map<std::string, WidgetPos> id_map;
 std::string g_scrollToId = "";
 float targetScrollY = 0.0f;
 float currentScrollY = 0.0f;

@@ -7,6 +7,8 @@
 
 // --- emitted from here ---
 
+#include <cstring>
+
 std::string fn_முழுவதும்(std::tm* t);
 
 // உரை, எழுத்து, பைட் ஆகியவற்றின் எழுத்துகள்; உரை அல்லாத மதிப்புக்கு nullptr
@@ -61,7 +63,8 @@ std::string fn_any_to_string(const std::any& val) {
         std::string text = "[";
         const char* separator = "";
         for (const std::any& item : *list) {
-            text += separator + fn_any_to_string(item);
+            text += separator;
+            text += fn_any_to_string(item);
             separator = ", ";
         }
         return text + "]";
@@ -70,7 +73,9 @@ std::string fn_any_to_string(const std::any& val) {
         std::string text = "{";
         const char* separator = "";
         for (const auto& entry : *map) {
-            text += separator + ("\"" + entry.first + "\": ") + fn_any_to_string(entry.second);
+            text += separator;
+            text += "\"" + entry.first + "\": ";
+            text += fn_any_to_string(entry.second);
             separator = ", ";
         }
         return text + "}";
@@ -126,7 +131,8 @@ std::string fn_any_to_json(const std::any& val) {
         std::string text = "[";
         const char* separator = "";
         for (const std::any& item : *list) {
-            text += separator + fn_any_to_json(item);
+            text += separator;
+            text += fn_any_to_json(item);
             separator = ", ";
         }
         return text + "]";
@@ -135,7 +141,9 @@ std::string fn_any_to_json(const std::any& val) {
         std::string text = "{";
         const char* separator = "";
         for (const auto& entry : *map) {
-            text += separator + ("'" + pozhil_script_escape(entry.first, false) + "': ") + fn_any_to_json(entry.second);
+            text += separator;
+            text += "'" + pozhil_script_escape(entry.first, false) + "': ";
+            text += fn_any_to_json(entry.second);
             separator = ", ";
         }
         return text + "}";
@@ -201,10 +209,14 @@ long double fn_get_double(const std::any& a) {
     return number;
 }
 
+bool pozhil_is_operator(const char* op, const char* symbol, const char* word) {
+    return std::strcmp(op, symbol) == 0 || std::strcmp(op, word) == 0;
+}
+
 // ஒப்பீடு. எண்ணோடு எண், உரையோடு உரை, நிலையோடு நிலை; மற்ற இணைகள் எல்லா ஒப்பீட்டிலும் பொய்.
-bool fn_compare_any(const std::any& left, const std::any& right, std::string op) {
-    const bool equal = op == "==" || op == "சமம்";
-    const bool unequal = op == "!=" || op == "சமமில்லை";
+bool fn_compare_any(const std::any& left, const std::any& right, const char* op) {
+    const bool equal = pozhil_is_operator(op, "==", "சமம்");
+    const bool unequal = pozhil_is_operator(op, "!=", "சமமில்லை");
 
     long double left_number = 0.0L, right_number = 0.0L;
     if (pozhil_read_number(left, left_number) && pozhil_read_number(right, right_number)) {
@@ -214,16 +226,16 @@ bool fn_compare_any(const std::any& left, const std::any& right, std::string op)
         if (unequal) {
             return left_number != right_number;
         }
-        if (op == ">" || op == "பெரிது") {
+        if (pozhil_is_operator(op, ">", "பெரிது")) {
             return left_number > right_number;
         }
-        if (op == "<" || op == "சிறிது") {
+        if (pozhil_is_operator(op, "<", "சிறிது")) {
             return left_number < right_number;
         }
-        if (op == ">=" || op == "பெரிதுசமம்") {
+        if (pozhil_is_operator(op, ">=", "பெரிதுசமம்")) {
             return left_number >= right_number;
         }
-        if (op == "<=" || op == "சிறிதுசமம்") {
+        if (pozhil_is_operator(op, "<=", "சிறிதுசமம்")) {
             return left_number <= right_number;
         }
         return false;
@@ -242,6 +254,10 @@ bool fn_compare_any(const std::any& left, const std::any& right, std::string op)
         return (equal && *left_truth == *right_truth) || (unequal && *left_truth != *right_truth);
     }
     return false;
+}
+
+bool fn_compare_any(const std::any& left, const std::any& right, std::string op) {
+    return fn_compare_any(left, right, op.c_str());
 }
 
 // பட்டியல் குறியீடாகவும் சுழற்சி எல்லையாகவும் பயன்படும் முழு எண்
@@ -300,11 +316,11 @@ std::any fn_add_any(const std::any& left, const std::any& right) {
 
 // தொகுப்பின் கோப்பு: முதலில் நடப்புக் கோப்புறை, பிறகு பொதுத் தொகுப்புகள்
 std::string fn_resolve_module_path(const std::string& module_name) {
-    const std::string file_name = module_name + ".பொழில்";
+    std::string file_name = module_name + ".பொழில்";
     if (std::ifstream(file_name).good()) {
         return file_name;
     }
-    const std::string system_path = "/usr/local/lib/Pozhil/தொகுப்புகள்/" + file_name;
+    std::string system_path = "/usr/local/lib/Pozhil/தொகுப்புகள்/" + file_name;
     if (std::ifstream(system_path).good()) {
         return system_path;
     }

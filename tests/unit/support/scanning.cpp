@@ -4,13 +4,10 @@
 #include "support/diagnosis.h"
 #include "support/token_kinds.h"
 
-#include <sstream>
-
 namespace pozhil::test {
 namespace {
 
 constexpr const char* FILE_NAME = "நிரல்.பொழில்";
-constexpr int SOURCE_ROW = 9;
 
 std::string written(const Token& token) {
     std::string text(TOKEN_KINDS[static_cast<std::size_t>(token.type)].name);
@@ -38,15 +35,6 @@ std::string tokens(const std::string& source) {
 
 std::string scanFault(const std::string& source) {
     return diagnosisOf([&] { scan(source); });
-}
-
-std::string faultySourceRow(const std::string& source) {
-    std::istringstream box(reportOf([&] { scan(source); }));
-    std::string row;
-    for (int number = 0; number < SOURCE_ROW; ++number) {
-        std::getline(box, row);
-    }
-    return row;
 }
 
 } // namespace pozhil::test

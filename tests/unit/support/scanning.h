@@ -19,7 +19,4 @@ std::string tokens(const std::string& source);
 /// Code and line of the diagnostic that \p source ends with, such as "பொழி-101 வரி 3"; "none" if it is scanned.
 std::string scanFault(const std::string& source);
 
-/// The source line in the box of that diagnostic, with the number before it.
-std::string faultySourceRow(const std::string& source);
-
 } // namespace pozhil::test
