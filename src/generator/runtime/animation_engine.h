@@ -12,36 +12,36 @@
 
 // --- emitted from here ---
 
-float lerp(float a, float b, float t) {
+inline float lerp(float a, float b, float t) {
     return a + (b - a) * t;
 }
 
-float easeLinear(float t) {
+inline float easeLinear(float t) {
     return t;
 }
 
-float easeInQuad(float t) {
+inline float easeInQuad(float t) {
     return t * t;
 }
 
-float easeOutQuad(float t) {
+inline float easeOutQuad(float t) {
     return t * (2.0f - t);
 }
 
-float easeInOutQuad(float t) {
+inline float easeInOutQuad(float t) {
     return t < 0.5f ? 2.0f * t * t : (4.0f - 2.0f * t) * t - 1.0f;
 }
 
-float easeInCubic(float t) {
+inline float easeInCubic(float t) {
     return t * t * t;
 }
 
-float easeOutCubic(float t) {
+inline float easeOutCubic(float t) {
     const float u = t - 1.0f;
     return u * u * u + 1.0f;
 }
 
-float easeInOutCubic(float t) {
+inline float easeInOutCubic(float t) {
     const float u = 2.0f * t - 2.0f;
     return t < 0.5f ? 4.0f * t * t * t : (t - 1.0f) * u * u + 1.0f;
 }
@@ -61,7 +61,7 @@ namespace PozhilCurves {
 
 const float PI = 3.14159265358979323846f;
 
-float bounceOut(float t) {
+inline float bounceOut(float t) {
     if (t < 1.0f / 2.75f) {
         return 7.5625f * t * t;
     }
@@ -77,129 +77,129 @@ float bounceOut(float t) {
     return 7.5625f * t * t + 0.984375f;
 }
 
-float bounceIn(float t) {
+inline float bounceIn(float t) {
     return 1.0f - bounceOut(1.0f - t);
 }
 
-float bounceInOut(float t) {
+inline float bounceInOut(float t) {
     return t < 0.5f ? bounceIn(t * 2.0f) * 0.5f : bounceOut(t * 2.0f - 1.0f) * 0.5f + 0.5f;
 }
 
-float elasticIn(float t) {
+inline float elasticIn(float t) {
     if (t == 0.0f || t == 1.0f) {
         return t;
     }
     return -std::pow(2.0f, 10.0f * t - 10.0f) * std::sin((10.0f * t - 10.75f) * 2.0f * PI / 3.0f);
 }
 
-float elasticOut(float t) {
+inline float elasticOut(float t) {
     return std::pow(2.0f, -10.0f * t) * std::sin((10.0f * t - 0.75f) * 2.0f * PI / 3.0f) + 1.0f;
 }
 
-float elasticInOut(float t) {
+inline float elasticInOut(float t) {
     return t < 0.5f ? elasticIn(t * 2.0f) * 0.5f : elasticOut(t * 2.0f - 1.0f) * 0.5f + 0.5f;
 }
 
-float smoothStep(float t) {
+inline float smoothStep(float t) {
     return t * t * (3.0f - 2.0f * t);
 }
 
-float quadOut(float t) {
+inline float quadOut(float t) {
     return 1.0f - (1.0f - t) * (1.0f - t);
 }
 
-float quadInOut(float t) {
+inline float quadInOut(float t) {
     return t < 0.5f ? 2.0f * t * t : 1.0f - std::pow(-2.0f * t + 2.0f, 2.0f) / 2.0f;
 }
 
-float quadMiddle(float t) {
+inline float quadMiddle(float t) {
     return t < 0.5f ? t * t * 2.0f : 1.0f - std::pow(1.0f - t, 2.0f) * 2.0f;
 }
 
-float sineIn(float t) {
+inline float sineIn(float t) {
     return 1.0f - std::cos((t * PI) / 2.0f);
 }
 
-float sineOut(float t) {
+inline float sineOut(float t) {
     return std::sin((t * PI) / 2.0f);
 }
 
-float sineInOut(float t) {
+inline float sineInOut(float t) {
     return -(std::cos(PI * t) - 1.0f) / 2.0f;
 }
 
-float cubicOut(float t) {
+inline float cubicOut(float t) {
     return 1.0f - std::pow(1.0f - t, 3.0f);
 }
 
-float cubicInOut(float t) {
+inline float cubicInOut(float t) {
     return t < 0.5f ? 4.0f * t * t * t : 1.0f - std::pow(-2.0f * t + 2.0f, 3.0f) / 2.0f;
 }
 
-float quartIn(float t) {
+inline float quartIn(float t) {
     return t * t * t * t;
 }
 
-float quartOut(float t) {
+inline float quartOut(float t) {
     return 1.0f - std::pow(1.0f - t, 4.0f);
 }
 
-float quartInOut(float t) {
+inline float quartInOut(float t) {
     return t < 0.5f ? 8.0f * t * t * t * t : 1.0f - std::pow(-2.0f * t + 2.0f, 4.0f) / 2.0f;
 }
 
-float quintIn(float t) {
+inline float quintIn(float t) {
     return t * t * t * t * t;
 }
 
-float quintOut(float t) {
+inline float quintOut(float t) {
     return 1.0f - std::pow(1.0f - t, 5.0f);
 }
 
-float quintInOut(float t) {
+inline float quintInOut(float t) {
     return t < 0.5f ? 16.0f * std::pow(t, 5.0f) : 1.0f - std::pow(-2.0f * t + 2.0f, 5.0f) / 2.0f;
 }
 
-float expoIn(float t) {
+inline float expoIn(float t) {
     return t == 0.0f ? 0.0f : std::pow(2.0f, 10.0f * t - 10.0f);
 }
 
-float expoOut(float t) {
+inline float expoOut(float t) {
     return t == 1.0f ? 1.0f : 1.0f - std::pow(2.0f, -10.0f * t);
 }
 
-float expoInOut(float t) {
+inline float expoInOut(float t) {
     if (t == 0.0f || t == 1.0f) {
         return t;
     }
     return t < 0.5f ? std::pow(2.0f, 20.0f * t - 10.0f) / 2.0f : (2.0f - std::pow(2.0f, -20.0f * t + 10.0f)) / 2.0f;
 }
 
-float circleIn(float t) {
+inline float circleIn(float t) {
     return 1.0f - std::sqrt(1.0f - std::pow(t, 2.0f));
 }
 
-float circleOut(float t) {
+inline float circleOut(float t) {
     return std::sqrt(1.0f - std::pow(t - 1.0f, 2.0f));
 }
 
-float circleInOut(float t) {
+inline float circleInOut(float t) {
     return t < 0.5f ? (1.0f - std::sqrt(1.0f - std::pow(2.0f * t, 2.0f))) / 2.0f
                     : (std::sqrt(1.0f - std::pow(-2.0f * t + 2.0f, 2.0f)) + 1.0f) / 2.0f;
 }
 
-float backIn(float t) {
+inline float backIn(float t) {
     const float s = 1.70158f;
     return t * t * ((s + 1.0f) * t - s);
 }
 
-float backOut(float t) {
+inline float backOut(float t) {
     const float s = 1.70158f;
     t -= 1.0f;
     return t * t * ((s + 1.0f) * t + s) + 1.0f;
 }
 
-float backInOut(float t) {
+inline float backInOut(float t) {
     const float s = 1.70158f * 1.525f;
     t *= 2.0f;
     if (t < 1.0f) {
@@ -209,11 +209,11 @@ float backInOut(float t) {
     return 0.5f * (t * t * ((s + 1.0f) * t + s) + 2.0f);
 }
 
-float lightning(float t) {
+inline float lightning(float t) {
     return std::pow(t, 2.5f);
 }
 
-float surge(float t) {
+inline float surge(float t) {
     return std::pow(t, 4.0f);
 }
 
@@ -221,74 +221,72 @@ float surge(float t) {
 
 using PozhilCurve = float (*)(float);
 
-struct PozhilNamedCurve {
-    const char* name;
-    PozhilCurve curve;
-};
-
-// வேறு வேறு பெயர்கள் ஒரே வளைவைக் குறிக்கலாம்
-const PozhilNamedCurve pozhil_named_curves[] = {
-    {"சாதாரண", easeLinear},
-    {"இயல்பான", PozhilCurves::smoothStep},
-    {"மெது_தொடக்கம்", easeInQuad},
-    {"மெது_முடிவு", PozhilCurves::quadOut},
-    {"மெது_மாற்றம்", PozhilCurves::quadInOut},
-    {"அலை_தொடக்கம்", PozhilCurves::sineIn},
-    {"அலை_முடிவு", PozhilCurves::sineOut},
-    {"அலை_மாற்றம்", PozhilCurves::sineInOut},
-    {"அழுத்த_தொடக்கம்", easeInQuad},
-    {"அழுத்த_முடிவு", PozhilCurves::quadOut},
-    {"அழுத்த_மாற்றம்", PozhilCurves::quadInOut},
-    {"கன_தொடக்கம்", easeInCubic},
-    {"கன_முடிவு", PozhilCurves::cubicOut},
-    {"கன_மாற்றம்", PozhilCurves::cubicInOut},
-    {"வேக_தொடக்கம்", PozhilCurves::quartIn},
-    {"வேக_முடிவு", PozhilCurves::quartOut},
-    {"வேக_மாற்றம்", PozhilCurves::quartInOut},
-    {"அதிவேக_தொடக்கம்", PozhilCurves::quintIn},
-    {"அதிவேக_முடிவு", PozhilCurves::quintOut},
-    {"அதிவேக_மாற்றம்", PozhilCurves::quintInOut},
-    {"பாய்_தொடக்கம்", PozhilCurves::expoIn},
-    {"பாய்_முடிவு", PozhilCurves::expoOut},
-    {"பாய்_மாற்றம்", PozhilCurves::expoInOut},
-    {"வட்ட_தொடக்கம்", PozhilCurves::circleIn},
-    {"வட்ட_முடிவு", PozhilCurves::circleOut},
-    {"வட்ட_மாற்றம்", PozhilCurves::circleInOut},
-    {"பின்வாங்கல்_தொடக்கம்", PozhilCurves::backIn},
-    {"பின்வாங்கல்_முடிவு", PozhilCurves::backOut},
-    {"பின்வாங்கல்_மாற்றம்", PozhilCurves::backInOut},
-    {"துள்ளல்_தொடக்கம்", PozhilCurves::bounceIn},
-    {"துள்ளல்", PozhilCurves::bounceOut},
-    {"துள்ளல்_மாற்றம்", PozhilCurves::bounceInOut},
-    {"மீட்சி_தொடக்கம்", PozhilCurves::elasticIn},
-    {"மீட்சி", PozhilCurves::elasticOut},
-    {"மீட்சி_மாற்றம்", PozhilCurves::elasticInOut},
-    {"வேகம்_குறை", PozhilCurves::quadOut},
-    {"வேக_மெது", PozhilCurves::cubicInOut},
-    {"நடு_மெது", PozhilCurves::quadMiddle},
-    {"பாய்ந்து_அமர்", PozhilCurves::bounceOut},
-    {"நிதான_முடிவு", PozhilCurves::sineOut},
-    {"நிதான_தொடக்கம்", PozhilCurves::sineIn},
-    {"மின்_வேகம்", PozhilCurves::lightning},
-    {"சீறு", PozhilCurves::surge},
-};
-
-std::unordered_map<std::string, PozhilCurve> pozhil_curve_table() {
+inline std::unordered_map<std::string, PozhilCurve> pozhil_curve_table() {
+    struct NamedCurve {
+        const char* name;
+        PozhilCurve curve;
+    };
+    // வேறு வேறு பெயர்கள் ஒரே வளைவைக் குறிக்கலாம்
+    static const NamedCurve named_curves[] = {
+        {"சாதாரண", easeLinear},
+        {"இயல்பான", PozhilCurves::smoothStep},
+        {"மெது_தொடக்கம்", easeInQuad},
+        {"மெது_முடிவு", PozhilCurves::quadOut},
+        {"மெது_மாற்றம்", PozhilCurves::quadInOut},
+        {"அலை_தொடக்கம்", PozhilCurves::sineIn},
+        {"அலை_முடிவு", PozhilCurves::sineOut},
+        {"அலை_மாற்றம்", PozhilCurves::sineInOut},
+        {"அழுத்த_தொடக்கம்", easeInQuad},
+        {"அழுத்த_முடிவு", PozhilCurves::quadOut},
+        {"அழுத்த_மாற்றம்", PozhilCurves::quadInOut},
+        {"கன_தொடக்கம்", easeInCubic},
+        {"கன_முடிவு", PozhilCurves::cubicOut},
+        {"கன_மாற்றம்", PozhilCurves::cubicInOut},
+        {"வேக_தொடக்கம்", PozhilCurves::quartIn},
+        {"வேக_முடிவு", PozhilCurves::quartOut},
+        {"வேக_மாற்றம்", PozhilCurves::quartInOut},
+        {"அதிவேக_தொடக்கம்", PozhilCurves::quintIn},
+        {"அதிவேக_முடிவு", PozhilCurves::quintOut},
+        {"அதிவேக_மாற்றம்", PozhilCurves::quintInOut},
+        {"பாய்_தொடக்கம்", PozhilCurves::expoIn},
+        {"பாய்_முடிவு", PozhilCurves::expoOut},
+        {"பாய்_மாற்றம்", PozhilCurves::expoInOut},
+        {"வட்ட_தொடக்கம்", PozhilCurves::circleIn},
+        {"வட்ட_முடிவு", PozhilCurves::circleOut},
+        {"வட்ட_மாற்றம்", PozhilCurves::circleInOut},
+        {"பின்வாங்கல்_தொடக்கம்", PozhilCurves::backIn},
+        {"பின்வாங்கல்_முடிவு", PozhilCurves::backOut},
+        {"பின்வாங்கல்_மாற்றம்", PozhilCurves::backInOut},
+        {"துள்ளல்_தொடக்கம்", PozhilCurves::bounceIn},
+        {"துள்ளல்", PozhilCurves::bounceOut},
+        {"துள்ளல்_மாற்றம்", PozhilCurves::bounceInOut},
+        {"மீட்சி_தொடக்கம்", PozhilCurves::elasticIn},
+        {"மீட்சி", PozhilCurves::elasticOut},
+        {"மீட்சி_மாற்றம்", PozhilCurves::elasticInOut},
+        {"வேகம்_குறை", PozhilCurves::quadOut},
+        {"வேக_மெது", PozhilCurves::cubicInOut},
+        {"நடு_மெது", PozhilCurves::quadMiddle},
+        {"பாய்ந்து_அமர்", PozhilCurves::bounceOut},
+        {"நிதான_முடிவு", PozhilCurves::sineOut},
+        {"நிதான_தொடக்கம்", PozhilCurves::sineIn},
+        {"மின்_வேகம்", PozhilCurves::lightning},
+        {"சீறு", PozhilCurves::surge},
+    };
     std::unordered_map<std::string, PozhilCurve> curves;
-    for (const PozhilNamedCurve& named : pozhil_named_curves) {
+    for (const NamedCurve& named : named_curves) {
         curves[named.name] = named.curve;
     }
     return curves;
 }
 
 // பெயருக்கு உரிய வளைவு; தெரியாத பெயருக்குச் சீரான வளைவு
-PozhilCurve பெறு_அசைவூட்ட_வளைவு(std::string name) {
+inline PozhilCurve பெறு_அசைவூட்ட_வளைவு(std::string name) {
     static const std::unordered_map<std::string, PozhilCurve> curves = pozhil_curve_table();
     const auto found = curves.find(name);
     return found == curves.end() ? easeLinear : found->second;
 }
 
-PozhilCurve getEasingFunction(std::string name) {
+inline PozhilCurve getEasingFunction(std::string name) {
     if (name == "ease_in" || name == "easeIn" || name == "மெதுவா_தொடங்கு") {
         return easeInQuad;
     }
@@ -311,12 +309,12 @@ PozhilCurve getEasingFunction(std::string name) {
 }
 
 // நிலை இன்னும் இல்லையென்றால் புதிதாக உருவாகும்.
-AnimationState& pozhil_animation_state(unsigned long long nodeId) {
+inline AnimationState& pozhil_animation_state(unsigned long long nodeId) {
     return g_animationStates.insert({nodeId, AnimationState()}).first->second;
 }
 
 // கடந்த நேரத்தின்படி முன்னேற்றும்; முடிந்த அசைவூட்டம் மீண்டும் தொடங்காது.
-void updateAnimationProgress(unsigned long long nodeId, float duration) {
+inline void updateAnimationProgress(unsigned long long nodeId, float duration) {
     if (duration <= 0.0f) {
         return;
     }
@@ -335,7 +333,7 @@ void updateAnimationProgress(unsigned long long nodeId, float duration) {
     state.currentProgress = std::min(1.0f, static_cast<float>((now - state.startTime) / duration));
 }
 
-float applyAnimation(unsigned long long nodeId, float duration, std::string curve, float startValue,
+inline float applyAnimation(unsigned long long nodeId, float duration, std::string curve, float startValue,
                      float targetValue) {
     updateAnimationProgress(nodeId, duration);
     const PozhilCurve ease = getEasingFunction(std::move(curve));

@@ -9,7 +9,7 @@
 // --- emitted from here ---
 
 /* --- 🚨 பொழில் இயக்கநேர பிழை பெட்டி --- */
-void pozhil_runtime_error(std::string code, std::string file, int line) {
+inline void pozhil_runtime_error(std::string code, std::string file, int line) {
     auto info = பிழை_அகராதி.at(code);
     const char* separator = "------------------------------------------------------------";
     const char* RED = "\033[1;31m";

@@ -7,11 +7,11 @@
 // --- emitted from here ---
 
 // கோப்புகள்
-bool pozhil_path_refused(const std::string& path) {
+inline bool pozhil_path_refused(const std::string& path) {
     return path.empty() || path.find("//") != std::string::npos || path.find_first_of("*?") != std::string::npos;
 }
 
-std::any fn_கோப்பு_எழுது(std::string path, std::string content, std::string file, int line) {
+inline std::any fn_கோப்பு_எழுது(std::string path, std::string content, std::string file, int line) {
     if (pozhil_path_refused(path)) {
         pozhil_runtime_error("பொழி-342", file, line);
     }
@@ -23,7 +23,7 @@ std::any fn_கோப்பு_எழுது(std::string path, std::string con
     return std::any();
 }
 
-std::string fn_கோப்பு_படி(std::string path, std::string file, int line) {
+inline std::string fn_கோப்பு_படி(std::string path, std::string file, int line) {
     if (pozhil_path_refused(path)) {
         pozhil_runtime_error("பொழி-342", file, line);
     }
@@ -40,7 +40,7 @@ std::string fn_கோப்பு_படி(std::string path, std::string file, 
     return content.str();
 }
 
-std::any fn_கோப்பு_சேர்(std::string path, std::string content, std::string file, int line) {
+inline std::any fn_கோப்பு_சேர்(std::string path, std::string content, std::string file, int line) {
     if (pozhil_path_refused(path)) {
         pozhil_runtime_error("பொழி-342", file, line);
     }
@@ -52,16 +52,16 @@ std::any fn_கோப்பு_சேர்(std::string path, std::string conten
     return std::any();
 }
 
-bool fn_கோப்பு_அழி(std::string path) {
+inline bool fn_கோப்பு_அழி(std::string path) {
     return std::remove(path.c_str()) == 0;
 }
 
-bool fn_கோப்பு_உள்ளதா(std::string path) {
+inline bool fn_கோப்பு_உள்ளதா(std::string path) {
     return std::ifstream(path).good();
 }
 
 // உரை
-std::vector<std::any> fn_பிளவு(std::string s, std::string delim) {
+inline std::vector<std::any> fn_பிளவு(std::string s, std::string delim) {
     std::vector<std::any> pieces;
     std::size_t start = 0;
     std::size_t end = 0;
@@ -73,7 +73,7 @@ std::vector<std::any> fn_பிளவு(std::string s, std::string delim) {
     return pieces;
 }
 
-std::string fn_பதில்(std::string s, std::string find, std::string replace) {
+inline std::string fn_பதில்(std::string s, std::string find, std::string replace) {
     std::string result;
     std::size_t start = 0;
     std::size_t end = 0;
@@ -86,21 +86,21 @@ std::string fn_பதில்(std::string s, std::string find, std::string repl
     return result;
 }
 
-std::string fn_பெரியஎ(std::string s) {
+inline std::string fn_பெரியஎ(std::string s) {
     for (char& c : s) {
         c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
     }
     return s;
 }
 
-std::string fn_சிறியஎ(std::string s) {
+inline std::string fn_சிறியஎ(std::string s) {
     for (char& c : s) {
         c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     }
     return s;
 }
 
-std::string fn_சுத்தம்(std::string s) {
+inline std::string fn_சுத்தம்(std::string s) {
     const char* blanks = " \t\n\r\f\v";
     const std::size_t first = s.find_first_not_of(blanks);
     if (first == std::string::npos) {
@@ -110,25 +110,25 @@ std::string fn_சுத்தம்(std::string s) {
 }
 
 // நேரம்
-std::string fn_நேரம்_உருவாக்கு(std::tm* t, const char* format) {
+inline std::string fn_நேரம்_உருவாக்கு(std::tm* t, const char* format) {
     char buffer[80];
     return std::string(buffer, std::strftime(buffer, sizeof(buffer), format, t));
 }
 
-std::string fn_தேதி(std::tm* t) {
+inline std::string fn_தேதி(std::tm* t) {
     return fn_நேரம்_உருவாக்கு(t, "%d-%m-%Y");
 }
 
-std::string fn_நேரம்(std::tm* t) {
+inline std::string fn_நேரம்(std::tm* t) {
     return fn_நேரம்_உருவாக்கு(t, "%H:%M:%S");
 }
 
-std::string fn_முழுவதும்(std::tm* t) {
+inline std::string fn_முழுவதும்(std::tm* t) {
     return fn_நேரம்_உருவாக்கு(t, "%d-%m-%Y %H:%M:%S");
 }
 
 // உள்ளீடு
-std::string fn_உள்ளீடு(std::string prompt) {
+inline std::string fn_உள்ளீடு(std::string prompt) {
     std::cout << prompt;
     std::string line;
     std::getline(std::cin, line);
@@ -136,7 +136,7 @@ std::string fn_உள்ளீடு(std::string prompt) {
 }
 
 // பட்டியல், அகராதி
-int fn_நீளம்(std::any val) {
+inline int fn_நீளம்(std::any val) {
     if (const auto* text = std::any_cast<std::string>(&val)) {
         return static_cast<int>(text->length());
     }
@@ -153,7 +153,7 @@ int fn_நீளம்(std::any val) {
 }
 
 // x[key] என்ற வாசிப்பு. பட்டியல் முழுவதையும் நகலெடுக்காமல் ஓர் உறுப்பை மட்டும் தரும்.
-std::any fn_எடு(const std::any& obj, const std::any& key, const char* file, int line) {
+inline std::any fn_எடு(const std::any& obj, const std::any& key, const char* file, int line) {
     if (const auto* index = std::any_cast<long long>(&key)) {
         if (const auto* text = std::any_cast<std::string>(&obj)) {
             if (*index < 0 || *index >= static_cast<long long>(text->length())) {
@@ -183,12 +183,12 @@ std::any fn_எடு(const std::any& obj, const std::any& key, const char* file
     return std::any();
 }
 
-std::any fn_எடு(std::any obj, std::any key, std::string file, int line) {
+inline std::any fn_எடு(std::any obj, std::any key, std::string file, int line) {
     return fn_எடு(obj, key, file.c_str(), line);
 }
 
 // x[key] = மதிப்பு என்ற எழுத்து. அகராதியில் இல்லாத சாவி புதிதாகச் சேரும்.
-std::any& fn_index_ref(std::any& obj, const std::any& key, std::string file = "", int line = 0) {
+inline std::any& fn_index_ref(std::any& obj, const std::any& key, std::string file = "", int line = 0) {
     static std::any dummy;
     if (auto* map = std::any_cast<std::map<std::string, std::any>>(&obj)) {
         const auto* name = std::any_cast<std::string>(&key);
@@ -206,12 +206,12 @@ std::any& fn_index_ref(std::any& obj, const std::any& key, std::string file = ""
     return dummy;
 }
 
-std::any fn_index_ref(std::any&& obj, const std::any& key, std::string file = "", int line = 0) {
+inline std::any fn_index_ref(std::any&& obj, const std::any& key, std::string file = "", int line = 0) {
     return fn_index_ref(obj, key, file, line);
 }
 
 // பொருளின் பண்புகள்
-std::any fn_get_property(std::shared_ptr<_StructBase> obj, std::string prop, std::string file, int line) {
+inline std::any fn_get_property(std::shared_ptr<_StructBase> obj, std::string prop, std::string file, int line) {
     const std::map<std::string, std::any>& properties = obj->properties;
     const auto found = properties.find(prop);
     if (found == properties.end()) {
@@ -221,7 +221,7 @@ std::any fn_get_property(std::shared_ptr<_StructBase> obj, std::string prop, std
     return found->second;
 }
 
-std::any fn_set_property(std::any obj, std::string prop, std::any val, std::string file, int line) {
+inline std::any fn_set_property(std::any obj, std::string prop, std::any val, std::string file, int line) {
     const auto* object = std::any_cast<std::shared_ptr<_StructBase>>(&obj);
     if (!object) {
         pozhil_runtime_error("பொழி-324", file, line);
@@ -231,15 +231,15 @@ std::any fn_set_property(std::any obj, std::string prop, std::any val, std::stri
     return val;
 }
 
-long long fn_மேல்எண்(long double val) {
+inline long long fn_மேல்எண்(long double val) {
     return static_cast<long long>(std::ceil(val));
 }
 
-long long fn_கீழ்எண்(long double val) {
+inline long long fn_கீழ்எண்(long double val) {
     return static_cast<long long>(std::floor(val));
 }
 
-std::any fn_நீக்கு(std::any& lst_any, const std::any& item, std::string file, int line) {
+inline std::any fn_நீக்கு(std::any& lst_any, const std::any& item, std::string file, int line) {
     auto* list = std::any_cast<std::vector<std::any>>(&lst_any);
     if (!list) {
         pozhil_runtime_error("பொழி-304", file, line);
@@ -255,6 +255,6 @@ std::any fn_நீக்கு(std::any& lst_any, const std::any& item, std::str
     return std::any();
 }
 
-std::any fn_நீக்கு(std::any&& lst_any, const std::any& item, std::string file, int line) {
+inline std::any fn_நீக்கு(std::any&& lst_any, const std::any& item, std::string file, int line) {
     return fn_நீக்கு(lst_any, item, file, line);
 }

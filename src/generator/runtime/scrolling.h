@@ -22,7 +22,7 @@ void நகர்த்து(std::string id) {
     g_scrollToId = id;
 }
 
-std::any fn_நகர்த்து(std::any id_any) {
+inline std::any fn_நகர்த்து(std::any id_any) {
     if (const auto* id = std::any_cast<std::string>(&id_any)) {
         நகர்த்து(*id);
     }

@@ -9,10 +9,10 @@
 
 #include <cstring>
 
-std::string fn_முழுவதும்(std::tm* t);
+inline std::string fn_முழுவதும்(std::tm* t);
 
 // உரை, எழுத்து, பைட் ஆகியவற்றின் எழுத்துகள்; உரை அல்லாத மதிப்புக்கு nullptr
-const std::string* pozhil_text_view(const std::any& val, std::string& byte_text) {
+inline const std::string* pozhil_text_view(const std::any& val, std::string& byte_text) {
     if (const auto* text = std::any_cast<std::string>(&val)) {
         return text;
     }
@@ -27,7 +27,7 @@ const std::string* pozhil_text_view(const std::any& val, std::string& byte_text)
 }
 
 // முழு எண், தசம எண் ஆகியவற்றின் உரை; எண் அல்லாத மதிப்புக்கு வெற்று உரை
-std::string pozhil_number_text(const std::any& val) {
+inline std::string pozhil_number_text(const std::any& val) {
     if (const auto* whole = std::any_cast<long long>(&val)) {
         return std::to_string(*whole);
     }
@@ -41,7 +41,7 @@ std::string pozhil_number_text(const std::any& val) {
 }
 
 // அச்சிடும் வடிவம்
-std::string fn_any_to_string(const std::any& val) {
+inline std::string fn_any_to_string(const std::any& val) {
     std::string number = pozhil_number_text(val);
     if (!number.empty()) {
         return number;
@@ -94,7 +94,7 @@ std::string fn_any_to_string(const std::any& val) {
 }
 
 // JavaScript உரைக்குள் எழுதும் வடிவம்
-std::string pozhil_script_escape(const std::string& text, bool line_ends) {
+inline std::string pozhil_script_escape(const std::string& text, bool line_ends) {
     std::string escaped;
     for (char c : text) {
         if (c == '\'' || c == '"' || c == '\\') {
@@ -112,7 +112,7 @@ std::string pozhil_script_escape(const std::string& text, bool line_ends) {
 }
 
 // மதிப்பை JavaScript கோவையாக எழுதும் வடிவம்
-std::string fn_any_to_json(const std::any& val) {
+inline std::string fn_any_to_json(const std::any& val) {
     std::string number = pozhil_number_text(val);
     if (!number.empty()) {
         return number;
@@ -152,7 +152,7 @@ std::string fn_any_to_json(const std::any& val) {
 }
 
 // மதிப்பின் வகைப் பெயர்
-std::string என்னவகை_கண்டுபிடி(const std::any& மதிப்பு) {
+inline std::string என்னவகை_கண்டுபிடி(const std::any& மதிப்பு) {
     const std::type_info& type = மதிப்பு.type();
     if (type == typeid(long long) || type == typeid(int)) {
         return "எண் ";
@@ -188,7 +188,7 @@ std::string என்னவகை_கண்டுபிடி(const std::any& �
 }
 
 // எண் மதிப்பானால் அதைப் படித்து true தரும்.
-bool pozhil_read_number(const std::any& val, long double& number) {
+inline bool pozhil_read_number(const std::any& val, long double& number) {
     if (const auto* whole = std::any_cast<long long>(&val)) {
         number = static_cast<long double>(*whole);
     } else if (const auto* decimal = std::any_cast<long double>(&val)) {
@@ -203,18 +203,18 @@ bool pozhil_read_number(const std::any& val, long double& number) {
     return true;
 }
 
-long double fn_get_double(const std::any& a) {
+inline long double fn_get_double(const std::any& a) {
     long double number = 0.0L;
     pozhil_read_number(a, number);
     return number;
 }
 
-bool pozhil_is_operator(const char* op, const char* symbol, const char* word) {
+inline bool pozhil_is_operator(const char* op, const char* symbol, const char* word) {
     return std::strcmp(op, symbol) == 0 || std::strcmp(op, word) == 0;
 }
 
 // ஒப்பீடு. எண்ணோடு எண், உரையோடு உரை, நிலையோடு நிலை; மற்ற இணைகள் எல்லா ஒப்பீட்டிலும் பொய்.
-bool fn_compare_any(const std::any& left, const std::any& right, const char* op) {
+inline bool fn_compare_any(const std::any& left, const std::any& right, const char* op) {
     const bool equal = pozhil_is_operator(op, "==", "சமம்");
     const bool unequal = pozhil_is_operator(op, "!=", "சமமில்லை");
 
@@ -256,20 +256,20 @@ bool fn_compare_any(const std::any& left, const std::any& right, const char* op)
     return false;
 }
 
-bool fn_compare_any(const std::any& left, const std::any& right, std::string op) {
+inline bool fn_compare_any(const std::any& left, const std::any& right, std::string op) {
     return fn_compare_any(left, right, op.c_str());
 }
 
 // பட்டியல் குறியீடாகவும் சுழற்சி எல்லையாகவும் பயன்படும் முழு எண்
-long long fn_index(long long val) {
+inline long long fn_index(long long val) {
     return val;
 }
 
-long long fn_index(int val) {
+inline long long fn_index(int val) {
     return val;
 }
 
-long long fn_index(const std::any& val) {
+inline long long fn_index(const std::any& val) {
     if (const auto* whole = std::any_cast<long long>(&val)) {
         return *whole;
     }
@@ -282,7 +282,7 @@ long long fn_index(const std::any& val) {
     throw std::runtime_error("பொருந்தாத தரவு வகை (Type Mismatch)!");
 }
 
-std::any fn_div_any(const std::any& left, const std::any& right) {
+inline std::any fn_div_any(const std::any& left, const std::any& right) {
     long double divisor = 0.0L;
     const bool right_is_number = pozhil_read_number(right, divisor);
     if (right_is_number && divisor == 0.0L) {
@@ -301,7 +301,7 @@ std::any fn_div_any(const std::any& left, const std::any& right) {
 }
 
 // கூட்டல்; இரண்டும் எண்கள் இல்லையென்றால் உரைகளாக இணைக்கும்.
-std::any fn_add_any(const std::any& left, const std::any& right) {
+inline std::any fn_add_any(const std::any& left, const std::any& right) {
     const auto* left_whole = std::any_cast<long long>(&left);
     const auto* right_whole = std::any_cast<long long>(&right);
     if (left_whole && right_whole) {
@@ -315,7 +315,7 @@ std::any fn_add_any(const std::any& left, const std::any& right) {
 }
 
 // தொகுப்பின் கோப்பு: முதலில் நடப்புக் கோப்புறை, பிறகு பொதுத் தொகுப்புகள்
-std::string fn_resolve_module_path(const std::string& module_name) {
+inline std::string fn_resolve_module_path(const std::string& module_name) {
     std::string file_name = module_name + ".பொழில்";
     if (std::ifstream(file_name).good()) {
         return file_name;
@@ -328,7 +328,7 @@ std::string fn_resolve_module_path(const std::string& module_name) {
 }
 
 // உரையை எண்ணாக்கும்; உரை முழுவதும் எண்ணாக இருக்க வேண்டும்.
-std::any fn_cast_to_number(const std::any& val, int line_num) {
+inline std::any fn_cast_to_number(const std::any& val, int line_num) {
     if (const auto* text = std::any_cast<std::string>(&val)) {
         std::size_t used = 0;
         try {
@@ -354,7 +354,7 @@ std::any fn_cast_to_number(const std::any& val, int line_num) {
     return std::any();
 }
 
-std::any fn_logic_not(const std::any& val) {
+inline std::any fn_logic_not(const std::any& val) {
     if (const auto* truth = std::any_cast<bool>(&val)) {
         return std::any(!*truth);
     }
