@@ -8,7 +8,7 @@ namespace {
 constexpr std::size_t ELEMENT_WRITE_ARGUMENTS = 3;
 
 template <class Node> bool isA(const Expression* expression) {
-    return dynamic_cast<const Node*>(expression) != nullptr;
+    return nodeCast<Node>(expression) != nullptr;
 }
 
 bool endsWith(std::string_view text, std::string_view ending) {
@@ -98,7 +98,7 @@ void Generator::emitIndexAssignment(const CallExpression* node) {
 }
 
 void Generator::emitElementReference(const Expression* target) {
-    const auto* element = dynamic_cast<const IndexExpression*>(target);
+    const auto* element = nodeCast<IndexExpression>(target);
     if (element == nullptr) {
         visitExpression(target);
         return;

@@ -33,13 +33,13 @@ void Generator::visitCallExpression(const CallExpression* node) {
     if (emitInputMethod(node)) {
         return;
     }
-    if (const auto* lambda = dynamic_cast<const LambdaExpression*>(callee)) {
+    if (const auto* lambda = nodeCast<LambdaExpression>(callee)) {
         emitFunctionValueCall(node, lambda->parameters.size());
-    } else if (dynamic_cast<const GroupingExpression*>(callee) != nullptr) {
+    } else if (nodeCast<GroupingExpression>(callee) != nullptr) {
         emitFunctionValueCall(node, node->arguments.size());
-    } else if (const auto* method = dynamic_cast<const GetExpression*>(callee)) {
+    } else if (const auto* method = nodeCast<GetExpression>(callee)) {
         emitMethodCall(node, *method);
-    } else if (const auto* name = dynamic_cast<const VariableAccess*>(callee)) {
+    } else if (const auto* name = nodeCast<VariableAccess>(callee)) {
         emitNamedCall(node, name->name);
     } else {
         throw_static_error("பொழி-399", "Unknown call expression");
@@ -48,8 +48,8 @@ void Generator::visitCallExpression(const CallExpression* node) {
 
 /// id.method(a): a method of the input widget with that identifier, whatever a variable of that name holds
 bool Generator::emitInputMethod(const CallExpression* node) {
-    const auto* get = dynamic_cast<const GetExpression*>(node->callee.get());
-    const auto* widget = get == nullptr ? nullptr : dynamic_cast<const VariableAccess*>(get->object.get());
+    const auto* get = nodeCast<GetExpression>(node->callee.get());
+    const auto* widget = get == nullptr ? nullptr : nodeCast<VariableAccess>(get->object.get());
     if (widget == nullptr) {
         return false;
     }
@@ -98,7 +98,7 @@ void Generator::emitGuardedCall(const CallExpression* node) {
 /// நேரம்.வினாடிகள்(), and the text forms of a time value
 void Generator::emitTimeMethod(const CallExpression* node, const GetExpression& callee) {
     const std::string& method = callee.member.value;
-    const auto* object = dynamic_cast<const VariableAccess*>(callee.object.get());
+    const auto* object = nodeCast<VariableAccess>(callee.object.get());
     if (object != nullptr && object->name == "நேரம்" && method == "வினாடிகள்") {
         if (!node->arguments.empty()) {
             throw_static_error("பொழி-331", "'நேரம்.வினாடிகள்()' arguments எதையும் ஏற்காது.");
@@ -159,7 +159,7 @@ void Generator::emitUserFunctionCall(const CallExpression* node, const std::stri
             emitAny(arguments[index].get());
             continue;
         }
-        const auto* variable = dynamic_cast<const VariableAccess*>(arguments[index].get());
+        const auto* variable = nodeCast<VariableAccess>(arguments[index].get());
         if (variable == nullptr) {
             பிழை("பொழி-331", node->line, "'மாற்று' parameter-க்கு ஒரு மாறி (Variable)-ஐ மட்டும் தான் அனுப்ப முடியும்.");
         }

@@ -23,8 +23,8 @@ void Generator::visitVarDeclaration(const VarDeclaration* node) {
     out_ << target;
     if (type == VarType::Object) {
         out_ << " = std::any();\n";
-        const auto* call = dynamic_cast<const CallExpression*>(node->initializer.get());
-        const auto* callee = call == nullptr ? nullptr : dynamic_cast<const VariableAccess*>(call->callee.get());
+        const auto* call = nodeCast<CallExpression>(node->initializer.get());
+        const auto* callee = call == nullptr ? nullptr : nodeCast<VariableAccess>(call->callee.get());
         if (callee != nullptr && knownStructs_.count(callee->name) != 0) {
             emitObjectDeclaration(node, *call, callee->name);
             return;
@@ -43,7 +43,7 @@ void Generator::visitVarDeclaration(const VarDeclaration* node) {
 
 /// a[i] = v  ->  fn_index_ref(a, i) = v;  a.b = v  ->  a write into the object's properties
 void Generator::visitSetStatement(const SetStatement* node) {
-    if (const auto* element = dynamic_cast<const IndexExpression*>(node->target.get())) {
+    if (const auto* element = nodeCast<IndexExpression>(node->target.get())) {
         out_ << "fn_index_ref(";
         visitExpression(element->object.get());
         out_ << ", ";
@@ -52,7 +52,7 @@ void Generator::visitSetStatement(const SetStatement* node) {
         emitAny(node->value.get());
         return;
     }
-    const auto* get = dynamic_cast<const GetExpression*>(node->target.get());
+    const auto* get = nodeCast<GetExpression>(node->target.get());
     if (get == nullptr) {
         return;
     }

@@ -9,7 +9,7 @@
 namespace pozhil {
 
 template <class Node> bool Generator::visitAs(const Expression* expression, void (Generator::*visit)(const Node*)) {
-    const auto* node = dynamic_cast<const Node*>(expression);
+    const auto* node = nodeCast<Node>(expression);
     if (node == nullptr) {
         return false;
     }
@@ -59,10 +59,10 @@ void Generator::emitAnyList(const ExpressionList& expressions) {
 /// The operand of a std::any_cast. A literal zero, in parentheses too, would be taken for a null pointer there.
 void Generator::emitCastOperand(const Expression* expression) {
     const Expression* inner = expression;
-    while (const auto* grouping = dynamic_cast<const GroupingExpression*>(inner)) {
+    while (const auto* grouping = nodeCast<GroupingExpression>(inner)) {
         inner = grouping->inner.get();
     }
-    const auto* number = dynamic_cast<const NumberLiteral*>(inner);
+    const auto* number = nodeCast<NumberLiteral>(inner);
     const bool isZero = number != nullptr && toAsciiDigits(number->value).find_first_not_of('0') == std::string::npos;
     if (isZero) {
         emitAny(expression);

@@ -9,8 +9,8 @@ constexpr int MAX_CONTAINER_LOOP_DEPTH = 12;
 
 /// The call if \p iterable is வரம்பு( ... ), null otherwise.
 const CallExpression* asRange(const Expression* iterable) {
-    const auto* call = dynamic_cast<const CallExpression*>(iterable);
-    const auto* callee = call == nullptr ? nullptr : dynamic_cast<const VariableAccess*>(call->callee.get());
+    const auto* call = nodeCast<CallExpression>(iterable);
+    const auto* callee = call == nullptr ? nullptr : nodeCast<VariableAccess>(call->callee.get());
     return callee != nullptr && callee->name == "வரம்பு" ? call : nullptr;
 }
 

@@ -23,9 +23,9 @@ std::string fillPlaceholder(std::string_view text, std::string_view placeholder,
 }
 
 bool isDefinition(const Statement* statement) {
-    return dynamic_cast<const StructDefinitionStatement*>(statement) != nullptr ||
-           dynamic_cast<const FunctionDefinitionStatement*>(statement) != nullptr ||
-           dynamic_cast<const AbstractStructDefinitionStatement*>(statement) != nullptr;
+    return nodeCast<StructDefinitionStatement>(statement) != nullptr ||
+           nodeCast<FunctionDefinitionStatement>(statement) != nullptr ||
+           nodeCast<AbstractStructDefinitionStatement>(statement) != nullptr;
 }
 
 } // namespace
@@ -63,7 +63,7 @@ void Generator::emitRuntime() {
 
 void Generator::emitStructures() {
     for (const StatementPtr& statement : program_.statements) {
-        if (const auto* structure = dynamic_cast<const StructDefinitionStatement*>(statement.get())) {
+        if (const auto* structure = nodeCast<StructDefinitionStatement>(statement.get())) {
             visitStructDefinitionStatement(structure);
         }
     }
@@ -71,7 +71,7 @@ void Generator::emitStructures() {
 
 void Generator::emitFunctions() {
     for (const StatementPtr& statement : program_.statements) {
-        if (const auto* function = dynamic_cast<const FunctionDefinitionStatement*>(statement.get())) {
+        if (const auto* function = nodeCast<FunctionDefinitionStatement>(statement.get())) {
             visitFunctionDefinitionStatement(function);
         }
     }

@@ -57,7 +57,7 @@ void Generator::visitGetExpression(const GetExpression* node) {
 
 /// The members that name an input widget rather than a variable, whatever the variable holds.
 bool Generator::emitInputMember(const GetExpression* node) {
-    const auto* object = dynamic_cast<const VariableAccess*>(node->object.get());
+    const auto* object = nodeCast<VariableAccess>(node->object.get());
     const auto member = inputMembers().find(node->member.value);
     if (object == nullptr || member == inputMembers().end()) {
         return false;
@@ -79,7 +79,7 @@ void Generator::emitTimeMember(const GetExpression* node) {
 
 /// காட்சி_நிலை.name = v  ->  the overlay's visibility;  a.b = v  ->  fn_set_property(a, "b", ...)
 void Generator::visitSetMemberExpression(const SetMemberExpression* node) {
-    const auto* object = dynamic_cast<const VariableAccess*>(node->object.get());
+    const auto* object = nodeCast<VariableAccess>(node->object.get());
     if (object != nullptr && object->name == "காட்சி_நிலை") {
         out_ << "global_vars[\"" << node->member.value << "\"] = ";
         emitAny(node->value.get());
@@ -106,7 +106,7 @@ void Generator::checkMemberWrite(const SetMemberExpression* node) {
 
 /// A field that any structure keeps private is only reached through the object itself.
 void Generator::checkPrivacy(const Expression* object, const Token& member, std::int32_t line) const {
-    const auto* variable = dynamic_cast<const VariableAccess*>(object);
+    const auto* variable = nodeCast<VariableAccess>(object);
     if (variable != nullptr && !isSelfName(variable->name) && privateFields_.count(member.value) != 0) {
         பிழை("பொழி-321", line, "'" + member.value + "'");
     }

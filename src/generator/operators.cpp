@@ -44,18 +44,16 @@ bool isNumber(VarType type) {
 }
 
 bool isZeroLiteral(const Expression* expression) {
-    if (const auto* number = dynamic_cast<const NumberLiteral*>(expression)) {
+    if (const auto* number = nodeCast<NumberLiteral>(expression)) {
         return toAsciiDigits(number->value) == "0";
     }
-    const auto* decimal = dynamic_cast<const DoubleLiteral*>(expression);
+    const auto* decimal = nodeCast<DoubleLiteral>(expression);
     return decimal != nullptr && (decimal->value == "0.0" || decimal->value == "0.");
 }
 
 bool isNativeLiteral(const Expression* expression) {
-    return dynamic_cast<const NumberLiteral*>(expression) != nullptr ||
-           dynamic_cast<const DoubleLiteral*>(expression) != nullptr ||
-           dynamic_cast<const StringLiteral*>(expression) != nullptr ||
-           dynamic_cast<const BooleanLiteral*>(expression) != nullptr;
+    return nodeCast<NumberLiteral>(expression) != nullptr || nodeCast<DoubleLiteral>(expression) != nullptr ||
+           nodeCast<StringLiteral>(expression) != nullptr || nodeCast<BooleanLiteral>(expression) != nullptr;
 }
 
 } // namespace

@@ -8,7 +8,7 @@ namespace {
 /// The property \p name of \p widget if it is a literal of the class \p Literal, null otherwise.
 template <class Literal> const Literal* literalProperty(const WidgetNode& widget, const char* name) {
     const auto property = widget.properties.find(name);
-    return property == widget.properties.end() ? nullptr : dynamic_cast<const Literal*>(property->second.get());
+    return property == widget.properties.end() ? nullptr : nodeCast<Literal>(property->second.get());
 }
 
 } // namespace
@@ -16,7 +16,7 @@ template <class Literal> const Literal* literalProperty(const WidgetNode& widget
 std::string findStartPage(const Program& program) {
     std::string startPage;
     for (const StatementPtr& statement : program.statements) {
-        const auto* app = dynamic_cast<const WebAppNode*>(statement.get());
+        const auto* app = nodeCast<WebAppNode>(statement.get());
         const auto* header = app == nullptr ? nullptr : dynamic_cast<const WidgetNode*>(app->header.get());
         const auto* name = header == nullptr ? nullptr : literalProperty<StringLiteral>(*header, "பக்கம்");
         if (name == nullptr) {

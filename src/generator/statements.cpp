@@ -8,7 +8,7 @@ namespace pozhil {
 
 /// A statement that writes its own indentation and line ends.
 template <class Node> bool Generator::visitOwn(const Statement* statement, void (Generator::*visit)(const Node*)) {
-    const auto* node = dynamic_cast<const Node*>(statement);
+    const auto* node = nodeCast<Node>(statement);
     if (node == nullptr) {
         return false;
     }
@@ -18,7 +18,7 @@ template <class Node> bool Generator::visitOwn(const Statement* statement, void 
 
 /// A statement that is one line of the text: its visit writes what stands between the indentation and the semicolon.
 template <class Node> bool Generator::visitFramed(const Statement* statement, void (Generator::*visit)(const Node*)) {
-    const auto* node = dynamic_cast<const Node*>(statement);
+    const auto* node = nodeCast<Node>(statement);
     if (node == nullptr) {
         return false;
     }
@@ -74,8 +74,8 @@ void Generator::emitBody(const BlockStatement* block) {
 
 /// A condition: comparisons and logic are native already, any other value must hold a truth value.
 void Generator::emitCondition(const Expression* condition) {
-    const bool isNative = dynamic_cast<const BinaryExpression*>(condition) != nullptr ||
-                          dynamic_cast<const LogicalExpression*>(condition) != nullptr;
+    const bool isNative =
+        nodeCast<BinaryExpression>(condition) != nullptr || nodeCast<LogicalExpression>(condition) != nullptr;
     if (isNative) {
         visitExpression(condition);
         return;
@@ -105,10 +105,10 @@ void Generator::visitIfStatement(const IfStatement* node) {
     emitBody(node->thenBranch.get());
     indent();
     out_ << "}";
-    if (const auto* elseIf = dynamic_cast<const IfStatement*>(node->elseBranch.get())) {
+    if (const auto* elseIf = nodeCast<IfStatement>(node->elseBranch.get())) {
         out_ << " else ";
         visitIfStatement(elseIf);
-    } else if (const auto* elseBlock = dynamic_cast<const BlockStatement*>(node->elseBranch.get())) {
+    } else if (const auto* elseBlock = nodeCast<BlockStatement>(node->elseBranch.get())) {
         out_ << " else {\n";
         emitBody(elseBlock);
         indent();
@@ -243,7 +243,7 @@ void Generator::visitSetStateStatement(const SetStateStatement*) {
 
 /// A member write that is a statement of its own brings its own line; everything else stays within the frame.
 void Generator::visitExpressionStatement(const ExpressionStatement* node) {
-    const auto* write = dynamic_cast<const SetMemberExpression*>(node->expression.get());
+    const auto* write = nodeCast<SetMemberExpression>(node->expression.get());
     if (write == nullptr) {
         visitExpression(node->expression.get());
         return;

@@ -37,7 +37,7 @@ bool yieldsTruth(std::string_view word) {
 }
 
 template <class Node> bool isA(const Expression* expression) {
-    return dynamic_cast<const Node*>(expression) != nullptr;
+    return nodeCast<Node>(expression) != nullptr;
 }
 
 } // namespace
@@ -66,34 +66,34 @@ VarType Generator::inferExpressionType(const Expression* expression) {
     if (isA<LambdaExpression>(expression)) {
         return VarType::Object;
     }
-    if (const auto* call = dynamic_cast<const CallExpression*>(expression)) {
+    if (const auto* call = nodeCast<CallExpression>(expression)) {
         return inferCallType(*call);
     }
-    if (const auto* name = dynamic_cast<const VariableAccess*>(expression)) {
+    if (const auto* name = nodeCast<VariableAccess>(expression)) {
         return inferNameType(*name);
     }
-    if (const auto* get = dynamic_cast<const GetExpression*>(expression)) {
+    if (const auto* get = nodeCast<GetExpression>(expression)) {
         return inferMemberType(*get);
     }
-    if (const auto* binary = dynamic_cast<const BinaryExpression*>(expression)) {
+    if (const auto* binary = nodeCast<BinaryExpression>(expression)) {
         return inferBinaryType(*binary);
     }
-    if (const auto* ternary = dynamic_cast<const TernaryExpression*>(expression)) {
+    if (const auto* ternary = nodeCast<TernaryExpression>(expression)) {
         return inferExpressionType(ternary->thenBranch.get());
     }
     return VarType::Any;
 }
 
 VarType Generator::inferCallType(const CallExpression& call) {
-    if (const auto* get = dynamic_cast<const GetExpression*>(call.callee.get())) {
+    if (const auto* get = nodeCast<GetExpression>(call.callee.get())) {
         const std::string& member = get->member.value;
-        const auto* object = dynamic_cast<const VariableAccess*>(get->object.get());
+        const auto* object = nodeCast<VariableAccess>(get->object.get());
         if (object != nullptr && object->name == "நேரம்" && (member == "வினாடிகள்" || member == "உருவாக்கு")) {
             return member == "வினாடிகள்" ? VarType::Double : VarType::Time;
         }
         return member == "தேதி" || member == "நேரம்" || member == "முழுவதும்" ? VarType::Text : VarType::Any;
     }
-    const auto* callee = dynamic_cast<const VariableAccess*>(call.callee.get());
+    const auto* callee = nodeCast<VariableAccess>(call.callee.get());
     if (callee == nullptr) {
         return VarType::Any;
     }
@@ -126,7 +126,7 @@ VarType Generator::inferNameType(const VariableAccess& name) const {
 }
 
 VarType Generator::inferMemberType(const GetExpression& get) const {
-    const auto* object = dynamic_cast<const VariableAccess*>(get.object.get());
+    const auto* object = nodeCast<VariableAccess>(get.object.get());
     if (object == nullptr) {
         return VarType::Any;
     }

@@ -141,7 +141,7 @@ StatementPtr Parser::parseReturnStatement() {
 
 /// A declaration whose "=" parseAssignment left standing.
 StatementPtr Parser::parseVarDeclaration(ExpressionPtr target, bool inStruct) {
-    const auto* variable = dynamic_cast<const VariableAccess*>(target.get());
+    const auto* variable = nodeCast<VariableAccess>(target.get());
     if (variable == nullptr) {
         if (inStruct) {
             பிழை("பொழி-210", peek().line);
@@ -155,24 +155,24 @@ StatementPtr Parser::parseVarDeclaration(ExpressionPtr target, bool inStruct) {
 
 /// What an initialiser tells of its variable's type at sight.
 VarType Parser::declaredType(const Expression& initializer) const {
-    if (dynamic_cast<const ListLiteral*>(&initializer) != nullptr) {
+    if (nodeCast<ListLiteral>(&initializer) != nullptr) {
         return VarType::List;
     }
-    if (dynamic_cast<const MapLiteral*>(&initializer) != nullptr) {
+    if (nodeCast<MapLiteral>(&initializer) != nullptr) {
         return VarType::Map;
     }
-    const auto* call = dynamic_cast<const CallExpression*>(&initializer);
+    const auto* call = nodeCast<CallExpression>(&initializer);
     if (call == nullptr) {
         return VarType::Auto;
     }
-    if (const auto* name = dynamic_cast<const VariableAccess*>(call->callee.get())) {
+    if (const auto* name = nodeCast<VariableAccess>(call->callee.get())) {
         if (name->name == "இப்போதுநேரம்") {
             return VarType::Time;
         }
         return structs_.count(name->name) != 0 ? VarType::Object : VarType::Auto;
     }
-    if (const auto* get = dynamic_cast<const GetExpression*>(call->callee.get())) {
-        const auto* object = dynamic_cast<const VariableAccess*>(get->object.get());
+    if (const auto* get = nodeCast<GetExpression>(call->callee.get())) {
+        const auto* object = nodeCast<VariableAccess>(get->object.get());
         const bool makesTime = object != nullptr && object->name == "நேரம்" && get->member.value == "உருவாக்கு";
         return makesTime ? VarType::Time : VarType::Auto;
     }

@@ -191,12 +191,10 @@ StatementPtr Parser::parseExpressionStatement(ExpressionPtr expression) {
     if (auto* widget = dynamic_cast<WidgetExpression*>(expression.get())) {
         return std::move(widget->widget);
     }
-    const bool hasEffect = dynamic_cast<const CallExpression*>(node) != nullptr ||
-                           dynamic_cast<const AssignmentExpression*>(node) != nullptr ||
-                           dynamic_cast<const SetMemberExpression*>(node) != nullptr ||
-                           dynamic_cast<const RTDBInsertExpression*>(node) != nullptr ||
-                           dynamic_cast<const RTDBUpdateExpression*>(node) != nullptr ||
-                           dynamic_cast<const RTDBDeleteExpression*>(node) != nullptr;
+    const bool hasEffect =
+        nodeCast<CallExpression>(node) != nullptr || nodeCast<AssignmentExpression>(node) != nullptr ||
+        nodeCast<SetMemberExpression>(node) != nullptr || nodeCast<RTDBInsertExpression>(node) != nullptr ||
+        nodeCast<RTDBUpdateExpression>(node) != nullptr || nodeCast<RTDBDeleteExpression>(node) != nullptr;
     if (!hasEffect) {
         பிழை("பொழி-201", peek().line);
     }

@@ -108,24 +108,20 @@ void Lexer::closeIndents() {
 
 /// The byte at the cursor; 0 at the end, so that a NUL byte reads as the end of the text.
 char Lexer::peek() const {
-    return peekBehind(0);
+    return position_ < source_.size() ? source_[position_] : '\0';
 }
 
-char Lexer::peekBehind(std::size_t offset) const {
-    return position_ + offset < source_.size() ? source_[position_ + offset] : '\0';
-}
-
-/// Takes one whole UTF-8 character and returns its first byte.
+/// Takes one whole UTF-8 character, or what the end of the text leaves of it, and returns its first byte.
 char Lexer::advance() {
     const char lead = peek();
     if (lead != 0) {
-        position_ += getUTF8SequenceLength(lead);
+        position_ = std::min(position_ + getUTF8SequenceLength(lead), source_.size());
     }
     return lead;
 }
 
 std::string_view Lexer::rest() const {
-    return std::string_view(source_).substr(std::min(position_, source_.size()));
+    return std::string_view(source_).substr(position_);
 }
 
 std::string_view Lexer::character() const {

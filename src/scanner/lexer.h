@@ -36,7 +36,6 @@ private:
 
     // The cursor.
     char peek() const;
-    char peekBehind(std::size_t offset) const;
     char advance();
     std::string_view rest() const;
     std::string_view character() const;
