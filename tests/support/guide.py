@@ -1,6 +1,7 @@
-"""Reads programs and what must come out of them from Markdown pages, where fences are tagged as docs/மொழி/README.md says."""
+"""Reads the programs of the language guide, and what must come out of them, out of its Markdown pages."""
 
 import re
+import unicodedata
 from dataclasses import dataclass, field
 from pathlib import Path
 
@@ -10,15 +11,16 @@ from support.compiler import REPOSITORY
 GUIDE = REPOSITORY / "docs" / "மொழி"
 ERROR_PAGE = REPOSITORY / "docs" / "பிழைகள்.md"
 
+# The tag of a fence is its first word; a name behind the first two makes a file that stands beside the next program.
 PROGRAM = "பொழில்"
 FILE = "கோப்பு"
 WORDS = "சொற்கள்"
 FRAGMENT = "துண்டு"
 NOT_RUN = (FRAGMENT, WORDS, "sh", "text")
-# A tag is one word, so the kinds of the language cases have _ where they have blanks there.
+# The kinds of the language cases, with _ where they have blanks.
 EXPECTATIONS = {kind.replace(" ", "_"): kind for kind in cf.KINDS}
 
-_FENCE = re.compile(r"\s*(?:```|~~~)")
+_HEAD_RULE = re.compile(r"\|( *:?-+:? *\|)+")
 
 
 class GuideError(Exception):
@@ -45,7 +47,7 @@ class Fence:
 
 @dataclass
 class Program:
-    """A program of a page, the files beside it, and what must come out as (kind, text) entries."""
+    """A program, the texts of the files beside it by name, and what must come out as (kind, text) entries."""
 
     fence: Fence
     files: dict
@@ -62,7 +64,7 @@ def pages():
 
 
 def read_fences(page, text=None):
-    """The fenced blocks of a page; raises `GuideError` when one isn't closed or is indented."""
+    """The fenced blocks of a page; raises `GuideError` for one that isn't closed or doesn't begin its line."""
     fences, current = [], None
     lines = (page.read_text(encoding="utf-8") if text is None else text).split("\n")
     for number, line in enumerate(lines, start=1):
@@ -74,7 +76,7 @@ def read_fences(page, text=None):
         elif line.startswith("```"):
             tag, _, name = line[3:].partition(" ")
             current = Fence(page, number, tag, name)
-        elif _FENCE.match(line):
+        elif line.lstrip(" \t>").startswith(("```", "~~~")):
             raise GuideError(f"{page}:{number}: a fence begins with ``` at the start of its line")
     if current:
         raise current.error("the fence isn't closed")
@@ -82,14 +84,14 @@ def read_fences(page, text=None):
 
 
 def read_programs(fences):
-    """The programs among `fences`; raises `GuideError` for an unknown tag, and for a program nothing is expected of."""
-    programs, files = [], {}
+    """The programs among `fences`; raises `GuideError` for an unknown tag, or a program of which nothing is expected."""
+    programs, files = [], []
     for fence in fences:
         if fence.tag in (PROGRAM, FILE) and fence.name:
-            files[fence.name] = fence.text
+            files.append(fence)
         elif fence.tag == PROGRAM:
-            programs.append(Program(fence, files))
-            files = {}
+            programs.append(Program(fence, {file.name: file.text for file in files}))
+            files = []
         elif fence.tag in EXPECTATIONS:
             if not programs or files:
                 raise fence.error(f"no program stands before this {fence.tag}")
@@ -97,11 +99,22 @@ def read_programs(fences):
         elif fence.tag not in NOT_RUN:
             raise fence.error(f"unknown tag {fence.tag!r}")
     for program in programs:
-        if not program.entries:
-            raise program.fence.error(f"nothing says what must come out; a text that isn't a program is tagged {FRAGMENT}")
+        if not [kind for kind, _ in program.entries if kind != cf.INPUT]:
+            raise program.fence.error(f"nothing says what must come out; a text that is no program is tagged {FRAGMENT}")
     if files:
-        raise GuideError(f"no program stands behind the file {next(iter(files))}")
+        raise files[0].error("no program stands behind this file")
     return programs
+
+
+def as_case(program, folder):
+    """Writes the files of `program` into `folder` and returns the language case that runs beside them."""
+    name = "நிரல்"
+    for file, text in program.files.items():
+        path = folder / (name + cf.FILES_SUFFIX) / file
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(text, encoding="utf-8")
+    block = "".join(cf.format_entry(*entry) + "\n" for entry in program.entries)
+    return cf.Case(folder / (name + cf.SOURCE_SUFFIX), program.fence.text.encode(), cf.parse_expectation(block), None)
 
 
 def words(page):
@@ -109,28 +122,23 @@ def words(page):
     return [word for fence in read_fences(page) if fence.tag == WORDS for word in fence.text.split()]
 
 
-def table_rows(page):
-    """The cells of all table rows of a page, heads and rules left out."""
+def table_rows(text):
+    """The cells of all rows of the tables in `text`, without their heads."""
+    lines = text.split("\n")
     rows = []
-    lines = page.read_text(encoding="utf-8").split("\n")
     for line, following in zip(lines, [*lines[1:], ""]):
-        is_head = re.fullmatch(r"\|( *:?-+:? *\|)+", following)
-        is_rule = re.fullmatch(r"\|( *:?-+:? *\|)+", line)
-        if line.startswith("|") and not is_head and not is_rule:
-            rows.append([cell.strip() for cell in line.strip("|").split("|")])
+        if line.startswith("|") and not _HEAD_RULE.fullmatch(line) and not _HEAD_RULE.fullmatch(following):
+            rows.append([cell.strip() for cell in re.split(r"(?<!\\)\|", line)[1:-1]])
     return rows
 
 
-def as_case(program, folder):
-    """Writes the files of `program` into `folder` and returns the case that runs there."""
-    case = cf.Case(folder / f"நிரல்{cf.SOURCE_SUFFIX}", program.fence.text.encode(), _expectation(program), None)
-    beside = folder / f"நிரல்{cf.FILES_SUFFIX}"
-    for name, text in program.files.items():
-        path = beside / name
-        path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_text(text, encoding="utf-8")
-    return case
+def anchors(text):
+    """The anchors of the headings in `text`: letters, digits, - and _ stay, blanks become -, other signs go."""
+    headings = re.findall(r"^#+ (.*)$", text, re.MULTILINE)
+    return {"".join(_anchor_piece(character) for character in heading.lower()) for heading in headings}
 
 
-def _expectation(program):
-    return cf.parse_expectation("".join(cf.format_entry(*entry) + "\n" for entry in program.entries))
+def _anchor_piece(character):
+    if character == " ":
+        return "-"
+    return character if character in "-_" or unicodedata.category(character)[0] in "LMN" else ""

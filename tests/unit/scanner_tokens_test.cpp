@@ -161,7 +161,7 @@ TEST(Characters, MustBeClosedOnTheirLine) {
 }
 
 TEST(Words, AreNamesUnlessTheyAreKeywords) {
-    for (const char* name : {"அ", "எண்", "a_b2", "_", "__init", "Abc", "அa1_", "அ௧", "௰", "அஃது", "é", "😀", "ஶ"}) {
+    for (const char* name : {"அ", "எண்", "a_b2", "_", "__init", "azAZ09_", "அa1_", "அ௧", "௰", "அஃது", "é", "😀", "ஶ"}) {
         expectAlone(name, TokenType::IDENTIFIER, name);
     }
     expectAlone("அச்சிடு", TokenType::KEYWORD, "அச்சிடு");
@@ -198,6 +198,12 @@ TEST(Bytes, ThatAreNoTextMakeNames) {
         {"\xE0\n\nஅ", "1: IDENTIFIER(\xE0\n\nஅ) END_OF_FILE"},
         {"ஃ \xE0\n\nஅ\nஆ", "2: IDENTIFIER(ஆ) END_OF_FILE"},
     });
+}
+
+TEST(Bytes, ThatTheEndOfTheTextCutsEndAComment) {
+    for (const std::string cut : {"\xE0", "\xE0\xAE", "\xF0\x9F\x98", "\xC3"}) {
+        expectTokens({{"ஃ க" + cut, "1: END_OF_FILE"}, {"அ ஃ க" + cut, "1: IDENTIFIER(அ) END_OF_FILE END_OF_FILE"}});
+    }
 }
 
 TEST(Bytes, ThatAreNulEndTheText) {
