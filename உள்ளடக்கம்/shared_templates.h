@@ -21,6 +21,7 @@
 #include <vector>
 
 // clang-format off
+// NOLINTBEGIN(modernize-use-transparent-functors): these are the functors that the programs' containers have
 POZHIL_SHARED_TEMPLATE class std::vector<std::any>;
 POZHIL_SHARED_TEMPLATE class std::vector<std::function<void()>>;
 
@@ -63,6 +64,7 @@ POZHIL_SHARED_TEMPLATE const std::vector<std::any>* std::any_cast<std::vector<st
 POZHIL_SHARED_TEMPLATE std::vector<std::any>* std::any_cast<std::vector<std::any>>(std::any*) noexcept;
 POZHIL_SHARED_TEMPLATE const std::map<std::string, std::any>* std::any_cast<std::map<std::string, std::any>>(const std::any*) noexcept;
 POZHIL_SHARED_TEMPLATE std::map<std::string, std::any>* std::any_cast<std::map<std::string, std::any>>(std::any*) noexcept;
+// NOLINTEND(modernize-use-transparent-functors)
 // clang-format on
 
 #endif

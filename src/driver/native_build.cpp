@@ -19,7 +19,7 @@ constexpr const char* FAST_LINKER_DIRECTORY = "/usr/libexec/mold";
 
 /// The cached reporter object: in the installation, or in the user's cache if the installation can't be written.
 fs::path objectPath(const fs::path& appDirectory) {
-    const fs::path installed = appDirectory / "திரட்டு" / OBJECT_NAME;
+    fs::path installed = appDirectory / "திரட்டு" / OBJECT_NAME;
     std::error_code ignored;
     if (fs::exists(installed, ignored)) {
         return installed;

@@ -6,7 +6,7 @@
 namespace pozhil {
 
 std::filesystem::path prepareTemporaryDirectory() {
-    const std::filesystem::path directory = std::filesystem::current_path() / ".நிலையற்ற";
+    std::filesystem::path directory = std::filesystem::current_path() / ".நிலையற்ற";
     std::error_code ignored; // whoever can't make it can't open the output either, and is told so then
     std::filesystem::create_directories(directory, ignored);
     return directory;

@@ -36,7 +36,8 @@ StatementPtr Parser::parseImportStatement() {
     }
     std::vector<std::string> candidates = {path};
     for (const std::string& directory : moduleDirectories_) {
-        candidates.push_back(directory + "/" + path);
+        candidates.push_back(directory);
+        candidates.back().append("/").append(path);
     }
     for (const std::string& candidate : candidates) {
         if (auto text = readSourceText(candidate)) {
@@ -62,6 +63,8 @@ void Parser::parseImportedFile(const std::string& path, std::string text) {
     importedFiles_ = std::move(nested.importedFiles_);
     importedStatements_.insert(importedStatements_.end(), std::make_move_iterator(program.statements.begin()),
                                std::make_move_iterator(program.statements.end()));
+    droppedStatements_.insert(droppedStatements_.end(), std::make_move_iterator(nested.droppedStatements_.begin()),
+                              std::make_move_iterator(nested.droppedStatements_.end()));
 }
 
 } // namespace pozhil

@@ -16,9 +16,9 @@ namespace pozhil {
 
 /// Parameters of every function that stands outside all others, by name.
 using FunctionTable = std::map<std::string, std::vector<Param>>;
-/// Structures by name. The nodes are owned by the program.
+/// Structures by name. The nodes are owned by the program or by the parser.
 using StructTable = std::map<std::string, const StructDefinitionStatement*>;
-/// Abstract structures by name. The nodes are owned by the program.
+/// Abstract structures by name. The nodes are owned by the program or by the parser.
 using AbstractStructTable = std::map<std::string, const AbstractStructDefinitionStatement*>;
 /// Ordinals of the members of every enumeration.
 using EnumTable = std::map<std::string, std::map<std::string, int>>;
@@ -106,6 +106,7 @@ private:
     void parseMethod(StructDefinitionStatement& structure);
     void parseVisibilityGroup(StructDefinitionStatement& structure, bool isPrivate);
     void parseSingleMember(StructDefinitionStatement& structure, bool isPrivate);
+    void addMember(StructDefinitionStatement& structure, StatementPtr member, bool isPrivate);
     StatementPtr parseFieldDeclaration();
     void checkParent(const StructDefinitionStatement& structure) const;
     StatementPtr parseAbstractStructStatement();
@@ -140,6 +141,8 @@ private:
     AbstractStructTable abstractStructs_;
     std::set<std::string> importedFiles_;
     StatementList importedStatements_;
+    /// Members of structures that are neither field nor method.
+    StatementList droppedStatements_;
     std::vector<Token> tokens_;
     std::string source_;
     std::string filename_;

@@ -8,19 +8,6 @@
 namespace pozhil {
 namespace {
 
-/// Sorts a parsed member into fields and methods; anything else has no place in a structure and is dropped.
-void addMember(StructDefinitionStatement& structure, StatementPtr member, bool isPrivate) {
-    if (auto* field = dynamic_cast<VarDeclaration*>(member.get())) {
-        member.release();
-        field->isPrivate = isPrivate;
-        structure.fields.emplace_back(field);
-    } else if (auto* method = dynamic_cast<FunctionDefinitionStatement*>(member.get())) {
-        member.release();
-        method->isPrivate = isPrivate;
-        structure.methods.emplace_back(method);
-    }
-}
-
 using ParameterCounts = std::unordered_map<std::string_view, std::size_t>;
 
 /// Number of parameters of each method, of the last one where several have a name.
@@ -115,6 +102,22 @@ void Parser::parseSingleMember(StructDefinitionStatement& structure, bool isPriv
     const bool isNull = member == nullptr;
     addMember(structure, std::move(member), isPrivate);
     endStatementInBlock(isNull);
+}
+
+/// Sorts a parsed member into fields and methods. Anything else has no place in a structure and no effect, but the
+/// structures that it defines stay known, and so it must outlive the tables.
+void Parser::addMember(StructDefinitionStatement& structure, StatementPtr member, bool isPrivate) {
+    if (auto* field = dynamic_cast<VarDeclaration*>(member.get())) {
+        static_cast<void>(member.release());
+        field->isPrivate = isPrivate;
+        structure.fields.emplace_back(field);
+    } else if (auto* method = dynamic_cast<FunctionDefinitionStatement*>(member.get())) {
+        static_cast<void>(member.release());
+        method->isPrivate = isPrivate;
+        structure.methods.emplace_back(method);
+    } else if (member != nullptr) {
+        droppedStatements_.push_back(std::move(member));
+    }
 }
 
 /// name = expr

@@ -65,4 +65,4 @@ def test_page_that_is_not_understood(text, trouble):
 
 def test_rows_of_tables_without_their_heads():
     text = "| A | B |\n| --- | :-: |\n| 1 | `x` |\n| 2 | |\ntext\n|no|table|\n"
-    assert guide.table_rows(text) == [["1", "`x`"], ["2", ""], ["no", "table"]]
+    assert guide.table_rows(PAGE, text) == [["1", "`x`"], ["2", ""], ["no", "table"]]

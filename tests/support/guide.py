@@ -84,7 +84,7 @@ def read_fences(page, text=None):
 
 
 def read_programs(fences):
-    """The programs among `fences`; raises `GuideError` for an unknown tag, or a program of which nothing is expected."""
+    """The programs among `fences`; raises `GuideError` for an unknown tag or a program that nothing is expected of."""
     programs, files = [], []
     for fence in fences:
         if fence.tag in (PROGRAM, FILE) and fence.name:
@@ -100,7 +100,7 @@ def read_programs(fences):
             raise fence.error(f"unknown tag {fence.tag!r}")
     for program in programs:
         if not [kind for kind, _ in program.entries if kind != cf.INPUT]:
-            raise program.fence.error(f"nothing says what must come out; a text that is no program is tagged {FRAGMENT}")
+            raise program.fence.error(f"nothing says what must come out; what is no program is tagged {FRAGMENT}")
     if files:
         raise files[0].error("no program stands behind this file")
     return programs
@@ -122,9 +122,9 @@ def words(page):
     return [word for fence in read_fences(page) if fence.tag == WORDS for word in fence.text.split()]
 
 
-def table_rows(text):
-    """The cells of all rows of the tables in `text`, without their heads."""
-    lines = text.split("\n")
+def table_rows(page, text=None):
+    """The cells of all rows of the tables of a page, or of `text` in its place, without their heads."""
+    lines = (page.read_text(encoding="utf-8") if text is None else text).split("\n")
     rows = []
     for line, following in zip(lines, [*lines[1:], ""]):
         if line.startswith("|") and not _HEAD_RULE.fullmatch(line) and not _HEAD_RULE.fullmatch(following):

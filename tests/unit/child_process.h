@@ -11,48 +11,59 @@
 #include <cstdio>
 #include <functional>
 #include <iostream>
+#include <stdexcept>
 #include <string>
 #include <thread>
 
 struct ChildResult {
     std::string output;
     /// -1 when the action came back, -2 when a signal ended the process.
-    int exitStatus;
+    int exitStatus = -2;
+    std::string errors{};
 };
 
 inline constexpr int CHILD_CAME_BACK = 111;
 
-/// What \p action writes to standard output in a forked process, and how that process ends.
+/// All that was written to \p file, which is closed.
+inline std::string contentOf(std::FILE* file) {
+    std::string content;
+    std::rewind(file);
+    std::array<char, 4096> chunk{};
+    for (std::size_t count = 0; (count = std::fread(chunk.data(), 1, chunk.size(), file)) > 0;) {
+        content.append(chunk.data(), count);
+    }
+    std::fclose(file);
+    return content;
+}
+
+/// What \p action writes to the standard streams in a forked process, and how that process ends.
 inline ChildResult runInChild(const std::function<void()>& action) {
     std::cout.flush();
-    std::fflush(stdout);
-    std::array<int, 2> channel{};
-    if (pipe(channel.data()) != 0) {
-        return {"no pipe", -2};
+    std::fflush(nullptr);
+    std::FILE* output = std::tmpfile();
+    std::FILE* errors = std::tmpfile();
+    if (output == nullptr || errors == nullptr) {
+        throw std::runtime_error("no temporary files for the streams of a child process");
     }
     const pid_t child = fork();
     if (child == 0) {
-        dup2(channel[1], STDOUT_FILENO);
-        close(channel[0]);
-        close(channel[1]);
+        dup2(fileno(output), STDOUT_FILENO);
+        dup2(fileno(errors), STDERR_FILENO);
         action();
         std::cout.flush();
         std::fflush(stdout);
         _exit(CHILD_CAME_BACK);
     }
-    close(channel[1]);
-    ChildResult result{"", -2};
-    std::array<char, 4096> buffer{};
-    ssize_t count = 0;
-    while ((count = read(channel[0], buffer.data(), buffer.size())) > 0) {
-        result.output.append(buffer.data(), static_cast<std::size_t>(count));
-    }
-    close(channel[0]);
+    ChildResult result;
     int status = 0;
-    waitpid(child, &status, 0);
+    if (child < 0 || waitpid(child, &status, 0) != child) {
+        throw std::runtime_error("no child process");
+    }
     if (WIFEXITED(status)) {
         result.exitStatus = WEXITSTATUS(status) == CHILD_CAME_BACK ? -1 : WEXITSTATUS(status);
     }
+    result.output = contentOf(output);
+    result.errors = contentOf(errors);
     return result;
 }
 

@@ -1,24 +1,22 @@
+#include "child_process.h"
 #include "error_codes.h"
 #include "error_handler.h"
+#include "support/diagnosis.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <functional>
-#include <iostream>
 #include <map>
 #include <set>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
+
+using pozhil::test::rowsOf;
 
 struct Expected {
     const char* code;
@@ -211,52 +209,12 @@ struct Report {
     std::string remedy = "தீர்வு!";
 };
 
-struct Outcome {
-    int status = 0; ///< as waitpid gives it
-    std::string out;
-    std::string err;
-};
-
-std::string contentOf(std::FILE* file) {
-    std::string content;
-    std::rewind(file);
-    std::array<char, 4096> chunk{};
-    for (std::size_t count = 0; (count = std::fread(chunk.data(), 1, chunk.size(), file)) > 0;) {
-        content.append(chunk.data(), count);
-    }
-    return content;
-}
-
 /// Lets a child process print the report, since the report ends the process that it is called in.
-Outcome print(const Report& report) {
-    Outcome outcome;
-    std::FILE* out = std::tmpfile();
-    std::FILE* err = std::tmpfile();
-    std::cout.flush();
-    std::fflush(nullptr);
-
-    const pid_t child = fork();
-    if (child == 0) {
-        dup2(fileno(out), STDOUT_FILENO);
-        dup2(fileno(err), STDERR_FILENO);
+ChildResult print(const Report& report) {
+    return runInChild([&] {
         ErrorHandler::அறிக்கை(report.category, report.code, report.description, report.file, report.line,
                              report.lineText, report.remedy);
-    }
-    EXPECT_EQ(waitpid(child, &outcome.status, 0), child);
-    outcome.out = contentOf(out);
-    outcome.err = contentOf(err);
-    std::fclose(out);
-    std::fclose(err);
-    return outcome;
-}
-
-std::vector<std::string> rowsOf(const std::string& text) {
-    std::vector<std::string> rows;
-    std::istringstream stream(text);
-    for (std::string row; std::getline(stream, row);) {
-        rows.push_back(row);
-    }
-    return rows;
+    });
 }
 
 constexpr std::size_t categoryRow = 2;
@@ -265,14 +223,14 @@ constexpr std::size_t sourceRow = 8;
 constexpr std::size_t sayingRow = 15;
 
 std::string rowOf(const Report& report, std::size_t index) {
-    return rowsOf(print(report).out).at(index);
+    return rowsOf(print(report).output).at(index);
 }
 
 TEST(Report, PrintsTheBoxByteForByte) {
     const std::string rule(60, '-');
     const std::string dimRule = "\x1b[2;37m  " + rule + "\x1b[0m";
-    const Outcome outcome = print(Report{});
-    std::vector<std::string> rows = rowsOf(outcome.out);
+    const ChildResult child = print(Report{});
+    std::vector<std::string> rows = rowsOf(child.output);
     ASSERT_EQ(rows.size(), 18U);
 
     const std::string before = "  \x1b[1;93m✨ \"";
@@ -306,14 +264,13 @@ TEST(Report, PrintsTheBoxByteForByte) {
                         dimRule,
                         "",
                     }));
-    EXPECT_EQ(outcome.out.back(), '\n');
+    EXPECT_EQ(child.output.back(), '\n');
 }
 
 TEST(Report, ExitsWithOneAndLeavesStandardErrorEmpty) {
-    const Outcome outcome = print(Report{});
-    ASSERT_TRUE(WIFEXITED(outcome.status));
-    EXPECT_EQ(WEXITSTATUS(outcome.status), 1);
-    EXPECT_EQ(outcome.err, "");
+    const ChildResult child = print(Report{});
+    EXPECT_EQ(child.exitStatus, 1);
+    EXPECT_EQ(child.errors, "");
 }
 
 TEST(Report, PadsTheLineNumberToTwoDigitsInTheSourceRowOnly) {
@@ -323,7 +280,7 @@ TEST(Report, PadsTheLineNumberToTwoDigitsInTheSourceRowOnly) {
         Report report;
         report.line = line;
         report.lineText = "x = 1";
-        const std::vector<std::string> rows = rowsOf(print(report).out);
+        const std::vector<std::string> rows = rowsOf(print(report).output);
         EXPECT_EQ(rows.at(sourceRow), "    " + shown + " |  x = 1");
         EXPECT_EQ(rows.at(placeRow), "  \x1b[1;34m📍 இடம்    \x1b[0m: வரி " + std::to_string(line));
     }

@@ -8,10 +8,12 @@
 #include <fstream>
 #include <string>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using namespace pozhil;
 using namespace pozhil::test;
+using testing::HasSubstr;
 namespace fs = std::filesystem;
 
 namespace {
@@ -193,16 +195,16 @@ TEST_F(Import, FaultsOfTheGrammarInTheFileNameNoFile) {
     write("அ.பொழில்", "\n\nஅ 5\n");
     EXPECT_EQ(importFault("நூஇறக்கி \"அ\"\n"), "பொழி-208 வரி 3");
     const std::string report = reportOf([] { parseText("நூஇறக்கி \"அ\"\n"); });
-    EXPECT_NE(report.find("கோப்பு  \x1b[0m: \n"), std::string::npos) << report;
-    EXPECT_NE(report.find("03 |  (சோர்ஸ் கோடு கிடைக்கவில்லை)\n"), std::string::npos) << report;
+    EXPECT_THAT(report, HasSubstr("கோப்பு  \x1b[0m: \n"));
+    EXPECT_THAT(report, HasSubstr("03 |  (சோர்ஸ் கோடு கிடைக்கவில்லை)\n"));
 }
 
 TEST_F(Import, FaultsOfTheScannerInTheFileNameThePathThatWasFound) {
     write("முதல்/அ.பொழில்", "\nஅ = 'அ\n");
     const std::string report = reportOf([] { parseText("நூஇறக்கி \"அ\"\n", {"முதல்"}); });
-    EXPECT_NE(report.find("பொழி-103"), std::string::npos) << report;
-    EXPECT_NE(report.find("கோப்பு  \x1b[0m: முதல்/அ.பொழில்\n"), std::string::npos) << report;
-    EXPECT_NE(report.find("02 |  அ = 'அ\n"), std::string::npos) << report;
+    EXPECT_THAT(report, HasSubstr("பொழி-103"));
+    EXPECT_THAT(report, HasSubstr("கோப்பு  \x1b[0m: முதல்/அ.பொழில்\n"));
+    EXPECT_THAT(report, HasSubstr("02 |  அ = 'அ\n"));
 }
 
 TEST_F(Import, StartsOutsideAllFunctions) {
@@ -218,6 +220,11 @@ TEST_F(Import, BringsStructuresToInheritFrom) {
     EXPECT_EQ(importFault("கட்டமைப்பு சிறியது(பெரியது):\n    விடு\n" + import), "பொழி-272 வரி 1");
 }
 
+TEST_F(Import, BringsStructuresThatStandInStructures) {
+    write("அ.பொழில்", "கட்டமைப்பு பெரியது:\n    வடிவமைப்பு வடிவம்:\n        செயல் இ(தான்)\n");
+    EXPECT_EQ(importFault("நூஇறக்கி \"அ\"\nகட்டமைப்பு சிறியது(வடிவம்):\n    விடு\n"), "பொழி-273 வரி 2");
+}
+
 TEST_F(Import, BringsEnumerationsFromThereOn) {
     write("அ.பொழில்", "வகை ஆ:\n    இ\n    ஈ\n");
     EXPECT_EQ(importTree("அச்சிடு(ஆ.ஈ)\nநூஇறக்கி \"அ\"\nஅச்சிடு(ஆ.ஈ)\n"), "(Print (Get ஆ ஈ)) (Print (Number 1))");
@@ -228,14 +235,15 @@ TEST_F(Import, TakesAnEnumerationWholeOrNotAtAll) {
     EXPECT_EQ(importTree("வகை ஆ:\n    உ\nநூஇறக்கி \"அ\"\nஅச்சிடு(ஆ.ஈ, ஆ.உ)\n"), "(Print (Get ஆ ஈ) (Number 0))");
 }
 
-TEST_F(Import, KeepsWhatTheImportingFileHasAlready) {
-    write("அ.பொழில்", "செயல் ஆ(இ):\n    விடு\nசெயல் உ(இ):\n    விடு\n");
+TEST_F(Import, KeepsTheFunctionsThatTheImportingFileHasAlready) {
+    write("அ.பொழில்", "செயல் ஆ(இ):\n    விடு\nசெயல் உ(இ):\n    விடு\nசெயல் ஊ(இ):\n    விடு\n");
     const std::string source = "செயல் ஆ():\n    விடு\nநூஇறக்கி \"அ\"\nசெயல் ஊ():\n    விடு\n";
     Parser parser(Lexer(source, "").tokenize(), source, "");
     parser.parse();
     ASSERT_EQ(parser.functions().size(), 3U);
     EXPECT_EQ(parser.functions().at("ஆ").size(), 0U);
     EXPECT_EQ(parser.functions().at("உ").size(), 1U);
+    EXPECT_EQ(parser.functions().at("ஊ").size(), 0U);
 }
 
 TEST_F(Import, KeepsTheStructuresOfTheImportingFile) {

@@ -69,8 +69,9 @@ TEST(Nesting, OfBlocksIsRefusedWhereItGoesTooFar) {
 }
 
 TEST(Nesting, PartsThatStandSideBySideDoNotAddUp) {
-    const std::string deep = nested(400, "(", ")");
+    const std::string deep = nested(600, "(", ")");
     EXPECT_EQ(fault("அ(" + deep + ", " + deep + ", " + deep + ")"), "none");
+    EXPECT_EQ(fault("அச்சிடு(" + deep + ", " + deep + ", " + deep + ")"), "none");
     EXPECT_EQ(fault("அ = [" + deep + ", " + deep + ", " + deep + "]"), "none");
     EXPECT_EQ(fault("அ = {அ: " + deep + ", ஆ: " + deep + ", இ: " + deep + "}"), "none");
     EXPECT_EQ(fault("அ = " + deep + " கூட்டு " + deep + " பெருக்கு " + deep), "none");
@@ -84,10 +85,14 @@ TEST(Nesting, BranchesOfAStatementDoNotAddUp) {
     const std::string branch = " " + line + ":\n " + line + "\n";
     EXPECT_EQ(fault("எனில்" + branch + repeated(900, "இல்லைஎனில்" + branch) + "இல்லை:\n விடு\n"), "none");
     EXPECT_EQ(fault("தேர்வு " + line + ":\n" + repeated(2000, " நிலை " + line + ":\n  " + line + "\n")), "none");
-    const std::string deep = nested(400, "(", ")");
-    EXPECT_EQ(fault("சுற்று " + deep + ":\n அ = " + deep + "\nசுற்று " + deep + ":\n அ = " + deep + "\n"), "none");
-    EXPECT_EQ(fault("ஒவ்வொன்றாக அ இல் " + deep + ":\n ஆ(" + deep + ", " + deep + ")\n"), "none");
-    EXPECT_EQ(fault("முயற்சி:\n அ = " + deep + "\n அ = " + deep + "\nபிடி:\n அ = " + deep + "\n"), "none");
+    const std::string deep = nested(600, "(", ")");
+    const std::string block = ":\n  அ = " + deep + "\n  அ = " + deep + "\n";
+    EXPECT_EQ(fault("எனில் " + deep + block + "இல்லைஎனில் " + deep + block + "இல்லை" + block), "none");
+    EXPECT_EQ(fault("தேர்வு " + deep + ":\n நிலை " + deep + block + " நிலை " + deep + block + " மற்றவை" + block), "none");
+    EXPECT_EQ(fault("சுற்று " + deep + block), "none");
+    EXPECT_EQ(fault("ஒவ்வொன்றாக அ இல் " + deep + block), "none");
+    EXPECT_EQ(fault("முயற்சி" + block + "பிடி" + block), "none");
+    EXPECT_EQ(fault("கட்டமைப்பு அ:\n ஆ = " + deep + "\n ரகசிய (\n ஆ = " + deep + "\n ஆ = " + deep + "\n )\n"), "none");
 }
 
 TEST(Nesting, AChainGrowsTheTreeAboveItsFirstOperand) {

@@ -1,10 +1,13 @@
+#include "support/diagnosis.h"
 #include "support/parsing.h"
 
 #include <string>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 using namespace pozhil::test;
+using testing::HasSubstr;
 
 namespace {
 
@@ -42,6 +45,18 @@ TEST(Program, TakesAHundredThousandStatementsAndOne) {
 
 TEST(Program, SwallowsADedentThatClosesNothing) {
     EXPECT_EQ(tree("அ = {\n    ஆ: 1}\nவிடு"), "(Expression (Assignment அ = (Map (\"ஆ\" (Number 1))))) (Pass)");
+}
+
+TEST(Diagnostic, ShowsTheFileAndTheSourceLine) {
+    const std::string report = reportOf([] { parseText("விடு\n    அச்சிடு(1)\nவிடு\n"); });
+    EXPECT_THAT(report, HasSubstr("பொழி-111"));
+    EXPECT_THAT(report, HasSubstr("இலக்கணப் பிழை"));
+    EXPECT_THAT(report, HasSubstr(": நிரல்.பொழில்\n"));
+    EXPECT_THAT(report, HasSubstr("    02 |      அச்சிடு(1)\n"));
+}
+
+TEST(Diagnostic, ShowsAnEmptyLineBehindTheEndOfTheSource) {
+    EXPECT_THAT(reportOf([] { parseText("எனில் அ:\n"); }), HasSubstr("    02 |  \n"));
 }
 
 TEST(StatementsWithoutNode, LeaveTheFirstWordOfTheNextStatementAlone) {

@@ -79,6 +79,14 @@ TEST(Structure, DropsStatementsThatAreNoMembers) {
     EXPECT_EQ(tree(structure("    கட்டமைப்பு ஈ:\n        இ = 1\n    இ = 1\n")), structureTree(field));
 }
 
+TEST(Structure, KeepsWhatDroppedStatementsDefine) {
+    const std::string inner = "    வடிவமைப்பு வடிவம்:\n        செயல் ஆ(தான்)\n    கட்டமைப்பு பெரியது:\n        இ = 1\n";
+    EXPECT_EQ(fault(structure(inner) + "கட்டமைப்பு ஈ(வடிவம்):\n    இ = 1\n"), "பொழி-273 வரி 6");
+    EXPECT_EQ(fault(structure(inner) + "கட்டமைப்பு ஈ(பெரியது):\n    இ = 1\n"), "none");
+    EXPECT_EQ(fault(structure("    ரகசிய (\n" + inner + "    )\n") + "கட்டமைப்பு ஈ(வடிவம்):\n    இ = 1\n"),
+              "பொழி-273 வரி 8");
+}
+
 TEST(Structure, RefusesPlainExpressions) {
     for (const std::string member : {"ஈ()", "ஈ", "5", "ஈ.உ = 1", "ஈ[0] = 1", "ஈ கூட்டிசேர் 1", "அளவு = 1", "பொது"}) {
         const std::string line = member == "பொது" ? "none" : "பொழி-210 வரி 2";

@@ -2,7 +2,6 @@
 #include "support/diagnosis.h"
 #include "support/scanning.h"
 
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -11,15 +10,11 @@
 namespace {
 
 using pozhil::test::reportOf;
+using pozhil::test::rowsOf;
 using pozhil::test::scan;
 
 std::vector<std::string> boxOf(const std::string& source) {
-    std::istringstream box(reportOf([&] { scan(source); }));
-    std::vector<std::string> rows;
-    for (std::string row; std::getline(box, row);) {
-        rows.push_back(row);
-    }
-    return rows;
+    return rowsOf(reportOf([&] { scan(source); }));
 }
 
 constexpr std::size_t CODE_ROW = 2;

@@ -55,6 +55,12 @@ TEST(LongVowelSign, DoesNotStandBehindAVowelLetter) {
     expectFaults({{"அா", "பொழி-114 வரி 1"}, {"அஅா", "பொழி-114 வரி 1"}, {"\nகஔா", "பொழி-114 வரி 2"}});
 }
 
+TEST(LongVowelSign, StandsBehindAnyOtherCharacter) {
+    for (const char* word : {"aா", "abா", "éா", "😀ா", "_1ா"}) {
+        EXPECT_EQ(scanFault(word), "none") << word;
+    }
+}
+
 TEST(LongVowelSign, IsTheOnlySignThatIsCheckedBehindAVowelLetter) {
     for (const char* word : {"அி", "அு", "அை", "அ்", "அகா"}) {
         EXPECT_EQ(scanFault(word), "none") << word;

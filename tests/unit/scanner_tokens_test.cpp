@@ -161,7 +161,8 @@ TEST(Characters, MustBeClosedOnTheirLine) {
 }
 
 TEST(Words, AreNamesUnlessTheyAreKeywords) {
-    for (const char* name : {"அ", "எண்", "a_b2", "_", "__init", "azAZ09_", "அa1_", "அ௧", "௰", "அஃது", "é", "😀", "ஶ"}) {
+    for (const char* name :
+         {"அ", "எண்", "a_b2", "_", "__init", "azAZ09_", "அa1_", "அ௧", "\u0BE5", "௰", "அஃது", "é", "😀", "ஶ"}) {
         expectAlone(name, TokenType::IDENTIFIER, name);
     }
     expectAlone("அச்சிடு", TokenType::KEYWORD, "அச்சிடு");

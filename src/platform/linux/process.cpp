@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 
 namespace pozhil::platform {
@@ -54,34 +55,32 @@ private:
     posix_spawn_file_actions_t actions_{};
 };
 
+bool isVariable(const std::string& assignment, const std::string& name) {
+    return assignment.size() > name.size() && assignment[name.size()] == '=' && assignment.rfind(name, 0) == 0;
+}
+
+/// This process's variables, those of the command in place of theirs.
 std::vector<std::string> childEnvironment(const Command& command) {
     std::vector<std::string> variables;
-    const auto isReplaced = [&](const std::string& variable) {
-        for (const auto& [name, value] : command.environment) {
-            if (variable.rfind(name + "=", 0) == 0) {
-                return true;
-            }
-        }
-        return false;
-    };
     for (char** variable = environ; *variable != nullptr; ++variable) {
-        if (!isReplaced(*variable)) {
-            variables.emplace_back(*variable);
+        const std::string assignment = *variable;
+        const bool isReplaced = std::any_of(command.environment.begin(), command.environment.end(),
+                                            [&](const auto& own) { return isVariable(assignment, own.first); });
+        if (!isReplaced) {
+            variables.push_back(assignment);
         }
     }
     for (const auto& [name, value] : command.environment) {
-        variables.push_back(name + "=" + value);
+        variables.push_back(name);
+        variables.back().append("=").append(value);
     }
     return variables;
 }
 
 /// The null-terminated array of C strings that system calls take.
 std::vector<char*> pointersTo(std::vector<std::string>& texts) {
-    std::vector<char*> pointers;
-    for (std::string& text : texts) {
-        pointers.push_back(text.data());
-    }
-    pointers.push_back(nullptr);
+    std::vector<char*> pointers(texts.size() + 1, nullptr);
+    std::transform(texts.begin(), texts.end(), pointers.begin(), [](std::string& text) { return text.data(); });
     return pointers;
 }
 

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace pozhil::test {
 
@@ -12,5 +13,8 @@ std::string diagnosisOf(const std::function<void()>& work);
 
 /// The whole box that \p work ended with, as it was printed.
 std::string reportOf(const std::function<void()>& work);
+
+/// The lines of \p report without their line ends.
+std::vector<std::string> rowsOf(const std::string& report);
 
 } // namespace pozhil::test
