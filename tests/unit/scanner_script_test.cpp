@@ -62,7 +62,7 @@ TEST(LongVowelSign, StandsBehindAnyOtherCharacter) {
 }
 
 TEST(LongVowelSign, IsTheOnlySignThatIsCheckedBehindAVowelLetter) {
-    for (const char* word : {"அி", "அு", "அை", "அ்", "அகா"}) {
+    for (const char* word : {"அ\u0BBD", "அி", "அு", "அை", "அ்", "அகா"}) {
         EXPECT_EQ(scanFault(word), "none") << word;
     }
 }

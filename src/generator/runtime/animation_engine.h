@@ -334,7 +334,7 @@ inline void updateAnimationProgress(unsigned long long nodeId, float duration) {
 }
 
 inline float applyAnimation(unsigned long long nodeId, float duration, std::string curve, float startValue,
-                     float targetValue) {
+                            float targetValue) {
     updateAnimationProgress(nodeId, duration);
     const PozhilCurve ease = getEasingFunction(std::move(curve));
     return lerp(startValue, targetValue, ease(pozhil_animation_state(nodeId).currentProgress));
