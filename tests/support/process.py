@@ -56,6 +56,13 @@ def run(command, *, cwd, env, stdin=b"", timeout=60, stdout=None, stderr=None, u
         return Result(process.returncode, out.read(), err.read(), timed_out)
 
 
+def _prepare_child():
+    """Bounds what the child writes; an interrupt ends it even where the tests themselves were told to ignore it, as in
+    a job in the background."""
+    resource.setrlimit(resource.RLIMIT_FSIZE, (OUTPUT_LIMIT, OUTPUT_LIMIT))
+    signal.signal(signal.SIGINT, signal.SIG_DFL)
+
+
 def spawn(command, *, cwd, env, stdin, stdout, stderr, user=None):
     """Starts `command` at the head of a new process group, as `user` where the tests may choose one."""
     identity = {"user": user, "group": user, "extra_groups": []} if user and os.geteuid() == 0 else {}
@@ -67,7 +74,7 @@ def spawn(command, *, cwd, env, stdin, stdout, stderr, user=None):
         stdout=stdout,
         stderr=stderr,
         start_new_session=True,
-        preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (OUTPUT_LIMIT, OUTPUT_LIMIT)),
+        preexec_fn=_prepare_child,
         **identity,
     )
 
