@@ -31,6 +31,14 @@ const char* categoryWord(பிழைவகை category) {
 
 } // namespace
 
+std::unordered_map<std::string, பிழைதகவல்> pozhil::catalogue::build(const Entry* first, std::size_t count) {
+    std::unordered_map<std::string, பிழைதகவல்> catalogue;
+    for (const Entry* entry = first; entry != first + count; ++entry) {
+        catalogue[entry->code] = {entry->description, entry->remedy};
+    }
+    return catalogue;
+}
+
 void ErrorHandler::அறிக்கை(பிழைவகை category, std::string code, std::string description, std::string file, int line,
                           std::string lineText, std::string remedy) {
     const char* linePadding = line > 9 ? "" : "0";

@@ -7,6 +7,8 @@
 
 #include "error_record.h"
 
+#include <cstddef>
+#include <iterator>
 #include <string>
 #include <unordered_map>
 
@@ -256,15 +258,11 @@ constexpr Entry entries[] = {
 };
 // clang-format on
 
-static std::unordered_map<std::string, பிழைதகவல்> build() {
-    std::unordered_map<std::string, பிழைதகவல்> catalogue;
-    for (const Entry& entry : entries) {
-        catalogue[entry.code] = {entry.description, entry.remedy};
-    }
-    return catalogue;
-}
+/// The map of \p count entries. It stands in the reporter's object, so that no program compiles it anew.
+std::unordered_map<std::string, பிழைதகவல்> build(const Entry* first, std::size_t count);
 
 } // namespace pozhil::catalogue
 
 /// The catalogue by code, such as "பொழி-101". Built once, before `main` begins; never changed afterwards.
-static const std::unordered_map<std::string, பிழைதகவல்> பிழை_அகராதி = pozhil::catalogue::build();
+static const std::unordered_map<std::string, பிழைதகவல்> பிழை_அகராதி =
+    pozhil::catalogue::build(std::data(pozhil::catalogue::entries), std::size(pozhil::catalogue::entries));
