@@ -28,6 +28,7 @@ void Generator::visitExpression(const Expression* expression) {
         visitAs(expression, &Generator::visitTernaryExpression) ||
         visitAs(expression, &Generator::visitGetExpression) || visitAs(expression, &Generator::visitListLiteral) ||
         visitAs(expression, &Generator::visitMapLiteral) || visitAs(expression, &Generator::visitIndexExpression) ||
+        visitAs(expression, &Generator::visitColorExpression) ||
         visitAs(expression, &Generator::visitLambdaExpression) ||
         visitAs(expression, &Generator::visitCallExpression) ||
         visitAs(expression, &Generator::visitBinaryExpression) ||

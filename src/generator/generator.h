@@ -103,7 +103,7 @@ private:
     std::string constructorOwner(const std::string& structName) const;
     void emitConstructorCall(const std::string& owner, const std::string& object, const ExpressionList& arguments);
 
-    // Expressions (expressions.cpp, operators.cpp, members.cpp).
+    // Expressions (expressions.cpp, operators.cpp, members.cpp, web/colours.cpp).
     void visitExpression(const Expression* expression);
     template <class Node> bool visitAs(const Expression* expression, void (Generator::*visit)(const Node*));
     void visitNumberLiteral(const NumberLiteral* node);
@@ -119,6 +119,7 @@ private:
     void visitTernaryExpression(const TernaryExpression* node);
     void visitLambdaExpression(const LambdaExpression* node);
     void visitIndexExpression(const IndexExpression* node);
+    void visitColorExpression(const ColorExpression* node);
     void visitBinaryExpression(const BinaryExpression* node);
     void checkOperandTypes(const BinaryExpression* node, VarType left, VarType right) const;
     void emitNativeArithmetic(const BinaryExpression* node, VarType left, VarType right);

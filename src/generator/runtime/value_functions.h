@@ -9,6 +9,25 @@
 
 #include <cstring>
 
+// கடிகார நேரம் 64-பிட் மதிப்பாக உள்ளது; கழித்தல், பெருக்கல் ஆகியவை எழுதும் any_cast அதையும் தசம எண்ணாகப் படிக்கும்.
+namespace std {
+template <> inline long double any_cast<long double>(const any& val) {
+    if (const auto* decimal = any_cast<long double>(&val)) {
+        return *decimal;
+    }
+    if (const auto* clock_reading = any_cast<double>(&val)) {
+        return *clock_reading;
+    }
+    throw bad_any_cast();
+}
+template <> inline long double any_cast<long double>(any& val) {
+    return any_cast<long double>(static_cast<const any&>(val));
+}
+template <> inline long double any_cast<long double>(any&& val) {
+    return any_cast<long double>(static_cast<const any&>(val));
+}
+} // namespace std
+
 inline std::string fn_முழுவதும்(std::tm* t);
 
 // உரை, எழுத்து, பைட் ஆகியவற்றின் எழுத்துகள்; உரை அல்லாத மதிப்புக்கு nullptr
@@ -349,6 +368,8 @@ inline std::any fn_cast_to_number(const std::any& val, int line_num) {
         }
     } else if (val.type() == typeid(long long) || val.type() == typeid(long double) || val.type() == typeid(int)) {
         return val;
+    } else if (const auto* clock_reading = std::any_cast<double>(&val)) {
+        return std::any(static_cast<long double>(*clock_reading));
     }
     pozhil_runtime_error("பொழி-302", "@SOURCE_PATH@", line_num);
     return std::any();
