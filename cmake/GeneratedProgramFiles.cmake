@@ -17,7 +17,8 @@ endfunction()
 
 # The compiler looks for the object under this name on every system.
 set(reporter_object ${PROJECT_BINARY_DIR}/generated/error_handler_native_windows.o)
-add_generated_program_file(${reporter_object} ${PROJECT_SOURCE_DIR}/src/error_handler.cpp -c)
+# Optimised, since the containers and values of every program run in it, whatever the program is compiled with.
+add_generated_program_file(${reporter_object} ${PROJECT_SOURCE_DIR}/src/error_handler.cpp -c -O2)
 
 # g++ ignores this file without a word where it does not fit, as with other flags or after an update of g++.
 set(precompiled_headers ${PROJECT_BINARY_DIR}/generated/iostream.gch)

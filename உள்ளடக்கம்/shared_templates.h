@@ -15,10 +15,14 @@
 #include <any>
 #include <functional>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <unordered_map>
 #include <vector>
+
+/// The base of all objects, defined in the emitted runtime. A shared pointer needs no more than its name.
+struct _StructBase;
 
 // clang-format off
 // NOLINTBEGIN(modernize-use-transparent-functors): these are the functors that the programs' containers have
@@ -64,6 +68,54 @@ POZHIL_SHARED_TEMPLATE const std::vector<std::any>* std::any_cast<std::vector<st
 POZHIL_SHARED_TEMPLATE std::vector<std::any>* std::any_cast<std::vector<std::any>>(std::any*) noexcept;
 POZHIL_SHARED_TEMPLATE const std::map<std::string, std::any>* std::any_cast<std::map<std::string, std::any>>(const std::any*) noexcept;
 POZHIL_SHARED_TEMPLATE std::map<std::string, std::any>* std::any_cast<std::map<std::string, std::any>>(std::any*) noexcept;
+
+// What expressions are made of: names of variables, values made of literals and results, casts of operands.
+POZHIL_SHARED_TEMPLATE std::string::basic_string(const char*, const std::allocator<char>&);
+
+POZHIL_SHARED_TEMPLATE std::any::any(long long&&);
+POZHIL_SHARED_TEMPLATE std::any::any(long long&);
+POZHIL_SHARED_TEMPLATE std::any::any(int&&);
+POZHIL_SHARED_TEMPLATE std::any::any(bool&&);
+POZHIL_SHARED_TEMPLATE std::any::any(long double&&);
+POZHIL_SHARED_TEMPLATE std::any::any(std::string&&);
+POZHIL_SHARED_TEMPLATE std::any::any(const std::string&);
+POZHIL_SHARED_TEMPLATE std::any::any(std::vector<std::any>&&);
+POZHIL_SHARED_TEMPLATE std::any::any(std::map<std::string, std::any>&&);
+POZHIL_SHARED_TEMPLATE std::any& std::any::operator=(std::vector<std::any>&&);
+POZHIL_SHARED_TEMPLATE std::any& std::any::operator=(std::map<std::string, std::any>&&);
+
+POZHIL_SHARED_TEMPLATE long long std::any_cast<long long>(std::any&);
+POZHIL_SHARED_TEMPLATE long long std::any_cast<long long>(std::any&&);
+POZHIL_SHARED_TEMPLATE bool std::any_cast<bool>(std::any&);
+POZHIL_SHARED_TEMPLATE bool std::any_cast<bool>(std::any&&);
+POZHIL_SHARED_TEMPLATE std::string std::any_cast<std::string>(std::any&);
+POZHIL_SHARED_TEMPLATE std::string std::any_cast<std::string>(std::any&&);
+POZHIL_SHARED_TEMPLATE std::vector<std::any>& std::any_cast<std::vector<std::any>&>(std::any&);
+
+// Objects and function values.
+POZHIL_SHARED_TEMPLATE class std::shared_ptr<_StructBase>;
+POZHIL_SHARED_TEMPLATE struct std::any::_Manager_external<std::shared_ptr<_StructBase>>;
+POZHIL_SHARED_TEMPLATE const std::shared_ptr<_StructBase>* std::any_cast<std::shared_ptr<_StructBase>>(const std::any*) noexcept;
+POZHIL_SHARED_TEMPLATE std::shared_ptr<_StructBase> std::any_cast<std::shared_ptr<_StructBase>>(std::any&);
+POZHIL_SHARED_TEMPLATE std::shared_ptr<_StructBase> std::any_cast<std::shared_ptr<_StructBase>>(std::any&&);
+POZHIL_SHARED_TEMPLATE std::any::any(std::shared_ptr<_StructBase>&&);
+POZHIL_SHARED_TEMPLATE std::any::any(std::shared_ptr<_StructBase>&);
+
+POZHIL_SHARED_TEMPLATE class std::function<std::any()>;
+POZHIL_SHARED_TEMPLATE class std::function<std::any(std::any)>;
+POZHIL_SHARED_TEMPLATE class std::function<std::any(std::any, std::any)>;
+POZHIL_SHARED_TEMPLATE struct std::any::_Manager_external<std::function<std::any()>>;
+POZHIL_SHARED_TEMPLATE struct std::any::_Manager_external<std::function<std::any(std::any)>>;
+POZHIL_SHARED_TEMPLATE struct std::any::_Manager_external<std::function<std::any(std::any, std::any)>>;
+POZHIL_SHARED_TEMPLATE std::function<std::any()> std::any_cast<std::function<std::any()>>(std::any&);
+POZHIL_SHARED_TEMPLATE std::function<std::any()> std::any_cast<std::function<std::any()>>(std::any&&);
+POZHIL_SHARED_TEMPLATE std::function<std::any(std::any)> std::any_cast<std::function<std::any(std::any)>>(std::any&);
+POZHIL_SHARED_TEMPLATE std::function<std::any(std::any)> std::any_cast<std::function<std::any(std::any)>>(std::any&&);
+POZHIL_SHARED_TEMPLATE std::function<std::any(std::any, std::any)> std::any_cast<std::function<std::any(std::any, std::any)>>(std::any&);
+POZHIL_SHARED_TEMPLATE std::function<std::any(std::any, std::any)> std::any_cast<std::function<std::any(std::any, std::any)>>(std::any&&);
+POZHIL_SHARED_TEMPLATE std::any::any(std::function<std::any()>&&);
+POZHIL_SHARED_TEMPLATE std::any::any(std::function<std::any(std::any)>&&);
+POZHIL_SHARED_TEMPLATE std::any::any(std::function<std::any(std::any, std::any)>&&);
 // NOLINTEND(modernize-use-transparent-functors)
 // clang-format on
 

@@ -101,6 +101,17 @@ void Generator::bindPropertiesAndMethods(const std::string& structName, const st
     }
 }
 
+/// Refuses an object whose fields make objects whose fields make objects, without end or beyond any sensible text:
+/// each level repeats the text of those below it.
+void Generator::checkConstructionDepth(std::int32_t line) {
+    constexpr int MAX_CONSTRUCTION_DEPTH = 12;
+    constexpr std::streamoff MAX_NESTED_TEXT = std::streamoff(64) * 1024 * 1024;
+    const bool isNested = constructionDepth_ > 1;
+    if (constructionDepth_ > MAX_CONSTRUCTION_DEPTH || (isNested && out_.tellp() > MAX_NESTED_TEXT)) {
+        பிழை("பொழி-291", line, "");
+    }
+}
+
 /// A method becomes a property that holds a closure over the object.
 void Generator::bindMethod(const std::string& structName, const FunctionDefinitionStatement& method,
                            const std::string& object) {
@@ -143,6 +154,8 @@ void Generator::emitConstructorCall(const std::string& owner, const std::string&
 
 /// T(a)  ->  a closure that makes, fills and constructs an object
 void Generator::emitConstruction(const CallExpression* node, const std::string& structName) {
+    ++constructionDepth_;
+    checkConstructionDepth(node->line);
     out_ << "[&]() -> std::any {\n";
     ++indentLevel_;
     indent();
@@ -159,6 +172,7 @@ void Generator::emitConstruction(const CallExpression* node, const std::string& 
     --indentLevel_;
     indent();
     out_ << "}()";
+    --constructionDepth_;
 }
 
 /// x = T(a)  ->  an object of its own name, filled and constructed before the variable holds it. Unlike the expression

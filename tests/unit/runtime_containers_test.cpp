@@ -130,6 +130,55 @@ TEST(Properties, WriteReachesTheSharedObject) {
     EXPECT_EQ(object->properties.size(), 1U);
 }
 
+TEST(Properties, NamesAndPathsMayBeTexts) {
+    const std::string name = "வயது";
+    const std::string path = "f";
+    const auto object = std::make_shared<_StructBase>();
+    any value = std::shared_ptr<_StructBase>(object);
+    EXPECT_EQ(as_text(fn_set_property(value, name, any(5LL), path, 1)), "5");
+    EXPECT_EQ(as_text(fn_set_property(std::shared_ptr<_StructBase>(object), "வயது", std::any(7LL), "f", 1)), "7");
+    EXPECT_EQ(as_text(fn_get_property(std::any_cast<std::shared_ptr<_StructBase>>(value), name, path, 1)), "7");
+    EXPECT_EQ(as_text(fn_get_property(std::any_cast<std::shared_ptr<_StructBase>>(value), "வயது", "f", 1)), "7");
+}
+
+TEST(IndexWrite, PathsMayBeTexts) {
+    const std::string path = "f";
+    any list = List{any(1LL)};
+    const any key = any(0LL);
+    fn_index_ref(list, key, path, 1) = any(2LL);
+    EXPECT_EQ(as_text(list), "[2]");
+    fn_index_ref(list, key) = any(3LL);
+    EXPECT_EQ(as_text(list), "[3]");
+    EXPECT_EQ(as_text(fn_index_ref(std::any(list), key, path, 1)), "3");
+}
+
+/// An element that counts how often any of its kind is copied.
+struct CountedElement {
+    static int copies;
+    CountedElement() = default;
+    CountedElement(const CountedElement&) { ++copies; }
+    CountedElement& operator=(const CountedElement&) = delete;
+};
+
+int CountedElement::copies = 0;
+
+// What a loop over a long list does at each turn must not touch the other elements.
+TEST(LongLists, AreNotCopiedByLengthReadOrWrite) {
+    List elements(1000);
+    for (any& element : elements) {
+        element.emplace<CountedElement>();
+    }
+    any list = std::move(elements);
+    std::any_cast<List&>(list)[7] = any(1LL);
+    CountedElement::copies = 0;
+    EXPECT_EQ(fn_நீளம்(list), 1000);
+    EXPECT_EQ(as_text(fn_எடு(list, std::any(7LL), "f", 1)), "1");
+    fn_index_ref(list, std::any(7LL)) = any(2LL);
+    fn_index_ref(list, std::any(7LL), "f", 1) = any(3LL);
+    EXPECT_FALSE(fn_compare_any(list, list, "=="));
+    EXPECT_EQ(CountedElement::copies, 0);
+}
+
 TEST(Length, CountsBytesAndElements) {
     EXPECT_EQ(fn_நீளம்(any(text("அ"))), 3);
     EXPECT_EQ(fn_நீளம்(any(text(""))), 0);
@@ -151,6 +200,10 @@ TEST(Length, OfAllElseIsZero) {
     EXPECT_EQ(fn_நீளம்(any()), 0);
     EXPECT_EQ(fn_நீளம்(any(true)), 0);
     EXPECT_EQ(fn_நீளம்(any(std::make_shared<_StructBase>())), 0);
+}
+
+TEST(Length, TakesAValueAsWell) {
+    EXPECT_EQ(fn_நீளம்<>(any(text("அஆ"))), 6);
 }
 
 TEST(Length, IsAShortInteger) {

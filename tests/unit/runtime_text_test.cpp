@@ -52,6 +52,7 @@ TEST(TextForm, DecimalsAlwaysHaveSixPlaces) {
 
 TEST(TextForm, TextLetterByte) {
     EXPECT_EQ(fn_any_to_string(any(text("வணக்கம் 'உலகம்'"))), "வணக்கம் 'உலகம்'");
+    EXPECT_EQ(fn_any_to_string(std::string(u8"வணக்கம்")), "வணக்கம்") << "a literal";
     EXPECT_EQ(fn_any_to_string(any(text(""))), "");
     EXPECT_EQ(fn_any_to_string(any(_PozhilChar{"ழி"})), "ழி");
     EXPECT_EQ(fn_any_to_string(any('x')), "x");

@@ -105,6 +105,11 @@ TEST(Comparison, MixedKindsAreNeitherEqualNorUnequal) {
 TEST(Comparison, UnknownOperatorIsFalse) {
     EXPECT_FALSE(fn_compare_any(any(1LL), any(1LL), "==="));
     EXPECT_FALSE(fn_compare_any(any(text("a")), any(text("a")), ""));
+    for (const char* word : {"=", "!", "=!", "=>", "><", "abcdefghijkl", "சிறிதா", "சமம்சமம்", "பெரிதுசமமா"}) {
+        EXPECT_FALSE(fn_compare_any(any(1LL), any(1LL), word)) << word;
+        EXPECT_FALSE(fn_compare_any(any(1LL), any(2LL), word)) << word;
+        EXPECT_FALSE(fn_compare_any(any(2LL), any(1LL), word)) << word;
+    }
 }
 
 TEST(Comparison, TakesNativeValues) {

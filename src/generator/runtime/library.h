@@ -136,7 +136,7 @@ inline std::string fn_உள்ளீடு(std::string prompt) {
 }
 
 // பட்டியல், அகராதி
-inline int fn_நீளம்(std::any val) {
+inline int fn_நீளம்(const std::any& val) {
     if (const auto* text = std::any_cast<std::string>(&val)) {
         return static_cast<int>(text->length());
     }
@@ -150,6 +150,11 @@ inline int fn_நீளம்(std::any val) {
         return static_cast<int>(map->size());
     }
     return static_cast<int>(pozhil_number_text(val).length());
+}
+
+// மதிப்பையே பெறும் வடிவம். வார்ப்புரு என்பதால் fn_நீளம்(x) எப்போதும் நகலெடுக்காத மேலுள்ள வடிவத்தையே அழைக்கும்.
+template <class = void> int fn_நீளம்(std::any val) {
+    return fn_நீளம்(static_cast<const std::any&>(val));
 }
 
 // x[key] என்ற வாசிப்பு. பட்டியல் முழுவதையும் நகலெடுக்காமல் ஓர் உறுப்பை மட்டும் தரும்.
@@ -188,12 +193,8 @@ inline std::any fn_எடு(std::any obj, std::any key, std::string file, int l
 }
 
 // x[key] = மதிப்பு என்ற எழுத்து. அகராதியில் இல்லாத சாவி புதிதாகச் சேரும்.
-inline std::any& fn_index_ref(std::any& obj, const std::any& key, std::string file = "", int line = 0) {
+inline std::any& fn_index_ref(std::any& obj, const std::any& key, const char* file, int line) {
     static std::any dummy;
-    if (auto* map = std::any_cast<std::map<std::string, std::any>>(&obj)) {
-        const auto* name = std::any_cast<std::string>(&key);
-        return (*map)[name ? *name : fn_any_to_string(key)];
-    }
     if (auto* list = std::any_cast<std::vector<std::any>>(&obj)) {
         const long long index = fn_index(key);
         if (index < 0 || index >= static_cast<long long>(list->size())) {
@@ -202,16 +203,28 @@ inline std::any& fn_index_ref(std::any& obj, const std::any& key, std::string fi
         }
         return (*list)[static_cast<std::size_t>(index)];
     }
+    if (auto* map = std::any_cast<std::map<std::string, std::any>>(&obj)) {
+        const auto* name = std::any_cast<std::string>(&key);
+        return (*map)[name ? *name : fn_any_to_string(key)];
+    }
     pozhil_runtime_error("பொழி-313", file, line);
     return dummy;
 }
 
+inline std::any& fn_index_ref(std::any& obj, std::any&& key) {
+    return fn_index_ref(obj, key, "", 0);
+}
+
+inline std::any& fn_index_ref(std::any& obj, const std::any& key, std::string file = "", int line = 0) {
+    return fn_index_ref(obj, key, file.c_str(), line);
+}
+
 inline std::any fn_index_ref(std::any&& obj, const std::any& key, std::string file = "", int line = 0) {
-    return fn_index_ref(obj, key, file, line);
+    return fn_index_ref(obj, key, file.c_str(), line);
 }
 
 // பொருளின் பண்புகள்
-inline std::any fn_get_property(std::shared_ptr<_StructBase> obj, std::string prop, std::string file, int line) {
+inline std::any fn_get_property(const std::shared_ptr<_StructBase>& obj, const char* prop, const char* file, int line) {
     const std::map<std::string, std::any>& properties = obj->properties;
     const auto found = properties.find(prop);
     if (found == properties.end()) {
@@ -221,14 +234,23 @@ inline std::any fn_get_property(std::shared_ptr<_StructBase> obj, std::string pr
     return found->second;
 }
 
-inline std::any fn_set_property(std::any obj, std::string prop, std::any val, std::string file, int line) {
+inline std::any fn_get_property(std::shared_ptr<_StructBase> obj, std::string prop, std::string file, int line) {
+    return fn_get_property(obj, prop.c_str(), file.c_str(), line);
+}
+
+inline std::any fn_set_property(const std::any& obj, const char* prop, const std::any& val, const char* file,
+                                int line) {
     const auto* object = std::any_cast<std::shared_ptr<_StructBase>>(&obj);
     if (!object) {
         pozhil_runtime_error("பொழி-324", file, line);
         return std::any();
     }
-    (*object)->properties[std::move(prop)] = val;
+    (*object)->properties[prop] = val;
     return val;
+}
+
+inline std::any fn_set_property(std::any obj, std::string prop, std::any val, std::string file, int line) {
+    return fn_set_property(obj, prop.c_str(), val, file.c_str(), line);
 }
 
 inline long long fn_மேல்எண்(long double val) {

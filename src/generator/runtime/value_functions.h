@@ -61,13 +61,13 @@ inline std::string pozhil_number_text(const std::any& val) {
 
 // அச்சிடும் வடிவம்
 inline std::string fn_any_to_string(const std::any& val) {
-    std::string number = pozhil_number_text(val);
-    if (!number.empty()) {
-        return number;
-    }
     std::string byte_text;
     if (const std::string* text = pozhil_text_view(val, byte_text)) {
         return *text;
+    }
+    std::string number = pozhil_number_text(val);
+    if (!number.empty()) {
+        return number;
     }
     if (const auto* truth = std::any_cast<bool>(&val)) {
         return *truth ? "மெய்" : "பொய்";
@@ -110,6 +110,11 @@ inline std::string fn_any_to_string(const std::any& val) {
         return "[பொருள்]";
     }
     return "[தெரியாத வகை]";
+}
+
+// தற்காலிக உரைக்கு: மதிப்பாக மாற்றி நகலெடுக்கத் தேவையில்லை.
+template <class Text> std::enable_if_t<std::is_same_v<Text, std::string>, std::string> fn_any_to_string(Text&& text) {
+    return std::move(text);
 }
 
 // JavaScript உரைக்குள் எழுதும் வடிவம்
@@ -228,49 +233,71 @@ inline long double fn_get_double(const std::any& a) {
     return number;
 }
 
-inline bool pozhil_is_operator(const char* op, const char* symbol, const char* word) {
-    return std::strcmp(op, symbol) == 0 || std::strcmp(op, word) == 0;
+// ஒப்பீட்டுச் சொல்லின் குறி: '=', '!', '>', '<', 'G' (>=), 'L' (<=); வேறு சொல்லானால் 0.
+// ஒவ்வோர் ஒப்பீட்டிலும் நடப்பதால், நீளமும் முதல் எழுத்தின் கடைசி பைட்டும் சுட்டும் ஒரே சொல்லோடு மட்டுமே ஒப்பிடுகிறது.
+inline char pozhil_comparison_sign(const char* op) {
+    const std::size_t length = std::strlen(op);
+    const char* word = "";
+    char sign = 0;
+    switch (length) {
+    case 1:
+        word = op[0] == '>' ? ">" : "<";
+        sign = word[0];
+        break;
+    case 2:
+        word = op[0] == '=' ? "==" : op[0] == '!' ? "!=" : op[0] == '>' ? ">=" : "<=";
+        sign = op[0] == '>' ? 'G' : op[0] == '<' ? 'L' : op[0];
+        break;
+    case sizeof("சமம்") - 1:
+        word = "சமம்";
+        sign = '=';
+        break;
+    case sizeof("சமமில்லை") - 1:
+        word = "சமமில்லை";
+        sign = '!';
+        break;
+    case sizeof("சிறிது") - 1:
+        word = op[2] == '\x9A' ? "சிறிது" : "பெரிது";
+        sign = op[2] == '\x9A' ? '<' : '>';
+        break;
+    case sizeof("சிறிதுசமம்") - 1:
+        word = op[2] == '\x9A' ? "சிறிதுசமம்" : "பெரிதுசமம்";
+        sign = op[2] == '\x9A' ? 'L' : 'G';
+        break;
+    default: return 0;
+    }
+    return std::memcmp(op, word, length) == 0 ? sign : '\0';
+}
+
+template <class Number> bool pozhil_numbers_compare(Number left, Number right, char sign) {
+    switch (sign) {
+    case '=': return left == right;
+    case '!': return left != right;
+    case '>': return left > right;
+    case '<': return left < right;
+    case 'G': return left >= right;
+    case 'L': return left <= right;
+    default: return false;
+    }
 }
 
 // ஒப்பீடு. எண்ணோடு எண், உரையோடு உரை, நிலையோடு நிலை; மற்ற இணைகள் எல்லா ஒப்பீட்டிலும் பொய்.
 inline bool fn_compare_any(const std::any& left, const std::any& right, const char* op) {
-    const bool equal = pozhil_is_operator(op, "==", "சமம்");
-    const bool unequal = pozhil_is_operator(op, "!=", "சமமில்லை");
-
+    const char sign = pozhil_comparison_sign(op);
     long double left_number = 0.0L, right_number = 0.0L;
-    if (pozhil_read_number(left, left_number) && pozhil_read_number(right, right_number)) {
-        if (equal) {
-            return left_number == right_number;
-        }
-        if (unequal) {
-            return left_number != right_number;
-        }
-        if (pozhil_is_operator(op, ">", "பெரிது")) {
-            return left_number > right_number;
-        }
-        if (pozhil_is_operator(op, "<", "சிறிது")) {
-            return left_number < right_number;
-        }
-        if (pozhil_is_operator(op, ">=", "பெரிதுசமம்")) {
-            return left_number >= right_number;
-        }
-        if (pozhil_is_operator(op, "<=", "சிறிதுசமம்")) {
-            return left_number <= right_number;
-        }
-        return false;
+    if (pozhil_read_number(left, left_number)) {
+        return pozhil_read_number(right, right_number) && pozhil_numbers_compare(left_number, right_number, sign);
     }
-
     std::string left_byte, right_byte;
     const std::string* left_text = pozhil_text_view(left, left_byte);
     const std::string* right_text = pozhil_text_view(right, right_byte);
     if (left_text && right_text) {
-        return (equal && *left_text == *right_text) || (unequal && *left_text != *right_text);
+        return (sign == '=' && *left_text == *right_text) || (sign == '!' && *left_text != *right_text);
     }
-
     const auto* left_truth = std::any_cast<bool>(&left);
     const auto* right_truth = std::any_cast<bool>(&right);
     if (left_truth && right_truth) {
-        return (equal && *left_truth == *right_truth) || (unequal && *left_truth != *right_truth);
+        return (sign == '=' && *left_truth == *right_truth) || (sign == '!' && *left_truth != *right_truth);
     }
     return false;
 }
@@ -302,17 +329,16 @@ inline long long fn_index(const std::any& val) {
 }
 
 inline std::any fn_div_any(const std::any& left, const std::any& right) {
-    long double divisor = 0.0L;
+    const auto* left_whole = std::any_cast<long long>(&left);
+    const auto* right_whole = std::any_cast<long long>(&right);
+    if (left_whole && right_whole && *right_whole != 0) {
+        return std::any(*left_whole / *right_whole);
+    }
+    long double dividend = 0.0L, divisor = 0.0L;
     const bool right_is_number = pozhil_read_number(right, divisor);
     if (right_is_number && divisor == 0.0L) {
         throw std::runtime_error("சுழியத்தால் (0) வகுக்க முடியாது!");
     }
-    const auto* left_whole = std::any_cast<long long>(&left);
-    const auto* right_whole = std::any_cast<long long>(&right);
-    if (left_whole && right_whole) {
-        return std::any(*left_whole / *right_whole);
-    }
-    long double dividend = 0.0L;
     if (!right_is_number || !pozhil_read_number(left, dividend)) {
         throw std::bad_any_cast();
     }
