@@ -34,7 +34,11 @@ void Generator::visitExpression(const Expression* expression) {
         visitAs(expression, &Generator::visitBinaryExpression) ||
         visitAs(expression, &Generator::visitLogicalExpression) ||
         visitAs(expression, &Generator::visitUnaryExpression) ||
-        visitAs(expression, &Generator::visitGroupingExpression);
+        visitAs(expression, &Generator::visitGroupingExpression) ||
+        visitAs(expression, &Generator::visitRTDBInsertExpression) ||
+        visitAs(expression, &Generator::visitRTDBUpdateExpression) ||
+        visitAs(expression, &Generator::visitRTDBDeleteExpression) ||
+        visitAs(expression, &Generator::visitWidgetExpression);
     if (!isVisited) {
         throw_static_error("பொழி-399", "Unknown expression type in generator");
     }

@@ -34,6 +34,11 @@ Generator::Generator(const Program& program, const FunctionTable& functions, con
                      const AbstractStructTable& abstractStructs, std::string source, std::string filePath)
     : program_(program), structDefs_(structs), abstractStructDefs_(abstractStructs), functionParams_(functions),
       sourceCode_(std::move(source)), fileName_(std::move(filePath)) {
+    for (const StatementPtr& statement : program_.statements) {
+        if (const auto* app = nodeCast<WebAppNode>(statement.get())) {
+            webApps_.push_back(app);
+        }
+    }
     for (const auto& entry : structDefs_) {
         for (const auto& field : entry.second->fields) {
             if (field->isPrivate) {
@@ -48,7 +53,11 @@ std::string Generator::generate() {
     emitStructures();
     emitFunctions();
     emitInitGlobals();
-    emitConsoleMain();
+    if (webApps_.empty()) {
+        emitConsoleMain();
+    } else {
+        emitWebProgram();
+    }
     return out_.str();
 }
 
@@ -58,28 +67,70 @@ void Generator::emitRuntime() {
          << fillPlaceholder(runtime::navigation, START_PAGE_PLACEHOLDER, findStartPage(program_))
          << runtime::input_state << runtime::web_bridge << runtime::value_types << runtime::error_box
          << fillPlaceholder(runtime::value_functions, SOURCE_PATH_PLACEHOLDER, fileName_) << runtime::animation_engine
-         << runtime::library << runtime::scrolling << runtime::web_boilerplate;
+         << runtime::library << runtime::scrolling << runtime::web_boilerplate << runtime::input_fields
+         << "#ifdef __EMSCRIPTEN__\n"
+         << runtime::frame_helpers << "#endif\n";
+}
+
+/// Runs \p visit over the statements outside all blocks, then over those that the applications define.
+template <class Visit> void Generator::forEachDefinition(Visit visit) const {
+    for (const StatementPtr& statement : program_.statements) {
+        visit(statement.get());
+    }
+    for (const WebAppNode* app : webApps_) {
+        const auto* logic = nodeCast<LogicBlockNode>(app->definition.get());
+        if (logic != nullptr && logic->block != nullptr) {
+            for (const StatementPtr& statement : logic->block->statements) {
+                visit(statement.get());
+            }
+        }
+    }
 }
 
 void Generator::emitStructures() {
-    for (const StatementPtr& statement : program_.statements) {
-        if (const auto* structure = nodeCast<StructDefinitionStatement>(statement.get())) {
+    forEachDefinition([this](const Statement* statement) {
+        if (const auto* structure = nodeCast<StructDefinitionStatement>(statement)) {
             visitStructDefinitionStatement(structure);
         }
-    }
+    });
 }
 
 void Generator::emitFunctions() {
-    for (const StatementPtr& statement : program_.statements) {
-        if (const auto* function = nodeCast<FunctionDefinitionStatement>(statement.get())) {
+    forEachDefinition([this](const Statement* statement) {
+        if (const auto* function = nodeCast<FunctionDefinitionStatement>(statement)) {
             visitFunctionDefinitionStatement(function);
         }
-    }
+    });
 }
 
 /// The set-up of a web application; a console program has nothing to set up.
 void Generator::emitInitGlobals() {
-    out_ << "void init_globals() {\n}\n\n";
+    out_ << "void init_globals() {\n";
+    ++indentLevel_;
+    for (const WebAppNode* app : webApps_) {
+        if (const auto* manager = nodeCast<DatabaseManagerNode>(app->databaseManager.get())) {
+            visitDatabaseManagerNode(manager);
+        }
+    }
+    for (const WebAppNode* app : webApps_) {
+        if (const auto* logic = nodeCast<LogicBlockNode>(app->definition.get())) {
+            visitLogicBlockNode(logic);
+        }
+    }
+    --indentLevel_;
+    out_ << "}\n\n";
+}
+
+/// What an application does before its first frame. Its functions and structures stand outside.
+void Generator::visitLogicBlockNode(const LogicBlockNode* node) {
+    if (node->block == nullptr) {
+        return;
+    }
+    for (const StatementPtr& statement : node->block->statements) {
+        if (statement != nullptr && !isDefinition(statement.get())) {
+            visitStatement(statement.get());
+        }
+    }
 }
 
 void Generator::emitConsoleMain() {

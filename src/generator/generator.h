@@ -1,5 +1,6 @@
 #pragma once
 
+#include "generator/web/metrics.h"
 #include "parser/parser.h"
 #include "parser/syntax_tree.h"
 
@@ -48,7 +49,9 @@ private:
     void emitStructures();
     void emitFunctions();
     void emitInitGlobals();
+    void visitLogicBlockNode(const LogicBlockNode* node);
     void emitConsoleMain();
+    template <class Visit> void forEachDefinition(Visit visit) const;
     void indent();
     std::string getLineText(std::int32_t line) const;
     [[noreturn]] void பிழை(const std::string& code, std::int32_t line, const std::string& extra) const;
@@ -97,6 +100,7 @@ private:
     std::string baseOf(const StructDefinitionStatement* node) const;
     void emitMemberComments(const StructDefinitionStatement* node, bool isPrivate);
     void bindPropertiesAndMethods(const std::string& structName, const std::string& object);
+    void checkConstructionDepth(std::int32_t line);
     void bindMethod(const std::string& structName, const FunctionDefinitionStatement& method,
                     const std::string& object);
     std::vector<const StructDefinitionStatement*> lineage(const std::string& structName) const;
@@ -154,6 +158,29 @@ private:
     void emitIndexAssignment(const CallExpression* node);
     void emitElementReference(const Expression* target);
 
+    // Pages and widgets of web applications (web/web_program.cpp, web/page.cpp, web/widget_frame.cpp).
+    friend class WidgetWriter;
+    void emitWebProgram();
+    void generateWebBoilerplate();
+    void emitWebMain(const ScreenConfig& screen, const std::string& title);
+    void visitWebAppNode(const WebAppNode* node);
+    void generateUI(const Statement* root);
+    void generateWidgetCode(const WidgetNode* widget, const std::string& x, const std::string& y);
+    void visitWidgetNode(const WidgetNode* node);
+    bool visitWidgetStatement(const Statement* statement);
+    void visitWidgetExpression(const WidgetExpression* node);
+
+    // The realtime database (database.cpp).
+    void visitDatabaseManagerNode(const DatabaseManagerNode* node);
+    void visitFirebaseConfigNode(const FirebaseConfigNode* node);
+    template <class WriteData>
+    void emitDatabaseOperation(const Expression* path, WriteData writeData, std::string_view script);
+    void emitDatabaseEntries(const MapLiteral* data, bool keepsNumbers);
+    void visitRTDBInsertExpression(const RTDBInsertExpression* node);
+    void visitRTDBUpdateExpression(const RTDBUpdateExpression* node);
+    void visitRTDBDeleteExpression(const RTDBDeleteExpression* node);
+    void visitRTDBReadStatement(const RTDBReadStatement* node);
+
     // Static types (types.cpp).
     VarType inferExpressionType(const Expression* expression);
     VarType inferCallType(const CallExpression& call);
@@ -165,6 +192,7 @@ private:
     void dropLocalsBehind(std::size_t count);
 
     const Program& program_;
+    std::vector<const WebAppNode*> webApps_;
     std::ostringstream out_;
     std::map<std::string, VarType> varTypes_;
     std::set<std::string> knownStructs_;
@@ -183,6 +211,10 @@ private:
     std::vector<std::string> localsLog_;
     std::int32_t indentLevel_ = 0;
     int containerLoopDepth_ = 0;
+    int constructionDepth_ = 0;
+    WidgetMetrics metrics_;
+    /// Widgets written so far; the count tells their static locals apart.
+    std::uint64_t widgetCount_ = 0;
     std::uint64_t typeEpoch_ = 0;
     std::unordered_map<const Expression*, InferredType> inferredTypes_;
 };

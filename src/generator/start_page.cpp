@@ -11,14 +11,26 @@ template <class Literal> const Literal* literalProperty(const WidgetNode& widget
     return property == widget.properties.end() ? nullptr : nodeCast<Literal>(property->second.get());
 }
 
+const WidgetNode* headerOf(const WebAppNode* app) {
+    return app == nullptr ? nullptr : dynamic_cast<const WidgetNode*>(app->header.get());
+}
+
+const StringLiteral* nameOf(const WidgetNode* header) {
+    return header == nullptr ? nullptr : literalProperty<StringLiteral>(*header, "பக்கம்");
+}
+
 } // namespace
+
+std::string pageName(const WebAppNode& app) {
+    const StringLiteral* name = nameOf(headerOf(&app));
+    return name == nullptr ? "home" : name->value;
+}
 
 std::string findStartPage(const Program& program) {
     std::string startPage;
     for (const StatementPtr& statement : program.statements) {
-        const auto* app = nodeCast<WebAppNode>(statement.get());
-        const auto* header = app == nullptr ? nullptr : dynamic_cast<const WidgetNode*>(app->header.get());
-        const auto* name = header == nullptr ? nullptr : literalProperty<StringLiteral>(*header, "பக்கம்");
+        const WidgetNode* header = headerOf(nodeCast<WebAppNode>(statement.get()));
+        const StringLiteral* name = nameOf(header);
         if (name == nullptr) {
             continue;
         }

@@ -48,7 +48,9 @@ void Generator::visitStatement(const Statement* statement) {
         visitOwn(statement, &Generator::visitNestedDefinition<StructDefinitionStatement>) ||
         visitOwn(statement, &Generator::visitFunctionDefinitionStatement) ||
         visitFramed(statement, &Generator::visitReturnStatement) ||
-        visitOwn(statement, &Generator::visitBlockStatement);
+        visitOwn(statement, &Generator::visitBlockStatement) ||
+        visitOwn(statement, &Generator::visitRTDBReadStatement) || visitOwn(statement, &Generator::visitWebAppNode) ||
+        visitWidgetStatement(statement) || visitOwn(statement, &Generator::visitLogicBlockNode);
     if (!isVisited) {
         throw_static_error("பொழி-399", "Unknown statement type in generator");
     }

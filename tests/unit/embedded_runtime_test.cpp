@@ -39,7 +39,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Section{"web_bridge", runtime::web_bridge}, Section{"value_types", runtime::value_types},
                     Section{"error_box", runtime::error_box}, Section{"value_functions", runtime::value_functions},
                     Section{"animation_engine", runtime::animation_engine}, Section{"library", runtime::library},
-                    Section{"scrolling", runtime::scrolling}, Section{"web_boilerplate", runtime::web_boilerplate}),
+                    Section{"scrolling", runtime::scrolling}, Section{"web_boilerplate", runtime::web_boilerplate},
+                    Section{"input_fields", runtime::input_fields}, Section{"frame_helpers", runtime::frame_helpers}),
     [](const testing::TestParamInfo<Section>& section) { return std::string(section.param.first); });
 
 } // namespace

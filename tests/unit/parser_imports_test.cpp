@@ -2,10 +2,9 @@
 #include "support/diagnosis.h"
 #include "support/parsing.h"
 #include "support/tree_text.h"
+#include "support/working_folder.h"
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -18,29 +17,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Works in a folder of its own, with the module folders முதல் and இரண்டு in it.
-class Import : public testing::Test {
+/// Works in an empty folder, with the module folders முதல் and இரண்டு in it.
+class Import : public WorkingFolder {
 protected:
-    void SetUp() override {
-        std::string pattern = (fs::temp_directory_path() / "pozhil-imports-XXXXXX").string();
-        ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-        folder_ = pattern;
-        fs::current_path(folder_);
-    }
-
-    void TearDown() override {
-        fs::current_path(start_);
-        fs::remove_all(folder_);
-    }
-
-    static void write(const std::string& path, const std::string& text) {
-        const fs::path file = fs::u8path(path);
-        if (file.has_parent_path()) {
-            fs::create_directories(file.parent_path());
-        }
-        std::ofstream(file) << text;
-    }
-
     /// A module that prints its own name is enough to see where its statements go.
     static void writeModule(const std::string& name) { write(name + ".பொழில்", prints(name)); }
 
@@ -53,12 +32,6 @@ protected:
     static std::string importFault(const std::string& source) {
         return diagnosisOf([&] { parseText(source, {"முதல்", "இரண்டு"}); });
     }
-
-    std::string folder() const { return folder_.string(); }
-
-private:
-    fs::path start_ = fs::current_path();
-    fs::path folder_;
 };
 
 TEST_F(Import, PutsTheStatementsOfTheFileFirst) {
@@ -119,7 +92,7 @@ TEST_F(Import, FollowsPathsOfAnyForm) {
     write("இரண்டு/அடைவு/ஆ.பொழில்", prints("இரண்டு"));
     EXPECT_EQ(importTree("நூஇறக்கி \"அடைவு/அ\"\n"), printTree("அடைவு"));
     EXPECT_EQ(importTree("நூஇறக்கி \"./அடைவு/../அடைவு/அ\"\n"), printTree("அடைவு"));
-    EXPECT_EQ(importTree("நூஇறக்கி \"" + folder() + "/அடைவு/அ\"\n"), printTree("அடைவு"));
+    EXPECT_EQ(importTree("நூஇறக்கி \"" + folder().string() + "/அடைவு/அ\"\n"), printTree("அடைவு"));
     EXPECT_EQ(importTree("நூஇறக்கி \"அடைவு/ஆ\"\n"), printTree("இரண்டு"));
 }
 
@@ -260,6 +233,13 @@ TEST_F(Import, AFileKnowsOnlyWhatItImportsItselfAndFirst) {
     write("சிறியது.பொழில்", "நூஇறக்கி \"பெரியது\"\nகட்டமைப்பு சிறியது(பெரியது):\n    இ = 1\n");
     EXPECT_EQ(importFault("நூஇறக்கி \"சிறியது\"\nநூஇறக்கி \"பெரியது\"\n"), "none");
     EXPECT_EQ(importFault("நூஇறக்கி \"பெரியது\"\nநூஇறக்கி \"சிறியது\"\n"), "பொழி-272 வரி 2");
+}
+
+TEST_F(Import, EndsInADiagnosticWhenFilesImportEachOtherTooDeep) {
+    for (int file = 0; file < 2000; ++file) {
+        write("கோப்பு_" + std::to_string(file) + ".பொழில்", "நூஇறக்கி \"கோப்பு_" + std::to_string(file + 1) + "\"\n");
+    }
+    EXPECT_EQ(importFault("நூஇறக்கி \"கோப்பு_0\"\n"), "பொழி-291 வரி 1");
 }
 
 } // namespace

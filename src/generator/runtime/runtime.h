@@ -18,4 +18,6 @@
 #include "library.h"
 #include "scrolling.h"
 #include "web_boilerplate.h"
+#include "input_fields.h"
+#include "frame_helpers.h"
 // clang-format on

@@ -1,18 +1,154 @@
 #pragma once
 
-/// What the browser side of a page may call. The native compiler skips it all.
+/// What the browser side of a page may call: values of input fields, the database's answers, scrolling, pasting, and
+/// the keys of a field that is drawn on the canvas. The native compiler skips it all.
 
+#include "global_state.h"
 #include "input_state.h"
 #include "web_text_layer.h"
 
+// clang-format off
 // --- emitted from here ---
 
 #ifdef __EMSCRIPTEN__
 void நகர்த்து(std::string id);
+
+extern "C" {
+EMSCRIPTEN_KEEPALIVE void set_input_value(const char* id, const char* val) {
+    g_inputValues[id] = val;
+}
+
+EMSCRIPTEN_KEEPALIVE void clear_input_error(const char* id) {
+    g_inputErrors[id] = "";
+}
+
+EMSCRIPTEN_KEEPALIVE void rtdb_clear_temp() {
+    global_vars["_temp_rtdb"] = std::map<std::string, std::any>();
+}
+
+// தரவுத்தளத்தின் விடையில் ஒரு பதிவு
+void pozhil_rtdb_add(const char* key, std::any val) {
+    if (auto* entries = std::any_cast<std::map<std::string, std::any>>(&global_vars["_temp_rtdb"])) {
+        (*entries)[key] = std::move(val);
+    }
+}
+
+EMSCRIPTEN_KEEPALIVE void rtdb_add_temp_str(const char* key, const char* val) {
+    pozhil_rtdb_add(key, std::string(val));
+}
+
+EMSCRIPTEN_KEEPALIVE void rtdb_add_temp_num(const char* key, double val) {
+    pozhil_rtdb_add(key, (long double)val);
+}
+
+EMSCRIPTEN_KEEPALIVE void rtdb_add_temp_bool(const char* key, int val) {
+    pozhil_rtdb_add(key, val != 0);
+}
+}
+
+std::map<int, std::function<void()>> g_rtdb_callbacks;
+int g_rtdb_cb_counter = 0;
+
+extern "C" {
+EMSCRIPTEN_KEEPALIVE void rtdb_execute_callback(int id) {
+    const auto found = g_rtdb_callbacks.find(id);
+    if (found != g_rtdb_callbacks.end()) {
+        global_vars["தரவு"] = global_vars["_temp_rtdb"];
+        found->second();
+        g_rtdb_callbacks.erase(id);
+    }
+}
+}
 #endif
 
 #ifdef __EMSCRIPTEN__
 EMSCRIPTEN_BINDINGS(scroll_logic) {
     emscripten::function("நகர்த்து", &நகர்த்து);
+}
+#endif
+
+#ifdef __EMSCRIPTEN__
+extern "C" {
+EMSCRIPTEN_KEEPALIVE void on_paste_text(const char* text) {
+    if (!g_focusedInput.empty()) {
+        g_inputValues[g_focusedInput] += text;
+    }
+}
+}
+#endif
+
+#ifdef __EMSCRIPTEN__
+// வரைபலகையில் வரையப்பட்ட உள்ளீட்டின் விசைகள்: திருத்தங்கள் அனைத்தும் பைட் கணக்கில்
+void pozhil_clear_focused_input() {
+    g_inputValues[g_focusedInput] = "";
+    g_inputCursorPos[g_focusedInput] = 0;
+    g_inputSelected[g_focusedInput] = false;
+}
+
+EM_BOOL pozhil_edit_key(const std::string& key, bool ctrl) {
+    std::string& value = g_inputValues[g_focusedInput];
+    int& caret = g_inputCursorPos[g_focusedInput];
+    if (key == "Backspace" || key == "Delete") {
+        const int at = key == "Backspace" ? caret - 1 : caret;
+        if (g_inputSelected[g_focusedInput]) {
+            pozhil_clear_focused_input();
+        } else if (at >= 0 && at < (int)value.size()) {
+            value.erase((std::size_t)at, 1);
+            caret = at;
+        }
+        return EM_TRUE;
+    }
+    if (ctrl && (key == "c" || key == "x")) {
+        copyToClipboard(value.c_str());
+        if (key == "x") {
+            value = "";
+            caret = 0;
+        }
+        return EM_TRUE;
+    }
+    if (ctrl && key == "a") {
+        g_inputSelected[g_focusedInput] = true;
+        return EM_TRUE;
+    }
+    if (key == "ArrowLeft" || key == "ArrowRight") {
+        caret = std::max(0, std::min(caret + (key == "ArrowLeft" ? -1 : 1), (int)value.size()));
+        return EM_TRUE;
+    }
+    return EM_FALSE;
+}
+
+EM_BOOL pozhil_type_key(const std::string& key) {
+    g_inputErrors[g_focusedInput] = "";
+    if (key == "Enter") {
+        g_focusedInput = "";
+        g_inputSelected.clear();
+        return EM_TRUE;
+    }
+    if (g_inputSelected[g_focusedInput]) {
+        pozhil_clear_focused_input();
+    }
+    std::string& value = g_inputValues[g_focusedInput];
+    int& caret = g_inputCursorPos[g_focusedInput];
+    caret = std::min(caret, (int)value.size());
+    value.insert((std::size_t)caret, key);
+    caret += (int)key.size();
+    return EM_TRUE;
+}
+
+EM_BOOL key_callback(int eventType, const EmscriptenKeyboardEvent* e, void* userData) {
+    (void)userData;
+    const bool html_input_has_focus = EM_ASM_INT({
+        return document.activeElement && document.activeElement.tagName === 'INPUT' ? 1 : 0;
+    });
+    if (html_input_has_focus || g_focusedInput.empty()) {
+        return EM_FALSE;
+    }
+    if (eventType == EMSCRIPTEN_EVENT_KEYDOWN) {
+        return pozhil_edit_key(e->key, e->ctrlKey);
+    }
+    if (eventType == EMSCRIPTEN_EVENT_KEYPRESS && !e->ctrlKey) {
+        return pozhil_type_key(e->key);
+    }
+    return EM_FALSE;
 }
 #endif

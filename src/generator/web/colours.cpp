@@ -1,6 +1,7 @@
 #include "generator/web/colours.h"
 
 #include "generator/generator.h"
+#include "generator/web/emitted_block.h"
 
 #include <array>
 #include <cstdio>
@@ -54,12 +55,45 @@ Colour parsePozhilColor(const std::string& text, bool isHex) {
     return colour == colourWords().end() ? BLACK : colour->second;
 }
 
+Colour styleColour(const std::string& text) {
+    return parsePozhilColor(text, text.rfind('#', 0) == 0);
+}
+
+ByteColour byteColour(const Colour& colour) {
+    const auto byteOf = [](float component) { return static_cast<int>(FULL * component); };
+    return {byteOf(colour.red), byteOf(colour.green), byteOf(colour.blue), byteOf(colour.alpha)};
+}
+
+std::string cssColour(const Colour& colour) {
+    const ByteColour bytes = byteColour(colour);
+    return "rgba(" + std::to_string(bytes.red) + "," + std::to_string(bytes.green) + "," + std::to_string(bytes.blue) +
+           "," + std::to_string(colour.alpha) + ")";
+}
+
+std::optional<Colour> colourOf(const Expression* value) {
+    if (const auto* colour = nodeCast<ColorExpression>(value)) {
+        return parsePozhilColor(colour->isHex ? colour->hexValue : colour->colorName, colour->isHex);
+    }
+    if (const auto* text = nodeCast<StringLiteral>(value)) {
+        return styleColour(text->value);
+    }
+    const auto* member = nodeCast<GetExpression>(value);
+    const auto* object = member == nullptr ? nullptr : nodeCast<VariableAccess>(member->object.get());
+    if (object != nullptr && object->name == "நிறம்") {
+        return parsePozhilColor(member->member.value, false);
+    }
+    return std::nullopt;
+}
+
+std::string floatColour(const Colour& colour) {
+    return "nvgRGBAf(" + floatConstant(colour.red) + ", " + floatConstant(colour.green) + ", " +
+           floatConstant(colour.blue) + ", " + floatConstant(colour.alpha) + ")";
+}
+
 /// "#FF0000"  ->  nvgRGBA(255, 0, 0, 255)
 void Generator::visitColorExpression(const ColorExpression* node) {
-    const Colour colour = parsePozhilColor(node->isHex ? node->hexValue : node->colorName, node->isHex);
-    const auto byteOf = [](float component) { return static_cast<int>(FULL * component); };
-    out_ << "nvgRGBA(" << byteOf(colour.red) << ", " << byteOf(colour.green) << ", " << byteOf(colour.blue) << ", "
-         << byteOf(colour.alpha) << ")";
+    const ByteColour bytes = byteColour(*colourOf(node));
+    out_ << "nvgRGBA(" << bytes.red << ", " << bytes.green << ", " << bytes.blue << ", " << bytes.alpha << ")";
 }
 
 } // namespace pozhil

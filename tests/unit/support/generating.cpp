@@ -54,8 +54,9 @@ std::string generatedText(const std::string& source, StatementList behind) {
 }
 
 std::string ownPart(const std::string& text) {
-    const std::size_t start = text.find(runtime::web_boilerplate);
-    return start == std::string::npos ? text : text.substr(start + runtime::web_boilerplate.size());
+    const std::string lastSection = std::string(runtime::frame_helpers) + "#endif\n";
+    const std::size_t start = text.find(lastSection);
+    return start == std::string::npos ? text : text.substr(start + lastSection.size());
 }
 
 std::string mainBody(const std::string& source, StatementList behind) {

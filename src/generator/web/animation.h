@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+namespace pozhil {
+
+class WidgetWriter;
+
+/// Names of the emitted variables that hold a widget's rectangle and the radius of its corners.
+struct AnimatedBox {
+    std::string x;
+    std::string y;
+    std::string width;
+    std::string height;
+    std::string radius;
+};
+
+/// How far the animation has come in this frame, as `t` on its curve; nothing for a widget without one. `isHover` must
+/// be known by then.
+void emitAnimationProgress(const WidgetWriter& widget);
+
+/// Moves, sizes and rounds the box by `t`.
+void emitAnimationTargets(const WidgetWriter& widget, const AnimatedBox& box);
+
+} // namespace pozhil

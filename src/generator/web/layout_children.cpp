@@ -1,0 +1,87 @@
+#include "generator/web/layout_children.h"
+
+#include "generator/web/metrics.h"
+#include "generator/web/sizes.h"
+#include "generator/web/widget_writer.h"
+
+#include <algorithm>
+
+namespace pozhil {
+
+LayoutChildren::LayoutChildren(const WidgetWriter& layout)
+    : widgets(childWidgets(layout.widget())),
+      spacing(numberOf(findProperty(layout.widget(), {"இடைவெளி"})).value_or(0.0F)) {
+    for (const WidgetNode* child : widgets) {
+        widthSum += layout.widthOf(*child);
+        heightSum += layout.heightOf(*child);
+        largestWidth = std::max(largestWidth, layout.widthOf(*child));
+        largestHeight = std::max(largestHeight, layout.heightOf(*child));
+        totalFlex += flexShare(*child);
+    }
+    gaps = widgets.size() > 1 ? static_cast<float>(widgets.size() - 1) * spacing : 0.0F;
+}
+
+float flexShare(const WidgetNode& child) {
+    if (child.kind == "நெகிழ்வு") {
+        const auto* flexible = dynamic_cast<const FlexibleNode*>(&child);
+        return flexible == nullptr ? 1.0F : static_cast<float>(flexible->flex);
+    }
+    return child.kind == "விரிவாக்கம்" || child.kind == "வெற்றிடம்" ? 1.0F : 0.0F;
+}
+
+bool hasScrollBar(const WidgetNode& layout) {
+    const auto* scrolls = nodeCast<BooleanLiteral>(findProperty(layout, {"உருளும்பட்டை"}));
+    return scrolls != nullptr && scrolls->value == "மெய்";
+}
+
+void emitLayoutSize(const WidgetWriter& layout, std::initializer_list<const char*> names, const char* variable,
+                    const char* forced, const char* window) {
+    const Expression* given = findProperty(layout.widget(), names);
+    if (const std::optional<float> size = numberOf(given)) {
+        layout.block("    $variable = $size;\n", {{"variable", variable}, {"size", floatConstant(*size)}});
+    } else if (given == nullptr && layout.isRoot()) {
+        layout.block("    if ($forced < 0.0f) $variable = $window;\n",
+                     {{"forced", forced}, {"variable", variable}, {"window", window}});
+    }
+}
+
+void emitGapSize(const WidgetWriter& layout, const WidgetNode& gap, const char* property, const char* variable,
+                 const char* base) {
+    const std::string size = processPercentage(findProperty(gap, {property}), base);
+    if (!size.empty()) {
+        layout.block("    $variable = $size;\n", {{"variable", variable}, {"size", size}});
+    }
+}
+
+void emitClip(const WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height) {
+    layout.block(R"(
+    nvgSave(vg);
+    nvgScissor(vg, $left, $top, $width, $height);
+    float oldClipX = g_currentClipX, oldClipY = g_currentClipY, oldClipW = g_currentClipW, oldClipH = g_currentClipH;
+    g_currentClipX = $left; g_currentClipY = $top; g_currentClipW = $width; g_currentClipH = $height;
+)",
+                 {{"left", x}, {"top", y}, {"width", width}, {"height", height}});
+}
+
+void emitClipEnd(const WidgetWriter& layout) {
+    layout.block(R"(
+    nvgRestore(vg);
+    g_currentClipX = oldClipX; g_currentClipY = oldClipY; g_currentClipW = oldClipW; g_currentClipH = oldClipH;
+)");
+}
+
+void emitScrollToId(const WidgetWriter& layout, const char* offset, const char* start, const char* axis) {
+    layout.block(R"(
+    if (!g_scrollToId.empty() && g_widgetPositions.count(g_scrollToId)) {
+        float error = g_widgetPositions[g_scrollToId].$axis - ($start + 50.0f);
+        ${offset}_$n += error * 0.1f;
+        bool hitLimit = false;
+        if (${offset}_$n <= 0.5f) { ${offset}_$n = 0.0f; hitLimit = (error < 0); }
+        if (${offset}_$n >= maxScroll - 0.5f) { ${offset}_$n = maxScroll; hitLimit = hitLimit || (error > 0); }
+        if (std::abs(error) < 2.0f || hitLimit) g_scrollToId = "";
+    }
+)",
+                 {{"offset", offset}, {"start", start}, {"axis", axis}});
+}
+
+} // namespace pozhil

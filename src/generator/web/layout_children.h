@@ -1,0 +1,52 @@
+#pragma once
+
+#include "parser/syntax_tree.h"
+
+#include <initializer_list>
+
+namespace pozhil {
+
+class WidgetWriter;
+
+/// What a column or a row knows of its children before the page runs.
+struct LayoutChildren {
+    explicit LayoutChildren(const WidgetWriter& layout);
+
+    std::vector<const WidgetNode*> widgets;
+    float widthSum = 0;
+    float heightSum = 0;
+    float largestWidth = 0;
+    float largestHeight = 0;
+    /// The gap between two children, and all gaps together.
+    float spacing = 0;
+    float gaps = 0;
+    /// Shares of the free space, all children together.
+    float totalFlex = 0;
+};
+
+/// How many shares of the free space a child takes; 0 for a child with a size of its own.
+float flexShare(const WidgetNode& child);
+
+/// Whether the layout scrolls.
+bool hasScrollBar(const WidgetNode& layout);
+
+/// Assigns the size of a layout along one axis: what the source says, else the window's for the root of a page.
+void emitLayoutSize(const WidgetWriter& layout, std::initializer_list<const char*> names, const char* variable,
+                    const char* forced, const char* window);
+
+/// Assigns what a gap among the children takes along the axis, if it is a size.
+void emitGapSize(const WidgetWriter& layout, const WidgetNode& gap, const char* property, const char* variable,
+                 const char* base);
+
+/// The clip rectangle of a scrolling layout; written before its children, and taken back behind them.
+void emitClip(const WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height);
+void emitClipEnd(const WidgetWriter& layout);
+
+/// How a scrolling layout eases towards the widget that the program wants to see.
+///
+/// \param offset name of the variable that holds how far it is scrolled
+/// \param start where the layout begins, along the axis
+/// \param axis "x" or "y"
+void emitScrollToId(const WidgetWriter& layout, const char* offset, const char* start, const char* axis);
+
+} // namespace pozhil

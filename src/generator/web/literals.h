@@ -1,0 +1,22 @@
+#pragma once
+
+#include "generator/web/colours.h"
+#include "parser/syntax_tree.h"
+
+#include <initializer_list>
+#include <string>
+
+namespace pozhil {
+
+/// Properties that the compiler reads as constants. Of several names the first that the widget has counts.
+
+/// A text; empty for anything else.
+std::string textOf(const Expression* value);
+
+/// A number as a constant of the emitted text, \p usual for anything else.
+std::string numberConstant(const WidgetNode& widget, std::initializer_list<const char*> names, float usual);
+
+/// A colour, \p usual for anything that isn't one.
+Colour colourProperty(const WidgetNode& widget, std::initializer_list<const char*> names, const char* usual);
+
+} // namespace pozhil

@@ -1,0 +1,27 @@
+#include "generator/web/nested_page.h"
+
+#include "generator/web/widget_writer.h"
+
+namespace pozhil {
+
+void emitNestedPage(const WidgetWriter& page) {
+    const auto* name = nodeCast<StringLiteral>(findProperty(page.widget(), {"பக்கம்"}));
+    const Filling children = page.blocks([&] {
+        for (const WidgetNode* child : childWidgets(page.widget())) {
+            page.child(*child, "0.0f", "0.0f");
+        }
+    });
+    page.block(R"(
+// --- Page: $name ---
+if (g_currentPage == "$name") {
+    nvgBeginPath(vg);
+    nvgRect(vg, 0, 0, winWidth, winHeight);
+    nvgFillColor(vg, nvgRGBA(245, 245, 245, 255));
+    nvgFill(vg);
+    $children
+}
+)",
+               {{"name", name == nullptr ? "home" : name->value}, {"children", children}});
+}
+
+} // namespace pozhil

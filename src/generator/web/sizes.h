@@ -1,0 +1,26 @@
+#pragma once
+
+#include "parser/syntax_tree.h"
+
+#include <initializer_list>
+#include <string>
+#include <utility>
+
+namespace pozhil {
+
+class WidgetWriter;
+
+/// The text of a size that the running page computes: pixels, percentages of \p base, choices between them, and the
+/// size of the window. Empty for an expression that is none of these; the widget then keeps the size it has.
+///
+/// \param base text of the size that a percentage is taken of
+std::string processPercentage(const Expression* expression, const std::string& base);
+
+/// Assigns the first of the properties \p names to the emitted variable, if it is a size.
+void emitGivenSize(const WidgetWriter& widget, std::initializer_list<const char*> names, const char* variable,
+                   const char* base);
+
+/// Where an alignment puts content in the free space: x and y, each from -1 (left, top) over 0 (centre) to 1.
+std::pair<float, float> getAlignmentCoords(சீரமைப்பு_வகை alignment);
+
+} // namespace pozhil

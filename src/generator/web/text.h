@@ -1,0 +1,10 @@
+#pragma once
+
+namespace pozhil {
+
+class WidgetWriter;
+
+/// உரை: a line of text, which gets smaller until it fits.
+void emitText(const WidgetWriter& text);
+
+} // namespace pozhil

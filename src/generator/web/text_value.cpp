@@ -1,0 +1,39 @@
+#include "generator/web/text_value.h"
+
+#include "generator/web/widget_writer.h"
+
+namespace pozhil {
+namespace {
+
+std::string globalVariable(const std::string& name) {
+    return "global_vars[\"" + name + "\"]";
+}
+
+} // namespace
+
+Filling textValue(const WidgetWriter& widget, const Expression* value, const char* otherwise) {
+    if (value == nullptr) {
+        return otherwise;
+    }
+    if (const auto* member = nodeCast<GetExpression>(value)) {
+        const auto* object = nodeCast<VariableAccess>(member->object.get());
+        if (object != nullptr && object->name == "காட்சி_நிலை") {
+            return globalVariable(member->member.value);
+        }
+    }
+    if (const auto* variable = nodeCast<VariableAccess>(value)) {
+        return globalVariable(variable->name);
+    }
+    if (const WidgetNode* inner = asWidget(value)) {
+        const Expression* text = findProperty(*inner, {"உரை"});
+        return text == nullptr ? Filling("std::string(u8\"[விட்ஜெட்]\")") : widget.expression(text);
+    }
+    return widget.expression(value);
+}
+
+float fontSizeOf(const TextStyle& style) {
+    constexpr float USUAL = 16.0F;
+    return style.size > 0 ? style.size : USUAL;
+}
+
+} // namespace pozhil

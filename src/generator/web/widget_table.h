@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+namespace pozhil {
+
+class WidgetWriter;
+
+/// Writes the block of one widget.
+using WidgetEmitter = void (*)(const WidgetWriter&);
+
+/// The emitter of the widgets that the source calls \p kind; null for a word that draws nothing.
+WidgetEmitter findWidgetEmitter(std::string_view kind);
+
+} // namespace pozhil

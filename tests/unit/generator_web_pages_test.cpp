@@ -1,0 +1,172 @@
+// Web programs: pages, what they set up before the first frame, and the frame of every widget.
+
+#include "support/diagnosis.h"
+#include "support/generating.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace pozhil;
+using namespace pozhil::test;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+std::string app(const std::string& header, const std::string& body = "", const std::string& logic = "") {
+    return "வலைதளம் கடை (\n    தலைமை (" + header + ")\n    குமரி (" + body + ")\n    வரையறை (\n" + logic + "    )\n)\n";
+}
+
+/// What a web program adds to the runtime.
+std::string webText(const std::string& source) {
+    return ownPart(generatedText(source));
+}
+
+/// Where each of \p pieces stands in \p text, one behind the other.
+void expectInOrder(const std::string& text, const std::vector<std::string>& pieces) {
+    std::size_t position = 0;
+    for (const std::string& piece : pieces) {
+        const std::size_t found = text.find(piece, position);
+        ASSERT_NE(found, std::string::npos) << "missing, or out of order: " << piece << "\nin\n"
+                                            << text.substr(position);
+        position = found + piece.size();
+    }
+}
+
+std::string initGlobals(const std::string& text) {
+    const std::string begin = "void init_globals() {\n";
+    const std::size_t start = text.find(begin) + begin.size();
+    return text.substr(start, text.find("\n}\n", start) - start);
+}
+
+TEST(Page, FillsTheWindowWhileItIsShown) {
+    expectInOrder(webText(app("பக்கம்: \"முகப்பு\"")),
+                  {"void render_frame() {", "nvgBeginFrame(vg, winWidth, winHeight, pxRatio);\n    nvgSave(vg);\n",
+                   "float forcedW = -1.0f; float forcedH = -1.0f; float maxW = -1.0f; float maxH = -1.0f;\n",
+                   "if (g_currentPage == \"முகப்பு\") {", "nvgBeginPath(vg);", "nvgRect(vg, 0, 0, winWidth, winHeight);",
+                   "bool bgSet = false;", "if (!bgSet) {", "nvgFillColor(vg, nvgRGBA(245, 245, 245, 255));",
+                   "nvgFill(vg);", "g_overlays.clear();", "nvgEndFrame(vg);", "g_mouseClicked = false;\n}"});
+}
+
+TEST(Page, IsCalledHomeWithoutAName) {
+    EXPECT_THAT(webText(app("")), HasSubstr("if (g_currentPage == \"home\") {"));
+    EXPECT_THAT(webText(app("பக்கம்: 5")), HasSubstr("if (g_currentPage == \"home\") {"));
+}
+
+TEST(Page, TakesItsColourFromTheHeader) {
+    const std::string fill = "nvgFillColor(vg, nvgRGBAf(1.0f, 0.5019608f, 0.0f, 1.0f));\n";
+    expectInOrder(webText(app("பின்னணி: \"#FF8000\"")), {"bool bgSet = false;", fill, "bgSet = true;", "if (!bgSet) {"});
+    EXPECT_THAT(webText(app("பின்னணி: நிறம்.நீலம்")), HasSubstr("nvgRGBAf(0.0f, 0.0f, 1.0f, 1.0f)"));
+}
+
+TEST(Page, StretchesItsPictureOverTheWindow) {
+    expectInOrder(webText(app("பின்னணிபடம்: \"வான்.png\"")),
+                  {"static int bgImgHandle = -1;",
+                   "nvgCreateImage(vg, fn_any_to_string(std::string(u8\"வான்.png\")).c_str(), 0)",
+                   "if (bgImgHandle > 0) {", "nvgImagePattern(vg, 0, 0, winWidth, winHeight, 0.0f, bgImgHandle, 1.0f)",
+                   "bgSet = true;"});
+}
+
+TEST(Page, PlaysItsVideoBehindATransparentFill) {
+    expectInOrder(
+        webText(app("பின்னணிகாணொளி: \"கடல்.mp4\"")),
+        {"'video/mp4'", "'pozhilVideo'", "\"கடல்.mp4\"", "nvgFillColor(vg, nvgRGBA(0, 0, 0, 0));", "bgSet = true;"});
+}
+
+TEST(Page, SetsTheTitleInEachFrame) {
+    EXPECT_THAT(webText(app("இணைய_தலைப்பு: \"என் கடை\"")),
+                HasSubstr("emscripten::val::global(\"document\").set(\"title\", "
+                          "emscripten::val(fn_any_to_string(std::string(u8\"என் கடை\"))));"));
+    EXPECT_THAT(webText(app("")), Not(HasSubstr(".set(\"title\"")));
+}
+
+TEST(Pages, StandOneBehindTheOtherInOneFrame) {
+    const std::string text = webText(app("பக்கம்: \"அ\"") + app("பக்கம்: \"ஆ\""));
+    expectInOrder(text, {"if (g_currentPage == \"அ\") {", "if (g_currentPage == \"ஆ\") {", "g_overlays.clear();"});
+    EXPECT_EQ(text.find("render_frame() {"), text.rfind("render_frame() {"));
+}
+
+TEST(StartPage, IsTheFirstNameOrTheLastThatAsks) {
+    const auto start = [](const std::string& source) {
+        const std::string text = generatedText(source);
+        const std::string begin = "std::string g_currentPage = \"";
+        const std::size_t position = text.find(begin) + begin.size();
+        return text.substr(position, text.find('"', position) - position);
+    };
+    EXPECT_EQ(start(app("") + app("பக்கம்: \"ஆ\"") + app("பக்கம்: \"இ\"")), "ஆ");
+    EXPECT_EQ(start(app("பக்கம்: \"அ\"") + app("பக்கம்: \"ஆ\", ஆரம்ப_பக்கம்: மெய்")), "ஆ");
+    EXPECT_EQ(start(app("பக்கம்: \"அ\", ஆரம்ப_பக்கம்: மெய்") + app("பக்கம்: \"ஆ\", ஆரம்ப_பக்கம்: மெய்")), "ஆ");
+    EXPECT_EQ(start(app("பக்கம்: \"அ\"") + app("பக்கம்: \"ஆ\", ஆரம்ப_பக்கம்: பொய்")), "அ");
+    EXPECT_EQ(start(app("ஆரம்ப_பக்கம்: மெய்")), "home");
+}
+
+TEST(Window, HasTheApplicationsName) {
+    EXPECT_THAT(webText(app("") + "வலைதளம் (\n தலைமை () குமரி () வரையறை ()\n)\n"),
+                HasSubstr("glfwCreateWindow((int)1280.0f, (int)720.0f, \"கடை\", NULL, NULL)"));
+    EXPECT_THAT(webText("வலைதளம் (\n தலைமை () குமரி () வரையறை ()\n)\n"), HasSubstr("\"MyApp\", NULL, NULL)"));
+}
+
+TEST(Logic, RunsBeforeTheFirstFrame) {
+    EXPECT_EQ(initGlobals(webText(app("", "", "        அ = 5\n        அச்சிடு(அ)\n"))),
+              "    (global_vars[\"அ\"] = std::any(5LL), global_vars[\"அ\"]);\n"
+              "    std::cout << fn_any_to_string(global_vars[\"அ\"]) << std::endl;");
+    expectInOrder(webText(app("")),
+                  {"void init_globals() {", "void render_frame() {", "int main() {\n    init_globals();"});
+}
+
+TEST(Logic, DefinesItsFunctionsAndStructuresOutside) {
+    const std::string text = webText(app("", "",
+                                         "        செயல் கூட்டு_செய்(அ):\n            திரும்பு அ கூட்டு 1\n"
+                                         "        கட்டமைப்பு பை:\n            எடை = 1\n"
+                                         "        ப = பை()\n        வ = கூட்டு_செய்(2)\n"));
+    expectInOrder(text, {"struct பை : public _StructBase", "std::any fn_கூட்டு_செய்(std::any அ) {",
+                         "void init_globals() {", "fn_கூட்டு_செய்(std::any(2LL))"});
+    EXPECT_EQ(text.find("fn_கூட்டு_செய்(std::any அ)"), text.rfind("fn_கூட்டு_செய்(std::any அ)"));
+}
+
+TEST(Logic, StandsBehindTheDefinitionsOutsideTheApplication) {
+    expectInOrder(
+        webText("செயல் வெளி():\n    திரும்பு 1\n" + app("", "", "        செயல் உள்():\n            திரும்பு வெளி()\n")),
+        {"std::any fn_வெளி() {", "std::any fn_உள்() {"});
+    expectInOrder(webText(app("", "", "        செயல் உள்():\n            திரும்பு 2\n") + "செயல் வெளி():\n    திரும்பு 1\n"),
+                  {"std::any fn_வெளி() {", "std::any fn_உள்() {"});
+}
+
+TEST(Logic, PassesOverEnumerations) {
+    EXPECT_EQ(initGlobals(webText(app("", "", "        வகை நாள்கள்:\n            திங்கள்\n        அ = 1\n"))),
+              "    (global_vars[\"அ\"] = std::any(1LL), global_vars[\"அ\"]);");
+}
+
+TEST(StatementsOutsideTheApplication, AreNotPartOfAPage) {
+    const std::string text = webText("அச்சிடு(\"காணாமல்\")\n" + app(""));
+    EXPECT_THAT(text, Not(HasSubstr("காணாமல்")));
+}
+
+TEST(Widgets, KeepTheirPositionUnderTheirId) {
+    for (const std::string name : {"அடையாளம்", "ID", "id"}) {
+        expectInOrder(webText(app("", "உரை(\"அ\", " + name + ": \"மேல்\")")),
+                      {"std::string _wid = fn_any_to_string(std::string(u8\"மேல்\"));",
+                       "if (!_wid.empty()) { g_widgetPositions[_wid] = {(float)(0.0f), (float)(0.0f)}; }"});
+    }
+}
+
+TEST(Widgets, AreThereUntilTheirVariableSaysNo) {
+    expectInOrder(webText(app("", "உரை(\"அ\", காட்சி_பெயர்: \"படி\")")),
+                  {"// --- Visibility Check for: படி ---", "g_alert_names.insert(\"படி\");",
+                   "if (global_vars.find(\"படி\") == global_vars.end() || (", "drawFixedText(",
+                   "} // End Visibility Check for படி"});
+}
+
+TEST(WidgetStatements, DrawOnlyTexts) {
+    const std::string text = initGlobals(webText(app("", "", "        உரை(\"அ\")\n        பொத்தான்(உரை(\"ஆ\"))\n")));
+    EXPECT_THAT(text,
+                HasSubstr("drawFixedText(50, 50, fn_any_to_string(std::string(u8\"அ\")), \"black\", 20.0, \"left\");"));
+    EXPECT_THAT(text, Not(HasSubstr("ஆ")));
+}
+
+TEST(WebText, IsTheSameEveryTime) {
+    const std::string source = app("பக்கம்: \"அ\"", "நெடுவரிசை(உருளும்பட்டை: மெய்)(பொத்தான்(உரை(\"ஆ\")))", "        அ = 1\n");
+    EXPECT_EQ(generatedText(source), generatedText(source));
+}
+
+} // namespace
