@@ -4,8 +4,9 @@ set(CMAKE_INSTALL_MESSAGE LAZY)
 
 install(TARGETS pozhil DESTINATION .)
 install(DIRECTORY உள்ளடக்கம்/ DESTINATION உள்ளடக்கம்)
-install(FILES ${precompiled_headers} DESTINATION உள்ளடக்கம்)
-install(FILES ${reporter_object} DESTINATION திரட்டு)
+install(FILES ${precompiled_headers} ${web_precompiled_headers} DESTINATION உள்ளடக்கம்)
+install(FILES ${web_headers} DESTINATION உள்ளடக்கம்/nanovg)
+install(FILES ${reporter_object} ${web_objects} DESTINATION திரட்டு)
 install(FILES src/error_handler.cpp DESTINATION src)
 install(DIRECTORY DESTINATION தொகுப்புகள்)
 install(DIRECTORY தொகுப்புகள்/ DESTINATION தொகுப்புகள் OPTIONAL)
@@ -14,16 +15,20 @@ install(DIRECTORY தொகுப்புகள்/ DESTINATION தொகுப
 set(stage ${PROJECT_BINARY_DIR}/பொழில்)
 file(GLOB_RECURSE installed_files CONFIGURE_DEPENDS உள்ளடக்கம்/* தொகுப்புகள்/*)
 # The list is a file of its own, so that a deleted header or module disappears from the folder too.
-file(CONFIGURE OUTPUT generated/installed_files.txt CONTENT "${installed_files}")
+file(CONFIGURE OUTPUT generated/installed_files.txt CONTENT "${installed_files};${web_objects};${web_headers}")
 
 add_custom_command(
     OUTPUT ${stage}/பொழி
-    COMMAND ${CMAKE_COMMAND} -E rm -rf ${stage}/உள்ளடக்கம் ${stage}/தொகுப்புகள்
+    COMMAND ${CMAKE_COMMAND} -E rm -rf ${stage}/உள்ளடக்கம் ${stage}/திரட்டு ${stage}/தொகுப்புகள்
     COMMAND ${CMAKE_COMMAND} -E env --unset=DESTDIR ${CMAKE_COMMAND} --install ${PROJECT_BINARY_DIR} --prefix ${stage}
     COMMAND ${CMAKE_COMMAND} -E touch ${stage}/பொழி
     DEPENDS pozhil ${precompiled_headers} ${reporter_object} ${PROJECT_SOURCE_DIR}/src/error_handler.cpp
+            ${web_objects} ${web_headers} ${web_precompiled_headers}
             ${installed_files} ${PROJECT_BINARY_DIR}/generated/installed_files.txt
     COMMENT "Staging the installation"
     VERBATIM)
 add_custom_target(installation ALL DEPENDS ${stage}/பொழி)
 add_dependencies(installation generated_program_files)
+if(TARGET web_program_files)
+    add_dependencies(installation web_program_files)
+endif()
