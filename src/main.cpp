@@ -1,11 +1,13 @@
 #include "driver/banner.h"
 #include "driver/command_line.h"
+#include "driver/emscripten_environment.h"
 #include "driver/front_end.h"
 #include "driver/native_build.h"
 #include "driver/native_watch.h"
 #include "driver/output_stage.h"
 #include "driver/settings.h"
 #include "driver/web_messages.h"
+#include "driver/web_mode.h"
 #include "platform/console.h"
 #include "platform/paths.h"
 #include "scanner/source_text.h"
@@ -34,6 +36,30 @@ void analyse(SourceFile& source, bool& web, const std::vector<std::string>& modu
     }
 }
 
+/// Empties the places that the output text and what becomes of it go to.
+bool prepareOutput(const std::filesystem::path& output, bool web) {
+    if (web) {
+        printWebGenerated();
+        if (!createWebDirectory()) {
+            return false;
+        }
+    }
+    return createOutput(output);
+}
+
+void runNative(const Invocation& invocation, const std::vector<std::string>& moduleDirectories,
+               const std::filesystem::path& output, NativeBuild& build) {
+    if (!invocation.watch) {
+        build.start();
+    }
+    printBanner();
+    animateCompilation(invocation.sourcePath);
+    if (invocation.watch) {
+        watchNative(invocation.sourcePath, moduleDirectories, output, build);
+    }
+    build.finish();
+}
+
 int compile(const Invocation& invocation) {
     SourceFile source;
     source.path = invocation.sourcePath;
@@ -44,35 +70,25 @@ int compile(const Invocation& invocation) {
     }
     source.text = std::move(*text);
 
-    const std::string appDirectory = platform::executableDirectory().u8string();
-    const std::vector<std::string> moduleDirectories = settings::moduleDirectories(appDirectory);
+    const std::filesystem::path appDirectory = platform::executableDirectory();
+    const std::vector<std::string> moduleDirectories = settings::moduleDirectories(appDirectory.u8string());
     bool web = invocation.web;
     analyse(source, web, moduleDirectories);
 
     const std::filesystem::path temporaryDirectory = prepareTemporaryDirectory();
     const std::filesystem::path output = outputPath(temporaryDirectory);
     const std::string generated = generateText(source);
-    if (!createOutput(output)) {
+    if (!prepareOutput(output, web)) {
         return 1;
     }
     if (web) {
-        std::cerr << "\nபிழை: வலைத்தளத் தொகுப்பு இந்தப் பதிப்பில் இன்னும் இல்லை." << std::endl;
-        return 1;
+        runWeb(source, generated, moduleDirectories, appDirectory, temporaryDirectory);
     }
     if (!writeOutput(output, generated)) {
         return 1;
     }
-
     NativeBuild build(appDirectory, output, temporaryDirectory);
-    if (!invocation.watch) {
-        build.start();
-    }
-    printBanner();
-    animateCompilation(source.path);
-    if (invocation.watch) {
-        watchNative(source.path, moduleDirectories, output, build);
-    }
-    build.finish();
+    runNative(invocation, moduleDirectories, output, build);
     return 0;
 }
 
@@ -80,12 +96,10 @@ int compile(const Invocation& invocation) {
 
 int main(int argc, char** argv) {
     platform::setUpConsole();
-    const Invocation invocation = readCommandLine(std::vector<std::string>(argv, argv + argc));
-    if (invocation.exitCode) {
-        return *invocation.exitCode;
-    }
     try {
-        return compile(invocation);
+        injectEmscriptenEnvironment(platform::executableDirectory());
+        const Invocation invocation = readCommandLine(std::vector<std::string>(argv, argv + argc));
+        return invocation.exitCode ? *invocation.exitCode : compile(invocation);
     } catch (const StageFailure& failure) {
         reportFirstFailure(failure);
     } catch (const std::exception& exception) {

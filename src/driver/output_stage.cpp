@@ -1,5 +1,7 @@
 #include "driver/output_stage.h"
 
+#include "driver/web_messages.h"
+
 #include <fstream>
 #include <iostream>
 
@@ -14,6 +16,19 @@ std::filesystem::path prepareTemporaryDirectory() {
 
 std::filesystem::path outputPath(const std::filesystem::path& temporaryDirectory) {
     return temporaryDirectory / "generated.cpp";
+}
+
+std::filesystem::path webDirectory() {
+    return std::filesystem::current_path() / "வெளியீடு";
+}
+
+bool createWebDirectory() {
+    std::error_code error;
+    std::filesystem::create_directory(webDirectory(), error);
+    if (error) {
+        printUnwritableDirectory(webDirectory().u8string());
+    }
+    return !error;
 }
 
 bool createOutput(const std::filesystem::path& path) {

@@ -25,6 +25,10 @@ std::vector<std::string> cxxFlags() {
     return platform::splitWords(platform::environmentVariable("POZHIL_CXXFLAGS").value_or(""));
 }
 
+std::vector<std::string> emFlags() {
+    return platform::splitWords(platform::environmentVariable("POZHIL_EMFLAGS").value_or(""));
+}
+
 std::vector<std::string> moduleDirectories(const std::string& appDirectory) {
     return {platform::environmentVariable("POZHIL_MODULES").value_or(DEFAULT_MODULES), appDirectory + "/தொகுப்புகள்"};
 }

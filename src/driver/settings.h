@@ -13,6 +13,9 @@ std::chrono::milliseconds animationDelay();
 /// Arguments added to the g++ command line: POZHIL_CXXFLAGS.
 std::vector<std::string> cxxFlags();
 
+/// Arguments added to the em++ command line: POZHIL_EMFLAGS.
+std::vector<std::string> emFlags();
+
 /// Where imports are looked for behind the working directory, in order: POZHIL_MODULES or its default, then the
 /// installation's own modules.
 /// \param appDirectory the installation

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace pozhil {
 
 /// Tells that a web build begins and that the source is being analysed.
@@ -7,5 +9,32 @@ void printWebStart();
 
 /// Tells that the analysis is done and the user interface is being made.
 void printWebGeneration();
+
+/// Tells that the user interface is made.
+void printWebGenerated();
+
+/// Tells that the application is being packed and compiled.
+void printWebPacking();
+
+/// Tells where the finished application is served, and that the browser opens it.
+void printWebSuccess(const std::string& address);
+
+/// Tells that the first build failed.
+void printWebFailure();
+
+/// Tells that em++ failed.
+void printCompilationFailure();
+
+/// Tells why em++ failed: it isn't installed.
+void printMissingCompiler();
+
+/// Tells why em++ failed: an object of the installation is missing.
+void printMissingObject(const std::string& path);
+
+/// Tells why a directory of the build is of no use: it can't be made or written.
+void printUnwritableDirectory(const std::string& path);
+
+/// Tells why em++ failed: there is no space left.
+void printFullDisk(const std::string& path);
 
 } // namespace pozhil

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <filesystem>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -31,6 +33,17 @@ int run_command(const Command& command);
 /// Runs a program without a console and waits for it.
 /// \return its exit status as above, and everything it wrote
 CommandResult captureCommand(const Command& command);
+
+/// Runs a program in the foreground, whatever it writes thrown away, and waits for it.
+/// \return its exit status as above
+int runSilently(const Command& command);
+
+/// Starts a program in the background, apart from this process's console, and doesn't wait for it. If it can't be
+/// started, nothing happens.
+void startInBackground(const Command& command);
+
+/// Where \p name, a program without a folder, stands in PATH; nothing if it doesn't.
+std::optional<std::filesystem::path> findProgram(const std::string& name);
 
 /// \p text cut into words at blanks; single and double quotes keep blanks together.
 std::vector<std::string> splitWords(const std::string& text);

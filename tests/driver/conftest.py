@@ -8,6 +8,7 @@ import pytest
 
 from support import texts as t
 from support.compiler import compiler_path
+from support.server import reserved_port
 from support.toolchain import Toolchain
 from support.workplace import Installation, Workplace
 
@@ -60,3 +61,10 @@ def installation(scratch, compiler):
 def installed_place(scratch, installation, tools):
     """A working directory for the copy of the installation, with the recording g++."""
     return Workplace(scratch / "work", scratch, installation.compiler, tools)
+
+
+@pytest.fixture
+def port():
+    """The server's port, for this test alone."""
+    with reserved_port():
+        yield

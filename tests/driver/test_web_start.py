@@ -6,6 +6,8 @@ from support import texts as t
 from support.box import split_compiler_box
 from support.workplace import HELLO, WRONG
 
+pytestmark = pytest.mark.usefixtures("port")
+
 ANNOUNCED = t.WEB_START + "-" * 55 + "\n" + t.WEB_ANALYSIS
 STARTED = ANNOUNCED + t.WEB_DONE + t.WEB_INTERFACE
 

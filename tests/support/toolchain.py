@@ -36,6 +36,10 @@ class Toolchain:
         """From now on g++ runs the shell text `behaviour` and fails."""
         self.stands_in_for("g++", behaviour + "\nexit 1")
 
+    def builds_pages(self):
+        """From now on em++ succeeds; each of its results holds the name of its kind."""
+        self.stands_in_for("em++", 'for kind in js wasm data; do echo $kind > "${out%.js}.$kind"; done')
+
     def calls(self, tool="g++"):
         """The arguments of each call so far, in order."""
         record = self.folder / f"{tool}.calls"

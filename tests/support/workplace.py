@@ -44,6 +44,10 @@ class Workplace:
         return own_part(self.emitted)
 
     @property
+    def web_directory(self):
+        return self.folder / t.WEB_DIRECTORY
+
+    @property
     def program(self):
         return self.work_directory / t.PROGRAM_NAME
 
@@ -90,6 +94,17 @@ class Installation:
             str(place.emitted_path), str(linked or self.object), "-o", str(place.work_directory / t.LINK_RESULT),
             "-std=c++17", f"-I{self.include}", f"-I{self.include}/nanovg",
             "-static", "-static-libstdc++", "-static-libgcc", "-lm", "-lpthread",
+        ]
+
+    def web_call(self, place, packing=()):
+        """The arguments with which em++ makes the page of `place`."""
+        return [
+            str(place.work_directory / t.EMITTED_WEB_NAME),
+            str(self.cache / "error_handler_web.o"), str(self.cache / "nanovg_web.o"),
+            f"-I{self.include}", f"-I{self.include}/nanovg", "-std=c++17", "-finput-charset=UTF-8", "--bind",
+            "-s", "USE_GLFW=3", "-s", "FULL_ES2=1", "-s", "WASM=1", "-s", "ALLOW_MEMORY_GROWTH=1",
+            "-s", "EXPORTED_RUNTIME_METHODS=['ccall','cwrap']",
+            *packing, "-o", str(place.web_directory / "index.js"),
         ]
 
 

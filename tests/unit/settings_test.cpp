@@ -21,4 +21,17 @@ TEST(ModuleDirectories, TheUserMayReplaceTheFirst) {
     unsetenv("POZHIL_MODULES");
 }
 
+TEST(CompilerFlags, AreTheWordsOfTheUser) {
+    unsetenv("POZHIL_CXXFLAGS");
+    unsetenv("POZHIL_EMFLAGS");
+    EXPECT_THAT(settings::cxxFlags(), ElementsAre());
+    EXPECT_THAT(settings::emFlags(), ElementsAre());
+    setenv("POZHIL_CXXFLAGS", " -O2  '-DA=a b'", 1);
+    setenv("POZHIL_EMFLAGS", "-O3 \"-s A=1\" ", 1);
+    EXPECT_THAT(settings::cxxFlags(), ElementsAre("-O2", "-DA=a b"));
+    EXPECT_THAT(settings::emFlags(), ElementsAre("-O3", "-s A=1"));
+    unsetenv("POZHIL_CXXFLAGS");
+    unsetenv("POZHIL_EMFLAGS");
+}
+
 } // namespace

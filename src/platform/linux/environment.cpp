@@ -12,4 +12,8 @@ std::optional<std::string> environmentVariable(const std::string& name) {
     return std::string(value);
 }
 
+void setEnvironmentVariable(const std::string& name, const std::string& value) {
+    setenv(name.c_str(), value.c_str(), 1);
+}
+
 } // namespace pozhil::platform

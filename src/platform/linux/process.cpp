@@ -1,6 +1,9 @@
 #include "platform/process.h"
 
+#include "platform/environment.h"
+
 #include <cerrno>
+#include <fcntl.h>
 #include <spawn.h>
 #include <sys/mman.h>
 #include <sys/wait.h>
@@ -8,6 +11,9 @@
 
 #include <algorithm>
 #include <array>
+#include <sstream>
+#include <system_error>
+#include <thread>
 
 namespace pozhil::platform {
 namespace {
@@ -49,6 +55,7 @@ public:
     FileActions& operator=(const FileActions&) = delete;
 
     void redirect(int from, int to) { posix_spawn_file_actions_adddup2(&actions_, from, to); }
+    void discard(int descriptor) { posix_spawn_file_actions_addopen(&actions_, descriptor, "/dev/null", O_RDWR, 0); }
     const posix_spawn_file_actions_t* get() const { return &actions_; }
 
 private:
@@ -58,6 +65,23 @@ private:
 bool isVariable(const std::string& assignment, const std::string& name) {
     return assignment.size() > name.size() && assignment[name.size()] == '=' && assignment.rfind(name, 0) == 0;
 }
+
+/// What a program is started with beside its descriptors.
+class Attributes {
+public:
+    explicit Attributes(short flags) {
+        posix_spawnattr_init(&attributes_);
+        posix_spawnattr_setflags(&attributes_, flags);
+    }
+    ~Attributes() { posix_spawnattr_destroy(&attributes_); }
+    Attributes(const Attributes&) = delete;
+    Attributes& operator=(const Attributes&) = delete;
+
+    const posix_spawnattr_t* get() const { return &attributes_; }
+
+private:
+    posix_spawnattr_t attributes_{};
+};
 
 /// This process's variables, those of the command in place of theirs.
 std::vector<std::string> childEnvironment(const Command& command) {
@@ -95,13 +119,19 @@ int waitFor(pid_t child) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : SIGNALLED + WTERMSIG(status);
 }
 
-int spawnAndWait(const Command& command, const FileActions& actions) {
+/// Nothing if the program can't be started.
+std::optional<pid_t> spawn(const Command& command, const FileActions& actions, short flags = 0) {
     std::vector<std::string> arguments = command.arguments;
     std::vector<std::string> environment = childEnvironment(command);
     pid_t child = 0;
-    const int error = posix_spawnp(&child, arguments.front().c_str(), actions.get(), nullptr,
+    const int error = posix_spawnp(&child, arguments.front().c_str(), actions.get(), Attributes(flags).get(),
                                    pointersTo(arguments).data(), pointersTo(environment).data());
-    return error == 0 ? waitFor(child) : COULD_NOT_START;
+    return error == 0 ? std::optional<pid_t>(child) : std::nullopt;
+}
+
+int spawnAndWait(const Command& command, const FileActions& actions) {
+    const auto child = spawn(command, actions);
+    return child ? waitFor(*child) : COULD_NOT_START;
 }
 
 } // namespace
@@ -121,6 +151,36 @@ CommandResult captureCommand(const Command& command) {
     result.output = output.content();
     result.errors = errors.content();
     return result;
+}
+
+int runSilently(const Command& command) {
+    FileActions actions;
+    actions.discard(STDOUT_FILENO);
+    actions.discard(STDERR_FILENO);
+    return spawnAndWait(command, actions);
+}
+
+void startInBackground(const Command& command) {
+    FileActions actions;
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        actions.discard(descriptor);
+    }
+    // A session of its own, so that the interrupt that ends this process doesn't reach it.
+    if (const auto child = spawn(command, actions, POSIX_SPAWN_SETSID)) {
+        std::thread(waitFor, *child).detach(); // or it would stay behind as a zombie
+    }
+}
+
+std::optional<std::filesystem::path> findProgram(const std::string& name) {
+    std::istringstream folders(environmentVariable("PATH").value_or(""));
+    for (std::string folder; std::getline(folders, folder, ':');) {
+        const std::filesystem::path program = std::filesystem::path(folder) / name;
+        std::error_code ignored;
+        if (std::filesystem::is_regular_file(program, ignored) && access(program.c_str(), X_OK) == 0) {
+            return program;
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace pozhil::platform

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace pozhil {
+
+/// Puts an Emscripten SDK that lies in the installation, in the folder emsdk, in front of PATH and names it in the
+/// variables that its tools read. Without one nothing changes, and em++ is the one in the user's own PATH.
+void injectEmscriptenEnvironment(const std::filesystem::path& appDirectory);
+
+/// The em++ to call: that of the installation's own SDK, or the name to look up in PATH.
+std::string emscriptenCompiler(const std::filesystem::path& appDirectory);
+
+/// The installation's precompiled headers for em++; empty if there are none, or if \p compiler can't be the one that
+/// they were made with.
+std::filesystem::path precompiledHeaders(const std::filesystem::path& appDirectory, const std::string& compiler);
+
+/// Variables that em++ needs beside its command line for what the language promises.
+/// \param precompiledHeaders may be empty
+std::vector<std::pair<std::string, std::string>> emscriptenVariables(const std::filesystem::path& precompiledHeaders);
+
+} // namespace pozhil

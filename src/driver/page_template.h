@@ -1,0 +1,35 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace pozhil {
+
+/// What an application puts into the page template; an empty text stands for the default.
+struct PageValues {
+    std::string title;
+    /// Path of the icon
+    std::string icon;
+    /// A colour of CSS
+    std::string background;
+    /// The number that the server tells once this build is in place
+    int version = 0;
+};
+
+/// The page template of an installation, nothing if it can't be read.
+std::optional<std::string> readTemplate(const std::filesystem::path& appDirectory);
+
+/// Fills the placeholders of a page template, and adds the script that reloads the page when the server tells of a
+/// newer build.
+std::string fillTemplate(std::string page, const PageValues& values);
+
+/// An icon as an address that holds the whole image, so that the page needs no further file; that of a file of the
+/// server's if the icon can't be read.
+std::string embeddedIcon(const std::string& path);
+
+/// Base64 text of \p bytes, with padding.
+std::string base64_encode_logo(const std::vector<unsigned char>& bytes);
+
+} // namespace pozhil

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "driver/front_end.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace pozhil {
+
+/// What happens in a watch loop when the source has changed.
+struct WatchSteps {
+    /// Told to the user at once
+    const char* changeNote;
+    /// Takes the changed source, parsed, and its output text
+    std::function<void(const SourceFile&, const std::string&)> build;
+    /// Takes the failure of a stage in place of the build
+    std::function<void(const StageFailure&)> reportFailure;
+};
+
+/// Compiles a source file anew whenever it changes, each time on objects of its own. Never returns.
+/// \throws std::filesystem::filesystem_error if the source file vanishes
+[[noreturn]] void watchSource(const std::string& sourcePath, const std::vector<std::string>& moduleDirectories,
+                              const WatchSteps& steps);
+
+} // namespace pozhil

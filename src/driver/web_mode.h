@@ -1,0 +1,21 @@
+#pragma once
+
+#include "driver/front_end.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace pozhil {
+
+/// Builds an application, opens it in the browser, serves it, and builds it anew whenever its source changes. Never
+/// returns: without a good build the server waits for one.
+/// \param text the output text of \p source
+/// \param appDirectory the installation
+/// \param temporaryDirectory where the output text is written for em++
+/// \throws std::filesystem::filesystem_error if the source file vanishes
+[[noreturn]] void runWeb(const SourceFile& source, const std::string& text,
+                         const std::vector<std::string>& moduleDirectories, const std::filesystem::path& appDirectory,
+                         const std::filesystem::path& temporaryDirectory);
+
+} // namespace pozhil

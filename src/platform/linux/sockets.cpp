@@ -1,0 +1,139 @@
+#include "platform/sockets.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace pozhil::platform {
+namespace {
+
+constexpr int SWITCHED_ON = 1;
+
+/// The socket calls know every kind of address by its common head.
+sockaddr* commonForm(sockaddr_in& address) {
+    return reinterpret_cast<sockaddr*>(&address);
+}
+
+[[noreturn]] void failAt(ListenStep step) {
+    throw ListenFailure(step, std::strerror(errno));
+}
+
+/// poll() that goes on behind a signal. The time may then become longer, but never endless: signals are rare.
+int pollAgain(pollfd* entries, std::size_t count, std::chrono::milliseconds timeout) {
+    const auto longest = static_cast<std::chrono::milliseconds::rep>(std::numeric_limits<int>::max());
+    const int time = static_cast<int>(std::clamp<std::chrono::milliseconds::rep>(timeout.count(), 0, longest));
+    int ready = 0;
+    do {
+        ready = poll(entries, count, time);
+    } while (ready < 0 && errno == EINTR);
+    return ready;
+}
+
+bool waitForRoom(const Socket& connection, std::chrono::milliseconds patience) {
+    pollfd entry{connection.descriptor(), POLLOUT, 0};
+    return pollAgain(&entry, 1, patience) > 0;
+}
+
+} // namespace
+
+Socket::~Socket() {
+    if (isOpen()) {
+        close(descriptor_);
+    }
+}
+
+Socket::Socket(Socket&& other) noexcept : descriptor_(std::exchange(other.descriptor_, CLOSED)) {}
+
+Socket& Socket::operator=(Socket&& other) noexcept {
+    std::swap(descriptor_, other.descriptor_);
+    return *this;
+}
+
+Socket listenOnPort(int port, int backlog) {
+    Socket listener(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    if (!listener.isOpen()) {
+        failAt(ListenStep::Socket);
+    }
+    // Otherwise connections of an earlier run, long closed, would keep the port for minutes.
+    if (setsockopt(listener.descriptor(), SOL_SOCKET, SO_REUSEADDR, &SWITCHED_ON, sizeof SWITCHED_ON) != 0) {
+        failAt(ListenStep::Option);
+    }
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_ANY);
+    address.sin_port = htons(static_cast<std::uint16_t>(port));
+    if (bind(listener.descriptor(), commonForm(address), sizeof address) != 0) {
+        failAt(ListenStep::Bind);
+    }
+    if (listen(listener.descriptor(), backlog) != 0) {
+        failAt(ListenStep::Listen);
+    }
+    return listener;
+}
+
+int portOf(const Socket& listener) {
+    sockaddr_in address{};
+    socklen_t size = sizeof address;
+    getsockname(listener.descriptor(), commonForm(address), &size);
+    return ntohs(address.sin_port);
+}
+
+Socket acceptConnection(const Socket& listener) {
+    Socket connection(accept4(listener.descriptor(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+    if (connection.isOpen()) {
+        // Answers are sent in large parts: holding back the last, short one only costs time.
+        setsockopt(connection.descriptor(), IPPROTO_TCP, TCP_NODELAY, &SWITCHED_ON, sizeof SWITCHED_ON);
+    }
+    return connection;
+}
+
+std::vector<bool> waitForInput(const std::vector<const Socket*>& sockets, std::chrono::milliseconds timeout) {
+    std::vector<pollfd> entries(sockets.size());
+    std::transform(sockets.begin(), sockets.end(), entries.begin(), [](const Socket* socket) {
+        return pollfd{socket->descriptor(), POLLIN, 0};
+    });
+    pollAgain(entries.data(), entries.size(), timeout);
+    std::vector<bool> ready(entries.size());
+    std::transform(entries.begin(), entries.end(), ready.begin(),
+                   [](const pollfd& entry) { return entry.revents != 0; });
+    return ready;
+}
+
+std::string receiveOnce(const Socket& connection, std::size_t limit) {
+    std::string bytes(limit, '\0');
+    const ssize_t count = recv(connection.descriptor(), bytes.data(), bytes.size(), 0);
+    bytes.resize(count > 0 ? static_cast<std::size_t>(count) : 0);
+    return bytes;
+}
+
+bool sendAll(const Socket& connection, std::string_view bytes, std::chrono::milliseconds patience) {
+    while (!bytes.empty()) {
+        // Without MSG_NOSIGNAL, a client that has gone away would end the whole process.
+        const ssize_t count = send(connection.descriptor(), bytes.data(), bytes.size(), MSG_NOSIGNAL);
+        if (count > 0) {
+            bytes.remove_prefix(static_cast<std::size_t>(count));
+        } else if (errno == EAGAIN) {
+            if (!waitForRoom(connection, patience)) {
+                return false;
+            }
+        } else if (errno != EINTR) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void endSending(const Socket& connection) {
+    shutdown(connection.descriptor(), SHUT_WR);
+}
+
+} // namespace pozhil::platform
