@@ -32,6 +32,8 @@ bool Parser::is_at_end() const {
 
 const Token& Parser::advance() {
     if (!is_at_end()) {
+        indentation_ += check(TokenType::INDENT) ? 1 : 0;
+        indentation_ -= check(TokenType::DEDENT) ? 1 : 0;
         ++current_;
     }
     return previous();
@@ -81,6 +83,38 @@ void Parser::skipLayout() {
     while (check(TokenType::NEWLINE) || check(TokenType::INDENT) || check(TokenType::DEDENT)) {
         advance();
     }
+}
+
+/// Inside a bracketed list: lines may be indented as one likes, as long as none stands further out than the line that
+/// opened the list, which stands at \p level.
+void Parser::handleIndentation(int level) {
+    while (check(TokenType::INDENT) || check(TokenType::DEDENT)) {
+        if (check(TokenType::DEDENT) && indentation_ <= level) {
+            const std::int32_t line = peek().line;
+            பிழை("பொழி-204", line < 2 ? line : line - 1);
+        }
+        advance();
+    }
+}
+
+/// Goes to the next item of a bracketed list; false at its closing bracket and at the end of the file.
+/// \param level of the line that opened the list
+bool Parser::atListItem(int level) {
+    while (check(TokenType::NEWLINE) || check(TokenType::INDENT) || check(TokenType::DEDENT)) {
+        skipNewlines();
+        handleIndentation(level);
+    }
+    return !check(TokenType::RPAREN) && !is_at_end();
+}
+
+/// The same for a list whose commas may stand or be left out.
+bool Parser::nextListItem(int level) {
+    while (atListItem(level)) {
+        if (!accept(TokenType::COMMA)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 std::string Parser::getLineText(std::int32_t line) const {

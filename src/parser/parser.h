@@ -44,6 +44,10 @@ public:
     /// Parses the whole file. The statements of imported files come first, in the order of their imports.
     Program parse();
 
+    /// Parses the targets of an animation, each by its own word, into the record that holds one field for each. Animation
+    /// blocks keep their targets by name instead and don't come here.
+    AnimationTargetNode parseAnimationTarget();
+
     const FunctionTable& functions() const { return functions_; }
     const StructTable& structs() const { return structs_; }
     const AbstractStructTable& abstractStructs() const { return abstractStructs_; }
@@ -64,6 +68,10 @@ private:
     Token consumeName(const char* code, std::int32_t line = -1);
     void skipNewlines();
     void skipLayout();
+    void handleIndentation(int level);
+    bool atListItem(int level);
+    bool nextListItem(int level);
+    template <class Item> void parseItems(int level, const Item& parseItem, std::int32_t line = -1);
     std::string getLineText(std::int32_t line) const;
     [[noreturn]] void பிழை(const std::string& code, std::int32_t line) const;
     void enterNesting();
@@ -114,7 +122,92 @@ private:
     StatementPtr parseImportStatement();
     void parseImportedFile(const std::string& path, std::string text);
 
+    // Applications (application.cpp).
+    StatementPtr parseWebApp();
+    StatementPtr parseHeader();
+    void parseHeaderItem(PropertyMap& properties);
+    StatementPtr parseUIBody();
+    StatementPtr parseDefinition();
+    StatementPtr parseDatabaseManager();
+    StatementPtr parseFirebaseConfig();
+
+    // Widgets: the dispatch, and what their lists share (widgets.cpp).
+    using WidgetPtr = std::unique_ptr<WidgetNode>;
+    using WidgetParser = WidgetPtr (Parser::*)(const Token& word);
+    using TokenKinds = std::initializer_list<TokenType>;
+    static WidgetParser widgetParser(const Token& word);
+    WidgetPtr parseWidget();
+    bool isWidgetAhead() const;
+    ExpressionPtr parseWidgetExpression();
+    void openBracket();
+    bool openFurtherBracket();
+    bool checkName(std::string_view text) const;
+    bool checkWord(TokenType type, std::string_view text) const;
+    bool checkOneOf(TokenKinds kinds) const;
+    bool isKeyAhead(TokenKinds kinds) const;
+    bool isSectionWord() const;
+    ExpressionPtr parsePropertyValue();
+    void parseProperty(PropertyMap& properties, const std::string& name);
+    void parseAlignment(WidgetNode& widget);
+    bool parsedAnimation(WidgetNode& widget);
+    void parseStyleBlock(WidgetNode& widget, TokenKinds kinds);
+
+    // Widgets of the general form, their styles and handlers (generic_widget.cpp, text_style.cpp).
+    enum class PressForm { Value, ValueOrStatements };
+    WidgetPtr parseGenericWidget(const Token& word);
+    void parseGenericItem(WidgetNode& widget, int& positionals);
+    bool parsedGenericStyle(WidgetNode& widget);
+    void parseButtonStyle(WidgetNode& widget);
+    void parseTextStyle(WidgetNode& widget);
+    void parsePressHandler(WidgetNode& widget, PressForm form);
+
+    // Widgets that lay out others (layout_widgets.cpp).
+    WidgetPtr parseColumn(const Token& word);
+    WidgetPtr parseRow(const Token& word);
+    WidgetPtr parsePlainLayout(const Token& word);
+    WidgetPtr parseListView(const Token& word);
+    void parseLayout(WidgetNode& widget, const Token& word);
+    void parseChildren(WidgetNode& widget, std::int32_t line, int level);
+    WidgetPtr parseGridView(const Token& word);
+    void parseGridProperty(GridViewNode& grid);
+    void parseGridGaps(GridViewNode& grid);
+    WidgetPtr parseExpanded(const Token& word);
+    WidgetPtr parseFlexible(const Token& word);
+    template <class ParsedShare> void parseFlexItems(WidgetNode& widget, const ParsedShare& parsedShare);
+    WidgetPtr parseSpacer(const Token& word);
+    WidgetPtr parsePadding(const Token& word);
+
+    // Boxes and messages (box_widgets.cpp, message_widgets.cpp).
+    WidgetPtr parseContainer(const Token& word);
+    void parseContainerItem(ContainerNode& container);
+    WidgetPtr parseCard(const Token& word);
+    WidgetPtr parseListTile(const Token& word);
+    WidgetPtr parseTextButton(const Token& word);
+    void parseTextButtonItem(WidgetNode& button);
+    ExpressionPtr parseTextButtonText();
+    bool isTextButtonStyleAhead() const;
+    void parseTextButtonStyle(WidgetNode& button);
+    WidgetPtr parseAlert(const Token& word);
+    void parseAlertItems(WidgetNode& alert);
+    WidgetPtr parseSnackBar(const Token& word);
+    void parseSnackBarValue(SnackBarNode& bar, const std::string& key);
+
+    // Animations (animation.cpp).
+    std::unique_ptr<AnimationNode> parseAnimation();
+    void parseAnimationItem(AnimationNode& animation);
+    void openAnimationValue();
+    void parseAnimationTargets(AnimationNode& animation);
+    AnimationAmount parseAnimationAmount();
+
+    // The realtime database (database.cpp).
+    ExpressionPtr parseDatabaseExpression();
+    ExpressionPtr parseDatabasePath(std::int32_t line);
+    template <class Node> ExpressionPtr parseRTDBWrite();
+    ExpressionPtr parseRTDBDeleteExpression();
+    StatementPtr parseRTDBReadStatement();
+
     // Expressions (expressions.cpp, primary.cpp).
+    enum class KeyLayout { Kept, Skipped };
     ExpressionPtr parseExpression();
     ExpressionPtr parseAssignment();
     ExpressionPtr parseAssignedValue(ExpressionPtr left);
@@ -134,6 +227,7 @@ private:
     ExpressionPtr parseName();
     ExpressionPtr parseListLiteral(std::int32_t line);
     std::unique_ptr<MapLiteral> parseMapLiteral(std::int32_t line);
+    void parseMapEntries(MapLiteral& map, KeyLayout behindKey);
     ExpressionPtr parseLambdaExpression();
 
     FunctionTable functions_;
@@ -150,6 +244,8 @@ private:
     EnumTable enums_;
     int functionDepth_ = 0;
     std::vector<std::string> moduleDirectories_;
+    /// Indents that are open at the cursor.
+    int indentation_ = 0;
     /// Height that the tree under construction has reached at most.
     int nesting_ = 0;
     /// Where the search for a closing bracket that began at bracketSearchStart_ ended.

@@ -29,8 +29,14 @@ ExpressionPtr Parser::parsePrimary() {
     if (checkKeyword("வினை")) {
         return parseLambdaExpression();
     }
+    if (ExpressionPtr write = parseDatabaseExpression()) {
+        return write;
+    }
     if (ExpressionPtr value = parseLiteral()) {
         return value;
+    }
+    if (isWidgetAhead()) {
+        return parseWidgetExpression();
     }
     if (ExpressionPtr name = parseName()) {
         return name;
@@ -109,6 +115,14 @@ ExpressionPtr Parser::parseListLiteral(std::int32_t line) {
 std::unique_ptr<MapLiteral> Parser::parseMapLiteral(std::int32_t line) {
     auto map = std::make_unique<MapLiteral>();
     map->line = line;
+    parseMapEntries(*map, KeyLayout::Kept);
+    consume(TokenType::RBRACE, "பொழி-206", line);
+    return map;
+}
+
+/// key : value { , key : value }, up to the closing brace.
+/// \param behindKey whether a line may end between a key and its colon
+void Parser::parseMapEntries(MapLiteral& map, KeyLayout behindKey) {
     Siblings siblings(*this);
     do {
         siblings.next();
@@ -120,14 +134,15 @@ std::unique_ptr<MapLiteral> Parser::parseMapLiteral(std::int32_t line) {
             பிழை("பொழி-212", peek().line);
         }
         std::string key = advance().value;
+        if (behindKey == KeyLayout::Skipped) {
+            skipLayout();
+        }
         consume(TokenType::COLON, "பொழி-202");
         skipLayout();
-        map->entries.emplace_back(std::move(key), parseExpression());
+        map.entries.emplace_back(std::move(key), parseExpression());
         skipLayout();
     } while (accept(TokenType::COMMA));
     skipLayout();
-    consume(TokenType::RBRACE, "பொழி-206", line);
-    return map;
 }
 
 /// வினை [ ( ] names [ ) ] : expr

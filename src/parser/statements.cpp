@@ -72,6 +72,12 @@ StatementPtr Parser::parseStatement(bool inStruct) {
     if (checkKeyword("எனில்")) {
         return parseIfStatement();
     }
+    if (check(TokenType::RTDB_READ)) {
+        return parseRTDBReadStatement();
+    }
+    if (check(TokenType::WEBAPP)) {
+        return parseWebApp();
+    }
     if (check(TokenType::UPDATE)) {
         return parseSetStateStatement();
     }

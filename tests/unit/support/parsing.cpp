@@ -16,6 +16,10 @@ std::string printing(const std::string& expression) {
     return "அச்சிடு(" + expression + ")";
 }
 
+std::string applicationWith(const std::string& widget) {
+    return "வலைதளம் (தலைமை() குமரி(\n" + widget + ") வரையறை())";
+}
+
 Program parseTokens(std::vector<Token> tokens) {
     tokens.push_back({TokenType::END_OF_FILE, "", tokens.empty() ? 1 : tokens.back().line});
     return Parser(std::move(tokens), "", FILE_NAME).parse();
@@ -44,6 +48,14 @@ std::string valueTree(const std::string& expression) {
     return treeText(print.arguments.at(0).get());
 }
 
+std::string widgetTree(const std::string& widget) {
+    const Program program = parseText(applicationWith(widget));
+    if (program.statements.size() != 1) {
+        throw std::logic_error("not one statement: " + treeText(program));
+    }
+    return treeText(dynamic_cast<const WebAppNode&>(*program.statements.front()).uiBody.get());
+}
+
 std::string treeOfTokens(std::vector<Token> tokens) {
     return treeText(parseTokens(std::move(tokens)));
 }
@@ -54,6 +66,10 @@ std::string fault(const std::string& source) {
 
 std::string valueFault(const std::string& expression) {
     return fault(printing(expression));
+}
+
+std::string widgetFault(const std::string& widget) {
+    return fault(applicationWith(widget));
 }
 
 std::string faultOfTokens(const std::vector<Token>& tokens) {

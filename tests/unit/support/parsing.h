@@ -20,6 +20,9 @@ std::string treeWithLines(const std::string& source);
 /// The tree of an expression, parsed as what a print statement prints.
 std::string valueTree(const std::string& expression);
 
+/// The tree of a widget as the root of an application's interface, where every word is taken for a widget's.
+std::string widgetTree(const std::string& widget);
+
 /// The tree of tokens that no source scans to; the end of the file is added.
 std::string treeOfTokens(std::vector<Token> tokens);
 
@@ -28,6 +31,9 @@ std::string fault(const std::string& source);
 
 /// Code and line of the diagnostic for an expression, parsed as what a print statement prints.
 std::string valueFault(const std::string& expression);
+
+/// Code and line of the diagnostic for the root of an application's interface, whose text begins on line 2.
+std::string widgetFault(const std::string& widget);
 
 /// Code and line of the diagnostic for tokens that no source scans to.
 std::string faultOfTokens(const std::vector<Token>& tokens);

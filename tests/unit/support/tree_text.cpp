@@ -1,4 +1,4 @@
-#include "support/tree_text.h"
+#include "support/tree_writer.h"
 
 #include <stdexcept>
 #include <typeinfo>
@@ -6,87 +6,18 @@
 namespace pozhil::test {
 namespace {
 
-class Writer {
-public:
-    explicit Writer(Lines lines) : lines_(lines) {}
-
-    std::string text(const Expression* node);
-    std::string text(const Statement* node);
-
-private:
-    std::string literal(const Expression* node);
-    std::string operation(const Expression* node);
-    std::string access(const Expression* node);
-    std::string simpleStatement(const Statement* node);
-    std::string controlFlow(const Statement* node);
-    std::string definition(const Statement* node);
-    std::string text(const MapLiteral& map);
-    std::string text(const SwitchStatement& statement);
-    std::string text(const StructDefinitionStatement& structure);
-    std::string text(const AbstractStructDefinitionStatement& structure);
-
-    /// The parts in brackets, a blank between each two of them; empty ones are left out.
-    template <class... Parts> std::string node(const char* name, std::int32_t line, const Parts&... parts) {
-        std::string joined = named(name, line);
-        (append(joined, part(parts)), ...);
-        return "(" + joined + ")";
-    }
-
-    std::string named(const std::string& name, std::int32_t line) const {
-        return lines_ == Lines::Hidden || line == 0 ? name : name + "@" + std::to_string(line);
-    }
-
-    static void append(std::string& text, const std::string& next) {
-        if (!text.empty() && !next.empty()) {
-            text += ' ';
-        }
-        text += next;
-    }
-
-    std::string part(const std::string& word) { return word; }
-    std::string part(const Token& token) { return token.value; }
-    std::string part(const ExpressionPtr& child) { return text(child.get()); }
-    std::string part(const StatementPtr& child) { return text(child.get()); }
-    std::string part(const std::unique_ptr<BlockStatement>& block) { return text(block.get()); }
-
-    template <class Child> std::string part(const std::vector<Child>& children) {
-        std::string joined;
-        for (const Child& child : children) {
-            append(joined, part(child));
-        }
-        return joined;
-    }
-
-    std::string part(const Param& param) { return (param.isMutable ? "&" : "") + param.name.value; }
-    std::string part(const AbstractMethod& method) { return node(method.name.value.c_str(), 0, method.params); }
-    std::string part(const CaseBlock& block) { return "(" + part(block.value) + " " + part(block.body) + ")"; }
-    std::string part(const std::unique_ptr<VarDeclaration>& field) { return text(field.get()); }
-    std::string part(const std::unique_ptr<FunctionDefinitionStatement>& method) { return text(method.get()); }
-
-    template <class Child> std::string bracketed(const std::vector<Child>& children) {
-        return "(" + part(children) + ")";
-    }
-
-    Lines lines_;
-};
-
-template <class Node, class Base> const Node* as(const Base* node) {
-    return dynamic_cast<const Node*>(node);
-}
-
-std::string quoted(const std::string& text) {
-    return '"' + text + '"';
-}
-
 std::string privacy(bool isPrivate) {
     return isPrivate ? "private" : "";
 }
 
-std::string Writer::text(const Expression* node) {
+} // namespace
+
+std::string TreeWriter::text(const Expression* node) {
     if (node == nullptr) {
         return "null";
     }
-    for (const auto write : {&Writer::literal, &Writer::operation, &Writer::access}) {
+    for (const auto write :
+         {&TreeWriter::literal, &TreeWriter::operation, &TreeWriter::access, &TreeWriter::database}) {
         if (std::string written = (this->*write)(node); !written.empty()) {
             return written;
         }
@@ -94,7 +25,7 @@ std::string Writer::text(const Expression* node) {
     throw std::logic_error(std::string("no written form for ") + typeid(*node).name());
 }
 
-std::string Writer::literal(const Expression* expression) {
+std::string TreeWriter::literal(const Expression* expression) {
     const std::int32_t line = expression->line;
     if (const auto* number = as<NumberLiteral>(expression)) {
         return node("Number", line, number->value);
@@ -126,7 +57,7 @@ std::string Writer::literal(const Expression* expression) {
     return "";
 }
 
-std::string Writer::text(const MapLiteral& map) {
+std::string TreeWriter::text(const MapLiteral& map) {
     std::string entries;
     for (const auto& [key, value] : map.entries) {
         append(entries, "(" + quoted(key) + " " + part(value) + ")");
@@ -134,7 +65,7 @@ std::string Writer::text(const MapLiteral& map) {
     return node("Map", map.line, entries);
 }
 
-std::string Writer::operation(const Expression* expression) {
+std::string TreeWriter::operation(const Expression* expression) {
     const std::int32_t line = expression->line;
     if (const auto* grouping = as<GroupingExpression>(expression)) {
         return node("Grouping", line, grouping->inner);
@@ -157,7 +88,7 @@ std::string Writer::operation(const Expression* expression) {
     return "";
 }
 
-std::string Writer::access(const Expression* expression) {
+std::string TreeWriter::access(const Expression* expression) {
     const std::int32_t line = expression->line;
     if (const auto* variable = as<VariableAccess>(expression)) {
         return named(variable->name, line);
@@ -180,11 +111,12 @@ std::string Writer::access(const Expression* expression) {
     return "";
 }
 
-std::string Writer::text(const Statement* node) {
+std::string TreeWriter::text(const Statement* node) {
     if (node == nullptr) {
         return "null";
     }
-    for (const auto write : {&Writer::simpleStatement, &Writer::controlFlow, &Writer::definition}) {
+    for (const auto write : {&TreeWriter::simpleStatement, &TreeWriter::controlFlow, &TreeWriter::definition,
+                             &TreeWriter::application, &TreeWriter::widget}) {
         if (std::string written = (this->*write)(node); !written.empty()) {
             return written;
         }
@@ -192,7 +124,7 @@ std::string Writer::text(const Statement* node) {
     throw std::logic_error(std::string("no written form for ") + typeid(*node).name());
 }
 
-std::string Writer::simpleStatement(const Statement* statement) {
+std::string TreeWriter::simpleStatement(const Statement* statement) {
     const std::int32_t line = statement->line;
     if (const auto* expression = as<ExpressionStatement>(statement)) {
         return node("Expression", line, expression->expression);
@@ -230,7 +162,7 @@ std::string Writer::simpleStatement(const Statement* statement) {
     return "";
 }
 
-std::string Writer::controlFlow(const Statement* statement) {
+std::string TreeWriter::controlFlow(const Statement* statement) {
     const std::int32_t line = statement->line;
     if (const auto* block = as<BlockStatement>(statement)) {
         return node("Block", line, block->statements);
@@ -253,11 +185,11 @@ std::string Writer::controlFlow(const Statement* statement) {
     return "";
 }
 
-std::string Writer::text(const SwitchStatement& statement) {
+std::string TreeWriter::text(const SwitchStatement& statement) {
     return node("Switch", statement.line, statement.subject, statement.cases, statement.defaultBlock);
 }
 
-std::string Writer::definition(const Statement* statement) {
+std::string TreeWriter::definition(const Statement* statement) {
     const std::int32_t line = statement->line;
     if (const auto* variable = as<VarDeclaration>(statement)) {
         const std::string type = std::to_string(static_cast<std::int32_t>(variable->type));
@@ -276,23 +208,21 @@ std::string Writer::definition(const Statement* statement) {
     return "";
 }
 
-std::string Writer::text(const StructDefinitionStatement& structure) {
+std::string TreeWriter::text(const StructDefinitionStatement& structure) {
     const std::string parent = structure.hasParent ? "< " + structure.parent.value : "";
     return node("StructDefinition", structure.line, structure.name, parent, structure.fields, structure.methods);
 }
 
-std::string Writer::text(const AbstractStructDefinitionStatement& structure) {
+std::string TreeWriter::text(const AbstractStructDefinitionStatement& structure) {
     return node("AbstractStructDefinition", structure.line, structure.name, structure.methods);
 }
 
-} // namespace
-
 std::string treeText(const Expression* expression, Lines lines) {
-    return Writer(lines).text(expression);
+    return TreeWriter(lines).text(expression);
 }
 
 std::string treeText(const Statement* statement, Lines lines) {
-    return Writer(lines).text(statement);
+    return TreeWriter(lines).text(statement);
 }
 
 std::string treeText(const Program& program, Lines lines) {

@@ -15,6 +15,11 @@ enum class Lines { Hidden, Shown };
 ///     அ = 1 கூட்டு ஆ        (Expression (Assignment அ = (Binary (Number 1) கூட்டு ஆ)))
 ///     எனில் அ: ...          (If அ (Block (Pass)) null)
 ///
+/// A widget tells its class, its kind and what differs from a widget of that class without content: the alignment's
+/// number, the fields of its class, properties, style, animation, statements of its press handler, children.
+///
+///     நெடுவரிசை(உரை("அ"))    (Column நெடுவரிசை (Widget உரை ("உரை" (String "அ"))))
+///
 /// With lines, "@3" stands behind the class or name of every node whose line isn't 0. A reference parameter has a "&"
 /// before it; a private member has the word private, a structure with a parent has "< parent" behind its name.
 std::string treeText(const Expression* expression, Lines lines = Lines::Hidden);
