@@ -21,6 +21,7 @@ extern const std::string_view library;
 extern const std::string_view scrolling;
 extern const std::string_view web_boilerplate;
 extern const std::string_view input_fields;
+extern const std::string_view media_elements;
 extern const std::string_view frame_helpers;
 
 } // namespace pozhil::runtime

@@ -32,6 +32,7 @@ TEST(Sections, StandInTheirOrderWithNothingBetween) {
                                          runtime::scrolling,
                                          runtime::web_boilerplate,
                                          runtime::input_fields,
+                                         runtime::media_elements,
                                          "#ifdef __EMSCRIPTEN__\n",
                                          runtime::frame_helpers,
                                          "#endif\n"};

@@ -1,7 +1,7 @@
 // Web programs: pages, what they set up before the first frame, and the frame of every widget.
 
 #include "support/diagnosis.h"
-#include "support/generating.h"
+#include "support/web_generating.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,26 +12,6 @@ using testing::HasSubstr;
 using testing::Not;
 
 namespace {
-
-std::string app(const std::string& header, const std::string& body = "", const std::string& logic = "") {
-    return "வலைதளம் கடை (\n    தலைமை (" + header + ")\n    குமரி (" + body + ")\n    வரையறை (\n" + logic + "    )\n)\n";
-}
-
-/// What a web program adds to the runtime.
-std::string webText(const std::string& source) {
-    return ownPart(generatedText(source));
-}
-
-/// Where each of \p pieces stands in \p text, one behind the other.
-void expectInOrder(const std::string& text, const std::vector<std::string>& pieces) {
-    std::size_t position = 0;
-    for (const std::string& piece : pieces) {
-        const std::size_t found = text.find(piece, position);
-        ASSERT_NE(found, std::string::npos) << "missing, or out of order: " << piece << "\nin\n"
-                                            << text.substr(position);
-        position = found + piece.size();
-    }
-}
 
 std::string initGlobals(const std::string& text) {
     const std::string begin = "void init_globals() {\n";

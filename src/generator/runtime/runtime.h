@@ -19,5 +19,6 @@
 #include "scrolling.h"
 #include "web_boilerplate.h"
 #include "input_fields.h"
+#include "media_elements.h"
 #include "frame_helpers.h"
 // clang-format on

@@ -183,6 +183,61 @@ inline float getTextWidth(const char* text, float fontSize) {
     }, text, fontSize);
 }
 
+// எழுத்துரு எதுவும் அமைக்கப்படாத புதிய வரைபலகையில் உரையின் அகலம்
+inline float pozhil_plain_text_width(const char* text) {
+    return (float)EM_ASM_DOUBLE({
+        window.pozhilPlainContext = window.pozhilPlainContext || document.createElement('canvas').getContext('2d');
+        return window.pozhilPlainContext.measureText(UTF8ToString($0)).width;
+    }, text);
+}
+
+// தடிமனையும் சேர்த்து அளந்த அகலம்
+inline float pozhil_text_width(const char* text, float fontSize, const char* fontWeight) {
+    return (float)EM_ASM_DOUBLE({
+        var canvas = document.getElementById('textCanvas');
+        if (!canvas) {
+            return 0;
+        }
+        var ctx = canvas.getContext('2d');
+        ctx.font = UTF8ToString($2) + ' ' + $1 + 'px "Noto Sans Tamil", Arial, sans-serif';
+        return ctx.measureText(UTF8ToString($0)).width;
+    }, text, fontSize, fontWeight);
+}
+
+// பக்கம் முழுவதையும் மங்கச்செய்து, உரையாடல் பெட்டி நிற்குமிடத்தை மட்டும் திறந்துவிடும்
+inline void pozhil_dim_page(float x, float y, float w, float h, float radius) {
+    EM_ASM({
+        var canvas = document.getElementById('textCanvas');
+        if (!canvas) {
+            return;
+        }
+        var x = $0;
+        var y = $1;
+        var right = x + $2;
+        var bottom = y + $3;
+        var r = Math.min($4, $2 / 2, $3 / 2);
+        var ctx = canvas.getContext('2d');
+        ctx.save();
+        ctx.fillStyle = 'rgba(0,0,0,0.63)';
+        ctx.fillRect(-100, -100, window.innerWidth + 200, window.innerHeight + 200);
+        ctx.globalCompositeOperation = 'destination-out';
+        ctx.fillStyle = 'rgba(0,0,0,1)';
+        ctx.beginPath();
+        ctx.moveTo(x + r, y);
+        ctx.lineTo(right - r, y);
+        ctx.quadraticCurveTo(right, y, right, y + r);
+        ctx.lineTo(right, bottom - r);
+        ctx.quadraticCurveTo(right, bottom, right - r, bottom);
+        ctx.lineTo(x + r, bottom);
+        ctx.quadraticCurveTo(x, bottom, x, bottom - r);
+        ctx.lineTo(x, y + r);
+        ctx.quadraticCurveTo(x, y, x + r, y);
+        ctx.closePath();
+        ctx.fill();
+        ctx.restore();
+    }, x, y, w, h, radius);
+}
+
 inline void copyToClipboard(const char* text) {
     EM_ASM({
         var text = UTF8ToString($0);

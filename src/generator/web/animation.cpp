@@ -32,7 +32,7 @@ constexpr Target TARGETS[] = {
 
 } // namespace
 
-void emitAnimationProgress(const WidgetWriter& widget) {
+void emitAnimationProgress(const WidgetWriter& widget, const char* isHover) {
     const AnimationNode* animation = widget.widget().animation.get();
     if (animation == nullptr) {
         return;
@@ -40,14 +40,20 @@ void emitAnimationProgress(const WidgetWriter& widget) {
     widget.block(R"(
     bool animActive = false;
     std::string aCond = "$condition";
-    if (aCond == "மவுஸ்_மேலே" || aCond == "hover" || aCond == "சுட்டி_மேல்") animActive = isHover;
+    if (aCond == "மவுஸ்_மேலே" || aCond == "hover" || aCond == "சுட்டி_மேல்") animActive = $isHover;
     if (aCond == "தானாக") animActive = true;
     float progress = updateProgress(${n}ULL, aCond, animActive, $y, winHeight, $duration);
     float t = getCurveValue("$curve", progress);
 )",
                  {{"condition", animation->condition},
+                  {"isHover", isHover},
                   {"duration", floatConstant(animation->duration)},
                   {"curve", animation->curve}});
+}
+
+bool startsOnHover(const AnimationNode& animation) {
+    constexpr std::string_view CONDITIONS[] = {"மவுஸ்_மேலே", "hover", "சுட்டி_மேல்"};
+    return std::find(std::begin(CONDITIONS), std::end(CONDITIONS), animation.condition) != std::end(CONDITIONS);
 }
 
 void emitAnimationTargets(const WidgetWriter& widget, const AnimatedBox& box) {

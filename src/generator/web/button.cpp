@@ -23,13 +23,6 @@ struct Label {
     Colour colour;
 };
 
-const WidgetNode* childOfKind(const WidgetNode& widget, std::string_view kind) {
-    const auto children = childWidgets(widget);
-    const auto found =
-        std::find_if(children.begin(), children.end(), [&](const WidgetNode* child) { return child->kind == kind; });
-    return found == children.end() ? nullptr : *found;
-}
-
 /// The text of a style entry, whether the source wrote a text, a number or a word.
 std::string wordOf(const Expression* value) {
     if (const auto* text = nodeCast<StringLiteral>(value)) {
@@ -114,7 +107,7 @@ void emitSize(const WidgetWriter& button, const Label& label) {
     float responsiveSize = responsiveTextSize($size, winWidth);
     nvgFontSize(vg, responsiveSize);
     nvgFontFace(vg, "$face");
-    float bounds[4];
+    float bounds[4] = {0.0f, 0.0f, 0.0f, 0.0f};
     nvgTextBounds(vg, 0, 0, btnTextStr.c_str(), NULL, bounds);
     float btnW = (bounds[2] - bounds[0]) + 32.0f;
     if (btnW < 80.0f) btnW = 80.0f;
@@ -157,7 +150,7 @@ void emitHover(const WidgetWriter& button) {
     float my = pozhil_mouse_y();
     bool isHover = mx >= btnX && mx <= btnX + btnW && my >= btnY && my <= btnY + btnH && (!g_block_background_clicks || g_inside_overlay);
 )");
-    emitAnimationProgress(button);
+    emitAnimationProgress(button, "isHover");
     emitAnimationTargets(button, {"btnX", "btnY", "btnW", "btnH", "radius"});
     const bool isAnimated = button.widget().animation != nullptr;
     if (isAnimated) {

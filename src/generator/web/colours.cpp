@@ -85,6 +85,12 @@ std::optional<Colour> colourOf(const Expression* value) {
     return std::nullopt;
 }
 
+std::string byteColourText(const Colour& colour) {
+    const ByteColour bytes = byteColour(colour);
+    return "nvgRGBA(" + std::to_string(bytes.red) + ", " + std::to_string(bytes.green) + ", " +
+           std::to_string(bytes.blue) + ", " + std::to_string(bytes.alpha) + ")";
+}
+
 std::string floatColour(const Colour& colour) {
     return "nvgRGBAf(" + floatConstant(colour.red) + ", " + floatConstant(colour.green) + ", " +
            floatConstant(colour.blue) + ", " + floatConstant(colour.alpha) + ")";
@@ -92,8 +98,7 @@ std::string floatColour(const Colour& colour) {
 
 /// "#FF0000"  ->  nvgRGBA(255, 0, 0, 255)
 void Generator::visitColorExpression(const ColorExpression* node) {
-    const ByteColour bytes = byteColour(*colourOf(node));
-    out_ << "nvgRGBA(" << bytes.red << ", " << bytes.green << ", " << bytes.blue << ", " << bytes.alpha << ")";
+    out_ << byteColourText(*colourOf(node));
 }
 
 } // namespace pozhil

@@ -42,6 +42,9 @@ ByteColour byteColour(const Colour& colour);
 /// rgba(255,128,0,1.000000), as the text canvas reads it
 std::string cssColour(const Colour& colour);
 
+/// nvgRGBA(255, 128, 0, 255)
+std::string byteColourText(const Colour& colour);
+
 /// nvgRGBAf(1.0f, 0.5f, 0.0f, 1.0f)
 std::string floatColour(const Colour& colour);
 

@@ -7,6 +7,8 @@
 namespace pozhil {
 namespace {
 
+constexpr LayoutAxis AXIS = {"H", "fixedHeightSum", "உயரம்", "containerH", "scrollY", &WidgetWriter::heightOf};
+
 /// Rectangle of the column. One that scrolls takes the window's height, wherever it starts.
 void emitRectangle(const WidgetWriter& column, const LayoutChildren& children, float contentHeight) {
     column.block(R"(
@@ -37,12 +39,9 @@ void emitScrolling(const WidgetWriter& column, float contentHeight) {
         float wheel = pozhil_take_wheel();
         scrollY_$n += wheel;
     }
-    float maxScroll = contentH - colH;
-    if (maxScroll < 0.0f) maxScroll = 0.0f;
-    if (scrollY_$n < 0.0f) scrollY_$n = 0.0f;
-    if (scrollY_$n > maxScroll) scrollY_$n = maxScroll;
 )",
                  {{"contentH", floatConstant(contentHeight)}});
+    emitScrollLimits(column, AXIS, "contentH", "colH");
     emitClip(column, "colX", "colY", "colW", "colH");
     emitScrollToId(column, "scrollY", "colY", "y");
 }
@@ -58,32 +57,6 @@ void emitScrollBar(const WidgetWriter& column) {
         nvgFillColor(vg, nvgRGBA(0, 0, 0, 100));
         nvgFill(vg);
     }
-)");
-}
-
-/// How the free height is shared out.
-void emitShares(const WidgetWriter& column, const LayoutChildren& children) {
-    column.block(R"(
-    float fixedHeightSum = 0.0f;
-    float totalFlex = $flex;
-    float spacing = 0.0f;
-    spacing = $spacing;
-)",
-                 {{"flex", floatConstant(children.totalFlex)}, {"spacing", floatConstant(children.spacing)}});
-    for (const WidgetNode* child : children.widgets) {
-        if (flexShare(*child) > 0.0F) {
-            continue;
-        }
-        std::string height = floatConstant(column.heightOf(*child));
-        if (child->kind == "இவெ") {
-            height = processPercentage(findProperty(*child, {"உயரம்"}), "containerH");
-        }
-        column.block("    fixedHeightSum += $height + spacing;\n", {{"height", height.empty() ? "0.0f" : height}});
-    }
-    column.block(R"(
-    float remainingH = containerH - fixedHeightSum;
-    if (remainingH < 0.0f) remainingH = 0.0f;
-    float unitFlexH = (totalFlex > 0) ? (remainingH / totalFlex) : 0.0f;
 )");
 }
 
@@ -127,7 +100,7 @@ void emitChild(const WidgetWriter& column, const WidgetNode& child) {
         column.block("    currentY += $height + spacing;\n", {{"height", height}});
     } else if (child.kind == "இவெ") {
         column.block("    float current_hH = 0.0f;\n");
-        emitGapSize(column, child, "உயரம்", "current_hH", "(forcedH > 0.0f ? forcedH : containerH)");
+        emitGapSize(column, child, AXIS.gapProperty, "current_hH", "(forcedH > 0.0f ? forcedH : containerH)");
         column.block("    currentY += current_hH + spacing;\n");
     } else {
         emitFreeChild(column, child);
@@ -160,7 +133,7 @@ void emitColumn(const WidgetWriter& column) {
                   {"alignY", floatConstant(alignY)},
                   {"contentH", floatConstant(contentHeight)},
                   {"start", scrolls ? "startY - scrollY_" + column.number() : "startY"}});
-    emitShares(column, children);
+    emitShares(column, children, AXIS);
     for (const WidgetNode* child : children.widgets) {
         if (child->kind != "அசைவூட்டம்") {
             column.block("    {\n$child\n    }\n", {{"child", column.blocks([&] { emitChild(column, *child); })}});

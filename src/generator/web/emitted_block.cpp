@@ -81,8 +81,12 @@ void writeLine(std::ostream& out, std::string_view line, const Holes& holes, std
 void Filling::writeTo(std::ostream& out) const {
     if (const auto* text = std::get_if<std::string>(&content_)) {
         out << *text;
+    } else if (const auto* writer = std::get_if<std::function<void()>>(&content_)) {
+        (*writer)();
     } else {
-        std::get<std::function<void()>>(content_)();
+        for (const Filling& part : std::get<std::vector<Filling>>(content_)) {
+            part.writeTo(out);
+        }
     }
 }
 

@@ -10,17 +10,19 @@
 
 namespace pozhil {
 
-/// What stands in a hole of an emitted block: a text, or something that writes itself, such as a user's expression.
+/// What stands in a hole of an emitted block: a text, something that writes itself, such as a user's expression, or
+/// several of these, one directly behind the other.
 class Filling {
 public:
     Filling(std::string text) : content_(std::move(text)) {}
     Filling(const char* text) : content_(std::string(text)) {}
     Filling(std::function<void()> writer) : content_(std::move(writer)) {}
+    explicit Filling(std::vector<Filling> parts) : content_(std::move(parts)) {}
 
     void writeTo(std::ostream& out) const;
 
 private:
-    std::variant<std::string, std::function<void()>> content_;
+    std::variant<std::string, std::function<void()>, std::vector<Filling>> content_;
 };
 
 /// A hole's name, and what stands in it.

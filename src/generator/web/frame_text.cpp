@@ -74,7 +74,8 @@ const std::string_view frame_text::TAIL = R"(
         g_mouseClicked = EM_ASM_INT({ var clicked = window.mouseClicked || 0; window.mouseClicked = 0; return clicked; }) != 0;
     }
     g_inside_overlay = true;
-    for (auto& draw_overlay : g_overlays) {
+    for (std::size_t next = 0; next < g_overlays.size(); ++next) {
+        std::function<void()> draw_overlay = g_overlays[next]; // வரையும்போதே இன்னொன்று சேரலாம்
         draw_overlay();
     }
     g_overlays.clear();

@@ -1,5 +1,6 @@
 #include "generator/web/layout_children.h"
 
+#include "generator/web/literals.h"
 #include "generator/web/metrics.h"
 #include "generator/web/sizes.h"
 #include "generator/web/widget_writer.h"
@@ -30,8 +31,7 @@ float flexShare(const WidgetNode& child) {
 }
 
 bool hasScrollBar(const WidgetNode& layout) {
-    const auto* scrolls = nodeCast<BooleanLiteral>(findProperty(layout, {"உருளும்பட்டை"}));
-    return scrolls != nullptr && scrolls->value == "மெய்";
+    return isTrue(findProperty(layout, {"உருளும்பட்டை"}));
 }
 
 void emitLayoutSize(const WidgetWriter& layout, std::initializer_list<const char*> names, const char* variable,
@@ -53,10 +53,57 @@ void emitGapSize(const WidgetWriter& layout, const WidgetNode& gap, const char* 
     }
 }
 
+void emitShares(const WidgetWriter& layout, const LayoutChildren& children, const LayoutAxis& axis) {
+    layout.block(R"(
+    float $sum = 0.0f;
+    float totalFlex = $flex;
+    float spacing = 0.0f;
+    spacing = $spacing;
+)",
+                 {{"sum", axis.fixedSum},
+                  {"flex", floatConstant(children.totalFlex)},
+                  {"spacing", floatConstant(children.spacing)}});
+    for (const WidgetNode* child : children.widgets) {
+        if (flexShare(*child) > 0.0F) {
+            continue;
+        }
+        std::string size = floatConstant((layout.*axis.sizeOf)(*child));
+        if (child->kind == "இவெ") {
+            size = processPercentage(findProperty(*child, {axis.gapProperty}), axis.gapBase);
+        }
+        layout.block("    $sum += $size + spacing;\n",
+                     {{"sum", axis.fixedSum}, {"size", size.empty() ? "0.0f" : size}});
+    }
+    layout.block(R"(
+    float remaining$axis = container$axis - $sum;
+    if (remaining$axis < 0.0f) remaining$axis = 0.0f;
+    float unitFlex$axis = (totalFlex > 0) ? (remaining$axis / totalFlex) : 0.0f;
+)",
+                 {{"axis", axis.letter}, {"sum", axis.fixedSum}});
+}
+
+void emitScrollLimits(const WidgetWriter& layout, const LayoutAxis& axis, const char* content, const char* visible) {
+    layout.block(R"(
+    float maxScroll = $content - $visible;
+    if (maxScroll < 0.0f) maxScroll = 0.0f;
+    if (${offset}_$n < 0.0f) ${offset}_$n = 0.0f;
+    if (${offset}_$n > maxScroll) ${offset}_$n = maxScroll;
+)",
+                 {{"content", content}, {"visible", visible}, {"offset", axis.offset}});
+}
+
 void emitClip(const WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height) {
     layout.block(R"(
     nvgSave(vg);
     nvgScissor(vg, $left, $top, $width, $height);
+)",
+                 {{"left", x}, {"top", y}, {"width", width}, {"height", height}});
+    emitClipRectangle(layout, x, y, width, height);
+}
+
+void emitClipRectangle(const WidgetWriter& layout, const char* x, const char* y, const char* width,
+                       const char* height) {
+    layout.block(R"(
     float oldClipX = g_currentClipX, oldClipY = g_currentClipY, oldClipW = g_currentClipW, oldClipH = g_currentClipH;
     g_currentClipX = $left; g_currentClipY = $top; g_currentClipW = $width; g_currentClipH = $height;
 )",

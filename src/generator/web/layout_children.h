@@ -40,7 +40,27 @@ void emitGapSize(const WidgetWriter& layout, const WidgetNode& gap, const char* 
 
 /// The clip rectangle of a scrolling layout; written before its children, and taken back behind them.
 void emitClip(const WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height);
+/// What the widgets inside know of the clip rectangle, for a layout that sets the clip itself.
+void emitClipRectangle(const WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height);
 void emitClipEnd(const WidgetWriter& layout);
+
+/// The direction in which a layout places its children, by the names of its emitted variables.
+struct LayoutAxis {
+    const char* letter;      ///< W or H, the end of containerW, remainingH and so on
+    const char* fixedSum;    ///< what the children with a size of their own take
+    const char* gapProperty; ///< the property of a gap that says its size
+    const char* gapBase;     ///< what a gap's percentage is taken of
+    const char* offset;      ///< how far the layout is scrolled
+    float (WidgetWriter::*sizeOf)(const WidgetNode&) const;
+};
+
+/// How the free space is shared out among the children.
+void emitShares(const WidgetWriter& layout, const LayoutChildren& children, const LayoutAxis& axis);
+
+/// Keeps the offset of a scrolling layout within its content. `maxScroll` is known behind it.
+///
+/// \param content, visible names of the variables that hold the two sizes
+void emitScrollLimits(const WidgetWriter& layout, const LayoutAxis& axis, const char* content, const char* visible);
 
 /// How a scrolling layout eases towards the widget that the program wants to see.
 ///

@@ -1,8 +1,11 @@
 #include "generator/web/literals.h"
 
+#include "generator/digits.h"
 #include "generator/web/emitted_block.h"
 #include "generator/web/metrics.h"
 #include "generator/web/widget_writer.h"
+
+#include <cstdlib>
 
 namespace pozhil {
 
@@ -11,8 +14,23 @@ std::string textOf(const Expression* value) {
     return text == nullptr ? "" : text->value;
 }
 
+bool isTrue(const Expression* value) {
+    const auto* truth = nodeCast<BooleanLiteral>(value);
+    return truth != nullptr && truth->value == "மெய்";
+}
+
+std::optional<float> constantOf(const Expression* value) {
+    if (const auto* sign = nodeCast<UnaryExpression>(value)) {
+        const bool isMinus = sign->op.type == TokenType::UNARY_MINUS || sign->op.value == "கழி";
+        const std::optional<float> number = constantOf(sign->right.get());
+        return isMinus && number ? std::optional(-*number) : std::nullopt;
+    }
+    const auto* fraction = nodeCast<DoubleLiteral>(value);
+    return fraction == nullptr ? numberOf(value) : std::strtof(toAsciiDigits(fraction->value).c_str(), nullptr);
+}
+
 std::string numberConstant(const WidgetNode& widget, std::initializer_list<const char*> names, float usual) {
-    return floatConstant(numberOf(findProperty(widget, names)).value_or(usual));
+    return floatConstant(constantOf(findProperty(widget, names)).value_or(usual));
 }
 
 Colour colourProperty(const WidgetNode& widget, std::initializer_list<const char*> names, const char* usual) {

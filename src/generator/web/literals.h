@@ -4,6 +4,7 @@
 #include "parser/syntax_tree.h"
 
 #include <initializer_list>
+#include <optional>
 #include <string>
 
 namespace pozhil {
@@ -12,6 +13,12 @@ namespace pozhil {
 
 /// A text; empty for anything else.
 std::string textOf(const Expression* value);
+
+/// Whether it is the word மெய்.
+bool isTrue(const Expression* value);
+
+/// A number as the source writes it: whole or with a fraction, with or without a minus. Nothing for anything else.
+std::optional<float> constantOf(const Expression* value);
 
 /// A number as a constant of the emitted text, \p usual for anything else.
 std::string numberConstant(const WidgetNode& widget, std::initializer_list<const char*> names, float usual);

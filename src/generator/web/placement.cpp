@@ -2,6 +2,7 @@
 
 #include "generator/web/layout.h"
 #include "generator/web/layout_children.h"
+#include "generator/web/literals.h"
 #include "generator/web/metrics.h"
 #include "generator/web/sizes.h"
 #include "generator/web/widget_writer.h"
@@ -11,12 +12,7 @@ namespace {
 
 /// Pixels to the right or downwards; to the left and upwards with a minus.
 float offsetOf(const WidgetNode& child, const char* name) {
-    const Expression* offset = findProperty(child, {name});
-    if (const auto* sign = nodeCast<UnaryExpression>(offset)) {
-        const float value = numberOf(sign->right.get()).value_or(0.0F);
-        return sign->op.type == TokenType::UNARY_MINUS ? -value : value;
-    }
-    return numberOf(offset).value_or(0.0F);
+    return constantOf(findProperty(child, {name})).value_or(0.0F);
 }
 
 } // namespace
@@ -57,7 +53,8 @@ void emitWrap(const WidgetWriter& wrap) {
     const float spacing = numberOf(findProperty(wrap.widget(), {"இடைவெளி"})).value_or(USUAL_SPACING);
     wrap.block(R"(
 {
-    float wrapStartX = $x; float curX = $x; float curY = $y; float rowMaxH = 0.0f;
+    float wrapStartX = $x; float wrapStartY = $y;
+    float curX = wrapStartX; float curY = wrapStartY; float rowMaxH = 0.0f;
     float wrapMaxW = (forcedW > 0.0f) ? forcedW : winWidth;
     float spacing = $spacing;
 )",
@@ -88,18 +85,22 @@ void emitWrap(const WidgetWriter& wrap) {
 
 void emitPadding(const WidgetWriter& padding) {
     const float inset = numberOf(findProperty(padding.widget(), {"அளவு"})).value_or(0.0F);
+    // A parent that places it by variables of the same names is read before they are hidden.
+    const bool isInChild = padding.x() == "childX" || padding.y() == "childY";
+    padding.block(isInChild ? "{\n    float outerX = $x; float outerY = $y;\n" : "{\n");
     padding.block(R"(
-{
-    float childX = $x + $inset; float childY = $y + $inset;
+    float childX = $left + $inset; float childY = $top + $inset;
     $children
 }
 )",
-                  {{"inset", floatConstant(inset)}, {"children", padding.blocks([&] {
-                                                         for (const WidgetNode* child :
-                                                              childWidgets(padding.widget())) {
-                                                             padding.child(*child, "childX", "childY");
-                                                         }
-                                                     })}});
+                  {{"left", isInChild ? "outerX" : padding.x()},
+                   {"top", isInChild ? "outerY" : padding.y()},
+                   {"inset", floatConstant(inset)},
+                   {"children", padding.blocks([&] {
+                        for (const WidgetNode* child : childWidgets(padding.widget())) {
+                            padding.child(*child, "childX", "childY");
+                        }
+                    })}});
 }
 
 void emitFlexWrapper(const WidgetWriter& wrapper) {

@@ -3,11 +3,19 @@
 #include "generator/web/widget_writer.h"
 
 namespace pozhil {
+namespace {
+
+/// A widget is drawn for the frame of the click; a snack bar is a function that shows it.
+bool isDrawnInPlace(const Expression* handler) {
+    const WidgetNode* drawn = asWidget(handler);
+    return drawn != nullptr && dynamic_cast<const SnackBarNode*>(drawn) == nullptr;
+}
+
+} // namespace
 
 Filling handlerCall(const WidgetWriter& widget, const Expression* handler) {
-    const WidgetNode* drawn = asWidget(handler);
-    if (drawn != nullptr && dynamic_cast<const SnackBarNode*>(drawn) == nullptr) {
-        return widget.blocks([&widget, drawn] { widget.child(*drawn, "0.0f", "0.0f"); });
+    if (isDrawnInPlace(handler)) {
+        return widget.blocks([&widget, handler] { widget.child(*asWidget(handler), "0.0f", "0.0f"); });
     }
     return widget.blocks([&widget, handler] {
         widget.block(R"(
@@ -21,6 +29,44 @@ try {
 )",
                      {{"handler", widget.expression(handler)}});
     });
+}
+
+Filling changeHandler(const WidgetWriter& widget) {
+    const Expression* handler = findProperty(widget.widget(), {"மாறியதால்"});
+    return handler == nullptr ? Filling("") : handlerCall(widget, handler);
+}
+
+Filling pressValue(const WidgetWriter& widget) {
+    const Expression* handler = findProperty(widget.widget(), {"அழுத்தினால்"});
+    if (handler == nullptr) {
+        return "";
+    }
+    if (isDrawnInPlace(handler)) {
+        return handlerCall(widget, handler);
+    }
+    return widget.blocks([&widget, handler] {
+        widget.block("std::any callback = $handler;\n", {{"handler", widget.expression(handler)}});
+    });
+}
+
+bool isDisabled(const WidgetNode& widget) {
+    return findProperty(widget, {"செயலிழப்பு"}) != nullptr;
+}
+
+void emitPressArea(const WidgetWriter& widget, const PressArea& area, const Filling& press) {
+    widget.block(
+        R"(
+    float mx = pozhil_mouse_x();
+    float my = pozhil_mouse_y();
+    bool isHover = mx >= $left && mx <= $right && my >= $top && my <= $bottom;
+    if (isHover) {
+        pozhil_pointer_cursor();
+        if (g_mouseClicked) {
+            $press
+        }
+    }
+)",
+        {{"left", area.left}, {"right", area.right}, {"top", area.top}, {"bottom", area.bottom}, {"press", press}});
 }
 
 Filling pressHandler(const WidgetWriter& widget) {

@@ -6,6 +6,9 @@
 namespace pozhil {
 namespace {
 
+constexpr LayoutAxis AXIS = {"W",       "fixedWidthSum",       "அகலம்", "(forcedW > 0.0f ? forcedW : containerW)",
+                             "scrollX", &WidgetWriter::widthOf};
+
 void emitRectangle(const WidgetWriter& row, const LayoutChildren& children, float contentWidth) {
     row.block(R"(
 {
@@ -33,12 +36,9 @@ void emitScrolling(const WidgetWriter& row, float contentWidth) {
         float wheel = pozhil_take_both_wheels();
         scrollX_$n += wheel;
     }
-    float maxScroll = contentW - rowW;
-    if (maxScroll < 0.0f) maxScroll = 0.0f;
-    if (scrollX_$n < 0.0f) scrollX_$n = 0.0f;
-    if (scrollX_$n > maxScroll) scrollX_$n = maxScroll;
 )",
               {{"contentW", floatConstant(contentWidth)}});
+    emitScrollLimits(row, AXIS, "contentW", "rowW");
     emitClip(row, "rowX", "rowY", "rowW", "rowH");
     emitScrollToId(row, "scrollX", "rowX", "x");
 }
@@ -54,32 +54,6 @@ void emitScrollBar(const WidgetWriter& row) {
         nvgFillColor(vg, nvgRGBA(0, 0, 0, 100));
         nvgFill(vg);
     }
-)");
-}
-
-/// How the free width is shared out.
-void emitShares(const WidgetWriter& row, const LayoutChildren& children) {
-    row.block(R"(
-    float fixedWidthSum = 0.0f;
-    float totalFlex = $flex;
-    float spacing = 0.0f;
-    spacing = $spacing;
-)",
-              {{"flex", floatConstant(children.totalFlex)}, {"spacing", floatConstant(children.spacing)}});
-    for (const WidgetNode* child : children.widgets) {
-        if (flexShare(*child) > 0.0F) {
-            continue;
-        }
-        std::string width = floatConstant(row.widthOf(*child));
-        if (child->kind == "இவெ") {
-            width = processPercentage(findProperty(*child, {"அகலம்"}), "(forcedW > 0.0f ? forcedW : containerW)");
-        }
-        row.block("    fixedWidthSum += $width + spacing;\n", {{"width", width.empty() ? "0.0f" : width}});
-    }
-    row.block(R"(
-    float remainingW = containerW - fixedWidthSum;
-    if (remainingW < 0.0f) remainingW = 0.0f;
-    float unitFlexW = (totalFlex > 0) ? (remainingW / totalFlex) : 0.0f;
 )");
 }
 
@@ -116,7 +90,7 @@ void emitChild(const WidgetWriter& row, const WidgetNode& child) {
         emitPlacedChild(row, child, "current_wW");
     } else if (child.kind == "இவெ") {
         row.block("    float current_wW = 0.0f;\n");
-        emitGapSize(row, child, "அகலம்", "current_wW", "(forcedW > 0.0f ? forcedW : containerW)");
+        emitGapSize(row, child, AXIS.gapProperty, "current_wW", "(forcedW > 0.0f ? forcedW : containerW)");
     } else {
         row.block("    float current_wW = $width;\n", {{"width", floatConstant(row.widthOf(child))}});
         emitPlacedChild(row, child, "-1.0f");
@@ -134,7 +108,7 @@ void emitRow(const WidgetWriter& row) {
     if (scrolls) {
         emitScrolling(row, contentWidth);
     }
-    emitShares(row, children);
+    emitShares(row, children, AXIS);
     row.block(R"(
     float alignX = $alignX;
     float usedW = (totalFlex > 0.0f) ? containerW : fixedWidthSum;

@@ -17,11 +17,8 @@ void emitBox(const WidgetWriter& bar) {
 )",
               {{"radius", numberConstant(bar.widget(), {"style_வளைவு"}, RADIUS)},
                {"size", numberConstant(bar.widget(), {"style_எழுத்தளவு"}, TEXT_SIZE)}});
-    emitGivenSize(bar, {"style_அகலம்", "அகலம்"}, "sbW", "(forcedW > 0.0f ? forcedW : winWidth)");
-    emitGivenSize(bar, {"style_உயரம்", "உயரம்"}, "sbH", "(forcedH > 0.0f ? forcedH : winHeight)");
+    emitOwnSize(bar, "sbW", "sbH");
     bar.block(R"(
-    if (forcedW > 0.0f) sbW = forcedW;
-    if (forcedH > 0.0f) sbH = forcedH;
     sbW = responsiveW(sbW, winWidth, 0.0f);
     nvgBeginPath(vg);
     nvgRoundedRect(vg, sbX, sbY, sbW, sbH, radius);

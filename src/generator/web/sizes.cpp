@@ -86,6 +86,18 @@ void emitGivenSize(const WidgetWriter& widget, std::initializer_list<const char*
     }
 }
 
+void emitOwnSize(const WidgetWriter& widget, const char* width, const char* height) {
+    emitGivenSize(widget, {"style_அகலம்", "அகலம்"}, width, "(forcedW > 0.0f ? forcedW : winWidth)");
+    emitGivenSize(widget, {"style_உயரம்", "உயரம்"}, height, "(forcedH > 0.0f ? forcedH : winHeight)");
+    widget.block("    if (forcedW > 0.0f) $width = forcedW;\n    if (forcedH > 0.0f) $height = forcedH;\n",
+                 {{"width", width}, {"height", height}});
+}
+
+void emitOwnWidth(const WidgetWriter& widget, const char* width) {
+    emitGivenSize(widget, {"style_அகலம்", "அகலம்"}, width, "(forcedW > 0.0f ? forcedW : winWidth)");
+    widget.block("    if (forcedW > 0.0f) $width = forcedW;\n", {{"width", width}});
+}
+
 std::pair<float, float> getAlignmentCoords(சீரமைப்பு_வகை alignment) {
     constexpr int POSITIONS = 3;
     const int value = static_cast<int>(alignment);

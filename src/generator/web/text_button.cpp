@@ -54,7 +54,7 @@ void emitTextButton(const WidgetWriter& button) {
     const char* txt = u8"$text"; float fs = $size; float bX = $x; float bY = $y;
     nvgFontSize(vg, fs);
     nvgFontFace(vg, "sans");
-    float bounds[4];
+    float bounds[4] = {0.0f, 0.0f, 0.0f, 0.0f};
     nvgTextBounds(vg, 0, 0, txt, NULL, bounds);
     float bW = (bounds[2] - bounds[0]) + 16.0f;
     float bH = 40.0f;

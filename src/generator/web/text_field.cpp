@@ -78,7 +78,7 @@ void emitPrefix(const WidgetWriter& field) {
 
 /// The browser's field: made when it is first drawn, and placed over its box in each frame.
 void emitOverlay(const WidgetWriter& field, const std::string& id) {
-    const auto* manyLines = nodeCast<BooleanLiteral>(findProperty(field.widget(), {"பலவரி"}));
+    const bool hasManyLines = isTrue(findProperty(field.widget(), {"பலவரி"}));
     field.block(
         R"(
     pozhil_place_text_field("$id", "$hint", $manyLines, "$colour", tbX, tbY, tbW, tbH, prefixOffset, fSize);
@@ -86,7 +86,7 @@ void emitOverlay(const WidgetWriter& field, const std::string& id) {
 )",
         {{"id", id == NO_ID ? "text_" + field.number() : id},
          {"hint", textOf(findProperty(field.widget(), {"குறிப்பு"}))},
-         {"manyLines", manyLines != nullptr && manyLines->value == "மெய்" ? "true" : "false"},
+         {"manyLines", hasManyLines ? "true" : "false"},
          {"colour", cssColour(colourProperty(field.widget(), {"style_எழுத்து_நிறம்", "எழுத்து_நிறம்"}, "#333333"))}});
 }
 

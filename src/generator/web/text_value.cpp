@@ -1,5 +1,6 @@
 #include "generator/web/text_value.h"
 
+#include "generator/web/literals.h"
 #include "generator/web/widget_writer.h"
 
 namespace pozhil {
@@ -29,6 +30,29 @@ Filling textValue(const WidgetWriter& widget, const Expression* value, const cha
         return text == nullptr ? Filling("std::string(u8\"[விட்ஜெட்]\")") : widget.expression(text);
     }
     return widget.expression(value);
+}
+
+Filling textArgument(const WidgetWriter& widget, const Expression* value) {
+    const auto* literal = nodeCast<StringLiteral>(value);
+    if (value == nullptr || literal != nullptr) {
+        return "\"" + textOf(value) + "\"";
+    }
+    return Filling(std::vector<Filling>{"fn_any_to_string(", textValue(widget, value, ""), ").c_str()"});
+}
+
+Filling numberValue(const WidgetWriter& widget, const Expression* value, float usual) {
+    const std::optional<float> constant = value == nullptr ? usual : constantOf(value);
+    if (constant) {
+        return floatConstant(*constant);
+    }
+    return Filling(std::vector<Filling>{"(float)fn_get_double(", widget.expression(value), ")"});
+}
+
+Filling truthValue(const WidgetWriter& widget, const Expression* value) {
+    if (value == nullptr || nodeCast<BooleanLiteral>(value) != nullptr) {
+        return isTrue(value) ? "true" : "false";
+    }
+    return Filling(std::vector<Filling>{"fn_compare_any(", widget.expression(value), ", true, \"==\")"});
 }
 
 float fontSizeOf(const TextStyle& style) {

@@ -1,6 +1,7 @@
 /// What every widget gets before and behind its own block, and widgets that stand outside a page.
 
 #include "generator/generator.h"
+#include "generator/web/overlay.h"
 #include "generator/web/widget_table.h"
 #include "generator/web/widget_writer.h"
 
@@ -95,7 +96,12 @@ bool Generator::visitWidgetStatement(const Statement* statement) {
 
 /// A widget where a value is expected.
 void Generator::visitWidgetExpression(const WidgetExpression* node) {
-    generateWidgetCode(node->widget.get(), "0.0f", "0.0f");
+    const WidgetNode& widget = *node->widget;
+    if (dynamic_cast<const SnackBarNode*>(&widget) != nullptr) {
+        emitSnackBarFunction(WidgetWriter(*this, widget, "0.0f", "0.0f", ++widgetCount_));
+    } else {
+        generateWidgetCode(&widget, "0.0f", "0.0f");
+    }
 }
 
 } // namespace pozhil

@@ -1,9 +1,16 @@
 #include "generator/web/widget_table.h"
 
+#include "generator/web/box.h"
 #include "generator/web/button.h"
+#include "generator/web/controls.h"
+#include "generator/web/indicators.h"
 #include "generator/web/input.h"
 #include "generator/web/layout.h"
+#include "generator/web/lists.h"
+#include "generator/web/media.h"
+#include "generator/web/navigation.h"
 #include "generator/web/nested_page.h"
+#include "generator/web/overlay.h"
 #include "generator/web/text.h"
 
 #include <algorithm>
@@ -23,6 +30,21 @@ constexpr WidgetKind WIDGET_KINDS[] = {
     {"நெகிழ்வு", emitFlexWrapper},
     {"வெற்றிடம்", emitFlexSpacer},
     {"பொத்தான்", emitButton},
+    {"தேர்வுபெட்டி", emitCheckbox},
+    {"வட்டத்தேர்வு", emitRadio},
+    {"மாற்றி", emitSwitch},
+    {"அளவி", emitSlider},
+    {"கீழ்வரி", emitDropdown},
+    {"படம்", emitImage},
+    {"வட்டபடம்", emitAvatar},
+    {"பிரிப்பான்", emitDivider},
+    {"அட்டை", emitCard},
+    {"சுழல்_காட்டி", emitSpinner},
+    {"முன்னேற்றவரி", emitProgressBar},
+    {"தகவல்பட்டை", emitInfoPill},
+    {"எச்சரிக்கை", emitDialog},
+    {"அடிப்பகுதி", emitBottomNavigation},
+    {"தத்தல்", emitTabBar},
     {"பக்கம்", emitNestedPage},
     {"இவெ", emitGap},
     {"அடுக்கி", emitStack},
@@ -31,10 +53,15 @@ constexpr WidgetKind WIDGET_KINDS[] = {
     {"தேடல்_பட்டை", emitSearchBar},
     {"தேடுபொறி", emitSearchBar},
     {"மடிப்பு", emitWrap},
+    {"பெட்டி", emitContainer},
+    {"பட்டியல்_காட்சி", emitListView},
+    {"கட்டம்_காட்சி", emitGridView},
     {"உள்_இவெ", emitPadding},
     {"உரைபொத்தான்", emitTextButton},
     {"உரைபெட்டி", emitTextField},
+    {"பட்டியல்_உருப்படி", emitListTile},
     {"கடவுமறை", emitHtmlInput},
+    {"அறிவிப்பு_பட்டை", emitSnackBar},
 };
 
 } // namespace

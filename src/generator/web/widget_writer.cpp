@@ -22,6 +22,10 @@ WidgetWriter::WidgetWriter(Generator& generator, const WidgetNode& widget, std::
                            std::uint64_t number)
     : generator_(generator), widget_(widget), x_(std::move(x)), y_(std::move(y)), number_(number) {}
 
+std::string WidgetWriter::partNumber() const {
+    return std::to_string(++generator_.widgetCount_);
+}
+
 bool WidgetWriter::isRoot() const {
     return isZeroText(x_);
 }
@@ -86,6 +90,23 @@ std::vector<const WidgetNode*> childWidgets(const WidgetNode& widget) {
         }
     }
     return children;
+}
+
+std::vector<const WidgetNode*> childrenOfKind(const WidgetNode& widget, std::string_view kind) {
+    auto children = childWidgets(widget);
+    children.erase(
+        std::remove_if(children.begin(), children.end(), [&](const WidgetNode* child) { return child->kind != kind; }),
+        children.end());
+    return children;
+}
+
+const WidgetNode* childOfKind(const WidgetNode& widget, std::string_view kind) {
+    for (const WidgetNode* child : childWidgets(widget)) {
+        if (child->kind == kind) {
+            return child;
+        }
+    }
+    return nullptr;
 }
 
 const WidgetNode* asWidget(const Expression* expression) {

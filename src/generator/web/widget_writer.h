@@ -23,6 +23,8 @@ public:
     const std::string& x() const { return x_; }
     const std::string& y() const { return y_; }
     std::string number() const { return std::to_string(number_); }
+    /// A number for a part of the widget that has static locals of its own.
+    std::string partNumber() const;
 
     /// Whether the widget stands at the corner of the page, where layouts fill the window.
     bool isRoot() const;
@@ -58,6 +60,12 @@ const Expression* findProperty(const WidgetNode& widget, std::initializer_list<c
 
 /// The children of a layout.
 std::vector<const WidgetNode*> childWidgets(const WidgetNode& widget);
+
+/// The children that the source calls \p kind.
+std::vector<const WidgetNode*> childrenOfKind(const WidgetNode& widget, std::string_view kind);
+
+/// The first child that the source calls \p kind, null if there is none.
+const WidgetNode* childOfKind(const WidgetNode& widget, std::string_view kind);
 
 /// The widget that an expression or a statement is, null if it is something else.
 const WidgetNode* asWidget(const Expression* expression);

@@ -1,0 +1,93 @@
+// What the user reads where the page can't run, and faults of the program that it survives.
+
+import { application, assert, webTest } from './harness/index.js';
+
+const plain = application('        உரை("வணக்கம்")');
+
+async function failureOf(page) {
+    await page.page.waitForSelector('#pozhil-status.pozhil-failed', { timeout: 60_000 });
+    assert.equal((await page.element('#pozhil-status', 'display')).display, 'grid');
+    return page.page.textContent('#pozhil-text');
+}
+
+webTest('a browser without WebGL is told so', plain, { open: false, flags: ['--disable-gpu', '--disable-3d-apis'] },
+        async page => {
+    await page.visit(page.address);
+    assert.match(await failureOf(page), /^இந்த உலாவியில் WebGL இயங்கவில்லை\./);
+});
+
+webTest('a browser without WebAssembly is told so', plain, { open: false }, async page => {
+    await page.page.addInitScript(() => { delete window.WebAssembly; });
+    await page.visit(page.address);
+    assert.match(await failureOf(page), /^இந்த உலாவியில் WebAssembly இல்லை\./);
+});
+
+webTest('a missing program is told, under the title of the page', application('', {
+    header: 'இணைய_தலைப்பு: "என் தளம்"' }), { open: false }, async page => {
+    await page.page.route('**/index.js', route => route.fulfill({ status: 404 }));
+    await page.visit(page.address);
+    assert.match(await failureOf(page), /^நிரல் கிடைக்கவில்லை\./);
+    assert.equal(await page.page.textContent('#pozhil-title'), 'என் தளம்');
+});
+
+webTest('a program that is still on its way shows the loading card', plain, { open: false }, async page => {
+    let arrive;
+    const way = new Promise(resolve => { arrive = resolve; });
+    await page.page.route('**/index.wasm', async route => {
+        await way;
+        await route.continue();
+    });
+    await page.visit(page.address);
+    await page.page.waitForFunction(() => document.querySelector('.pozhil-bar').style.width !== '');
+    assert.equal((await page.element('#pozhil-status', 'display')).display, 'grid');
+    assert.equal(await page.page.textContent('#pozhil-title'), 'பொழில் தளம்');
+    arrive();
+    await page.ready();
+    assert.equal((await page.element('#pozhil-status', 'display')).display, 'none');
+});
+
+const logic = `
+        விடை = "இல்லை"
+        எண்ணிக்கை = 0
+        செயல் வகு_என(அ):
+            திரும்பு 10 வகு அ
+        செயல் பிடித்துப்பார்():
+            முயற்சி:
+                விடை = வகு_என(0)
+            பிடி(என்ன):
+                விடை = என்ன
+        செயல் பிடிக்காமல்():
+            எண்ணிக்கை = எண்ணிக்கை கூட்டு 1
+            விடை = வகு_என(0)
+        முயற்சி:
+            அச்சிடு(வகு_என(0))
+        பிடி:
+            அச்சிடு("பிடிபட்டது: ", பிழை)`;
+
+const faulty = application(`
+        நெடுவரிசை(
+            பொத்தான்(உரை: "பிடி", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்: () => பிடித்துப்பார்()),
+            பொத்தான்(உரை: "விடு", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்: () => பிடிக்காமல்()),
+            பொத்தான்(உரை: "கூற்று", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்(அச்சிடு(வகு_என(0)))),
+            உரை(விடை),
+            உரை(எண்ணிக்கை)
+        )`, { logic });
+
+webTest('முயற்சி catches, before the first frame and in a press', faulty, async page => {
+    const message = 'சுழியத்தால் (0) வகுக்க முடியாது!';
+    assert.ok(page.console.includes(`பிடிபட்டது: ${message}`), page.console.join('\n'));
+    await page.text('இல்லை');
+    await page.click(100, 20);
+    await page.text(message);
+});
+
+webTest('an exception in a press leaves the page running', faulty, async page => {
+    await page.click(100, 60);
+    await page.text('1');
+    await page.click(100, 100);
+    await page.click(100, 60);
+    await page.text('2');
+    await page.text('இல்லை');
+    assert.deepEqual(page.errors, []);
+    assert.equal((await page.element('#pozhil-status', 'display')).display, 'none');
+});

@@ -1,0 +1,185 @@
+// One open page of an application, as a test looks at it.
+
+import assert from 'node:assert/strict';
+
+import { recordTexts } from './recorder.js';
+
+export class AppPage {
+    /// What the page wrote on its console, line by line, and its uncaught exceptions.
+    console = [];
+    errors = [];
+
+    constructor(page) {
+        this.page = page;
+        page.on('console', message => {
+            // A page without an icon of its own names one that isn't there.
+            if (!message.location().url.endsWith('/file-icon.png')) {
+                this.console.push(message.text());
+            }
+        });
+        page.on('pageerror', error => this.errors.push(String(error)));
+    }
+
+    /// Opens the address without waiting for a first frame, which a broken page never draws.
+    async visit(address) {
+        await this.page.addInitScript(recordTexts);
+        await this.page.goto(address);
+    }
+
+    async open(address) {
+        await this.visit(address);
+        await this.ready();
+        await this.leave();
+    }
+
+    /// Waits for the first frames of a page that has just been loaded.
+    async ready() {
+        await this.page.waitForFunction(() => window.recorded?.frames >= 3 && !document.hidden, undefined,
+                                        { timeout: 60_000 });
+    }
+
+    /// Waits until so many more frames have been drawn: one shows the state of now, the next what it led to.
+    async frames(count = 2) {
+        const end = await this.page.evaluate(() => window.recorded.frames) + count;
+        await this.page.waitForFunction(last => window.recorded.frames >= last, end, { timeout: 60_000 });
+    }
+
+    // --- texts ---
+
+    /// The texts of the last frame in the order of drawing.
+    async texts() {
+        await this.frames();
+        return this.page.evaluate(() => window.recorded.texts);
+    }
+
+    /// The only text of the last frame that reads so.
+    async text(wanted) {
+        const all = await this.texts();
+        const found = all.filter(({ text }) => text === wanted);
+        assert.equal(found.length, 1, `"${wanted}" once among ${JSON.stringify(all.map(({ text }) => text))}`);
+        return found[0];
+    }
+
+    /// Waits until a text that reads so is drawn.
+    async waitForText(wanted) {
+        await this.page.waitForFunction(text => window.recorded?.texts.some(drawn => drawn.text === text), wanted,
+                                        { timeout: 60_000 });
+    }
+
+    /// The width that the browser itself gives the text on the text canvas.
+    textWidth(text, size) {
+        return this.page.evaluate(([content, pixels]) => {
+            const context = document.createElement('canvas').getContext('2d');
+            context.font = `normal ${pixels}px "Noto Sans Tamil", Arial, sans-serif`;
+            return context.measureText(content).width;
+        }, [text, size]);
+    }
+
+    // --- pixels ---
+
+    /// The colours, [red, green, blue], of pixels of the screen, counted in CSS pixels.
+    async pixels(points) {
+        await this.frames();
+        const image = (await this.page.screenshot({ scale: 'css' })).toString('base64');
+        return this.page.evaluate(async ([data, wanted]) => {
+            const blob = await (await fetch(`data:image/png;base64,${data}`)).blob();
+            const bitmap = await createImageBitmap(blob);
+            const context = new OffscreenCanvas(bitmap.width, bitmap.height).getContext('2d');
+            context.drawImage(bitmap, 0, 0);
+            return wanted.map(([x, y]) => Array.from(context.getImageData(x, y, 1, 1).data.slice(0, 3)));
+        }, [image, points]);
+    }
+
+    async pixel(x, y) {
+        return (await this.pixels([[x, y]]))[0];
+    }
+
+    /// The smallest rectangle that holds all pixels of the screen of exactly this colour; null if there are none.
+    async area(colour) {
+        await this.frames();
+        const image = (await this.page.screenshot({ scale: 'css' })).toString('base64');
+        return this.page.evaluate(async ([data, [red, green, blue]]) => {
+            const blob = await (await fetch(`data:image/png;base64,${data}`)).blob();
+            const bitmap = await createImageBitmap(blob);
+            const { width, height } = bitmap;
+            const context = new OffscreenCanvas(width, height).getContext('2d');
+            context.drawImage(bitmap, 0, 0);
+            const bytes = context.getImageData(0, 0, width, height).data;
+            let [left, top, right, bottom] = [width, height, -1, -1];
+            for (let at = 0; at < bytes.length; at += 4) {
+                if (bytes[at] === red && bytes[at + 1] === green && bytes[at + 2] === blue) {
+                    const x = (at / 4) % width;
+                    const y = Math.floor(at / 4 / width);
+                    [left, right] = [Math.min(left, x), Math.max(right, x)];
+                    [top, bottom] = [Math.min(top, y), Math.max(bottom, y)];
+                }
+            }
+            return right < 0 ? null : { x: left, y: top, width: right - left + 1, height: bottom - top + 1 };
+        }, [image, colour]);
+    }
+
+    // --- the user's hands ---
+
+    /// Puts the pointer where it is over nothing, in the lower right corner; it begins in the upper left one.
+    async leave() {
+        const { width, height } = this.page.viewportSize();
+        await this.moveTo(width - 1, height - 1);
+    }
+
+    async moveTo(x, y) {
+        await this.page.mouse.move(x, y);
+        await this.frames();
+    }
+
+    /// Presses and releases; the page has seen the press in a frame of its own.
+    async click(x, y) {
+        await this.moveTo(x, y);
+        await this.page.mouse.down();
+        await this.frames();
+        await this.page.mouse.up();
+        await this.frames();
+    }
+
+    async wheel(deltaX, deltaY) {
+        await this.page.mouse.wheel(deltaX, deltaY);
+        // The browser hands the wheel on after the mouse, and the page acts in the frame behind it.
+        await this.frames(4);
+    }
+
+    async resize(width, height) {
+        await this.page.setViewportSize({ width, height });
+        await this.page.waitForFunction(size => innerWidth === size[0] && innerHeight === size[1], [width, height]);
+        await this.frames(3);
+    }
+
+    // --- the document ---
+
+    cursor() {
+        return this.page.evaluate(() => document.body.style.cursor);
+    }
+
+    /// A property of `window`.
+    window(name) {
+        return this.page.evaluate(key => window[key], name);
+    }
+
+    /// Tag, text, place and the wanted style properties of an element; null if there is none.
+    element(selector, ...styles) {
+        return this.page.evaluate(([wanted, names]) => {
+            const found = document.querySelector(wanted);
+            if (!found) {
+                return null;
+            }
+            const { x, y, width, height } = found.getBoundingClientRect();
+            const computed = getComputedStyle(found);
+            return { tag: found.tagName, id: found.id, type: found.type, value: found.value, hint: found.placeholder,
+                     shown: found.style.display !== 'none', x, y, width, height,
+                     ...Object.fromEntries(names.map(name => [name, computed[name]])) };
+        }, [selector, styles]);
+    }
+
+    elements(selector) {
+        return this.page.evaluate(wanted => [...document.querySelectorAll(wanted)].map(
+            ({ id, value, style }) => ({ id, value, shown: style.display !== 'none' })), selector);
+    }
+}
