@@ -43,6 +43,12 @@ def test_case_runs_beside_its_files(tmp_path):
     assert case.expectation.diagnostic == cf.Place("பொழி-106", 1)
 
 
+def test_web_program_needs_no_expectation(tmp_path):
+    program, = read("```பொழில்-வலை\nவலைதளம்(\n)\n```\n")
+    case = guide.as_case(program, tmp_path)
+    assert case.expectation.texts(cf.EMITTED) and not case.expectation.needs_program
+
+
 def test_what_is_marked_as_no_program_is_left_alone():
     assert read("```துண்டு\nஅ = ...\n```\n```text\n```பொழில் inside\n```\n```சொற்கள்\nஅ ஆ\n```\n") == []
 

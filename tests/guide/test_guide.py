@@ -1,4 +1,4 @@
-"""Every program of the language guide and of the list of errors is one test: docs/மொழி/README.md tells its fences."""
+"""Every program of the guides and of the list of errors is one test: docs/மொழி/README.md tells its fences."""
 
 import re
 
@@ -13,6 +13,8 @@ PROGRAMS = [program for page in guide.pages() for program in guide.read_programs
 
 def _chapter(page):
     """A plain name: pytest would print Tamil as escapes."""
+    if page.parent == guide.WEB_GUIDE:
+        return f"web{sorted(guide.WEB_GUIDE.glob('*.md')).index(page)}"
     return re.match(r"\d*", page.name)[0] or ("errors" if page == guide.ERROR_PAGE else "index")
 
 
@@ -38,6 +40,7 @@ def test_links_lead_somewhere(page):
     assert broken == []
 
 
-def test_index_names_every_chapter():
-    index = (guide.GUIDE / "README.md").read_text(encoding="utf-8")
-    assert [page.name for page in guide.pages() if page.name != "README.md" and f"{page.name})" not in index] == []
+@pytest.mark.parametrize("folder", [guide.GUIDE, guide.WEB_GUIDE], ids=["language", "web"])
+def test_index_names_every_chapter(folder):
+    index = (folder / "README.md").read_text(encoding="utf-8")
+    assert [page.name for page in folder.glob("*.md") if page.name != "README.md" and f"{page.name})" not in index] == []

@@ -9,16 +9,21 @@ from support import case_file as cf
 from support.compiler import REPOSITORY
 
 GUIDE = REPOSITORY / "docs" / "மொழி"
+WEB_GUIDE = REPOSITORY / "docs" / "வலை"
 ERROR_PAGE = REPOSITORY / "docs" / "பிழைகள்.md"
 
 # The tag of a fence is its first word; a name behind the first two makes a file that stands beside the next program.
 PROGRAM = "பொழில்"
+WEB_PROGRAM = "பொழில்-வலை"
 FILE = "கோப்பு"
 WORDS = "சொற்கள்"
 FRAGMENT = "துண்டு"
 NOT_RUN = (FRAGMENT, WORDS, "sh", "text")
 # The kinds of the language cases, with _ where they have blanks.
 EXPECTATIONS = {kind.replace(" ", "_"): kind for kind in cf.KINDS}
+
+# What the text for em++ holds once the compiler has nothing to object to.
+_WEB_TEXT = "void render_frame() {"
 
 _HEAD_RULE = re.compile(r"\|( *:?-+:? *\|)+")
 
@@ -60,7 +65,7 @@ class Program:
 
 def pages():
     """All pages whose programs are tests, in order."""
-    return [*sorted(GUIDE.glob("*.md")), ERROR_PAGE]
+    return [*sorted(GUIDE.glob("*.md")), *sorted(WEB_GUIDE.glob("*.md")), ERROR_PAGE]
 
 
 def read_fences(page, text=None):
@@ -84,13 +89,17 @@ def read_fences(page, text=None):
 
 
 def read_programs(fences):
-    """The programs among `fences`; raises `GuideError` for an unknown tag or a program that nothing is expected of."""
+    """The programs among `fences`; raises `GuideError` for an unknown tag or a program that nothing is expected of.
+
+    A web program is expected to become text for em++, which then isn't called.
+    """
     programs, files = [], []
     for fence in fences:
         if fence.tag in (PROGRAM, FILE) and fence.name:
             files.append(fence)
-        elif fence.tag == PROGRAM:
-            programs.append(Program(fence, {file.name: file.text for file in files}))
+        elif fence.tag in (PROGRAM, WEB_PROGRAM):
+            entries = [(cf.EMITTED, _WEB_TEXT)] if fence.tag == WEB_PROGRAM else []
+            programs.append(Program(fence, {file.name: file.text for file in files}, entries))
             files = []
         elif fence.tag in EXPECTATIONS:
             if not programs or files:
