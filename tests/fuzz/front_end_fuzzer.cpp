@@ -1,7 +1,7 @@
 /// Feeds mutated programs to scanner, parser and generator. Each runs in a process of its own, since a diagnostic ends
 /// the process; a run may end well or with a diagnostic, but never by a signal, by a sanitizer, or not at all.
 ///
-///   front_end_fuzzer <inputs> <seed> <corpus folder>
+///   front_end_fuzzer <inputs> <seed> <corpus folder>...
 ///
 /// A failing input is kept beside the current directory as failure-<number>.பொழில்.
 
@@ -27,11 +27,13 @@ namespace {
 
 constexpr unsigned SECONDS_PER_INPUT = 20;
 
-std::vector<std::string> readCorpus(const std::filesystem::path& folder) {
+std::vector<std::string> readCorpus(const std::vector<std::string>& folders) {
     std::vector<std::filesystem::path> files;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-        if (entry.path().extension() == ".பொழில்") {
-            files.push_back(entry.path());
+    for (const std::string& folder : folders) {
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(std::filesystem::u8path(folder))) {
+            if (entry.path().extension() == ".பொழில்") {
+                files.push_back(entry.path());
+            }
         }
     }
     std::sort(files.begin(), files.end());
@@ -72,15 +74,15 @@ bool survives(const std::string& text) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 4) {
-        std::cerr << "front_end_fuzzer <inputs> <seed> <corpus folder>\n";
+    if (argc < 4) {
+        std::cerr << "front_end_fuzzer <inputs> <seed> <corpus folder>...\n";
         return 2;
     }
     const int inputs = std::stoi(argv[1]);
     const auto seed = static_cast<unsigned>(std::stoul(argv[2]));
-    const std::vector<std::string> corpus = readCorpus(std::filesystem::u8path(argv[3]));
+    const std::vector<std::string> corpus = readCorpus({argv + 3, argv + argc});
     if (corpus.empty()) {
-        std::cerr << "no sources below " << argv[3] << "\n";
+        std::cerr << "no sources in the corpus folders\n";
         return 2;
     }
     Mutator mutator(corpus, seed);
