@@ -40,8 +40,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Section{"error_box", runtime::error_box}, Section{"value_functions", runtime::value_functions},
                     Section{"animation_engine", runtime::animation_engine}, Section{"library", runtime::library},
                     Section{"scrolling", runtime::scrolling}, Section{"web_boilerplate", runtime::web_boilerplate},
-                    Section{"input_fields", runtime::input_fields},
-                    Section{"media_elements", runtime::media_elements}, Section{"frame_helpers", runtime::frame_helpers}),
+                    Section{"input_fields", runtime::input_fields}, Section{"media_elements", runtime::media_elements},
+                    Section{"frame_helpers", runtime::frame_helpers}),
     [](const testing::TestParamInfo<Section>& section) { return std::string(section.param.first); });
 
 } // namespace
