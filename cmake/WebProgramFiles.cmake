@@ -21,29 +21,46 @@ endif()
 # The compiler builds web programs with the same: without it, a program that throws ends even where it would catch. The
 # other kind of exceptions, by JavaScript, takes three times as long in programs that aren't optimised.
 set(exceptions -fwasm-exceptions)
+set(web_parts ${PROJECT_BINARY_DIR}/generated)
 
-# add_web_program_file(<output> <source> <argument>...): compiles with em++ and tracks what the source includes.
+# add_web_program_file(<output> <source> <argument>...): compiles with em++ and tracks what the source includes. em++
+# reads the source from standard input, so that what it makes doesn't depend on where the source lies.
 function(add_web_program_file output source)
     add_custom_command(
         OUTPUT ${output}
-        COMMAND ${POZHIL_EMXX} -c ${ARGN} ${source} -o ${output} ${exceptions} -MD -MF ${output}.d
+        COMMAND sh -c "source=$1 && shift && exec \"$@\" <\"$source\"" sh ${source}
+                ${POZHIL_EMXX} -c ${ARGN} - -o ${output} ${exceptions} -MD -MF ${output}.d
         DEPENDS ${source}
         DEPFILE ${output}.d
         COMMENT "Compiling ${output}"
         VERBATIM)
 endfunction()
 
-set(web_headers ${nanovg}/nanovg.h ${nanovg}/nanovg_gl.h ${nanosvg}/nanosvg.h ${nanosvg}/nanosvgrast.h)
-set(web_objects ${PROJECT_BINARY_DIR}/generated/error_handler_web.o ${PROJECT_BINARY_DIR}/generated/nanovg_web.o)
-list(GET web_objects 0 web_reporter_object)
-list(GET web_objects 1 nanovg_object)
+# add_drawing_header(<header> <line>...): the header for web programs, which begins with these lines. They tell it to
+# declare only, whatever the program says, since nanovg_web.o holds the code.
+function(add_drawing_header header)
+    get_filename_component(name ${header} NAME)
+    file(READ ${header} text)
+    list(JOIN ARGN "\n" lines)
+    file(CONFIGURE OUTPUT ${web_parts}/nanovg/${name} CONTENT "${lines}\n${text}" @ONLY)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${header})
+    list(APPEND web_headers ${web_parts}/nanovg/${name})
+    set(web_headers ${web_headers} PARENT_SCOPE)
+endfunction()
+
+list(APPEND web_headers ${nanovg}/nanovg.h)
+add_drawing_header(${nanosvg}/nanosvg.h "#undef NANOSVG_IMPLEMENTATION")
+add_drawing_header(${nanosvg}/nanosvgrast.h "#undef NANOSVGRAST_IMPLEMENTATION")
+add_drawing_header(${nanovg}/nanovg_gl.h "#undef NANOVG_GLES2_IMPLEMENTATION" "#define NANOVG_GLES2 1")
+
+set(nanovg_object ${web_parts}/nanovg_web.o)
 add_web_program_file(
-    ${web_reporter_object} ${PROJECT_SOURCE_DIR}/src/error_handler.cpp -O2 -std=c++17
-    -I ${PROJECT_SOURCE_DIR}/உள்ளடக்கம்)
-add_web_program_file(${nanovg_object} ${nanovg}/nanovg.c -O2 -x c -I ${POZHIL_STB})
+    ${nanovg_object} ${PROJECT_SOURCE_DIR}/src/generator/web_drawing.c -O2 -x c
+    -I ${nanovg} -I ${nanosvg} -I ${POZHIL_STB})
 
 # The headers of the toolchain that a web program includes, and none of our own, which lie elsewhere once installed:
-# unlike g++, em++ fails where a file in the precompiled headers is not what it was.
+# unlike g++, em++ fails where a file in the precompiled headers is not what it was. What else they are to hold is read
+# as one text from standard input, for the same reason.
 file(GLOB runtime_files CONFIGURE_DEPENDS src/generator/runtime/*.h)
 set(includes)
 foreach(file IN LISTS runtime_files)
@@ -51,9 +68,34 @@ foreach(file IN LISTS runtime_files)
     list(TRANSFORM lines REPLACE "^#include <(.*)>$" "-include;\\1")
     list(APPEND includes ${lines})
 endforeach()
-set(web_precompiled_headers ${PROJECT_BINARY_DIR}/generated/web_headers.pch)
+set(shared_templates ${web_parts}/web_shared_templates.h)
+set(shared_template_parts
+    ${PROJECT_SOURCE_DIR}/உள்ளடக்கம்/error_record.h ${PROJECT_SOURCE_DIR}/src/generator/web_shared_templates.h)
+add_custom_command(
+    OUTPUT ${shared_templates}
+    COMMAND sh -c "output=$1 && shift && exec cat \"$@\" >\"$output\"" sh ${shared_templates} ${shared_template_parts}
+    DEPENDS ${shared_template_parts}
+    VERBATIM)
+set(web_precompiled_headers ${web_parts}/web_headers.pch)
 add_web_program_file(
-    ${web_precompiled_headers} /dev/null -x c++-header -fpch-instantiate-templates -std=c++17 -finput-charset=UTF-8
-    ${includes})
+    ${web_precompiled_headers} ${shared_templates} -x c++-header -fpch-instantiate-templates -fpch-codegen -std=c++17
+    -finput-charset=UTF-8 ${includes})
 
+# Beside the reporter, its object holds the code of the precompiled headers, which programs that use them leave out.
+set(web_reporter ${web_parts}/web_reporter.o)
+set(web_headers_code ${web_parts}/web_headers.o)
+set(web_reporter_object ${web_parts}/error_handler_web.o)
+add_web_program_file(
+    ${web_reporter} ${PROJECT_SOURCE_DIR}/src/error_handler.cpp -x c++ -O2 -std=c++17
+    -I ${PROJECT_SOURCE_DIR}/உள்ளடக்கம்)
+add_custom_command(
+    OUTPUT ${web_reporter_object}
+    COMMAND ${POZHIL_EMXX} -c -x none ${web_precompiled_headers} -o ${web_headers_code} -O2 ${exceptions}
+    COMMAND ${POZHIL_EMXX} -r -nostdlib ${web_reporter} ${web_headers_code} -o ${web_reporter_object}
+    DEPENDS ${web_reporter} ${web_precompiled_headers}
+    BYPRODUCTS ${web_headers_code}
+    COMMENT "Compiling ${web_reporter_object}"
+    VERBATIM)
+
+set(web_objects ${web_reporter_object} ${nanovg_object})
 add_custom_target(web_program_files DEPENDS ${web_objects} ${web_precompiled_headers})

@@ -1,6 +1,6 @@
-/* What web programs draw with: compiled once, into nanovg_web.o, instead of anew in every program. Such a program asks for
- * the code of these headers itself; those of the installation then only declare. With headers from elsewhere the program
- * has the code twice, so what both would define gives way here. */
+/* What web programs draw with: compiled once, into nanovg_web.o, instead of anew in every program. Such a program asks
+ * for the code of these headers itself; those of the installation then only declare. With headers from elsewhere the
+ * program has the code too, so what both would define gives way here. */
 
 #include "nanovg.c"
 

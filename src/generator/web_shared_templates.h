@@ -1,11 +1,12 @@
-/// The template instantiations that every web program uses, for the precompiled headers of em++. Instantiating them anew,
-/// and generating their code, took half of the time in which a program is compiled.
+/// The template instantiations that every web program uses, for the precompiled headers of em++. Instantiating them
+/// anew, and generating their code, took half of the time in which a program is compiled.
 ///
-/// The native twin lists them by name (உள்ளடக்கம்/shared_templates.h). The library of em++ keeps nearly all members out of
-/// explicit instantiation, so here they are used instead; nothing runs these functions. The text follows error_record.h.
+/// The native twin lists them by name (உள்ளடக்கம்/shared_templates.h). The library of em++ keeps nearly all members out
+/// of explicit instantiation, so here they are used instead; nothing runs these functions. The text stands behind that
+/// of error_record.h.
 ///
-/// Not to be instantiated here: `any_cast` of a decimal other than from a pointer, which the runtime specialises. A program
-/// that specialises what the precompiled headers have instantiated is compiled without them, in half again the time.
+/// Not to be instantiated here: `any_cast` of a decimal other than from a pointer, which the runtime specialises. What
+/// the precompiled headers have instantiated can't be specialised any more, and the program is compiled without them.
 
 #include <algorithm>
 #include <any>
