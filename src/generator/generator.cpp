@@ -68,8 +68,7 @@ void Generator::emitRuntime() {
          << runtime::input_state << runtime::web_bridge << runtime::value_types << runtime::error_box
          << fillPlaceholder(runtime::value_functions, SOURCE_PATH_PLACEHOLDER, fileName_) << runtime::animation_engine
          << runtime::library << runtime::scrolling << runtime::web_boilerplate << runtime::input_fields
-         << runtime::media_elements
-         << "#ifdef __EMSCRIPTEN__\n"
+         << runtime::media_elements << "#ifdef __EMSCRIPTEN__\n"
          << runtime::frame_helpers << "#endif\n";
 }
 

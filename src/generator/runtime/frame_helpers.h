@@ -34,8 +34,8 @@ inline float updateProgress(unsigned long long id, std::string condition, bool a
         state.hasTriggered = state.hasTriggered || in_view;
         runs = state.hasTriggered;
     }
-    state.currentProgress = runs ? std::min(1.0f, state.currentProgress + step)
-                                 : std::max(0.0f, state.currentProgress - step);
+    state.currentProgress =
+        runs ? std::min(1.0f, state.currentProgress + step) : std::max(0.0f, state.currentProgress - step);
     return state.currentProgress;
 }
 
