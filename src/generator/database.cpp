@@ -13,7 +13,7 @@ constexpr std::string_view LIBRARY_HOST = "https://www.gstatic.com";
 
 constexpr std::string_view LOADER = R"block(
 #ifdef __EMSCRIPTEN__
-    emscripten_run_script(R"script(
+    pozhil_run_script(R"script(
         if (!window.firebaseInitialized) {
             window.firebaseInitialized = true;
             var app = document.createElement('script');
@@ -52,7 +52,7 @@ constexpr std::string_view INSERT = R"block(
         ".then(() => { console.log('✅ தரவு வெற்றிகரமாக சேமிக்கப்பட்டது!'); })"
         ".catch((error) => { console.error('❌ ஃபயர்பேஸ் பிழை:', error); }); }"
         " catch (error) { console.error('🔥 பொழில் இயக்கநேரப் பிழை (WASM):', error.message); }";
-    emscripten_run_script(script.c_str());
+    pozhil_run_script(script);
 )block";
 
 constexpr std::string_view UPDATE = R"block(
@@ -61,14 +61,14 @@ constexpr std::string_view UPDATE = R"block(
         ".then(() => { console.log('✅ தரவு வெற்றிகரமாக மாற்றப்பட்டது!'); })"
         ".catch((error) => { console.error('❌ ஃபயர்பேஸ் பிழை:', error); }); }"
         " catch (error) { console.error('🔥 பொழில் இயக்கநேரப் பிழை (WASM):', error.message); }";
-    emscripten_run_script(script.c_str());
+    pozhil_run_script(script);
 )block";
 
 constexpr std::string_view DELETE = R"block(
     std::string script = "window.db.ref('" + path_str + "').remove()"
         ".then(() => { console.log('✅ தரவு வெற்றிகரமாக அழிக்கப்பட்டது!'); })"
         ".catch((error) => { console.error('❌ ஃபயர்பேஸ் பிழை:', error); });";
-    emscripten_run_script(script.c_str());
+    pozhil_run_script(script);
 )block";
 
 constexpr std::string_view READ = R"block(
@@ -76,8 +76,9 @@ constexpr std::string_view READ = R"block(
 #ifdef __EMSCRIPTEN__
     std::string path_str = fn_any_to_string($path);
     int cb_id = ++g_rtdb_cb_counter;
-    g_rtdb_callbacks[cb_id] = [=]() mutable {
+    g_rtdb_callbacks[cb_id] = [=]() mutable -> std::any {
         $body
+        return std::any();
     };
     std::string script = "window.db.ref('" + path_str + "').once('value').then((snapshot) => {"
         " var data = snapshot.val();"
@@ -89,7 +90,7 @@ constexpr std::string_view READ = R"block(
         " } }"
         " Module.ccall('rtdb_execute_callback', null, ['number'], [" + std::to_string(cb_id) + "]);"
         " }).catch((error) => { console.error('🔥 பொழில் இயக்கநேரப் பிழை (WASM):', error.message); });";
-    emscripten_run_script(script.c_str());
+    pozhil_run_script(script);
 #endif
 }
 )block";
@@ -164,15 +165,18 @@ void Generator::visitRTDBDeleteExpression(const RTDBDeleteExpression* node) {
         node->path.get(), [] {}, DELETE);
 }
 
-/// The body runs when the data has arrived; what stands behind the statement doesn't wait.
+/// The body runs when the data has arrived; what stands behind the statement doesn't wait. The variables of a function
+/// are copied for it, and its own end with it. A return in it leaves the body alone, on some of its ways or on all.
 void Generator::visitRTDBReadStatement(const RTDBReadStatement* node) {
     const Filling path = std::function<void()>([&] { visitExpression(node->path.get()); });
     const Filling body = std::function<void()>([&] {
+        const std::size_t outerLocals = localsLog_.size();
         indentLevel_ += 2;
         for (const StatementPtr& statement : node->body) {
             visitStatement(statement.get());
         }
         indentLevel_ -= 2;
+        dropLocalsBehind(outerLocals);
     });
     constexpr std::int32_t BLANKS_PER_LEVEL = 4;
     writeBlock(out_, READ, {{"path", path}, {"body", body}}, static_cast<std::size_t>(indentLevel_ * BLANKS_PER_LEVEL));

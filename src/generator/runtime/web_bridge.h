@@ -11,6 +11,11 @@
 // --- emitted from here ---
 
 #ifdef __EMSCRIPTEN__
+// ஓடாத வரி உலாவியின் பிழையாக முடியும்; பக்கம் தொடர்ந்து இயங்கும்
+void pozhil_run_script(const std::string& script) {
+    EM_ASM({ try { _emscripten_run_script($0); } catch (error) { reportError(error); } }, script.c_str());
+}
+
 void நகர்த்து(std::string id);
 
 extern "C" {
