@@ -61,7 +61,10 @@ void Generator::generateWidgetCode(const WidgetNode* widget, const std::string& 
         emitVisibilityCheck(writer, name);
     }
     if (const WidgetEmitter emit = findWidgetEmitter(widget->kind)) {
+        // A function of its own: WebAssembly takes no function with as many locals as a large page would need.
+        writer.block("[&] { // $kind\n", {{"kind", widget->kind}});
         emit(writer);
+        writer.block("}();\n");
     }
     if (!name.empty()) {
         writer.block("} // End Visibility Check for $name\n", {{"name", name}});
