@@ -1,7 +1,7 @@
 #include "error_handler.h"
-#include "generator/digits.h"
 #include "generator/generator.h"
 #include "generator/names.h"
+#include "scanner/number_text.h"
 
 #include <cerrno>
 #include <cstdlib>

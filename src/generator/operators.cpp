@@ -1,5 +1,5 @@
-#include "generator/digits.h"
 #include "generator/generator.h"
+#include "scanner/number_text.h"
 
 #include <algorithm>
 #include <array>

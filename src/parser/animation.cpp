@@ -1,5 +1,5 @@
-#include "parser/number_text.h"
 #include "parser/parser.h"
+#include "scanner/number_text.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 #include "parser/bracketed_list.h"
-#include "parser/number_text.h"
 #include "parser/parser.h"
 #include "parser/siblings.h"
 #include "parser/widget_tokens.h"
+#include "scanner/number_text.h"
 
 #include <utility>
 

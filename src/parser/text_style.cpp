@@ -1,6 +1,6 @@
 #include "parser/bracketed_list.h"
-#include "parser/number_text.h"
 #include "parser/parser.h"
+#include "scanner/number_text.h"
 
 #include <algorithm>
 #include <array>

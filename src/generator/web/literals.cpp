@@ -1,11 +1,9 @@
 #include "generator/web/literals.h"
 
-#include "generator/digits.h"
 #include "generator/web/emitted_block.h"
 #include "generator/web/metrics.h"
 #include "generator/web/widget_writer.h"
-
-#include <cstdlib>
+#include "scanner/number_text.h"
 
 namespace pozhil {
 
@@ -26,7 +24,7 @@ std::optional<float> constantOf(const Expression* value) {
         return isMinus && number ? std::optional(-*number) : std::nullopt;
     }
     const auto* fraction = nodeCast<DoubleLiteral>(value);
-    return fraction == nullptr ? numberOf(value) : std::strtof(toAsciiDigits(fraction->value).c_str(), nullptr);
+    return fraction == nullptr ? numberOf(value) : floatOf(fraction->value);
 }
 
 std::string numberConstant(const WidgetNode& widget, std::initializer_list<const char*> names, float usual) {

@@ -1,10 +1,9 @@
 #include "generator/web/metrics.h"
 
-#include "generator/digits.h"
 #include "generator/web/widget_writer.h"
+#include "scanner/number_text.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <iterator>
 #include <string_view>
 #include <vector>
@@ -314,8 +313,7 @@ std::size_t countCodePoints(const std::string& text) {
 
 std::optional<float> numberOf(const Expression* expression) {
     const auto* number = nodeCast<NumberLiteral>(expression);
-    return number == nullptr ? std::nullopt
-                             : std::optional<float>(std::strtof(toAsciiDigits(number->value).c_str(), nullptr));
+    return number == nullptr ? std::nullopt : std::optional(floatOf(number->value));
 }
 
 } // namespace pozhil

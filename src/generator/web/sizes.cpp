@@ -1,9 +1,8 @@
 #include "generator/web/sizes.h"
 
-#include "generator/digits.h"
 #include "generator/web/widget_writer.h"
+#include "scanner/number_text.h"
 
-#include <cstdlib>
 #include <string_view>
 #include <unordered_map>
 
@@ -11,8 +10,8 @@ namespace pozhil {
 namespace {
 
 std::string percentOf(const std::string& literal, const std::string& base) {
-    const std::string number = toAsciiDigits(std::string_view(literal).substr(0, literal.size() - 1));
-    return "(" + base + " * " + std::to_string(std::strtof(number.c_str(), nullptr) / 100) + "f)";
+    const float percentage = floatOf(std::string_view(literal).substr(0, literal.size() - 1));
+    return "(" + base + " * " + std::to_string(percentage / 100) + "f)";
 }
 
 bool endsInPercent(const std::string& text) {
