@@ -1,6 +1,5 @@
 """Watching a console program: it is built anew whenever its source changes."""
 
-import os
 import time
 from contextlib import contextmanager
 
@@ -29,15 +28,6 @@ def watching(place, contents=HELLO):
         yield session
 
 
-def change(place, contents, age=-10):
-    """Replaces the source as an editor does; its time differs from the one before in any case."""
-    new = place.folder / "புதியது"
-    new.write_text(contents, encoding="utf-8")
-    moment = time.time() - age
-    os.utime(new, (moment, moment))
-    new.rename(place.folder / SOURCE)
-
-
 def count(session, text):
     return session.stdout.decode().count(text)
 
@@ -63,7 +53,7 @@ def test_default_source_is_watched(place):
 
 def test_change_is_announced_built_and_run(place, tools):
     with watching(place) as session:
-        change(place, CHANGED)
+        place.change(SOURCE, CHANGED)
         session.wait_for_output(PROGRAM_OUTPUT)
         shown = behind_animation(session.stdout.decode(), SOURCE)
         assert shown in (t.CHANGE_NOTE + PROGRAM_OUTPUT, t.CHANGE_NOTE + "\n" + PROGRAM_OUTPUT)
@@ -74,14 +64,14 @@ def test_change_is_announced_built_and_run(place, tools):
 
 def test_source_that_became_older_has_changed_too(place):
     with watching(place) as session:
-        change(place, CHANGED, age=1000)
+        place.change(SOURCE, CHANGED, age=1000)
         session.wait_for_output(PROGRAM_OUTPUT)
 
 
 def test_every_change_is_built(place, tools):
     with watching(place) as session:
         for number in (1, 2, 3):
-            change(place, CHANGED, age=-10 * number)
+            place.change(SOURCE, CHANGED, age=-10 * number)
             session.wait_until(lambda: count(session, PROGRAM_OUTPUT) == number)
         time.sleep(A_WHILE)
         assert count(session, t.CHANGE_NOTE) == 3
@@ -91,16 +81,16 @@ def test_every_change_is_built(place, tools):
 def test_failed_link_is_told_and_watching_goes_on(place, tools):
     tools.fails()
     with watching(place) as session:
-        change(place, CHANGED)
+        place.change(SOURCE, CHANGED)
         session.wait_until(lambda: session.stderr.decode().endswith(failed_build_line()))
         tools.links()
-        change(place, HELLO, age=-20)
+        place.change(SOURCE, HELLO, age=-20)
         session.wait_for_output(PROGRAM_OUTPUT)
 
 
 def test_diagnostic_ends_the_watch(place, tools):
     with watching(place) as session:
-        change(place, WRONG)
+        place.change(SOURCE, WRONG)
         assert session.wait_for_end() == 1
         shown, report = split_compiler_box(session.stdout.decode())
         assert behind_animation(shown, SOURCE) in (t.CHANGE_NOTE, t.CHANGE_NOTE + "\n")

@@ -1,6 +1,5 @@
 """Watching an application: it is built anew whenever its source changes, and the page learns of it."""
 
-import os
 import re
 import time
 
@@ -37,15 +36,6 @@ def session(web_place):
         yield running
 
 
-def change(place, contents, age=-10):
-    """Replaces the source as an editor does; its time differs from the one before in any case."""
-    new = place.folder / "புதியது"
-    new.write_text(contents, encoding="utf-8")
-    moment = time.time() - age
-    os.utime(new, (moment, moment))
-    new.rename(place.folder / SOURCE)
-
-
 def page_version():
     return int(re.search(r"let currentVersion = (\d+);", get()[1]).group(1))
 
@@ -57,7 +47,7 @@ def shown_behind_start(session):
 def test_change_is_built_and_the_version_grows(session, web_place, tools):
     assert (get("/version")[1], page_version()) == ("2", 2)
     for number in (3, 4):
-        change(web_place, CHANGED, age=-10 * number)
+        web_place.change(SOURCE, CHANGED, age=-10 * number)
         session.wait_until(lambda: get("/version")[1] == str(number))
         assert page_version() == number
     session.wait_until(lambda: session.stdout.decode().count(UPDATED) == 2)
@@ -70,12 +60,12 @@ def test_change_is_built_and_the_version_grows(session, web_place, tools):
 
 def test_failed_build_keeps_the_version_and_the_watch_goes_on(session, web_place, tools):
     tools.stands_in_for("em++", "exit 1")
-    change(web_place, CHANGED)
+    web_place.change(SOURCE, CHANGED)
     session.wait_for_output(t.WEB_COMPILATION_HINT)
     assert get("/version") == (200, "2")
     assert page_version() == 3
     tools.builds_pages()
-    change(web_place, HELLO, age=-20)
+    web_place.change(SOURCE, HELLO, age=-20)
     session.wait_for_output(UPDATED)
     assert get("/version") == (200, "3")
     assert t.WEB_FAILURE not in session.stdout.decode()
@@ -87,7 +77,7 @@ def test_failed_first_build_is_made_good_by_a_change(web_place, tools):
         assert get("/version") == (200, "1")
         time.sleep(A_WHILE)
         tools.builds_pages()
-        change(web_place, CHANGED)
+        web_place.change(SOURCE, CHANGED)
         session.wait_for_output(UPDATED)
         assert (get("/version")[1], page_version()) == ("2", 2)
         assert t.WEB_OPENING not in session.stdout.decode()
@@ -97,13 +87,13 @@ def test_removed_output_directory_is_made_again(session, web_place):
     for path in web_place.web_directory.iterdir():
         path.unlink()
     web_place.web_directory.rmdir()
-    change(web_place, CHANGED)
+    web_place.change(SOURCE, CHANGED)
     session.wait_for_output(UPDATED)
     assert get("/index.js") == (200, "js\n")
 
 
 def test_diagnostic_ends_watch_and_server(session, web_place, tools):
-    change(web_place, WRONG)
+    web_place.change(SOURCE, WRONG)
     assert session.wait_for_end() == 1
     shown, report = split_compiler_box(session.stdout.decode())
     assert shown.endswith(t.WEB_CHANGE_NOTE + "\n")
