@@ -100,7 +100,8 @@ void emitChild(const WidgetWriter& column, const WidgetNode& child) {
         column.block("    currentY += $height + spacing;\n", {{"height", height}});
     } else if (child.kind == "இவெ") {
         column.block("    float current_hH = 0.0f;\n");
-        emitGapSize(column, child, AXIS.gapProperty, "current_hH", "(forcedH > 0.0f ? forcedH : containerH)");
+        emitSize(column, findProperty(child, {AXIS.gapProperty}), "current_hH",
+                 "(forcedH > 0.0f ? forcedH : containerH)");
         column.block("    currentY += current_hH + spacing;\n");
     } else {
         emitFreeChild(column, child);

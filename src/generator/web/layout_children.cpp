@@ -45,14 +45,6 @@ void emitLayoutSize(const WidgetWriter& layout, std::initializer_list<const char
     }
 }
 
-void emitGapSize(const WidgetWriter& layout, const WidgetNode& gap, const char* property, const char* variable,
-                 const char* base) {
-    const std::string size = processPercentage(findProperty(gap, {property}), base);
-    if (!size.empty()) {
-        layout.block("    $variable = $size;\n", {{"variable", variable}, {"size", size}});
-    }
-}
-
 void emitShares(const WidgetWriter& layout, const LayoutChildren& children, const LayoutAxis& axis) {
     layout.block(R"(
     float $sum = 0.0f;

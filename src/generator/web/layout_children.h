@@ -34,10 +34,6 @@ bool hasScrollBar(const WidgetNode& layout);
 void emitLayoutSize(const WidgetWriter& layout, std::initializer_list<const char*> names, const char* variable,
                     const char* forced, const char* window);
 
-/// Assigns what a gap among the children takes along the axis, if it is a size.
-void emitGapSize(const WidgetWriter& layout, const WidgetNode& gap, const char* property, const char* variable,
-                 const char* base);
-
 /// The clip rectangle of a scrolling layout; written before its children, and taken back behind them.
 void emitClip(const WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height);
 /// What the widgets inside know of the clip rectangle, for a layout that sets the clip itself.

@@ -90,7 +90,7 @@ void emitChild(const WidgetWriter& row, const WidgetNode& child) {
         emitPlacedChild(row, child, "current_wW");
     } else if (child.kind == "இவெ") {
         row.block("    float current_wW = 0.0f;\n");
-        emitGapSize(row, child, AXIS.gapProperty, "current_wW", "(forcedW > 0.0f ? forcedW : containerW)");
+        emitSize(row, findProperty(child, {AXIS.gapProperty}), "current_wW", "(forcedW > 0.0f ? forcedW : containerW)");
     } else {
         row.block("    float current_wW = $width;\n", {{"width", floatConstant(row.widthOf(child))}});
         emitPlacedChild(row, child, "-1.0f");

@@ -79,9 +79,13 @@ std::string processPercentage(const Expression* expression, const std::string& b
 
 void emitGivenSize(const WidgetWriter& widget, std::initializer_list<const char*> names, const char* variable,
                    const char* base) {
-    const std::string size = processPercentage(findProperty(widget.widget(), names), base);
-    if (!size.empty()) {
-        widget.block("    $variable = $size;\n", {{"variable", variable}, {"size", size}});
+    emitSize(widget, findProperty(widget.widget(), names), variable, base);
+}
+
+void emitSize(const WidgetWriter& widget, const Expression* size, const char* variable, const char* base) {
+    const std::string text = processPercentage(size, base);
+    if (!text.empty()) {
+        widget.block("    $variable = $size;\n", {{"variable", variable}, {"size", text}});
     }
 }
 

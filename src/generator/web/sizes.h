@@ -20,6 +20,9 @@ std::string processPercentage(const Expression* expression, const std::string& b
 void emitGivenSize(const WidgetWriter& widget, std::initializer_list<const char*> names, const char* variable,
                    const char* base);
 
+/// Assigns \p size to the emitted variable, if it is one.
+void emitSize(const WidgetWriter& widget, const Expression* size, const char* variable, const char* base);
+
 /// The size of a widget that has one of its own: what the source says, unless the parent imposes another.
 ///
 /// \param width, height names of the emitted variables, which hold the usual size by now
