@@ -178,8 +178,7 @@ void Generator::visitRTDBReadStatement(const RTDBReadStatement* node) {
         indentLevel_ -= 2;
         dropLocalsBehind(outerLocals);
     });
-    constexpr std::int32_t BLANKS_PER_LEVEL = 4;
-    writeBlock(out_, READ, {{"path", path}, {"body", body}}, static_cast<std::size_t>(indentLevel_ * BLANKS_PER_LEVEL));
+    writeBlock(out_, READ, {{"path", path}, {"body", body}}, indentation());
 }
 
 } // namespace pozhil

@@ -147,9 +147,13 @@ void Generator::emitConsoleMain() {
 }
 
 void Generator::indent() {
-    for (std::int32_t level = 0; level < indentLevel_; ++level) {
-        out_ << "    ";
-    }
+    out_ << std::string(indentation(), ' ');
+}
+
+/// Blanks in front of a line of the present level.
+std::size_t Generator::indentation() const {
+    constexpr std::size_t BLANKS_PER_LEVEL = 4;
+    return BLANKS_PER_LEVEL * static_cast<std::size_t>(indentLevel_);
 }
 
 std::string Generator::getLineText(std::int32_t line) const {

@@ -53,6 +53,7 @@ private:
     void emitConsoleMain();
     template <class Visit> void forEachDefinition(Visit visit) const;
     void indent();
+    std::size_t indentation() const;
     std::string getLineText(std::int32_t line) const;
     [[noreturn]] void பிழை(const std::string& code, std::int32_t line, const std::string& extra) const;
 

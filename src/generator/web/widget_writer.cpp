@@ -8,7 +8,6 @@
 namespace pozhil {
 namespace {
 
-constexpr std::int32_t BLANKS_PER_LEVEL = 4;
 /// Deeper widgets are indented no further, so that the text stays linear in the source.
 constexpr std::int32_t DEEPEST_LEVEL = 12;
 
@@ -36,7 +35,7 @@ bool WidgetWriter::isAtTop() const {
 
 void WidgetWriter::block(std::string_view text, Holes holes) const {
     holes.insert(holes.end(), {{"x", x_}, {"y", y_}, {"n", number()}});
-    writeBlock(generator_.out_, text, holes, static_cast<std::size_t>(generator_.indentLevel_ * BLANKS_PER_LEVEL));
+    writeBlock(generator_.out_, text, holes, generator_.indentation());
 }
 
 float WidgetWriter::widthOf(const WidgetNode& widget) const {
