@@ -77,14 +77,14 @@ int compile(const Invocation& invocation) {
 
     const std::filesystem::path temporaryDirectory = prepareTemporaryDirectory();
     const std::filesystem::path output = outputPath(temporaryDirectory);
-    const std::string generated = generateText(source);
+    const OutputText generated = generateText(source);
     if (!prepareOutput(output, web)) {
         return 1;
     }
     if (web) {
         runWeb(source, generated, moduleDirectories, appDirectory, temporaryDirectory);
     }
-    if (!writeOutput(output, generated)) {
+    if (!writeOutput(output, generated.text)) {
         return 1;
     }
     NativeBuild build(appDirectory, output, temporaryDirectory);

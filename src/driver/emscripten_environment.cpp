@@ -85,7 +85,7 @@ std::string emscriptenCompiler(const fs::path& appDirectory) {
     return pathExists(own) ? own.u8string() : "em++";
 }
 
-fs::path precompiledHeaders(const fs::path& appDirectory, const std::string& compiler) {
+PrecompiledHeaders precompiledHeaders(const fs::path& appDirectory, const std::string& compiler) {
     const fs::path headers = appDirectory / "உள்ளடக்கம்" / "web_headers.pch";
     const auto found = platform::findProgram(compiler);
     std::error_code error;
@@ -94,13 +94,17 @@ fs::path precompiledHeaders(const fs::path& appDirectory, const std::string& com
     }
     // Emscripten's own em++ has its script beside it. A program in front of it, such as a cache, goes without.
     const bool isEmscripten = pathExists(fs::canonical(*found, error).replace_filename("em++.py"));
-    return isEmscripten ? headers : fs::path();
+    return isEmscripten ? PrecompiledHeaders{headers} : PrecompiledHeaders();
 }
 
-std::vector<std::pair<std::string, std::string>> emscriptenVariables(const fs::path& precompiledHeaders) {
+std::vector<std::pair<std::string, std::string>> emscriptenVariables(const PrecompiledHeaders& headers) {
     std::string flags = COMPILER_FLAGS;
-    if (!precompiledHeaders.empty()) {
-        flags += " -include-pch " + quoted(precompiledHeaders.u8string());
+    if (!headers.file.empty()) {
+        flags += " -include-pch " + quoted(headers.file.u8string());
+    }
+    if (headers.sourceLength > 0) {
+        // The 1 tells that a line begins behind them.
+        flags += " -Xclang -preamble-bytes=" + std::to_string(headers.sourceLength) + ",1";
     }
     std::vector<std::pair<std::string, std::string>> variables = {{"EMCC_CFLAGS", extended("EMCC_CFLAGS", " ", flags)}};
     if (pathExists(DEBIAN_NODE_MODULES)) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -14,12 +15,19 @@ void injectEmscriptenEnvironment(const std::filesystem::path& appDirectory);
 /// The em++ to call: that of the installation's own SDK, or the name to look up in PATH.
 std::string emscriptenCompiler(const std::filesystem::path& appDirectory);
 
-/// The installation's precompiled headers for em++; empty if there are none, or if \p compiler can't be the one that
-/// they were made with.
-std::filesystem::path precompiledHeaders(const std::filesystem::path& appDirectory, const std::string& compiler);
+/// Precompiled headers for em++.
+struct PrecompiledHeaders {
+    /// Empty if there are none
+    std::filesystem::path file;
+    /// How many bytes at the head of the source they stand for
+    std::size_t sourceLength = 0;
+};
+
+/// The installation's precompiled headers, which stand for no part of the source; none if \p compiler can't be the one
+/// that they were made with.
+PrecompiledHeaders precompiledHeaders(const std::filesystem::path& appDirectory, const std::string& compiler);
 
 /// Variables that em++ needs beside its command line for what the language promises.
-/// \param precompiledHeaders may be empty
-std::vector<std::pair<std::string, std::string>> emscriptenVariables(const std::filesystem::path& precompiledHeaders);
+std::vector<std::pair<std::string, std::string>> emscriptenVariables(const PrecompiledHeaders& headers);
 
 } // namespace pozhil

@@ -51,11 +51,12 @@ void parseSource(SourceFile& source, const std::vector<std::string>& moduleDirec
     });
 }
 
-std::string generateText(const SourceFile& source) {
+OutputText generateText(const SourceFile& source) {
     return runStage(Stage::Generate, [&] {
-        return Generator(source.program, source.parser->functions(), source.parser->structs(),
-                         source.parser->abstractStructs(), source.text, source.path)
-            .generate();
+        Generator generator(source.program, source.parser->functions(), source.parser->structs(),
+                            source.parser->abstractStructs(), source.text, source.path);
+        std::string text = generator.generate();
+        return OutputText{std::move(text), generator.runtimeLength()};
     });
 }
 

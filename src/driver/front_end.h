@@ -3,6 +3,7 @@
 #include "parser/parser.h"
 #include "parser/syntax_tree.h"
 
+#include <cstddef>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -30,13 +31,20 @@ struct SourceFile {
     Program program;
 };
 
+/// The output text of a program.
+struct OutputText {
+    std::string text;
+    /// How many bytes at its head are the runtime
+    std::size_t runtimeLength = 0;
+};
+
 /// Scans and parses \p source.text, imported files included.
 /// \throws StageFailure
 void parseSource(SourceFile& source, const std::vector<std::string>& moduleDirectories);
 
 /// Translates a parsed source into the output text.
 /// \throws StageFailure
-std::string generateText(const SourceFile& source);
+OutputText generateText(const SourceFile& source);
 
 /// Whether the program declares an application at top level, and so is for the web.
 bool isWebProgram(const Program& program);

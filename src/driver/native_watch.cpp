@@ -6,11 +6,11 @@
 namespace pozhil {
 
 void watchNative(const std::string& sourcePath, const std::vector<std::string>& moduleDirectories,
-                 const std::filesystem::path& output, NativeBuild& build) {
+                 const std::filesystem::path& outputFile, NativeBuild& build) {
     WatchSteps steps;
     steps.changeNote = "\n🔄 மாற்றம் கண்டறியப்பட்டது! புதுப்பிக்கப்படுகிறது...";
-    steps.build = [&](const SourceFile&, const std::string& text) {
-        if (writeOutput(output, text)) {
+    steps.build = [&](const SourceFile&, const OutputText& output) {
+        if (writeOutput(outputFile, output.text)) {
             build.start();
             build.finish();
         }

@@ -12,6 +12,6 @@ namespace pozhil {
 /// Builds and runs the program anew whenever its source file changes. Never returns.
 /// \throws std::filesystem::filesystem_error if the source file vanishes
 [[noreturn]] void watchNative(const std::string& sourcePath, const std::vector<std::string>& moduleDirectories,
-                              const std::filesystem::path& output, NativeBuild& build);
+                              const std::filesystem::path& outputFile, NativeBuild& build);
 
 } // namespace pozhil

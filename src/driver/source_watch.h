@@ -13,7 +13,7 @@ struct WatchSteps {
     /// Told to the user at once
     const char* changeNote;
     /// Takes the changed source, parsed, and its output text
-    std::function<void(const SourceFile&, const std::string&)> build;
+    std::function<void(const SourceFile&, const OutputText&)> build;
     /// Takes the failure of a stage in place of the build
     std::function<void(const StageFailure&)> reportFailure;
 };

@@ -1,18 +1,42 @@
 #pragma once
 
-#include "parser/syntax_tree.h"
+#include "driver/emscripten_environment.h"
+#include "driver/front_end.h"
+#include "driver/precompiled_runtime.h"
+#include "platform/process.h"
 
+#include <array>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace pozhil {
 
-/// Builds an application: makes its page anew for the server and compiles its output text with em++ into the directory
-/// வெளியீடு. The server's version number grows once all files are in place. What goes wrong is told to the user.
-/// \param appDirectory the installation
-/// \param temporaryDirectory where the output text is written for em++
-/// \return whether em++ succeeded
-bool buildWeb(const Program& program, const std::string& text, const std::filesystem::path& appDirectory,
-              const std::filesystem::path& temporaryDirectory);
+/// Builds the versions of an application, one after the other, with em++ into the directory வெளியீடு.
+class WebBuild {
+public:
+    /// \param appDirectory the installation
+    /// \param temporaryDirectory where the output text is written for em++
+    WebBuild(const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory);
+
+    /// Makes the page of one version anew for the server and compiles its output text. The server's version number grows
+    /// once all files are in place. What goes wrong is told to the user.
+    /// \return whether em++ succeeded
+    bool run(const Program& program, const OutputText& output);
+
+private:
+    bool makePage(const Program& program, int version) const;
+    bool compile(const OutputText& output, const std::vector<std::string>& packing);
+    platform::Command command(const std::vector<std::string>& packing, const PrecompiledHeaders& headers) const;
+    void explainFailure() const;
+
+    std::filesystem::path appDirectory_;
+    std::string compiler_;
+    std::filesystem::path source_;
+    std::array<std::filesystem::path, 2> objects_;
+    std::filesystem::path outputDirectory_;
+    PrecompiledHeaders headers_;
+    PrecompiledRuntime runtime_;
+};
 
 } // namespace pozhil

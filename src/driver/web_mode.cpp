@@ -11,11 +11,12 @@
 
 namespace pozhil {
 
-void runWeb(const SourceFile& source, const std::string& text, const std::vector<std::string>& moduleDirectories,
+void runWeb(const SourceFile& source, const OutputText& output, const std::vector<std::string>& moduleDirectories,
             const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory) {
     const std::string address = "http://127.0.0.1:" + std::to_string(LOCAL_SERVER_PORT);
+    WebBuild build(appDirectory, temporaryDirectory);
     printWebPacking();
-    if (buildWeb(source.program, text, appDirectory, temporaryDirectory)) {
+    if (build.run(source.program, output)) {
         printWebSuccess(address);
         platform::openInBrowser(address);
     } else {
@@ -25,8 +26,8 @@ void runWeb(const SourceFile& source, const std::string& text, const std::vector
 
     WatchSteps steps;
     steps.changeNote = "\n🔄 மாற்றம் கண்டறியப்பட்டது! வலைத்தளம் புதுப்பிக்கப்படுகிறது...";
-    steps.build = [&](const SourceFile& changed, const std::string& changedText) {
-        if (buildWeb(changed.program, changedText, appDirectory, temporaryDirectory)) {
+    steps.build = [&](const SourceFile& changed, const OutputText& changedOutput) {
+        if (build.run(changed.program, changedOutput)) {
             std::cout << "✅ தளம் புதுப்பிக்கப்பட்டது! பிரவுசரில் பார்க்கவும்." << std::endl;
         }
     };

@@ -10,11 +10,11 @@ namespace pozhil {
 
 /// Builds an application, opens it in the browser, serves it, and builds it anew whenever its source changes. Never
 /// returns: without a good build the server waits for one.
-/// \param text the output text of \p source
+/// \param output the output text of \p source
 /// \param appDirectory the installation
 /// \param temporaryDirectory where the output text is written for em++
 /// \throws std::filesystem::filesystem_error if the source file vanishes
-[[noreturn]] void runWeb(const SourceFile& source, const std::string& text,
+[[noreturn]] void runWeb(const SourceFile& source, const OutputText& output,
                          const std::vector<std::string>& moduleDirectories, const std::filesystem::path& appDirectory,
                          const std::filesystem::path& temporaryDirectory);
 

@@ -50,6 +50,7 @@ Generator::Generator(const Program& program, const FunctionTable& functions, con
 
 std::string Generator::generate() {
     emitRuntime();
+    runtimeLength_ = static_cast<std::size_t>(out_.tellp());
     emitStructures();
     emitFunctions();
     emitInitGlobals();

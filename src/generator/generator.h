@@ -4,6 +4,7 @@
 #include "parser/parser.h"
 #include "parser/syntax_tree.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <set>
@@ -36,6 +37,10 @@ public:
     /// The whole text. The same program gives the same bytes.
     /// \throws std::runtime_error for a fault without a line
     std::string generate();
+
+    /// How many bytes at the head of the generated text are the runtime. They change with the start page and the source
+    /// path only.
+    std::size_t runtimeLength() const { return runtimeLength_; }
 
 private:
     /// What an inference found, and when: an assignment in between can change what a name holds.
@@ -195,6 +200,7 @@ private:
     const Program& program_;
     std::vector<const WebAppNode*> webApps_;
     std::ostringstream out_;
+    std::size_t runtimeLength_ = 0;
     std::map<std::string, VarType> varTypes_;
     std::set<std::string> knownStructs_;
     std::set<std::string> constantNames_;

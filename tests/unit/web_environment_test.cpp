@@ -31,7 +31,7 @@ protected:
         return value != nullptr ? value : "(unset)";
     }
 
-    static std::string ofChild(const std::string& name, const fs::path& headers = {}) {
+    static std::string ofChild(const std::string& name, const PrecompiledHeaders& headers = {}) {
         const auto variables = emscriptenVariables(headers);
         return std::map<std::string, std::string>(variables.begin(), variables.end())[name];
     }
@@ -86,7 +86,12 @@ TEST_F(EmscriptenEnvironment, UsersOwnFlagsStandInFront) {
 
 TEST_F(EmscriptenEnvironment, PrecompiledHeadersAreOneWordOfTheFlags) {
     const std::string own = ofChild("EMCC_CFLAGS");
-    EXPECT_EQ(ofChild("EMCC_CFLAGS", "/ஓர் 'இடம்'/a.pch"), own + " -include-pch '/ஓர் '\"'\"'இடம்'\"'\"'/a.pch'");
+    EXPECT_EQ(ofChild("EMCC_CFLAGS", {"/ஓர் 'இடம்'/a.pch", 0}), own + " -include-pch '/ஓர் '\"'\"'இடம்'\"'\"'/a.pch'");
+}
+
+TEST_F(EmscriptenEnvironment, PrecompiledHeadersTellWhatTheyReplace) {
+    const std::string plain = ofChild("EMCC_CFLAGS", {"/a.pch", 0});
+    EXPECT_EQ(ofChild("EMCC_CFLAGS", {"/a.pch", 70123}), plain + " -Xclang -preamble-bytes=70123,1");
 }
 
 TEST_F(EmscriptenEnvironment, PrecompiledHeadersAreForEmscriptensOwnCompiler) {
@@ -95,12 +100,12 @@ TEST_F(EmscriptenEnvironment, PrecompiledHeadersAreForEmscriptensOwnCompiler) {
     setenv("PATH", (folder() / "bin").c_str(), 1);
     const fs::path headers = folder() / "உள்ளடக்கம்" / "web_headers.pch";
     write("bin/em++.py", "");
-    EXPECT_EQ(precompiledHeaders(folder(), "em++"), "");
+    EXPECT_EQ(precompiledHeaders(folder(), "em++").file, "");
     write(headers.string(), "");
-    EXPECT_EQ(precompiledHeaders(folder(), "em++"), headers);
-    EXPECT_EQ(precompiledHeaders(folder(), "/sdk/em++"), "");
+    EXPECT_EQ(precompiledHeaders(folder(), "em++").file, headers);
+    EXPECT_EQ(precompiledHeaders(folder(), "/sdk/em++").file, "");
     fs::remove("bin/em++.py");
-    EXPECT_EQ(precompiledHeaders(folder(), "em++"), "");
+    EXPECT_EQ(precompiledHeaders(folder(), "em++").file, "");
 }
 
 } // namespace

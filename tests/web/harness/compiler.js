@@ -205,7 +205,9 @@ async function served(name) {
 }
 
 // Notes how em++ was called, and lets the compiler go on. The result tells its place, and so whose server it is on.
+// What is precompiled for a later version is none of the page's.
 const NOTE_THE_CALL = `
+case $* in *c++-header*) exit 1 ;; esac
 printf '%s\\0' "$@" > "$0.call"
 env -0 > "$0.env"
 while [ "$1" != -o ]; do shift; done
