@@ -81,24 +81,31 @@ bool WebBuild::makePage(const Program& program, int version) const {
     return true;
 }
 
+PrecompiledHeaders WebBuild::headersFor(const OutputText& output) {
+    const PrecompiledHeaders runtime = headers_.file.empty() ? PrecompiledHeaders() : runtime_.headersFor(output);
+    return runtime.file.empty() ? headers_ : runtime;
+}
+
+/// For the versions that follow.
+void WebBuild::prepareRuntime(const OutputText& output) {
+    if (!headers_.file.empty()) {
+        platform::Command compiler = {{compiler_}, emscriptenVariables(headers_)};
+        append(compiler.arguments, languageArguments(appDirectory_ / "உள்ளடக்கம்"));
+        runtime_.prepare(output, compiler);
+    }
+}
+
 /// Unlike g++, em++ refuses precompiled headers that don't fit, as with other flags or after an update.
 bool WebBuild::compile(const OutputText& output, const std::vector<std::string>& packing) {
-    PrecompiledHeaders headers = runtime_.headersFor(output);
-    if (headers.file.empty()) {
-        headers = headers_;
-    }
+    const PrecompiledHeaders headers = headersFor(output);
     if (platform::runSilently(command(packing, headers)) == 0) {
-        if (!headers_.file.empty()) {
-            platform::Command compiler = {{compiler_}, emscriptenVariables(headers_)};
-            append(compiler.arguments, languageArguments(appDirectory_ / "உள்ளடக்கம்"));
-            runtime_.prepare(output, compiler);
-        }
+        prepareRuntime(output);
         return true;
     }
     if (headers.file.empty() || platform::runSilently(command(packing, {})) != 0) {
         return false;
     }
-    // They would fail the next time as well.
+    // They would fail the next time as well, and so would what is made with them.
     headers_ = {};
     return true;
 }

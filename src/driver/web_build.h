@@ -26,6 +26,8 @@ public:
 
 private:
     bool makePage(const Program& program, int version) const;
+    PrecompiledHeaders headersFor(const OutputText& output);
+    void prepareRuntime(const OutputText& output);
     bool compile(const OutputText& output, const std::vector<std::string>& packing);
     platform::Command command(const std::vector<std::string>& packing, const PrecompiledHeaders& headers) const;
     void explainFailure() const;

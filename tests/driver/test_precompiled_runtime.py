@@ -126,6 +126,17 @@ def test_what_does_not_fit_is_tried_once(web_place, installation, tools):
     assert ["-include-pch" in line for line in flags(tools)] == [True, False, False]
 
 
+def test_runtime_that_does_not_fit_is_tried_once(web_place, tools):
+    tools.stands_in_for("em++", NOTE + PRECOMPILE + "case $EMCC_CFLAGS in *preamble*) exit 1 ;; esac\n" + BUILD)
+    with web_place.session(SOURCE) as session:
+        ready(session, tools, web_place, 2)
+        web_place.change(SOURCE, page("முகப்பு", "2"))
+        session.wait_for_output(UPDATED)
+        web_place.change(SOURCE, page("முகப்பு", "3"), age=-20)
+        session.wait_until(lambda: session.stdout.decode().count(UPDATED) == 2)
+    assert ["preamble" in line for line in flags(tools)] == [False, False, True, False, False]
+
+
 def test_program_that_em_refuses_keeps_the_headers(web_place, tools):
     tools.stands_in_for("em++", NOTE + "exit 1")
     with web_place.session(SOURCE) as session:
