@@ -23,5 +23,8 @@
 #pragma weak nvgDeleteGLES2
 #pragma weak nvglCreateImageFromHandleGLES2
 #pragma weak nvglImageHandleGLES2
+/* Programs ask for NanoVG's debugging aid, which asks for WebGL's error at every shape. Each such question waits until
+ * all that was drawn before is done; browsers tell of errors in their console without being asked. */
+#define glGetError() GL_NO_ERROR
 #define NANOVG_GLES2_IMPLEMENTATION
 #include "nanovg_gl.h"

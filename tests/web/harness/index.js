@@ -3,9 +3,8 @@
 import assert from 'node:assert/strict';
 import { after, test } from 'node:test';
 
-import { chromium } from 'playwright-core';
-
 import { AppPage } from './app_page.js';
+import { launch } from './browser.js';
 import { Compiler, address, buildPage } from './compiler.js';
 import { PageServer } from './page_server.js';
 
@@ -14,19 +13,9 @@ export { assert, address, buildPage };
 const TIMEOUT = 300_000;
 // Small, since the machine's processor draws the pages.
 const WINDOW = { width: 500, height: 400 };
-const FLAGS = [
-    '--no-sandbox', '--use-gl=angle', '--use-angle=swiftshader', '--enable-unsafe-swiftshader',
-    '--disable-background-networking', '--disable-component-update', '--disable-sync', '--no-first-run',
-    '--disable-quic', '--host-resolver-rules=MAP * ~NOTFOUND, EXCLUDE 127.0.0.1',
-];
 
 const server = new PageServer();
 let browser;
-
-async function launch(flags = []) {
-    const executablePath = process.env.POZHIL_CHROMIUM || '/usr/bin/chromium';
-    return chromium.launch({ executablePath, args: [...FLAGS, ...flags] });
-}
 
 after(async () => {
     await browser?.then(running => running.close());
