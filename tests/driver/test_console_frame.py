@@ -55,6 +55,12 @@ def test_nothing_but_the_box_is_shown_of_a_wrong_program(place):
     assert not place.emitted_path.exists()
 
 
+@pytest.mark.parametrize("contents, told", [("\t", t.SCANNER_FAILED), ("நீளம்()\n", t.GENERATOR_FAILED)])
+def test_nothing_but_a_line_is_shown_of_a_stage_that_fails_without_a_box(place, contents, told):
+    result = place.compile(contents)
+    assert (result.status, result.out, result.err) == (1, "", f"{t.RED}{told}{t.RESET}\n")
+
+
 def test_compile_line_is_written_byte_by_byte(place, source):
     place.env["POZHIL_ANIMATION_MS"] = "5"
     pieces = timed_pieces(place, source)

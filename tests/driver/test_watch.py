@@ -88,6 +88,44 @@ def test_failed_link_is_told_and_watching_goes_on(place, tools):
         session.wait_for_output(PROGRAM_OUTPUT)
 
 
+@pytest.mark.parametrize("wrong, told", [
+    ("\t", t.SCANNER_FAILED_IN_WATCH), ("நீளம்()\n", f"{t.GENERATOR_FAILED_IN_WATCH}{t.CODE_PREFIX}331: "),
+])
+def test_exception_of_a_stage_is_told_with_its_cause_and_watching_goes_on(place, tools, wrong, told):
+    with watching(place) as session:
+        place.change(SOURCE, wrong)
+        session.wait_until(lambda: session.stderr.endswith(b"\n"))
+        message = session.stderr.decode()
+        assert message.startswith(told) and len(message.rstrip()) > len(told)
+        assert tools.calls() == []
+        place.change(SOURCE, HELLO, age=-20)
+        session.wait_for_output(PROGRAM_OUTPUT)
+
+
+def test_change_of_an_imported_file_is_not_seen(place, tools):
+    place.write("துணை.பொழில்", HELLO)
+    with watching(place, 'நூஇறக்கி "துணை"\n') as session:
+        place.change("துணை.பொழில்", CHANGED)
+        time.sleep(A_WHILE)
+        assert t.CHANGE_NOTE not in session.stdout.decode()
+        place.change(SOURCE, 'நூஇறக்கி "துணை"\n', age=-20)
+        session.wait_for_output(PROGRAM_OUTPUT)
+    assert "மாற்றம்" in place.own_emitted
+
+
+def test_changes_wait_until_the_running_program_has_ended(place, tools, scratch):
+    done = scratch / "done"
+    tools.links(f'until [ -e "{done}" ]; do /bin/sleep 0.05; done')
+    with watching(place) as session:
+        place.change(SOURCE, CHANGED)
+        session.wait_until(lambda: len(tools.calls()) == 1)
+        place.change(SOURCE, HELLO, age=-20)
+        time.sleep(A_WHILE)
+        assert count(session, t.CHANGE_NOTE) == 1
+        done.touch()
+        session.wait_until(lambda: count(session, t.CHANGE_NOTE) == 2)
+
+
 def test_diagnostic_ends_the_watch(place, tools):
     with watching(place) as session:
         place.change(SOURCE, WRONG)

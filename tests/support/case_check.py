@@ -5,8 +5,9 @@ import difflib
 from support import case_file as cf
 from support.case_run import run_case
 
-# Behind this line and its fence, the emitted text is the program's own.
-_LAST_OF_RUNTIME = "// --- Web Boilerplate ---"
+# The runtime ends with a fence; behind it stand the program's own definitions and then this function.
+_FENCE_END = "#endif\n"
+_SET_UP = "void init_globals() {"
 
 _SHOWN_LINES = 100
 
@@ -41,14 +42,9 @@ def rewrite_case(case, compiler, **settings):
 
 def own_part(emitted):
     """The emitted text behind the runtime, which is the same in every program."""
-    _, mark, rest = emitted.partition(_LAST_OF_RUNTIME)
-    depth = 0
-    lines = rest.split("\n")
-    for index, line in enumerate(lines):
-        depth += line.startswith("#if") - line.startswith("#endif")
-        if line.startswith("#endif") and depth == 0:
-            return "\n".join(lines[index + 1 :])
-    return emitted
+    set_up = emitted.find(_SET_UP)
+    fence = emitted.rfind(_FENCE_END, 0, max(set_up, 0))
+    return emitted[fence + len(_FENCE_END) :] if fence >= 0 else emitted
 
 
 def _stated(case):

@@ -49,8 +49,9 @@ def main(path):
     web = ["web"] in commands
     name = t.EMITTED_WEB_NAME if web else t.EMITTED_NAME
     with open(f"{t.WORK_DIRECTORY}/{name}", "w", encoding="utf-8") as emitted:
-        emitted.write("in the runtime\n// --- Web Boilerplate ---\n#ifdef WEB\nin the fence\n#endif\n")
+        emitted.write("in the runtime\n#ifdef WEB\nin the fence\n#endif\n")
         emitted.writelines(f"    {rest[0]}\n" for command, *rest in commands if command == "emit")
+        emitted.write("void init_globals() {\n}\n")
     if web:
         subprocess.run(["em++"])
         time.sleep(600)

@@ -163,7 +163,8 @@ def test_what_an_output_looks_like_in_a_case():
 
 
 def test_own_part_of_the_emitted_text():
-    assert own_part("a\n// --- Web Boilerplate ---\n#ifdef X\n#ifdef Y\n#endif\nb\n#endif\nc\nd") == "c\nd"
+    assert own_part("a\n#ifdef X\nb\n#endif\nc\nvoid init_globals() {\n}\nd") == "c\nvoid init_globals() {\n}\nd"
+    assert own_part("#endif\nvoid init_globals() {\n#ifdef X\n#endif\n}\n").startswith("void init_globals() {")
     assert own_part("a\nb") == "a\nb"
 
 

@@ -177,6 +177,18 @@ TEST(RangeLoop, TakesOneOrTwoBounds) {
     }
 }
 
+TEST(ContainerLoop, StandsInTwelveOthersAtMost) {
+    const auto fault = [](int depth) {
+        std::string source;
+        for (int level = 0; level < depth; ++level) {
+            source += std::string(static_cast<std::size_t>(level), ' ') + "ஒவ்வொன்றாக எ இல் ப:\n";
+        }
+        return generatorFault(source + std::string(static_cast<std::size_t>(depth), ' ') + "விடு\n");
+    };
+    EXPECT_EQ(fault(12), "none");
+    EXPECT_EQ(fault(13), "பொழி-291 வரி 13");
+}
+
 /// The diagnostic for a function \p name that returns \p value in line 4.
 std::string returnFault(const std::string& name, const std::string& value) {
     return generatorFault("கட்டமைப்பு மரம்:\n    அ = 1\nசெயல் " + name + "():\n    திரும்பு " + value + "\n");
@@ -195,7 +207,7 @@ TEST(Return, KeepsWhatTheFunctionsNamePromises) {
         {{"எண்", "மொத்த_எண்", "வா_எண்கள்", "வா_எண்_உரை", "வா_பட்டியல்_எண்"},
          {integer, decimal, truth, letter, unknown, time},
          {text, list, map, object, lambda}},
-        {{"வா_உரை", "வா_உரைகள்", "வா_உரை_பட்டியல்"},
+        {{"உரை", "வா_உரை", "வா_உரைகள்", "வா_உரை_பட்டியல்"},
          {text, truth, letter, unknown, time, object, lambda},
          {integer, decimal, list, map}},
         {{"பட்டியல்", "வா_பட்டியல்", "வா_பட்டியல்கள்"},

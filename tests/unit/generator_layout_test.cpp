@@ -38,6 +38,15 @@ TEST(Layout, AMemberWriteBringsItsOwnLine) {
         << "inside an expression";
 }
 
+TEST(Layout, AMemberWriteWithoutALineTakesThatOfTheMember) {
+    auto write = make<pozhil::SetMemberExpression>(variable("பொ"), word("அ"), number("1"));
+    const std::string body =
+        mainBody("கட்டமைப்பு ப:\n    அ = 1\nபொ = ப()\n", listOf(make<pozhil::ExpressionStatement>(std::move(write))));
+    EXPECT_NE(body.find("fn_set_property(global_vars[\"பொ\"], \"அ\", std::any(1LL), \"நிரல்.பொழில்\", 3);"),
+              std::string::npos)
+        << body;
+}
+
 TEST(Layout, If) {
     EXPECT_EQ(mainBody("எனில் அ சமம் 1:\n    விடு\nவிடு\n"),
               "    if (fn_compare_any(std::any(global_vars[\"அ\"]), std::any(1LL), \"சமம்\")) {\n"
@@ -89,6 +98,12 @@ TEST(Layout, ContainerLoopHasItsBodyTwice) {
                   "            }\n        } else {\n"
                   "            pozhil_runtime_error(\"பொழி-313\", \"நிரல்.பொழில்\", 3);\n"
                   "        }\n    }\n");
+}
+
+TEST(Layout, ALoopOverAnyOtherCallIsAContainerLoop) {
+    EXPECT_EQ(mainBody("ஒவ்வொன்றாக எ இல் எண்(3):\n    விடு\n")
+                  .rfind("    {\n        auto& _iterable = fn_cast_to_number(3LL, 1);\n", 0),
+              0U);
 }
 
 TEST(Layout, Switch) {

@@ -360,6 +360,10 @@ TEST(Interrupt, SaysGoodbyeAndEndsWell) {
     for (const int port : {0, other.port()}) {
         const ChildResult result = runInChild([port] {
             std::thread(runLocalServer, port).detach();
+            struct sigaction current = {};
+            while (sigaction(SIGINT, nullptr, &current) == 0 && current.sa_handler == SIG_DFL) {
+                std::this_thread::sleep_for(10ms);
+            }
             std::this_thread::sleep_for(300ms);
             kill(getpid(), SIGINT);
             std::this_thread::sleep_for(10s);

@@ -173,6 +173,14 @@ TEST(Parent, StandsBehindTheNameAndBeforeTheChild) {
     EXPECT_EQ(fault("செயல் ஆ():\n    விடு\nகட்டமைப்பு அ(ஆ):\n    இ = 1\n"), "பொழி-272 வரி 3");
 }
 
+TEST(Parent, IsTheStructuresOwnNameIfNoneIsGiven) {
+    const pozhil::Program program = parseText(structure("    இ = 1\n"));
+    const auto* node = pozhil::nodeCast<pozhil::StructDefinitionStatement>(program.statements.front().get());
+    ASSERT_NE(node, nullptr);
+    EXPECT_FALSE(node->hasParent);
+    EXPECT_EQ(node->parent.value, "அ");
+}
+
 TEST(Parent, IsOnePlainName) {
     for (const std::string parent : {"", "5", "சுற்று", "உரை", "\"ஆ\"", "(ஆ)", "\nஆ"}) {
         EXPECT_EQ(fault("கட்டமைப்பு அ(" + parent + "):\n    இ = 1\n"), "பொழி-210 வரி 1") << parent;

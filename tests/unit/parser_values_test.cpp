@@ -187,6 +187,17 @@ TEST(Maps, NeedColonsCommasAndTheirBrace) {
     EXPECT_EQ(fault("அ = {\n"), "பொழி-212 வரி 2");
 }
 
+TEST(Brackets, AreReportedWhereTheyOpenedHoweverManyLinesTheirContentsTake) {
+    const std::string map = "{\n\"அ\": 1\n}";
+    EXPECT_EQ(fault("\nஅச்சிடு(" + map + " 2)"), "பொழி-204 வரி 2");
+    EXPECT_EQ(fault("\nஅ(" + map + " 2)"), "பொழி-204 வரி 2");
+    EXPECT_EQ(fault("\nஆ = (" + map + " 2)"), "பொழி-204 வரி 2");
+    EXPECT_EQ(fault("\nஆ = அ[" + map + " 2]"), "பொழி-205 வரி 2");
+    EXPECT_EQ(fault("\nஆ = [" + map + "\n]"), "பொழி-205 வரி 2");
+    EXPECT_EQ(fault("\nஆ = {\"அ\": " + map + " 2}"), "பொழி-206 வரி 2");
+    EXPECT_EQ(fault("\nஆ = [" + map + " 2]"), "பொழி-207 வரி 4") << "a missing comma, where it is missing";
+}
+
 TEST(EnumerationMembers, BecomeTheirNumbers) {
     const std::string definition = "வகை நிறங்கள்:\n    சிவப்பு\n    பச்சை\n";
     EXPECT_EQ(tree(definition), "");
