@@ -98,16 +98,18 @@ void Parser::parseHeaderItem(PropertyMap& properties) {
     properties.insert_or_assign(rule.key, std::move(value));
 }
 
-/// குமரி ( [ widget ] )
+/// குமரி ( [ widget ] ). Behind the widget the closing bracket may stand further out, not further in.
 StatementPtr Parser::parseUIBody() {
     consume(TokenType::UI_BODY, "பொழி-242");
     consume(TokenType::LPAREN, "பொழி-203");
-    const int level = indentation_;
     StatementPtr root;
-    if (atListItem(level)) {
+    if (atListItem(indentation_)) {
         root = parseWidget();
     }
-    skipLayout();
+    skipNewlines();
+    while (check(TokenType::DEDENT)) {
+        advance();
+    }
     consume(TokenType::RPAREN, "பொழி-204");
     return root;
 }

@@ -97,9 +97,8 @@ Parser::WidgetPtr Parser::parseGridView(const Token& word) {
     openBracket();
     Siblings lists(*this);
     parseItems(indentation_, [&] { parseGridProperty(*grid); });
-    if (!openFurtherBracket()) {
-        பிழை("பொழி-203", peek().line);
-    }
+    skipLayout();
+    consume(TokenType::LPAREN, "பொழி-203");
     lists.next();
     parseChildren(*grid, word.line, indentation_);
     return grid;

@@ -83,6 +83,14 @@ TEST(DatabaseInsert, SendsEveryValueAsText) {
     EXPECT_EQ(jsonLines(insertWord + "(\"அ\") {}\n"), "    std::string json_data = \"{\";\n    json_data += \"}\";\n");
 }
 
+TEST(DatabaseInsert, SendsEveryEntryOfAKey) {
+    EXPECT_EQ(jsonLines(insertWord + "(\"அ\") {உ: 1, உ: 2}\n"),
+              "    std::string json_data = \"{\";\n"
+              "    json_data += \"\\\"உ\\\": \\\"\" + fn_any_to_string(1LL) + \"\\\"\";\n"
+              "    json_data += \", \\\"உ\\\": \\\"\" + fn_any_to_string(2LL) + \"\\\"\";\n"
+              "    json_data += \"}\";\n");
+}
+
 TEST(DatabaseInsert, LooksForTheConnectionFirst) {
     const std::string text = mainBody(insertWord + "(\"அ\" இணை 1) {}\n");
     EXPECT_TRUE(
@@ -109,6 +117,13 @@ TEST(DatabaseUpdate, QuotesTextsOfTheSourceAlone) {
               "    json_data += \", \\\"ஒ\\\": \" + fn_any_to_string(global_vars[\"ம\"]) + \"\";\n"
               "    json_data += \", \\\"ஓ\\\": \" + fn_any_to_string((std::string(u8\"ஊ\"))) + \"\";\n"
               "    json_data += \"}\";\n");
+}
+
+TEST(DatabaseUpdate, AColourIsNoText) {
+    const auto entry = [](const std::string& word) { return jsonLines(word + "(\"அ\") {உ: \"#FF0000\"}\n"); };
+    EXPECT_TRUE(inOrder(entry(updateWord), {"\"உ\\\": \" + fn_any_to_string(nvgRGBA(255, 0, 0, 255)) + \"\";\n"}));
+    EXPECT_TRUE(
+        inOrder(entry(insertWord), {"\"உ\\\": \\\"\" + fn_any_to_string(nvgRGBA(255, 0, 0, 255)) + \"\\\"\";\n"}));
 }
 
 TEST(DatabaseUpdate, DoesNotLookForTheConnection) {
@@ -214,6 +229,13 @@ TEST(DatabaseLoader, LeavesEmptyWhatIsMissingOrNoText) {
 TEST(DatabaseLoader, StandsBeforeTheDefinitions) {
     EXPECT_TRUE(inOrder(setUp(application("தரவுத்தளமேலாண்மை(பயர்பேசு_அமைப்பு())", "ம = 1")),
                         {"firebaseInitialized", "global_vars[\"ம\"] = "}));
+}
+
+TEST(DatabaseLoader, TheLastOfSeveralConfigurationsCounts) {
+    const std::string text = setUp(application("தரவுத்தளமேலாண்மை(பயர்பேசு_அமைப்பு(api_key: \"முதல்\")\n"
+                                               "பயர்பேசு_அமைப்பு(api_key: \"இடை\", api_key: \"கடை\"))"));
+    EXPECT_TRUE(holds(text, "apiKey: 'கடை'")) << text;
+    EXPECT_FALSE(holds(text, "முதல்") || holds(text, "இடை")) << text;
 }
 
 TEST(DatabaseLoader, NeedsAConfiguration) {

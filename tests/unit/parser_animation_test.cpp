@@ -60,6 +60,14 @@ TEST(Animation, NamesItsTargets) {
     EXPECT_EQ(animation("இலக்கு(அகலம்: மெய், \"உயரம்\": 5)"), expected("0 linear உயரம்=5"));
 }
 
+TEST(Animation, KnowsItsKeysByTheirText) {
+    EXPECT_EQ(animation("\"காலம்\": 300, \"வகை\": அ, \"நிலைமை\": ஆ, \"இலக்கு\"(அகலம்: 5)"), expected("300 அ அகலம்=5 if ஆ"));
+}
+
+TEST(Animation, TheLastOfSeveralCounts) {
+    EXPECT_EQ(tree("பொத்தான்(அசைவூட்டம்(காலம்: 5, வகை: அ), அசைவூட்டம்(காலம்: 6))"), "(Widget பொத்தான் (Animation 6 linear))");
+}
+
 TEST(Animation, MayBeLaidOutFreely) {
     EXPECT_EQ(animation("\n    காலம்\n        :\n            300\n    இலக்கு\n        (\n            அகலம்: 5)\n"),
               expected("300 linear அகலம்=5"));
@@ -75,15 +83,22 @@ TEST(Animation, DropsWhatItDoesNotKnow) {
     EXPECT_EQ(animation("நிலைமை: சுட்டி_மேல்"), expected("0 linear"));
     EXPECT_EQ(animation("காலம்: கூட்டு 5"), expected("0 linear"));
     EXPECT_EQ(animation("காலம்: கூட்டு 5, வகை: அ"), expected("0 அ"));
+    EXPECT_EQ(animation("காலம்: 5%, வகை: அ"), expected("0 அ"));
+    EXPECT_EQ(animation("வேகம்\n    :\n    5, காலம்: 300"), expected("300 linear"));
+    EXPECT_EQ(animation("வேகம் காலம்: 300, வகை: அ"), expected("0 அ"));
+    EXPECT_EQ(animation("இலக்கு(அகலம்: 50%, உயரம்: சுட்டி_மேல், வளைவு: 5)"), expected("0 linear வளைவு=5"));
 }
 
 TEST(Animation, ReportsItsFaults) {
     EXPECT_EQ(fault("பொத்தான்(\nஅசைவூட்டம்: 5)"), "பொழி-203 வரி 2");
+    EXPECT_EQ(fault("பொத்தான்(\nஅசைவூட்டம்\n(காலம்: 5))"), "பொழி-203 வரி 2");
     EXPECT_EQ(animationFault("காலம் 300"), "பொழி-202 வரி 2");
     EXPECT_EQ(animationFault("நிலைமை தானாக"), "பொழி-202 வரி 2");
     EXPECT_EQ(animationFault("வகை அ"), "பொழி-202 வரி 2");
     EXPECT_EQ(animationFault("வகை: 5"), "பொழி-262 வரி 2");
     EXPECT_EQ(animationFault("வகை:\nதுள்ளல்"), "பொழி-262 வரி 3");
+    EXPECT_EQ(animationFault("வகை:\n\n"), "பொழி-262 வரி 4");
+    EXPECT_EQ(animationFault("இலக்கு(அகலம்: கூட்டு\n5)"), "பொழி-202 வரி 3");
     EXPECT_EQ(animationFault("இலக்கு: 5"), "பொழி-203 வரி 2");
     EXPECT_EQ(animationFault("இலக்கு(\nஅகலம் 5)"), "பொழி-202 வரி 3");
     EXPECT_EQ(fault("பொத்தான்(\nஅசைவூட்டம்(\nஇலக்கு(அகலம்: 5"), "பொழி-204 வரி 3");

@@ -82,6 +82,7 @@ TEST(WebApp, TheLastOfEqualSectionsCounts) {
               "(WebApp MyApp null (Header தலைமை (\"அ\" (Number 2))) (Widget உரை (\"உரை\" (String \"அ\"))) "
               "(LogicBlock (Block)))");
     EXPECT_EQ(appTree("குமரி(உரை(\"அ\")) குமரி()"), appTree(""));
+    EXPECT_EQ(appTree("தரவுத்தளமேலாண்மை(பயர்பேசு_அமைப்பு()) தரவுத்தளமேலாண்மை()"), appTree("தரவுத்தளமேலாண்மை()"));
 }
 
 TEST(WebApp, AsksForEachOfThem) {
@@ -134,7 +135,13 @@ TEST(Header, PassesOverOtherTokens) {
 
 TEST(Header, ASizeOfTheScreenIsAPropertyLikeAnyOther) {
     EXPECT_EQ(headerTree("சுற்றளவு: அதுவே"), header(" (\"சுற்றளவு\" அதுவே)"));
-    EXPECT_EQ(fault("வலைதளம் (தலைமை(\nசுற்றளவு: அகலம்: 800, உயரம்: 600) குமரி() வரையறை())"), "none");
+    EXPECT_EQ(headerTree("\nசுற்றளவு: அகலம்: 800, உயரம்: 600, அ: 1"), header(" (\"அ\" (Number 1)) (\"சுற்றளவு\" அகலம்)"));
+    const Program program = parseText("வலைதளம் (தலைமை(சுற்றளவு: அகலம்: 800, உயரம்: 600) குமரி() வரையறை())");
+    const auto& app = dynamic_cast<const WebAppNode&>(*program.statements.at(0));
+    const ScreenConfig& screen = dynamic_cast<const HeaderNode&>(*app.header).screen;
+    EXPECT_TRUE(screen.useDefault);
+    EXPECT_EQ(screen.width, 0);
+    EXPECT_EQ(screen.height, 0);
 }
 
 TEST(Header, AsksForValuesOfTheRightKind) {
@@ -163,6 +170,14 @@ TEST(UIBody, HoldsOneWidgetAtMost) {
     EXPECT_EQ(fault("வலைதளம் (தலைமை() குமரி(\n"), "பொழி-204 வரி 2");
 }
 
+TEST(UIBody, ItsClosingBracketStandsNoFurtherInThanItsWidget) {
+    const std::string widget = "(WebApp MyApp null (Header தலைமை) (Widget உரை) (LogicBlock (Block)))";
+    EXPECT_EQ(tree("வலைதளம் (\n    தலைமை() குமரி(\n        உரை()\n        )\n    வரையறை())"), widget);
+    EXPECT_EQ(tree("வலைதளம் (\n    தலைமை() குமரி(\n        உரை()\n    )\n    வரையறை())"), widget);
+    EXPECT_EQ(tree("வலைதளம் (\n    தலைமை() குமரி(\n        உரை()\n)\n    வரையறை())"), widget);
+    EXPECT_EQ(fault("வலைதளம் (\n    தலைமை() குமரி(\n        உரை()\n            )\n    வரையறை())"), "பொழி-204 வரி 4");
+}
+
 TEST(Definition, HoldsStatements) {
     EXPECT_EQ(definitionTree("அ = 1 ஆ = 2"),
               definition(" (Expression (Assignment அ = (Number 1))) (Expression (Assignment ஆ = (Number 2)))"));
@@ -181,6 +196,7 @@ TEST(Definition, AnEnumerationLeavesAnEmptyEntry) {
 TEST(Definition, ReportsFaultsOfItsStatements) {
     EXPECT_EQ(fault("வலைதளம் (தலைமை() குமரி() வரையறை(\n5))"), "பொழி-201 வரி 2");
     EXPECT_EQ(fault("வலைதளம் (தலைமை() குமரி() வரையறை(\nதிரும்பு 1))"), "பொழி-233 வரி 2");
+    EXPECT_EQ(fault("வலைதளம் (தலைமை() குமரி() வரையறை(\nஅ 1))"), "பொழி-208 வரி 2");
     EXPECT_EQ(fault("வலைதளம் (தலைமை() குமரி() வரையறை(\n, விடு))"), "பொழி-201 வரி 2");
     EXPECT_EQ(fault("வலைதளம் (தலைமை() குமரி() வரையறை(\nவிடு\n"), "பொழி-204 வரி 3");
 }

@@ -46,6 +46,12 @@ TEST(DatabaseWrite, ReportsItsFaults) {
         EXPECT_EQ(fault("\n" + word + "(\"அ\") {\nஇ\n1}"), "பொழி-202 வரி 4");
         EXPECT_EQ(fault("\n" + word + "(\"அ\") {\nஇ: 1\nஈ: 2}"), "பொழி-206 வரி 4");
         EXPECT_EQ(fault("\n" + word + "(\"அ\") {இ: 1"), "பொழி-206 வரி 2");
+        EXPECT_EQ(fault("\n" + word + "(\"அ\") {\nஇ: 1,\n, ஈ: 2}"), "பொழி-212 வரி 4");
+        EXPECT_EQ(fault("\n" + word + "(\"அ\") {\nஇ:\n}"), "பொழி-201 வரி 4");
+        EXPECT_EQ(fault("\n" + word + "(\"அ\", \"ஆ\") {}"), "பொழி-204 வரி 2");
+        EXPECT_EQ(fault("\n" + word + "(\n\"அ\") {}"), "பொழி-201 வரி 2");
+        EXPECT_EQ(fault("\n" + word + "()"), "பொழி-201 வரி 2");
+        EXPECT_EQ(fault("\n" + word + "(\"அ\")\n    {இ: 1}"), "பொழி-206 வரி 3");
     }
 }
 
@@ -65,6 +71,11 @@ TEST(DatabaseRead, HoldsStatements) {
               "(FunctionDefinition அ () (Block (RTDBRead (String \"அ\") (Pass)) (Pass)))");
 }
 
+TEST(DatabaseRead, ItsStatementsMayStandOnOneLine) {
+    EXPECT_EQ(tree(readWord + "(\"அ\") { அ = 1 ஆ() ; விடு } விடு"),
+              "(RTDBRead (String \"அ\") (Expression (Assignment அ = (Number 1))) (Expression (Call ஆ)) (Pass)) (Pass)");
+}
+
 TEST(DatabaseRead, IsAStatementOnly) {
     EXPECT_EQ(fault("\nஅ = " + readWord + "(\"அ\") {}"), "பொழி-201 வரி 2");
 }
@@ -75,6 +86,9 @@ TEST(DatabaseRead, ReportsItsFaults) {
     EXPECT_EQ(fault("\n" + readWord + "(\"அ\")\nவிடு"), "பொழி-206 வரி 3");
     EXPECT_EQ(fault("\n" + readWord + "(\"அ\") {\nவிடு"), "பொழி-206 வரி 3");
     EXPECT_EQ(fault("\n" + readWord + "(\"அ\") {\n5 }"), "பொழி-201 வரி 3");
+    EXPECT_EQ(fault("\n" + readWord + "(\"அ\") {\nவிடு, விடு }"), "பொழி-201 வரி 3");
+    EXPECT_EQ(fault("\n" + readWord + "(\"அ\") {\nதிரும்பு }"), "பொழி-233 வரி 3");
+    EXPECT_EQ(fault("\n" + readWord + "(\"அ\")\n    { விடு }"), "பொழி-206 வரி 3");
 }
 
 } // namespace

@@ -133,6 +133,7 @@ TEST(GridView, HoldsPropertiesThenChildren) {
 TEST(GridView, ReportsItsFaults) {
     EXPECT_EQ(widgetFault("கட்டம்_காட்சி"), "பொழி-203 வரி 2");
     EXPECT_EQ(widgetFault("கட்டம்_காட்சி(\nஅகலம்: 5)"), "பொழி-203 வரி 3");
+    EXPECT_EQ(widgetFault("நெடுவரிசை(கட்டம்_காட்சி(\nஅகலம்: 5\n)\n\n    உரை(\"அ\"))"), "பொழி-203 வரி 6");
     EXPECT_EQ(widgetFault("கட்டம்_காட்சி(\nஅகலம் 5)()"), "பொழி-202 வரி 3");
     EXPECT_EQ(widgetFault("கட்டம்_காட்சி(\ncols 5)()"), "பொழி-202 வரி 3");
     EXPECT_EQ(widgetFault("கட்டம்_காட்சி(\nஇவெ: 5)()"), "பொழி-203 வரி 3");
