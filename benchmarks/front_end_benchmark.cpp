@@ -31,6 +31,25 @@ std::string assignments(std::int64_t lines) {
     return source;
 }
 
+/// A page of so many widgets, in columns that lie 50 deep.
+std::string nestedWidgets(std::int64_t widgets) {
+    constexpr std::int64_t DEPTH = 50;
+    std::string columns;
+    std::string ends;
+    for (std::int64_t widget = 0; widget < widgets; ++widget) {
+        const std::string label = "\"எண் " + std::to_string(widget) + "\"";
+        if (widget % (widgets / DEPTH) == 0) {
+            columns += "        நெடுவரிசை(\n";
+            ends += ")";
+        } else if (widget % 2 == 0) {
+            columns += "        உரை(" + label + "),\n";
+        } else {
+            columns += "        பொத்தான்(உரை: " + label + ", அழுத்தினால்: செல்க(\"அ\")),\n";
+        }
+    }
+    return "வலைதளம் (\n    தலைமை ()\n    குமரி (\n" + columns + "        " + ends + "\n    )\n    வரையறை ()\n)\n";
+}
+
 using MakeSource = std::string (*)(std::int64_t);
 
 void scan(benchmark::State& state, MakeSource makeSource) {
@@ -55,6 +74,8 @@ void wholeFrontEnd(benchmark::State& state, MakeSource makeSource) {
 
 constexpr std::int64_t FEWEST_LINES = 6250;
 constexpr std::int64_t MOST_LINES = 50000;
+constexpr std::int64_t FEWEST_WIDGETS = 1250;
+constexpr std::int64_t MOST_WIDGETS = 10000;
 
 } // namespace
 
@@ -71,5 +92,10 @@ BENCHMARK_CAPTURE(wholeFrontEnd, prints, printsAndComments)
 BENCHMARK_CAPTURE(wholeFrontEnd, assignments, assignments)
     ->RangeMultiplier(2)
     ->Range(FEWEST_LINES, MOST_LINES)
+    ->Complexity()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(wholeFrontEnd, nestedWidgets, nestedWidgets)
+    ->RangeMultiplier(2)
+    ->Range(FEWEST_WIDGETS, MOST_WIDGETS)
     ->Complexity()
     ->Unit(benchmark::kMillisecond);

@@ -66,7 +66,9 @@ std::string Generator::generate() {
 void Generator::emitRuntime() {
     out_ << runtime::standard_headers << runtime::web_text_layer << runtime::global_state
          << fillPlaceholder(runtime::navigation, START_PAGE_PLACEHOLDER, findStartPage(program_))
-         << runtime::input_state << runtime::web_bridge << runtime::value_types << runtime::error_box
+         << runtime::input_state << "#ifdef __EMSCRIPTEN__\n"
+         << runtime::canvas_keys << "#endif\n"
+         << runtime::web_bridge << runtime::value_types << runtime::error_box
          << fillPlaceholder(runtime::value_functions, SOURCE_PATH_PLACEHOLDER, fileName_) << runtime::animation_engine
          << runtime::library << runtime::scrolling << runtime::web_boilerplate << runtime::input_fields
          << runtime::media_elements << "#ifdef __EMSCRIPTEN__\n"

@@ -12,6 +12,7 @@ extern const std::string_view web_text_layer;
 extern const std::string_view global_state;
 extern const std::string_view navigation;
 extern const std::string_view input_state;
+extern const std::string_view canvas_keys;
 extern const std::string_view web_bridge;
 extern const std::string_view value_types;
 extern const std::string_view error_box;

@@ -2,6 +2,8 @@
 
 #include "parser/syntax_tree.h"
 
+#include <optional>
+
 namespace pozhil {
 namespace {
 
@@ -27,7 +29,7 @@ std::string pageName(const WebAppNode& app) {
 }
 
 std::string findStartPage(const Program& program) {
-    std::string startPage;
+    std::optional<std::string> startPage;
     for (const StatementPtr& statement : program.statements) {
         const WidgetNode* header = headerOf(nodeCast<WebAppNode>(statement.get()));
         const StringLiteral* name = nameOf(header);
@@ -35,11 +37,11 @@ std::string findStartPage(const Program& program) {
             continue;
         }
         const auto* asks = literalProperty<BooleanLiteral>(*header, "ஆரம்ப_பக்கம்");
-        if (startPage.empty() || (asks != nullptr && asks->value == "மெய்")) {
+        if (!startPage || (asks != nullptr && asks->value == "மெய்")) {
             startPage = name->value;
         }
     }
-    return startPage.empty() ? "home" : startPage;
+    return startPage.value_or("home");
 }
 
 } // namespace pozhil

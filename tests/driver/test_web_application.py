@@ -62,6 +62,13 @@ def test_page_without_values_takes_the_defaults(web_place):
     assert 'href="file-icon.png"' in page
 
 
+def test_icon_that_is_not_there_is_no_error(web_place):
+    with serving(web_place, application('சின்னம்: "இல்லை.svg"')) as session:
+        session.wait_for_output(t.WEB_OPENING)
+        assert 'href="file-icon.png"' in get()[1]
+        assert session.stderr == b""
+
+
 def test_change_of_the_title_reaches_the_page(web_place):
     with serving(web_place, application('இணைய_தலைப்பு: "முதல்"')) as session:
         assert "<title>முதல்</title>" in get()[1]
@@ -81,6 +88,22 @@ def test_files_are_packed(web_place, installation, tools):
         assert session.stderr == b""
     assert packing(web_place, installation, tools) == [
         "--preload-file", "சின்னம்.png", "--preload-file", "காணொளி.mp4"]
+
+
+def test_files_of_the_widgets_are_packed_once_each_and_in_order(web_place, installation, tools):
+    """Not packed on their own: what lies in assets, what is not there, and kinds of files that the page never loads."""
+    for name in ("ஆ.jpg", "அ.ttf", "இ.png", "ஈ.svg", "assets/உ.png"):
+        (web_place.folder / name).parent.mkdir(exist_ok=True)
+        web_place.write(name, "")
+    body = """நெடுவரிசை(
+        படம்(பாதை: "ஆ.jpg"), பெட்டி(கிடைவரிசை(படம்(பாதை: "ஆ.jpg"))), உரை("அ", உரைபாணி(எழுத்துரு: "அ.ttf")),
+        அடிப்பகுதி(அடி_உருப்படி(படம்(பாதை: "இ.png"))), படம்(பாதை: "இல்லை.png"), படம்(பாதை: "ஈ.svg"),
+        படம்(பாதை: "assets/உ.png"))"""
+    with serving(web_place, application(body=body)) as session:
+        session.wait_for_output(t.WEB_OPENING)
+        assert session.stderr == b""
+    assert packing(web_place, installation, tools) == [
+        "--preload-file", "assets", "--preload-file", "அ.ttf", "--preload-file", "ஆ.jpg", "--preload-file", "இ.png"]
 
 
 def test_missing_video_is_told_and_the_build_goes_on(web_place, installation, tools):

@@ -1,13 +1,15 @@
 """Watching an application: it is built anew whenever its source changes, and the page learns of it."""
 
 import re
+import signal
+import socket
 import time
 
 import pytest
 
 from support import texts as t
 from support.box import split_compiler_box
-from support.server import get
+from support.server import PORT, get
 from support.workplace import HELLO, WRONG
 
 pytestmark = pytest.mark.usefixtures("port")
@@ -58,6 +60,19 @@ def test_change_is_built_and_the_version_grows(session, web_place, tools):
     assert len(tools.calls("em++")) == 3
 
 
+def test_number_stays_until_the_build_is_done(session, web_place, tools, scratch):
+    """The page already asks for the new number, while the files may still be the old ones."""
+    done = scratch / "done"
+    tools.stands_in_for("em++", f'until [ -e "{done}" ]; do /bin/sleep 0.05; done; echo new > "$out"')
+    web_place.change(SOURCE, CHANGED)
+    session.wait_until(lambda: len(tools.calls("em++")) == 2)
+    assert (get("/version")[1], page_version()) == ("2", 3)
+    done.touch()
+    session.wait_for_output(UPDATED)
+    assert (get("/version")[1], page_version()) == ("3", 3)
+    assert get("/index.js") == (200, "new\n")
+
+
 def test_failed_build_keeps_the_version_and_the_watch_goes_on(session, web_place, tools):
     tools.stands_in_for("em++", "exit 1")
     web_place.change(SOURCE, CHANGED)
@@ -101,6 +116,23 @@ def test_diagnostic_ends_watch_and_server(session, web_place, tools):
     with pytest.raises(ConnectionRefusedError):
         get(patience=0)
     assert len(tools.calls("em++")) == 1
+
+
+def test_watch_goes_on_without_a_server(web_place):
+    with socket.create_server(("", PORT)), web_place.session(SOURCE, t.FLAG_WEB) as session:
+        session.wait_until(lambda: t.WEB_PORT_TAKEN.encode() == session.stderr)
+        time.sleep(A_WHILE)
+        web_place.change(SOURCE, CHANGED)
+        session.wait_for_output(UPDATED)
+        assert session.stderr.decode() == t.WEB_PORT_TAKEN
+
+
+def test_interrupt_says_goodbye(session):
+    session.process.send_signal(signal.SIGINT)
+    assert session.wait_for_end() == 0
+    assert session.stdout.decode().endswith(t.WEB_OPENING + t.WEB_GOODBYE)
+    with pytest.raises(ConnectionRefusedError):
+        get(patience=0)
 
 
 def test_vanished_source_ends_the_watch(session, web_place):

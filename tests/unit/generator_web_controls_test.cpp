@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using namespace pozhil::test;
 using testing::HasSubstr;
 using testing::Not;
@@ -79,7 +81,7 @@ TEST(Checkbox, SharesItsStateUnderItsId) {
 TEST(Radio, KeepsAStateOfItsOwnWithoutAGroup) {
     const std::string text = frameOf("வட்டத்தேர்வு(உரை: \"ஒன்று\", " + HANDLER + ")");
     expectInOrder(text, {"float rbX = std::floor(0.0f); float rbY = std::floor(0.0f);", "float rbSize = 20.0f;",
-                         "bool isSelected = false;", "static bool demoState_2 = false;", "isSelected = demoState_2;",
+                         "bool isSelected = false;", "static bool demoState_2 = false; isSelected = demoState_2;",
                          "float txtW = pozhil_plain_text_width(\"ஒன்று\");",
                          "mx >= rbX && mx <= rbX + rbSize + 15.0f + txtW && my >= rbY && my <= rbY + rbSize;",
                          "if (g_mouseClicked) {", "demoState_2 = !demoState_2;",
@@ -97,6 +99,16 @@ TEST(Radio, IsSelectedWhileTheGroupHasItsValue) {
     expectInOrder(text, {"if (fn_compare_any(2LL, global_vars[\"குழு\"], \"==\")) isSelected = true;",
                          "if (g_mouseClicked) {", "std::any callback = ", HANDLER_CALL, "nvgCircle("});
     EXPECT_THAT(text, Not(HasSubstr("demoState")));
+}
+
+TEST(Radio, KeepsAStateOfItsOwnWithOnlyOneOfBothValues) {
+    const std::string ownValue = frameOf("வட்டத்தேர்வு(மதிப்பு: 2, " + HANDLER + ")");
+    expectInOrder(ownValue, {"isSelected = demoState_2;", "demoState_2 = !demoState_2;"});
+    EXPECT_THAT(ownValue, Not(HasSubstr("callback")));
+
+    const std::string groupOnly = frameOf("வட்டத்தேர்வு(குழு_மதிப்பு: குழு, " + HANDLER + ")");
+    expectInOrder(groupOnly, {"isSelected = demoState_2;", "if (g_mouseClicked) {", HANDLER_CALL});
+    EXPECT_THAT(groupOnly, Not(HasSubstr("demoState_2 = !demoState_2;"))) << "a group's value is the program's";
 }
 
 TEST(Radio, TakesColoursAndALabelThatChanges) {
@@ -137,9 +149,9 @@ TEST(Slider, FollowsThePointerWhileTheButtonIsDown) {
                    "if (forcedW > 0.0f) slW = forcedW;",
                    "slW = responsiveW(slW, winWidth, 0.0f);",
                    "float slH = 20.0f;",
+                   "bool isMouseDown = glfwGetMouseButton(window, GLFW_MOUSE_BUTTON_LEFT) == GLFW_PRESS;",
                    "static float currentVal_2 = -99999.0f;",
                    "if (currentVal_2 == -99999.0f) currentVal_2 = minVal;",
-                   "bool isMouseDown = glfwGetMouseButton(window, GLFW_MOUSE_BUTTON_LEFT) == GLFW_PRESS;",
                    "mx >= slX - 10 && mx <= slX + slW + 10 && my >= slY - 10 && my <= slY + slH + 10;",
                    "if (isMouseDown) {",
                    "float normalized = (mx - slX) / slW;",
@@ -171,6 +183,13 @@ TEST(Slider, TakesItsRangeFromConstantsAndFromTheProgram) {
                    "if (currentVal_2 == -99999.0f) currentVal_2 = (float)fn_get_double(global_vars[\"அளவு_மாறி\"]);"});
 }
 
+TEST(Slider, HasOneHeight) {
+    const std::string text = frameOf("அளவி(உயரம்: 50, style_உயரம்: 60)");
+    EXPECT_THAT(text, HasSubstr("float slH = 20.0f;"));
+    EXPECT_THAT(text, Not(HasSubstr("slH = 50.0f;")));
+    EXPECT_THAT(text, Not(HasSubstr("slH = 60.0f;")));
+}
+
 TEST(Dropdown, OpensItsMenuAboveThePage) {
     expectInOrder(frameOf("கீழ்வரி(பட்டியல்: [\"மதுரை\", \"கோவை\"], " + HANDLER + ")"),
                   {"float ddX = std::floor(0.0f); float ddY = std::floor(0.0f);",
@@ -178,8 +197,7 @@ TEST(Dropdown, OpensItsMenuAboveThePage) {
                    "if (forcedW > 0.0f) ddW = forcedW;",
                    "if (forcedH > 0.0f) ddH = forcedH;",
                    "ddW = responsiveW(ddW, winWidth, 0.0f);",
-                   "static bool isOpen_2 = false;",
-                   "static int selectedIndex_2 = -1;",
+                   "static bool isOpen_2 = false; static int selectedIndex_2 = -1;",
                    "items.push_back(\"மதுரை\");",
                    "items.push_back(\"கோவை\");",
                    "std::string displayFilter = \"தேர்ந்தெடு...\";",
@@ -218,6 +236,32 @@ TEST(Dropdown, TakesTextsOnly) {
     EXPECT_THAT(text, HasSubstr("items.push_back(\"அ\");"));
     EXPECT_EQ(text.find("items.push_back"), text.rfind("items.push_back"));
     EXPECT_THAT(frameOf("கீழ்வரி(பட்டியல்: மாறி)"), Not(HasSubstr("items.push_back")));
+}
+
+TEST(ControlSizes, ComeFromTheStyleBlockFirst) {
+    for (const auto& [kind, width, height] :
+         {std::tuple{"தேர்வுபெட்டி", "cb_w", "cb_h"}, std::tuple{"அளவி", "slW", ""}, std::tuple{"கீழ்வரி", "ddW", "ddH"}}) {
+        const std::string text = frameOf(std::string(kind) + "(அகலம்: 10, style_அகலம்: 77, உயரம்: 11, style_உயரம்: 33)");
+        const std::string name = width;
+        expectInOrder(text, {"    " + name + " = 77.0f;", "if (forcedW > 0.0f) " + name + " = forcedW;"});
+        EXPECT_THAT(text, Not(HasSubstr(name + " = 10.0f;"))) << kind;
+        if (const std::string tall = height; !tall.empty()) {
+            expectInOrder(text, {"    " + tall + " = 33.0f;", "if (forcedH > 0.0f) " + tall + " = forcedH;"});
+            EXPECT_THAT(text, Not(HasSubstr(tall + " = 11.0f;"))) << kind;
+        }
+    }
+}
+
+TEST(ControlHandlers, MayFailOrBeAWidget) {
+    for (const std::string kind : {"வட்டத்தேர்வு(குழு_மதிப்பு: குழு, ", "மாற்றி(", "அளவி(", "கீழ்வரி("}) {
+        expectInOrder(frameOf(kind + HANDLER + ")"),
+                      {"std::any callback = ", "try {", "if (callback.type() == typeid(std::function<std::any()>)) {",
+                       HANDLER_CALL, "} catch (...) {"});
+        const std::string drawing = frameOf(kind + "மாறியதால்: உரை(\"மாற்றம்\"))");
+        EXPECT_THAT(drawing, HasSubstr("std::string(u8\"மாற்றம்\")")) << kind;
+        EXPECT_THAT(drawing, Not(HasSubstr("std::any callback"))) << kind;
+        EXPECT_THAT(frameOf(kind + "மாறியதால்: அறிவிப்பு_பட்டை(செய்தி: \"மாற்றம்\"))"), HasSubstr(HANDLER_CALL)) << kind;
+    }
 }
 
 TEST(DisabledControls, AreDrawnAndAnswerNothing) {

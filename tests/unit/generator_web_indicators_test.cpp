@@ -41,6 +41,14 @@ TEST(Spinner, TurnsSixRadiansInASecond) {
                   {"float size = 60.0f;", "nvgRGBA(170, 0, 170, 255)", "nvgStrokeWidth(vg, 8.0f);"});
 }
 
+TEST(Spinner, ListensToItsStyleBlockOnly) {
+    expectInOrder(frameOf("சுழல்_காட்டி(எச்சரிக்கை_பாணி(அளவு: 60, நிறம்: \"#00FF00\"))"),
+                  {"float size = 60.0f;", "nvgStrokeColor(vg, nvgRGBA(0, 255, 0, 255));"});
+    const std::string text = frameOf("சுழல்_காட்டி(அளவு: 60, நிறம்: \"#FF0000\", அகலம்: 70, உயரம்: 80)");
+    expectInOrder(text, {"float size = 40.0f;", "nvgStrokeColor(vg, nvgRGBA(33, 150, 243, 255));"});
+    EXPECT_THAT(text, Not(HasSubstr("70.0f")));
+}
+
 TEST(ProgressBar, GoesToAndFroWithoutAValue) {
     const std::string text = frameOf("முன்னேற்றவரி()");
     expectInOrder(text,
@@ -69,6 +77,25 @@ TEST(ProgressBar, ShowsItsValue) {
     EXPECT_THAT(frameOf("முன்னேற்றவரி(மதிப்பு: 40, style_மதிப்பு: 60)"), HasSubstr("float progress = 60.0f / 100.0f;"));
     EXPECT_THAT(frameOf("முன்னேற்றவரி(மதிப்பு: படி)"),
                 HasSubstr("float progress = (float)fn_get_double(global_vars[\"படி\"]) / 100.0f;"));
+}
+
+TEST(IndicatorProperties, ComeFromTheStyleBlockFirst) {
+    const std::string sizes = "அகலம்: 10, style_அகலம்: 77, உயரம்: 11, style_உயரம்: 33";
+    for (const auto& [kind, stem] :
+         {std::pair{"பிரிப்பான்", "div"}, std::pair{"முன்னேற்றவரி", "lp"}, std::pair{"தகவல்பட்டை", "sb"}}) {
+        const std::string width = std::string(stem) + "Width";
+        const std::string height = std::string(stem) + "Height";
+        const std::string text = frameOf(std::string(kind) + "(" + sizes + ")");
+        expectInOrder(text, {width + " = 77.0f;", height + " = 33.0f;", "if (forcedW > 0.0f) " + width + " = forcedW;",
+                             "if (forcedH > 0.0f) " + height + " = forcedH;",
+                             width + " = responsiveW(" + width + ", winWidth, 0.0f);"});
+        EXPECT_THAT(text, Not(HasSubstr(width + " = 10.0f;"))) << kind;
+        EXPECT_THAT(text, Not(HasSubstr(height + " = 11.0f;"))) << kind;
+    }
+    EXPECT_THAT(frameOf("முன்னேற்றவரி(நிறம்: \"#FF0000\", style_நிறம்: \"#00FF00\")"),
+                HasSubstr("nvgFillColor(vg, nvgRGBA(0, 255, 0, 255));"));
+    EXPECT_THAT(frameOf("தகவல்பட்டை(பின்னணி: \"#FF0000\", style_பின்னணி: \"#00FF00\")"),
+                HasSubstr("nvgFillColor(vg, nvgRGBAf(0.0f, 1.0f, 0.0f, 1.0f));"));
 }
 
 TEST(InfoPill, ShowsItsMessage) {

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+using namespace pozhil;
 using namespace pozhil::test;
 using testing::HasSubstr;
 using testing::Not;
@@ -26,7 +27,7 @@ TEST(List, ScrollsItsChildrenInTheWindow) {
                    "float wheel = pozhil_take_wheel();",
                    "float maxScroll = totalContentHeight - winHeight;",
                    "if (maxScroll < 0.0f) maxScroll = 0.0f;",
-                   "(listStartY + 50.0f)",
+                   "float desiredY = listStartY + 50.0f;",
                    "float currentY = listStartY - scrollOffset_",
                    "float childX = listStartX + (winWidth - 60.0f) / 2.0f;",
                    "forcedW = -1.0f; forcedH = -1.0f;",
@@ -65,9 +66,39 @@ TEST(Grid, HasTwoColumnsAndMeasuresItselfByThree) {
                   {"int cols = 2;", "float gapH = 10.0f; float gapV = 10.0f;", "float gW = 164.0f;"});
 }
 
+TEST(Grid, TakesItsColumnsFromAWholeNumber) {
+    EXPECT_THAT(frameOf("கட்டம்_காட்சி(cols: 1)(வட்டபடம்())"), HasSubstr("int cols = 1;"));
+    EXPECT_THAT(frameOf("கட்டம்_காட்சி(குறுக்கு_எண்ணிக்கை: 5)(வட்டபடம்())"), HasSubstr("int cols = 5;"));
+    EXPECT_THAT(frameOf("கட்டம்_காட்சி(cols: எண்)(வட்டபடம்())"), HasSubstr("int cols = 2;"));
+    EXPECT_THAT(frameOf("கட்டம்_காட்சி(cols: 0)(வட்டபடம்())"), HasSubstr("int cols = 1;")) << "nothing divides by 0";
+}
+
 TEST(Grid, TakesTheLastOfItsGaps) {
-    EXPECT_THAT(frameOf("கட்டம்_காட்சி(இவெ(அகலம்: 8, உயரம்: 6), கி_இவெ: 3, நெ_இவெ: 4)(வட்டபடம்())"),
-                HasSubstr("float gapH = 3.0f; float gapV = 4.0f;"));
+    struct Row {
+        const char* properties;
+        const char* gaps;
+    };
+    constexpr Row ROWS[] = {
+        {"இவெ(அகலம்: 8, உயரம்: 6), கி_இவெ: 3, நெ_இவெ: 4", "float gapH = 3.0f; float gapV = 4.0f;"},
+        {"இவெ(அகலம்: 8, உயரம்: 6), கி_இவெ: 3", "float gapH = 3.0f; float gapV = 6.0f;"},
+        {"இடைவெளி: இவெ(அகலம்: 8, உயரம்: 6)", "float gapH = 8.0f; float gapV = 6.0f;"},
+        {"இடைவெளி: இவெ(அகலம்: 8, உயரம்: 6), v_gap: 2", "float gapH = 8.0f; float gapV = 2.0f;"},
+        {"இடைவெளி: இவெ(உயரம்: 6)", "float gapH = 10.0f; float gapV = 6.0f;"},
+        {"h_gap: 7.5, v_gap: எண்", "float gapH = 7.5f; float gapV = 10.0f;"},
+    };
+    for (const auto& [properties, gaps] : ROWS) {
+        EXPECT_THAT(frameOf("கட்டம்_காட்சி(" + std::string(properties) + ")(வட்டபடம்())"), HasSubstr(gaps)) << properties;
+    }
+}
+
+TEST(Grid, NeitherCutsOffNorScrollsNorMovesItsParentOn) {
+    const std::string text = frameOf("நெடுவரிசை(கட்டம்_காட்சி(cols: 2)(வட்டபடம்()))");
+    const std::size_t begin = text.find("int cols = 2;");
+    const std::string grid = text.substr(begin, text.find("}();", text.find("maxRowH = 0.0f;", begin)) - begin);
+    for (const std::string other :
+         {"nvgScissor", "nvgIntersectScissor", "pozhil_take_wheel", "currentY +=", "currentY ="}) {
+        EXPECT_THAT(grid, Not(HasSubstr(other)));
+    }
 }
 
 TEST(Tile, DrawsItsBodyAndAnswersThePointer) {
@@ -79,6 +110,28 @@ TEST(Tile, DrawsItsBodyAndAnswersThePointer) {
                    "r = std::max(0, r - 10); g = std::max(0, g - 10); b = std::max(0, b - 10);",
                    "if (g_mouseClicked) {", "std::cout << ", "nvgRoundedRect(vg, ltX, ltY, ltW, ltH, radius);",
                    "nvgFillColor(vg, nvgRGBA(r, g, b, 128));", "float currentContentX = ltX + 16.0f;"});
+}
+
+TEST(Tile, CallsItsHandlerBeforeItsStatements) {
+    auto tile = make<WidgetNode>("பட்டியல்_உருப்படி", PropertyMap(), StatementList(), சீரமைப்பு_வகை::மேல்_இடது);
+    tile->properties["அழுத்தினால்"] = variable("செய்");
+    tile->eventStatements = listOf(assignment("எ", number("1")));
+    const std::string text = frameOf(std::move(tile));
+    expectInOrder(text, {"if (g_mouseClicked) {", "std::any callback = global_vars[\"செய்\"];", "} catch (...) {"});
+    EXPECT_THAT(text, Not(HasSubstr("global_vars[\"எ\"]")));
+    const std::string plain = frameOf("பட்டியல்_உருப்படி(தலைப்பு: உரை(\"அ\"))");
+    expectInOrder(plain, {"if (g_mouseClicked) {\n", "}\n", "}\n", "nvgBeginPath(vg);"});
+    EXPECT_THAT(plain, Not(HasSubstr("callback")));
+}
+
+TEST(Tile, EndsWithAWidget) {
+    auto tile = make<WidgetNode>("பட்டியல்_உருப்படி", PropertyMap(), StatementList(), சீரமைப்பு_வகை::மேல்_இடது);
+    tile->properties["பின்னணி_விட்ஜெட்"] =
+        make<WidgetExpression>(make<WidgetNode>("மாற்றி", PropertyMap(), StatementList(), சீரமைப்பு_வகை::மேல்_இடது));
+    expectInOrder(frameOf(std::move(tile)),
+                  {"float currentContentX = ltX + 16.0f;", "float trailW = 48.0f;",
+                   "float trailX = ltX + ltW - trailW - 16.0f;", "float trailY = ltY + (ltH - 28.0f) / 2.0f;",
+                   "forcedW = -1.0f; forcedH = -1.0f;", "std::floor(trailX)", "forcedW = savedForcedW;"});
 }
 
 TEST(Tile, IsAsWideAsItSaysWhateverItsParentWants) {

@@ -47,6 +47,23 @@ TEST(Picture, FeelsThePointerTenPixelsAround) {
                           "my <= imgY + th + 10;"));
 }
 
+TEST(Picture, IsCreatedOnce) {
+    expectInOrder(frameOf("படம்(பாதை: \"அ.svg\")"),
+                  {" = -1;", " == -1) {", "if (path.size() >= 4 && path.substr(path.size() - 4) == \".svg\") {",
+                   "loadSVGImage(vg, path.c_str(), tw, th);", "} else {", "nvgCreateImage(", " > 0) {"});
+}
+
+TEST(Picture, ThatMovesIsAnElementOfTheBrowser) {
+    expectInOrder(generatedText(app("", "படம்(பாதை: \"அ.gif\")")),
+                  {"void pozhil_place_gif(", "document.createElement('img')", "el.className = 'pozhil-input';",
+                   "el.style.position = 'absolute';", "el.style.pointerEvents = 'none';",
+                   "el.style.objectFit = 'cover';", "el.style.zIndex = '1500';", "el.dataset.isHoveredState = 'false';",
+                   "FS.analyzePath(path).exists", "FS.readFile(path)", "'image/gif'", "el.src = el.dataset.rawSrc;",
+                   "el.dataset.rawSrc + '?t=' + new Date().getTime()", "el.style.display = 'block';", "window.scrollX",
+                   "window.scrollY", "el.style.borderRadius = ", "el.dataset.touched = '1';",
+                   "std::string imgId = \"gif_"});
+}
+
 TEST(Avatar, IsAGreyDisc) {
     const std::string text = frameOf("வட்டபடம்()");
     expectInOrder(text,
@@ -65,6 +82,32 @@ TEST(Avatar, TakesTheFirstOfItsSizes) {
     const std::string width = frameOf("வட்டபடம்(அகலம்: 80, உயரம்: 70)");
     EXPECT_THAT(width, HasSubstr("diameter = 80.0f;"));
     EXPECT_THAT(width, Not(HasSubstr("diameter = 70.0f;")));
+    EXPECT_THAT(frameOf("வட்டபடம்(வளைவு: 30.5)"), HasSubstr("float diameter = 61.0f;"));
+    EXPECT_THAT(frameOf("வட்டபடம்(அகலம்: 10%)"),
+                HasSubstr("diameter = ((forcedW > 0.0f ? forcedW : winWidth) * 0.100000f);"));
+    EXPECT_THAT(frameOf("வட்டபடம்(உயரம்: 10%)"),
+                HasSubstr("diameter = ((forcedH > 0.0f ? forcedH : winHeight) * 0.100000f);"));
+}
+
+TEST(Avatar, TakesItsLookFromItsStyleFirst) {
+    constexpr const char* STYLE = "உரைபாணி(வளைவு: 20, பின்னணி: \"#0A0B0C\")";
+    expectInOrder(frameOf("வட்டபடம்(" + std::string(STYLE) + ", வளைவு: 30, பின்னணி: நிறம்.சிவப்பு)"),
+                  {"float diameter = 40.0f;", "int br = 10, bg = 11, bb = 12, ba = 255;"});
+    EXPECT_THAT(frameOf("வட்டபடம்(பின்னணி: நிறம்.சிவப்பு)"), HasSubstr("int br = 255, bg = 0, bb = 0, ba = 255;"));
+    EXPECT_THAT(frameOf("வட்டபடம்(பின்னணி: \"#00000080\")"), HasSubstr("ba = 128;"));
+}
+
+TEST(Avatar, HasABlackBorderOfAnyWidth) {
+    expectInOrder(frameOf("வட்டபடம்(கரை_அளவு: 1.5)"), {"radius + (1.5f / 2.0f));", "nvgRGBAf(0.0f, 0.0f, 0.0f, 1.0f)",
+                                                     "nvgStrokeWidth(vg, 1.5f);", "nvgStroke(vg);"});
+    EXPECT_THAT(frameOf("வட்டபடம்(கரை_அளவு: 0)"), Not(HasSubstr("nvgStroke(vg)")));
+}
+
+TEST(Avatar, ShowsNothingButItsFirstChild) {
+    const std::string text = frameOf("வட்டபடம்(வட்டபடம்(), படம்(பாதை: \"அ.png\"), உரை(\"ஆ\"))");
+    EXPECT_THAT(text, Not(HasSubstr("nvgCreateImage")));
+    EXPECT_THAT(text, Not(HasSubstr("drawFixedText")));
+    EXPECT_THAT(frameOf("வட்டபடம்(படம்())"), Not(HasSubstr("nvgCreateImage"))) << "no path, no picture";
 }
 
 TEST(Avatar, ShowsAPictureOrInitials) {

@@ -60,8 +60,7 @@ TEST(TabBar, RunsAcrossTheWindow) {
     expectInOrder(frameOf("தத்தல்(தத்தல்_தேர்வு: 1, தத்தல்_உருப்படி(உரை: \"ஒன்று\"), தத்தல்_உருப்படி(உரை(\"இரண்டு\")))"),
                   {"float tbX = 0.0f; float tbY = 0.0f;",
                    "float tbW = winWidth; float tbH = 50.0f;",
-                   "static int curTabIdx_2 = 1;",
-                   "int& curTabIdx = curTabIdx_2;",
+                   "static int curTabIdx_2 = 1; int& curTabIdx = curTabIdx_2;",
                    "nvgRect(vg, tbX, tbY, tbW, tbH);",
                    "nvgFillColor(vg, nvgRGBA(33, 150, 243, 255));",
                    "nvgRect(vg, tbX, tbY+tbH, tbW, 6);",
@@ -87,6 +86,40 @@ TEST(TabBar, EvaluatesItsHandlerWithoutCallingIt) {
     expectInOrder(text, {"static int curTabIdx_2 = 0;", "if (clickedTab >= 0 && clickedTab < tabCount) {",
                          "curTabIdx = clickedTab;", "std::any callback = std::function<std::any()>("});
     EXPECT_THAT(text, Not(HasSubstr("(callback)()")));
+}
+
+TEST(TabBar, StartsWithTheTabOfTheProperty) {
+    EXPECT_THAT(frameOf("தத்தல்(தத்தல்_தேர்வு: இடம்)"),
+                HasSubstr("static int curTabIdx_2 = (int)(float)fn_get_double(global_vars[\"இடம்\"]);"));
+}
+
+TEST(NavigationBars, WithoutItemsHaveOneAsWideAsTheWindow) {
+    expectInOrder(frameOf("அடிப்பகுதி()"),
+                  {"int itemCount = 0;", "float itemW = winW / (float)(itemCount > 0 ? itemCount : 1);"});
+    expectInOrder(frameOf("தத்தல்()"), {"int tabCount = 0;", "float tabW = tbW / (float)(tabCount > 0 ? tabCount : 1);"});
+}
+
+TEST(NavigationBars, TakeTheirColourFromTheStyleBlockOnly) {
+    for (const auto& [kind, usual] :
+         {std::pair{"அடிப்பகுதி", "nvgRGBA(255, 255, 255, 255)"}, std::pair{"தத்தல்", "nvgRGBA(33, 150, 243, 255)"}}) {
+        const std::string bar = kind;
+        for (const std::string style : {"style_பின்னணி: \"#FF0000\"", "உரைபாணி(பின்னணி: \"#FF0000\")"}) {
+            const std::string text = frameOf(bar + "(" + style + ")");
+            EXPECT_THAT(text, HasSubstr("nvgFillColor(vg, nvgRGBA(255, 0, 0, 255));")) << kind;
+        }
+        const std::string text = frameOf(bar + "(பின்னணி: \"#FF0000\")");
+        EXPECT_THAT(text, HasSubstr("nvgFillColor(vg, " + std::string(usual) + ");")) << kind;
+        EXPECT_THAT(text, Not(HasSubstr("nvgRGBA(255, 0, 0, 255)"))) << kind;
+    }
+}
+
+TEST(NavigationBars, DrawAWidgetInPlaceOfAHandler) {
+    for (const std::string bar : {"அடிப்பகுதி(அழுத்தினால்: உரை(\"மாற்றம்\"), அடி_உருப்படி(\"அ\"))",
+                                  "தத்தல்(அழுத்தினால்: உரை(\"மாற்றம்\"), தத்தல்_உருப்படி(\"அ\"))"}) {
+        const std::string text = frameOf(bar);
+        EXPECT_THAT(text, HasSubstr("std::string(u8\"மாற்றம்\")"));
+        EXPECT_THAT(text, Not(HasSubstr("callback")));
+    }
 }
 
 TEST(TabBar, MovesTheRestOfAColumnBelowIt) {

@@ -1,4 +1,4 @@
-// Web programs: pages, what they set up before the first frame, and the frame of every widget.
+// Web programs: pages, and what they set up before the first frame.
 
 #include "support/diagnosis.h"
 #include "support/web_generating.h"
@@ -53,6 +53,34 @@ TEST(Page, PlaysItsVideoBehindATransparentFill) {
         {"'video/mp4'", "'pozhilVideo'", "\"கடல்.mp4\"", "nvgFillColor(vg, nvgRGBA(0, 0, 0, 0));", "bgSet = true;"});
 }
 
+TEST(Page, PaintsColourPictureAndVideoInThisOrder) {
+    expectInOrder(webText(app("இணைய_தலைப்பு: \"த\", பின்னணிகாணொளி: \"க.mp4\", பின்னணிபடம்: \"ப.png\", பின்னணி: \"#FF0000\"",
+                              "உரை(\"உள்ளே\")")),
+                  {"if (g_currentPage == \"home\") {\n", "bool bgSet = false;\n",
+                   "nvgFillColor(vg, nvgRGBAf(1.0f, 0.0f, 0.0f, 1.0f));\n", "nvgFill(vg);\n", "bgSet = true;\n",
+                   "static int bgImgHandle = -1;\n", "bgSet = true;\n", "static bool videoInit_", "bgSet = true;\n",
+                   "if (!bgSet) {\n", "nvgFillColor(vg, nvgRGBA(245, 245, 245, 255));\n", "}\n", "nvgFill(vg);\n",
+                   "#ifdef __EMSCRIPTEN__\n", ".set(\"title\", ", "#endif\n", "உள்ளே"});
+}
+
+TEST(Page, RefusesAVideoThatIsNoText) {
+    PropertyMap properties;
+    properties["பின்னணிகாணொளி"] = number("5");
+    auto header = make<HeaderNode>("தலைமை", std::move(properties), StatementList(), ScreenConfig());
+    const std::string fault =
+        generatorFault("", listOf(make<WebAppNode>("கடை", nullptr, std::move(header), nullptr, nullptr)));
+    EXPECT_THAT(fault, HasSubstr("பொழி-254"));
+    EXPECT_THAT(fault, HasSubstr("ஊடகப் பிழை: காணொளியின் முகவரி சரியாக இல்லை (5"));
+}
+
+TEST(Page, IsItsBackgroundWithoutAWidget) {
+    const std::string page = "        nvgFill(vg);\n    }\n    EM_ASM({\n";
+    EXPECT_THAT(webText(app("", "")), HasSubstr(page));
+    const std::string withoutHeader =
+        ownPart(generatedText("", listOf(make<WebAppNode>("கடை", nullptr, nullptr, nullptr, nullptr))));
+    expectInOrder(withoutHeader, {"if (g_currentPage == \"home\") {\n", page});
+}
+
 TEST(Page, SetsTheTitleInEachFrame) {
     EXPECT_THAT(webText(app("இணைய_தலைப்பு: \"என் கடை\"")),
                 HasSubstr("emscripten::val::global(\"document\").set(\"title\", "
@@ -78,12 +106,28 @@ TEST(StartPage, IsTheFirstNameOrTheLastThatAsks) {
     EXPECT_EQ(start(app("பக்கம்: \"அ\", ஆரம்ப_பக்கம்: மெய்") + app("பக்கம்: \"ஆ\", ஆரம்ப_பக்கம்: மெய்")), "ஆ");
     EXPECT_EQ(start(app("பக்கம்: \"அ\"") + app("பக்கம்: \"ஆ\", ஆரம்ப_பக்கம்: பொய்")), "அ");
     EXPECT_EQ(start(app("ஆரம்ப_பக்கம்: மெய்")), "home");
+    EXPECT_EQ(start(app("பக்கம்: \"\"") + app("பக்கம்: \"ஆ\"")), "") << "an empty name is one";
 }
 
 TEST(Window, HasTheApplicationsName) {
     EXPECT_THAT(webText(app("") + "வலைதளம் (\n தலைமை () குமரி () வரையறை ()\n)\n"),
                 HasSubstr("glfwCreateWindow((int)1280.0f, (int)720.0f, \"கடை\", NULL, NULL)"));
     EXPECT_THAT(webText("வலைதளம் (\n தலைமை () குமரி () வரையறை ()\n)\n"), HasSubstr("\"MyApp\", NULL, NULL)"));
+}
+
+TEST(Window, HasTheSizeThatTheFirstHeaderAsksFor) {
+    const auto page = [](bool usesDefault) {
+        ScreenConfig screen;
+        screen.useDefault = usesDefault;
+        screen.width = 800.0F;
+        screen.height = 600.5F;
+        auto header = make<HeaderNode>("தலைமை", PropertyMap(), StatementList(), screen);
+        return make<WebAppNode>("கடை", nullptr, std::move(header), nullptr, nullptr);
+    };
+    EXPECT_THAT(generatedText("", listOf(page(false), page(true))),
+                HasSubstr("glfwCreateWindow((int)800.0f, (int)600.5f, \"கடை\", NULL, NULL)"));
+    EXPECT_THAT(generatedText("", listOf(page(true), page(false))),
+                HasSubstr("glfwCreateWindow((int)1280.0f, (int)720.0f, \"கடை\", NULL, NULL)"));
 }
 
 TEST(Logic, RunsBeforeTheFirstFrame) {
@@ -122,26 +166,19 @@ TEST(StatementsOutsideTheApplication, AreNotPartOfAPage) {
     EXPECT_THAT(text, Not(HasSubstr("காணாமல்")));
 }
 
-TEST(Widgets, KeepTheirPositionUnderTheirId) {
-    for (const std::string name : {"அடையாளம்", "ID", "id"}) {
-        expectInOrder(webText(app("", "உரை(\"அ\", " + name + ": \"மேல்\")")),
-                      {"std::string _wid = fn_any_to_string(std::string(u8\"மேல்\"));",
-                       "if (!_wid.empty()) { g_widgetPositions[_wid] = {(float)(0.0f), (float)(0.0f)}; }"});
+TEST(NestedPage, DrawsItsChildrenWhileItIsShown) {
+    expectInOrder(frameOf("நெடுவரிசை(பக்கம்(பக்கம்: \"உள்ளே\", உரை(\"அ\"), உரை(\"ஆ\")))"),
+                  {"// --- Page: உள்ளே ---\n", "if (g_currentPage == \"உள்ளே\") {\n", "nvgBeginPath(vg);\n",
+                   "nvgRect(vg, 0, 0, winWidth, winHeight);\n", "nvgFillColor(vg, nvgRGBA(245, 245, 245, 255));\n",
+                   "nvgFill(vg);\n", "std::string(u8\"அ\")", "float textX = 0.0f; float textY = 0.0f;",
+                   "std::string(u8\"ஆ\")", "float textX = 0.0f; float textY = 0.0f;"});
+}
+
+TEST(NestedPage, IsCalledHomeWithoutAName) {
+    for (const std::string page : {"பக்கம்(உரை(\"அ\"))", "பக்கம்(பக்கம்: பெயர், உரை(\"அ\"))"}) {
+        expectInOrder(frameOf("நெடுவரிசை(" + page + ")"),
+                      {"// --- Page: home ---\n", "if (g_currentPage == \"home\") {\n"});
     }
-}
-
-TEST(Widgets, AreThereUntilTheirVariableSaysNo) {
-    expectInOrder(webText(app("", "உரை(\"அ\", காட்சி_பெயர்: \"படி\")")),
-                  {"// --- Visibility Check for: படி ---", "g_alert_names.insert(\"படி\");",
-                   "if (global_vars.find(\"படி\") == global_vars.end() || (", "drawFixedText(",
-                   "} // End Visibility Check for படி"});
-}
-
-TEST(WidgetStatements, DrawOnlyTexts) {
-    const std::string text = initGlobals(webText(app("", "", "        உரை(\"அ\")\n        பொத்தான்(உரை(\"ஆ\"))\n")));
-    EXPECT_THAT(text,
-                HasSubstr("drawFixedText(50, 50, fn_any_to_string(std::string(u8\"அ\")), \"black\", 20.0, \"left\");"));
-    EXPECT_THAT(text, Not(HasSubstr("ஆ")));
 }
 
 TEST(WebText, IsTheSameEveryTime) {

@@ -118,6 +118,29 @@ webTest('the automatic trigger waits until the widget is in view, and stays', ap
     assert.equal((await page.area(RED)).width, 400);
 });
 
+webTest('what has been in view once goes on where nobody sees it', application(`
+        நெடுவரிசை(உருளும்பட்டை: மெய்)(
+            பெட்டி(அகலம்: 100, உயரம்: 600),
+            உரை("0", அசைவூட்டம்(நிலைமை: "தானாக", காலம்: 1500, வகை: "சாதாரண", இலக்கு(மதிப்பு: 90))),
+            பெட்டி(அகலம்: 100, உயரம்: 600)
+        )`), async page => {
+    const text = async () => (await page.texts())[0];
+    await page.frames(20);
+    assert.equal((await text()).text, '0');
+    await page.moveTo(250, 300);
+    await page.wheel(0, 300);
+    const inView = await text();
+    near(inView.y, 300);
+    await page.wheel(0, -300);
+    const outside = await text();
+    near(outside.y, 600);
+    assert.ok(Number(inView.text) > 0 && Number(inView.text) < Number(outside.text), `${inView.text}, ${outside.text}`);
+    assert.ok(Number(outside.text) < 90, outside.text);
+    await page.waitForText('90');
+    await page.frames(10);
+    await page.text('90');
+});
+
 const counter = (text, value) => application(`
         நெடுவரிசை(சீரமைப்பு: மையம்)(
             உரை("${text}", அசைவூட்டம்(நிலைமை: "auto", காலம்: 3000, வகை: "சாதாரண", இலக்கு(மதிப்பு: ${value})))

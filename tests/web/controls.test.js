@@ -152,6 +152,10 @@ webTest('a slider follows the pointer, with a bubble that tells its value', appl
     near(await thumb(track + 28 + 16), 200, 1);
     assert.deepEqual(await page.pixels([[20, track], [100, track]]), [BLUE, TRACK]);
     assert.deepEqual(await drawn(page), ['0']);
+    // A range without any length has no place for its thumb.
+    const pointless = track + 2 * (28 + 16);
+    const row = await page.pixels(Array.from({ length: 230 }, (_, x) => [x, pointless]));
+    assert.deepEqual([row[5], row[100], row[195], row[210]], [TRACK, TRACK, TRACK, PAGE]);
 
     await page.moveTo(40, track);
     assert.equal(await page.cursor(), 'pointer');
@@ -218,8 +222,19 @@ webTest('a dropdown tells the program of a choice; disabled or empty it has noth
     // 40 pixels count for each, whatever its height.
     await page.click(60, 32 + 56 + 20);
     assert.equal((await drawn(page)).length, 4);
-    await page.click(60, 32 + 112 + 20);
+
+    // The frame tells that the empty one is open: 2 pixels of blue about the edge, else 1.5 of grey.
+    const empty = 32 + 112;
+    const frame = () => page.pixels([[100, empty - 1], [100, empty]]);
+    const [outside, inside] = await frame();
+    near(outside[0], 200 * 0.75 + 245 * 0.25, 2);
+    near(inside[0], 200 * 0.75 + 255 * 0.25, 2);
+    await page.click(60, empty + 20);
+    assert.deepEqual(await frame(), [BLUE, BLUE]);
+    assert.deepEqual(await page.pixels([[100, empty + MENU - 3], [100, empty + MENU + 3]]), [PAGE, PAGE]);
     assert.equal((await drawn(page)).length, 4);
+    await page.click(400, 20);
+    assert.notDeepEqual((await frame())[0], BLUE);
     assert.deepEqual(page.errors, []);
 });
 

@@ -99,3 +99,39 @@ webTest('nothing of ours warns or fails on the console', coloured, async page =>
     assert.deepEqual(page.console.filter(line => !fonts.includes(line)), []);
     assert.deepEqual(page.errors, []);
 });
+
+const VIDEO = 'காணொளி அல்ல';
+
+const withVideo = application(`
+        நெடுவரிசை(
+            பொத்தான்(உரை: "போ", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்(செல்க("ஆ")))
+        )`, { header: 'பக்கம்: "அ", பின்னணிகாணொளி: "assets/கடல்.mp4"' })
+    + application('        உரை("அடுத்தது")', { header: 'பக்கம்: "ஆ"' });
+
+webTest('a video lies behind a page that lets it through, and stays behind those that don\'t', withVideo,
+        { files: { 'assets/கடல்.mp4': VIDEO } }, async page => {
+    const video = await page.page.evaluate(async () => {
+        const { muted, autoplay, loop, src, parentElement } = document.getElementById('pozhilVideo');
+        const blob = await (await fetch(src)).blob();
+        return { muted, autoplay, loop, parent: parentElement.tagName, type: blob.type, content: await blob.text() };
+    });
+    assert.deepEqual(video, { muted: true, autoplay: true, loop: true, parent: 'BODY', type: 'video/mp4',
+                              content: VIDEO });
+    const shown = await page.element('#pozhilVideo', 'position', 'objectFit', 'zIndex');
+    assert.deepEqual([shown.position, shown.objectFit, shown.zIndex, shown.x, shown.y, shown.width, shown.height],
+                     ['fixed', 'cover', '-1', 0, 0, 500, 400]);
+    assert.ok(page.console.includes('காணொளி வெற்றிகரமாக லோட் செய்யப்பட்டது!'), page.console.join('\n'));
+
+    await page.page.evaluate(() => { document.getElementById('pozhilVideo').style.background = 'rgb(1, 2, 3)'; });
+    assert.deepEqual(await page.pixels([[0, 399], [499, 0], [250, 200]]), Array(3).fill([1, 2, 3]));
+    await page.click(100, 20);
+    await page.text('அடுத்தது');
+    assert.deepEqual(await page.pixels([[0, 399], [499, 0], [250, 200]]), Array(3).fill([245, 245, 245]));
+    assert.equal(await page.page.evaluate(() => document.querySelectorAll('#pozhilVideo').length), 1);
+});
+
+webTest('a video that is missing is told on the console', withVideo, async page => {
+    assert.ok(page.console.some(line => line.startsWith('காணொளி பிழை:')), page.console.join('\n'));
+    assert.equal(await page.element('#pozhilVideo'), null);
+    await page.text('போ');
+});

@@ -30,13 +30,15 @@ webTest('a progress bar fills as far as its value, within its track', applicatio
     'முன்னேற்றவரி(மதிப்பு: படி, அகலம்: 300, உயரம்: 10, நிறம்: "#FF0000")',
     'முன்னேற்றவரி(மதிப்பு: 150, நிறம்: "#00FF00")',
     'முன்னேற்றவரி(மதிப்பு: கழி 5, நிறம்: "#0000FF")',
+    'முன்னேற்றவரி(மதிப்பு: 1, நிறம்: "#0000FF")',
     'பொத்தான்(உரை: "", பொ_பாணி(அகலம்: 100, உயரம்: 40), அழுத்தினால்: () => படி = 80)'), { logic: '        படி = 40' }),
         async page => {
     await assertRounded(page, RED, { x: 0, y: 0, width: 120, height: 10 });
     await assertRounded(page, GREEN, { x: 0, y: 20, width: 200, height: 6 });
     assert.equal(await page.area([0, 0, 255]), null);
-    assert.deepEqual(await page.pixels([[150, 5], [100, 20 + 6 + 10 + 3]]), [TRACK, TRACK]);
-    await page.click(50, 75);
+    const [below, almostNothing] = [20 + 6 + 10, 20 + 2 * (6 + 10)];
+    assert.deepEqual(await page.pixels([[150, 5], [100, below + 3], [100, almostNothing + 3]]), [TRACK, TRACK, TRACK]);
+    await page.click(50, almostNothing + 6 + 10 + 20);
     await assertRounded(page, RED, { x: 0, y: 0, width: 240, height: 10 });
 });
 

@@ -1,6 +1,7 @@
 // Fields: typing, reading back, errors, place and look, and what becomes of them when the page is left.
 
 import { application, assert, near, webTest } from './harness/index.js';
+import { png } from './harness/pictures.js';
 
 const form = application(`
         நெடுவரிசை(இடைவெளி: 20)(
@@ -145,6 +146,58 @@ webTest('தேடல்_பட்டை has its lens, its hint, and a cross tha
     await page.click(10 + 300 - 25 + 14, 35);
     assert.equal((await page.element(selector)).value, '');
     assert.deepEqual(await page.pixel(10 + 300 - 25, 35), [255, 255, 0]);
+});
+
+webTest('a search bar shows icons of its own, half transparent', application(`
+        தேடல்_பட்டை(தேடல்_படம்: "assets/lens.png", அழி_படம்: "assets/cross.png",
+            தேடல்_பாணி(களப்பின்னணி: "#FFFFFF", அகலம்: 300))`), {
+    files: { 'assets/lens.png': png(20, [255, 0, 0], [0, 0, 255]), 'assets/cross.png': png(20, [0, 255, 0]) },
+}, async page => {
+    const halfOnWhite = colour => colour.map(value => Math.round((value + 255) / 2));
+    const assertColour = (pixel, wanted) => pixel.forEach((value, at) => near(value, wanted[at], 2));
+    const cross = [[300 - 25 - 9, 25], [300 - 25 + 9, 25]];
+    // 20 by 20 about the point 20 from the left, in the middle of the height
+    const [left, right, before, behind, above] = await page.pixels([[12, 25], [28, 25], [9, 25], [31, 25], [20, 13]]);
+    assertColour(left, halfOnWhite([255, 0, 0]));
+    assertColour(right, halfOnWhite([0, 0, 255]));
+    assert.deepEqual([before, behind, above], Array(3).fill([255, 255, 255]));
+    assert.deepEqual(await page.pixels(cross), Array(2).fill([255, 255, 255]));
+    await page.page.fill('[id^=search_]', 'அ');
+    for (const pixel of await page.pixels(cross)) {
+        assertColour(pixel, halfOnWhite([0, 255, 0]));
+    }
+    await page.click(300 - 25 + 16, 25);
+    assert.equal((await page.element('[id^=search_]')).value, 'அ');
+    await page.click(300 - 25, 25 - 14);
+    assert.equal((await page.element('[id^=search_]')).value, '');
+    assert.deepEqual(await page.pixels(cross), Array(2).fill([255, 255, 255]));
+});
+
+const clipboard = page => page.page.evaluate(() => navigator.clipboard.readText());
+
+webTest('a field is copied and cut from, but pasting is not for it', form, {
+    permissions: ['clipboard-read', 'clipboard-write'],
+}, async page => {
+    const keys = page.page.keyboard;
+    for (const [selector, text] of [[NAME, 'கயல்'], ['#கருத்து', 'விழி']]) {
+        await page.page.focus(selector);
+        await keys.insertText(text);
+        await keys.press('Control+a');
+        await keys.press('Control+c');
+        assert.equal(await clipboard(page), text);
+        await page.page.focus(selector);
+        await keys.press('End');
+        await keys.press('Control+v');
+        await page.frames();
+        assert.equal((await page.element(selector)).value, text, 'what is pasted goes to a field of the canvas');
+        await keys.press('Control+a');
+        await keys.press('Control+x');
+        assert.equal(await clipboard(page), text);
+        assert.equal((await page.element(selector)).value, '');
+    }
+    await page.click(...READ);
+    await page.text('');
+    assert.deepEqual(page.errors, []);
 });
 
 webTest('கடவுமறை is a field of the browser, with its own border', application(`

@@ -51,6 +51,13 @@ webTest('all nine words of alignment, in a column of a given size', application(
     }
 });
 
+webTest('a child wider than its column begins where the column begins', application(`
+        உள்_இவெ(அளவு: 20)(
+            நெடுவரிசை(சீரமைப்பு: மேல்_வலது, அகலம்: 100, உயரம்: 200)(${block(RED, 180, 40)}, ${block(BLUE, 60, 40)})
+        )`), async page => {
+    await assertAreas(page, [[RED, 20, 20, 180, 40], [BLUE, 20 + 40, 60, 60, 40]]);
+});
+
 webTest('a column hands the free height to its flexible children', application(`
         நெடுவரிசை(இடைவெளி: 10)(
             ${block(RED, 100, 40)},

@@ -1,7 +1,7 @@
 // படம் and வட்டபடம்: pictures of every kind, packed with the page or missing.
 
 import { application, assert, near, webTest } from './harness/index.js';
-import { gif, jpeg, png } from './harness/pictures.js';
+import { gif, jpeg, png, svg } from './harness/pictures.js';
 
 const RED = [255, 0, 0];
 const BLUE = [0, 0, 255];
@@ -11,8 +11,7 @@ const CYAN = [0, 255, 255];
 const files = {
     'assets/இரு நிறம்.png': png(32, RED, BLUE),
     'assets/படம்.jpg': jpeg,
-    'assets/வடிவம்.svg': '<svg xmlns="http://www.w3.org/2000/svg" width="40" height="40">'
-        + '<rect width="40" height="40" fill="#ff8800"/></svg>',
+    'assets/வடிவம்.svg': svg('#ff8800'),
     'assets/அசைவு.gif': gif(50, [MAGENTA, CYAN], 500),
     'assets/உடைந்த.png': 'இது படம் அல்ல',
     'assets/வெற்று.png': '',
@@ -82,6 +81,20 @@ webTest('an animated picture starts anew when the pointer comes to it', gallery,
     assert.deepEqual(await page.pixel(40, 170), MAGENTA, 'the address at rest still holds the picture');
 });
 
+webTest('an animated picture that isn\'t packed comes from the server, anew for the pointer', application(
+    '        படம்(பாதை: "far.gif", அகலம்: 80, உயரம்: 40)'), { open: false }, async page => {
+    page.files.set('far.gif', gif(50, [MAGENTA], 50));
+    await page.open(page.address);
+    const source = async () => (await page.page.evaluate(() => document.querySelector('img').src)).split('/').pop();
+    assert.equal(await source(), 'far.gif');
+    assert.deepEqual(await page.area(MAGENTA), { x: 0, y: 0, width: 80, height: 40 });
+    await page.moveTo(89, 49);
+    assert.match(await source(), /^far\.gif\?t=\d+$/);
+    await page.moveTo(92, 20);
+    assert.equal(await source(), 'far.gif');
+    assert.deepEqual(page.errors, []);
+});
+
 webTest('an animated picture goes with its page', gallery, { files }, async page => {
     assert.equal((await page.element('img')).shown, true);
     await page.click(50, 355);
@@ -101,4 +114,14 @@ webTest('an avatar is a disc with a picture, initials or a plain colour', applic
     nearDisc(await page.area([200, 200, 200]), { x: 0, y: 68 + 48 + 20, size: 48 });
     const { x, y, size, colour, align } = await page.text('அ');
     assert.deepEqual([x, y, size, colour, align], [20, 68 + 20 + 2, 20, '#ffffff', 'center']);
+});
+
+webTest('a border lies around an avatar, and the height that its parent imposes counts', application(`
+        அட்டை(அட்டை_பாணி(அகலம்: 200, உயரம்: 100, வளைவு: 0),
+            வட்டபடம்(பின்னணி: "#0000FF", கரை_அளவு: 6, கரை_நிறம்: "#FF0000"))
+        `), async page => {
+    // As high as the card, it stands 15 from the card's corner; the border reaches 6 further out.
+    const middle = 15 + 50;
+    const pixels = await page.pixels([[18, middle], [112, middle], [12, middle], [118, middle], [7, middle], [122, middle]]);
+    assert.deepEqual(pixels, [...Array(2).fill(BLUE), ...Array(2).fill(RED), ...Array(2).fill([255, 255, 255])]);
 });

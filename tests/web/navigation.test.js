@@ -1,28 +1,11 @@
 // The bar at the bottom and the tabs across the window.
 
-import { deflateSync, crc32 } from 'node:zlib';
-
 import { application, assert, near, webTest } from './harness/index.js';
+import { png } from './harness/pictures.js';
 
 const BLUE = [33, 150, 243];
 const WHITE = [255, 255, 255];
 const drawn = async page => (await page.texts()).map(({ text }) => text);
-
-/// A square picture of one colour.
-function picture(size, colour) {
-    const part = (type, data) => {
-        const body = Buffer.concat([Buffer.from(type), data]);
-        const [length, sum] = [Buffer.alloc(4), Buffer.alloc(4)];
-        length.writeUInt32BE(data.length);
-        sum.writeUInt32BE(crc32(body));
-        return Buffer.concat([length, body, sum]);
-    };
-    const head = Buffer.from([0, 0, 0, size, 0, 0, 0, size, 8, 2, 0, 0, 0]);
-    const row = [0, ...Array(size).fill(colour).flat()];
-    return Buffer.concat([Buffer.from('\x89PNG\r\n\x1a\n', 'latin1'), part('IHDR', head),
-                          part('IDAT', deflateSync(Buffer.from(Array(size).fill(row).flat()))),
-                          part('IEND', Buffer.alloc(0))]);
-}
 
 webTest('a bottom bar shows the item that the program names, and evaluates its handler on a press', application(`
         அடுக்கி(
@@ -37,7 +20,7 @@ webTest('a bottom bar shows the item that the program names, and evaluates its h
         கடைசி = "எதுவுமில்லை"
         செயல் அழுத்தம்():
             இடம் = 1
-            கடைசி = "அழுத்தியது"` }), { files: { 'red.png': picture(24, [255, 0, 0]) } }, async page => {
+            கடைசி = "அழுத்தியது"` }), { files: { 'red.png': png(24, [255, 0, 0]) } }, async page => {
     const bar = 400 - 64;
     assert.deepEqual(await page.pixels([[10, bar + 1], [490, 399]]), [WHITE, WHITE]);
     const [home, search] = [await page.text('முகப்பு'), await page.text('தேடல்')];
@@ -66,6 +49,33 @@ webTest('a bottom bar neither calls a function nor follows the press by itself',
     await page.click(375, 380);
     assert.deepEqual(await drawn(page), ['5', 'அ', 'ஆ']);
     assert.deepEqual([(await page.text('அ')).colour, (await page.text('ஆ')).colour], ['#2196f3', '#757575']);
+});
+
+webTest('what stands under a bar answers to its presses too', application(`
+        அடுக்கி(
+            பொத்தான்(உரை: "", பொ_பாணி(அகலம்: 500, உயரம்: 400, வளைவு: 0), அழுத்தினால்: எண்ணு()),
+            உரை(எண்ணம்),
+            அடிப்பகுதி(style_பின்னணி: "#FF0000", அடி_உருப்படி(உரை("அ")))
+        )`, { logic: `
+        எண்ணம் = 0
+        செயல் எண்ணு():
+            எண்ணம் = எண்ணம் கூட்டு 1` }), async page => {
+    assert.deepEqual(await page.area([255, 0, 0]), { x: 0, y: 336, width: 500, height: 64 });
+    await page.click(100, 350);
+    assert.ok((await drawn(page)).includes('1'));
+    await page.click(100, 300);
+    assert.ok((await drawn(page)).includes('2'));
+});
+
+webTest('bars without items are one item wide, and presses on them lead nowhere', application(`
+        அடுக்கி(தத்தல்(style_பின்னணி: "#00FF00"), அடிப்பகுதி(style_பின்னணி: "#FF0000"))`), async page => {
+    for (const y of [20, 380]) {
+        await page.click(60, y);
+        await page.click(450, y);
+    }
+    assert.deepEqual(await page.area(WHITE), { x: 0, y: 47, width: 500, height: 3 });
+    assert.deepEqual(await page.pixels([[10, 10], [490, 390]]), [[0, 255, 0], [255, 0, 0]]);
+    assert.deepEqual(page.errors, []);
 });
 
 webTest('tabs are selected by a press, and stand above the rest of their column', application(`

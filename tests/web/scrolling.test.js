@@ -58,6 +58,37 @@ webTest('a column that fits has no scroll bar and stays', column, async page => 
     assert.deepEqual(await page.pixels([[496, 10], [496, 400]]), [[245, 245, 245], [245, 245, 245]]);
 });
 
+webTest('a column that is left and shown again stands where it stood', application(`
+        நெடுவரிசை(உருளும்பட்டை: மெய், இடைவெளி: 44)(
+            ${lines.slice(0, 10).join(',\n            ')},
+            பொத்தான்(உரை: "போ", பொ_பாணி(அகலம்: 200, உயரம்: 16), அழுத்தினால்(செல்க("ஆ")))
+        )`, { header: 'பக்கம்: "அ"' }) + application(`
+        பொத்தான்(உரை: "வா", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்(செல்க("அ")))`, { header: 'பக்கம்: "ஆ"' }),
+        async page => {
+    const limit = 11 * 60 - 44 - 400;
+    await page.moveTo(250, 300);
+    await page.wheel(0, 5000);
+    near(await yOf(page, 'வரி 5'), 5 * 60 - limit);
+    await page.click(100, 10 * 60 - limit + 8);
+    await page.text('வா');
+    await page.click(100, 20);
+    near(await yOf(page, 'வரி 5'), 5 * 60 - limit);
+});
+
+webTest('of two columns under the pointer the one drawn first takes the wheel', application(`
+        நெடுவரிசை(உருளும்பட்டை: மெய்)(
+            நெடுவரிசை(உருளும்பட்டை: மெய்)(
+                உரை("உள்ளே", உரைபாணி(அளவு: 500))
+            ),
+            உரை("கீழே", உரைபாணி(அளவு: 300))
+        )`), async page => {
+    const before = await yOf(page, 'உள்ளே');
+    await page.moveTo(250, 200);
+    await page.wheel(0, 60);
+    // Both would make it 120.
+    near(await yOf(page, 'உள்ளே'), before - 60);
+});
+
 /// Waits until the scrolling has come to rest.
 async function rest(page, text) {
     for (let before = null, now = await yOf(page, text); before !== now; now = await yOf(page, text)) {

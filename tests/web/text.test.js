@@ -41,6 +41,19 @@ webTest('உரை takes colour, weight and alignment from its style', applicati
     assert.deepEqual(await page.pixel(1, Math.round(underlined.y) + 5), [0, 255, 0]);
 });
 
+webTest('the line under a centred உரை is as long as the text, wherever its anchor', application(`
+        உள்_இவெ(அளவு: 20)(
+            உரை("கோடு", உரைபாணி(அளவு: 60, நிறம்: "#00FF00", சீரமைப்பு: மையம், அடிக்குறிப்பு: மெய்))
+        )`), async page => {
+    const text = await page.text('கோடு');
+    const width = await page.textWidth('கோடு', text.size);
+    near(text.x, 20 + width / 2);
+    const [before, first, last, behind] = await page.pixels([18, 21, 20 + width - 2, 20 + width + 2].map(
+        x => [Math.round(x), 25]));
+    assert.deepEqual([first, last], Array(2).fill([0, 255, 0]));
+    assert.deepEqual([before, behind], Array(2).fill([245, 245, 245]));
+});
+
 const LONG = 'அகர முதல எழுத்தெல்லாம் ஆதி பகவன் முதற்றே உலகு கற்றதனால் ஆய பயனென்கொல் வாலறிவன் நற்றாள் தொழாஅர் எனின்';
 
 webTest('a long உரை shrinks until 20 pixels are left', application(`        உரை("${LONG}", உரைபாணி(அளவு: 30))`),
@@ -53,6 +66,77 @@ webTest('a long உரை shrinks until 20 pixels are left', application(`      
         near(text.size, 30 * 0.65 * (width - 20) / whole);
         near(await page.textWidth(LONG, text.size), width - 20, 1);
     }
+});
+
+webTest('a long உரை shrinks into the box that its parent imposes', application(`
+        கிடைவரிசை(அகலம்: 100)(விரிவாக்கம்(உரை("${LONG}")), இவெ(அகலம்: 0))`), async page => {
+    const text = await page.text(LONG);
+    near(await page.textWidth(LONG, text.size), 100 - 20, 1);
+});
+
+webTest('உரை is sharp again after the page has been zoomed', application('        உரை("வணக்கம்")'), async page => {
+    const session = await page.page.context().newCDPSession(page.page);
+    for (const deviceScaleFactor of [2, 1]) {
+        await session.send('Emulation.setDeviceMetricsOverride', { width: 500, height: 400, deviceScaleFactor,
+                                                                   mobile: false });
+        await page.page.waitForFunction(ratio => devicePixelRatio === ratio, deviceScaleFactor);
+        await page.frames(3);
+        const size = await page.page.evaluate(() => {
+            const { width, height } = document.getElementById('textCanvas');
+            return [width, height];
+        });
+        assert.deepEqual(size, [500 * deviceScaleFactor, 400 * deviceScaleFactor]);
+        assert.equal((await page.text('வணக்கம்')).scale, deviceScaleFactor);
+    }
+});
+
+const SERIF = readFileSync('/usr/share/fonts/truetype/noto/NotoSerifTamil-Regular.ttf');
+
+webTest('உரை is drawn in its own font once that has come', application(`
+        நெடுவரிசை(
+            உரை("கககக", உரைபாணி(எழுத்துரு: "fonts/Own-1.ttf", அளவு: 40)),
+            உரை("ககககக", உரைபாணி(எழுத்துரு: "fonts/Own-1.ttf", அளவு: 30))
+        )`), { files: { 'fonts/Own-1.ttf': SERIF } }, async page => {
+    // Letters and digits of the path name the font.
+    assert.deepEqual((await page.texts()).map(({ family }) => family),
+                     Array(2).fill('Font_fontsOwn1ttf, "Noto Sans Tamil", Arial, sans-serif'));
+    assert.deepEqual(await page.window('pozhilFonts'), { Font_fontsOwn1ttf: true });
+    await page.page.waitForFunction(() => [...document.fonts].some(({ family, status }) =>
+        family === 'Font_fontsOwn1ttf' && status === 'loaded'));
+    assert.equal(await page.page.evaluate(() => document.fonts.size), 1);
+    const [own, expected, usual] = await page.page.evaluate(async file => {
+        const face = await new FontFace('expected', Uint8Array.from(atob(file), byte => byte.charCodeAt(0))).load();
+        document.fonts.add(face);
+        const context = document.createElement('canvas').getContext('2d');
+        return ['Font_fontsOwn1ttf', 'expected', 'Noto Sans Tamil'].map(family => {
+            context.font = `40px ${JSON.stringify(family)}`;
+            return context.measureText('கககக').width;
+        });
+    }, SERIF.toString('base64'));
+    assert.equal(own, expected);
+    assert.notEqual(expected, usual);
+    assert.ok(page.console.every(line => !line.includes('Font load error')), page.console.join('\n'));
+});
+
+webTest('உரை keeps the usual font where its own is none', application(`
+        நெடுவரிசை(
+            உரை("கககக", உரைபாணி(எழுத்துரு: "fonts/broken.ttf", அளவு: 40)),
+            உரை("முதல்", உரைபாணி(எழுத்துரு: "இல்லாதது")),
+            உரை("இரண்டு", உரைபாணி(எழுத்துரு: "மற்றது"))
+        )`), {
+    files: { 'fonts/broken.ttf': 'இது எழுத்துரு அல்ல' },
+}, async page => {
+    const faults = () => page.console.filter(line => line.startsWith('Font load error:')).length;
+    for (let waited = 0; waited < 50 && faults() < 2; waited++) {
+        await page.frames();
+    }
+    await page.frames(5);
+    // Each is asked for once; names without a Latin letter are all the same.
+    assert.equal(faults(), 2);
+    assert.deepEqual(await page.window('pozhilFonts'), { Font_fontsbrokenttf: true, Font_: true });
+    assert.deepEqual(await page.page.evaluate(() => [...document.fonts].map(({ family }) => family)), []);
+    near((await page.text('கககக')).size, 40 * 0.65);
+    assert.deepEqual(page.errors, []);
 });
 
 webTest('உரை shows the live value of a variable', application(`

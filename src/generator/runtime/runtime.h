@@ -10,6 +10,7 @@
 #include "global_state.h"
 #include "navigation.h"
 #include "input_state.h"
+#include "canvas_keys.h"
 #include "web_bridge.h"
 #include "value_types.h"
 #include "error_box.h"

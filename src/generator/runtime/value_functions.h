@@ -59,6 +59,18 @@ inline std::string pozhil_number_text(const std::any& val) {
     return "";
 }
 
+// பட்டியலின் உறுப்புகளை ஒவ்வொன்றாக எழுதும் வடிவம்
+inline std::string pozhil_list_text(const std::vector<std::any>& list, std::string (*text_of)(const std::any&)) {
+    std::string text = "[";
+    const char* separator = "";
+    for (const std::any& item : list) {
+        text += separator;
+        text += text_of(item);
+        separator = ", ";
+    }
+    return text + "]";
+}
+
 // அச்சிடும் வடிவம்
 inline std::string fn_any_to_string(const std::any& val) {
     std::string byte_text;
@@ -79,14 +91,7 @@ inline std::string fn_any_to_string(const std::any& val) {
         return fn_முழுவதும்(*time);
     }
     if (const auto* list = std::any_cast<std::vector<std::any>>(&val)) {
-        std::string text = "[";
-        const char* separator = "";
-        for (const std::any& item : *list) {
-            text += separator;
-            text += fn_any_to_string(item);
-            separator = ", ";
-        }
-        return text + "]";
+        return pozhil_list_text(*list, fn_any_to_string);
     }
     if (const auto* map = std::any_cast<std::map<std::string, std::any>>(&val)) {
         std::string text = "{";
@@ -152,14 +157,7 @@ inline std::string fn_any_to_json(const std::any& val) {
         return *truth ? "true" : "false";
     }
     if (const auto* list = std::any_cast<std::vector<std::any>>(&val)) {
-        std::string text = "[";
-        const char* separator = "";
-        for (const std::any& item : *list) {
-            text += separator;
-            text += fn_any_to_json(item);
-            separator = ", ";
-        }
-        return text + "]";
+        return pozhil_list_text(*list, fn_any_to_json);
     }
     if (const auto* map = std::any_cast<std::map<std::string, std::any>>(&val)) {
         std::string text = "{";

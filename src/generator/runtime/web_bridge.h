@@ -3,6 +3,7 @@
 /// What the browser side of a page may call: values of input fields, the database's answers, scrolling, pasting, and
 /// the keys of a field that is drawn on the canvas. The native compiler skips it all.
 
+#include "canvas_keys.h"
 #include "global_state.h"
 #include "input_state.h"
 #include "web_text_layer.h"
@@ -83,63 +84,6 @@ EMSCRIPTEN_KEEPALIVE void on_paste_text(const char* text) {
 #endif
 
 #ifdef __EMSCRIPTEN__
-// வரைபலகையில் வரையப்பட்ட உள்ளீட்டின் விசைகள்: திருத்தங்கள் அனைத்தும் பைட் கணக்கில்
-void pozhil_clear_focused_input() {
-    g_inputValues[g_focusedInput] = "";
-    g_inputCursorPos[g_focusedInput] = 0;
-    g_inputSelected[g_focusedInput] = false;
-}
-
-EM_BOOL pozhil_edit_key(const std::string& key, bool ctrl) {
-    std::string& value = g_inputValues[g_focusedInput];
-    int& caret = g_inputCursorPos[g_focusedInput];
-    if (key == "Backspace" || key == "Delete") {
-        const int at = key == "Backspace" ? caret - 1 : caret;
-        if (g_inputSelected[g_focusedInput]) {
-            pozhil_clear_focused_input();
-        } else if (at >= 0 && at < (int)value.size()) {
-            value.erase((std::size_t)at, 1);
-            caret = at;
-        }
-        return EM_TRUE;
-    }
-    if (ctrl && (key == "c" || key == "x")) {
-        copyToClipboard(value.c_str());
-        if (key == "x") {
-            value = "";
-            caret = 0;
-        }
-        return EM_TRUE;
-    }
-    if (ctrl && key == "a") {
-        g_inputSelected[g_focusedInput] = true;
-        return EM_TRUE;
-    }
-    if (key == "ArrowLeft" || key == "ArrowRight") {
-        caret = std::max(0, std::min(caret + (key == "ArrowLeft" ? -1 : 1), (int)value.size()));
-        return EM_TRUE;
-    }
-    return EM_FALSE;
-}
-
-EM_BOOL pozhil_type_key(const std::string& key) {
-    g_inputErrors[g_focusedInput] = "";
-    if (key == "Enter") {
-        g_focusedInput = "";
-        g_inputSelected.clear();
-        return EM_TRUE;
-    }
-    if (g_inputSelected[g_focusedInput]) {
-        pozhil_clear_focused_input();
-    }
-    std::string& value = g_inputValues[g_focusedInput];
-    int& caret = g_inputCursorPos[g_focusedInput];
-    caret = std::min(caret, (int)value.size());
-    value.insert((std::size_t)caret, key);
-    caret += (int)key.size();
-    return EM_TRUE;
-}
-
 EM_BOOL key_callback(int eventType, const EmscriptenKeyboardEvent* e, void* userData) {
     (void)userData;
     const bool html_input_has_focus = EM_ASM_INT({
@@ -148,11 +92,16 @@ EM_BOOL key_callback(int eventType, const EmscriptenKeyboardEvent* e, void* user
     if (html_input_has_focus || g_focusedInput.empty()) {
         return EM_FALSE;
     }
+    const std::string key = e->key;
     if (eventType == EMSCRIPTEN_EVENT_KEYDOWN) {
-        return pozhil_edit_key(e->key, e->ctrlKey);
+        if (e->ctrlKey && (key == "c" || key == "x")) {
+            copyToClipboard(g_inputValues[g_focusedInput].c_str());
+        }
+        return pozhil_edit_key(key, e->ctrlKey) ? EM_TRUE : EM_FALSE;
     }
     if (eventType == EMSCRIPTEN_EVENT_KEYPRESS && !e->ctrlKey) {
-        return pozhil_type_key(e->key);
+        pozhil_type_key(key);
+        return EM_TRUE;
     }
     return EM_FALSE;
 }

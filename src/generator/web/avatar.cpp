@@ -1,7 +1,6 @@
 #include "generator/web/colours.h"
 #include "generator/web/literals.h"
 #include "generator/web/media.h"
-#include "generator/web/metrics.h"
 #include "generator/web/sizes.h"
 #include "generator/web/text_value.h"
 #include "generator/web/widget_writer.h"
@@ -13,7 +12,7 @@ namespace {
 void emitDiameter(const WidgetWriter& avatar) {
     constexpr float USUAL_RADIUS = 24.0F;
     const WidgetNode& widget = avatar.widget();
-    const float radius = numberOf(findProperty(widget, {"style_வளைவு", "வளைவு"})).value_or(USUAL_RADIUS);
+    const float radius = constantOf(findProperty(widget, {"style_வளைவு", "வளைவு"})).value_or(USUAL_RADIUS);
     avatar.block(R"(
 {
     float caX = std::floor($x); float caY = std::floor($y);
@@ -63,7 +62,7 @@ void emitDisc(const WidgetWriter& avatar, const std::string& imagePath) {
 /// The border lies around the disc.
 void emitBorder(const WidgetWriter& avatar) {
     const WidgetNode& widget = avatar.widget();
-    const float width = numberOf(findProperty(widget, {"style_கரை_அளவு", "கரை_அளவு"})).value_or(0.0F);
+    const float width = constantOf(findProperty(widget, {"style_கரை_அளவு", "கரை_அளவு"})).value_or(0.0F);
     if (width > 0.0F) {
         avatar.block(R"(
     nvgBeginPath(vg);

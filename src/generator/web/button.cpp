@@ -1,84 +1,16 @@
 #include "generator/web/button.h"
 
 #include "generator/web/animation.h"
+#include "generator/web/button_label.h"
 #include "generator/web/colours.h"
-#include "generator/web/metrics.h"
+#include "generator/web/literals.h"
 #include "generator/web/press_handler.h"
 #include "generator/web/sizes.h"
 #include "generator/web/text_value.h"
 #include "generator/web/widget_writer.h"
 
-#include <algorithm>
-#include <array>
-#include <cerrno>
-#include <cstdlib>
-
 namespace pozhil {
 namespace {
-
-/// The label: what it says and how it looks.
-struct Label {
-    const Expression* text;
-    TextStyle style;
-    Colour colour;
-};
-
-/// The text of a style entry, whether the source wrote a text, a number or a word.
-std::string wordOf(const Expression* value) {
-    if (const auto* text = nodeCast<StringLiteral>(value)) {
-        return text->value;
-    }
-    if (const auto* number = nodeCast<NumberLiteral>(value)) {
-        return number->value;
-    }
-    const auto* variable = nodeCast<VariableAccess>(value);
-    return variable == nullptr ? "" : variable->name;
-}
-
-/// A style record among the label's children overrides what the label's own style says.
-void applyStyleRecord(const WidgetNode& label, TextStyle& style, Colour& colour) {
-    const WidgetNode* record = childOfKind(label, "உரைபாணி");
-    if (record == nullptr) {
-        return;
-    }
-    colour = colourOf(findProperty(*record, {"நிறம்"})).value_or(colour);
-    style.size = numberOf(findProperty(*record, {"அளவு"})).value_or(style.size);
-    for (const auto& [name, field] : {std::pair{"எழுத்துரு", &style.font}, std::pair{"தடிமன்", &style.weight}}) {
-        const std::string word = wordOf(findProperty(*record, {name}));
-        *field = word.empty() ? *field : word;
-    }
-}
-
-Label labelOf(const WidgetNode& button) {
-    constexpr Colour WHITE = {1.0F, 1.0F, 1.0F, 1.0F};
-    if (const WidgetNode* text = childOfKind(button, "உரை")) {
-        Label label = {findProperty(*text, {"உரை"}), text->style, styleColour(text->style.color)};
-        applyStyleRecord(*text, label.style, label.colour);
-        return label;
-    }
-    TextStyle style;
-    style.weight = "400";
-    return {findProperty(button, {"உரை"}), style,
-            colourOf(findProperty(button, {"style_எழுத்து_நிறம்"})).value_or(WHITE)};
-}
-
-/// The typeface that the button is measured with. Any weight above 29 counts as bold, the usual 400 too.
-std::string faceOf(const TextStyle& style) {
-    constexpr long HEAVIEST_LIGHT = 29;
-    constexpr std::array<std::string_view, 5> BOLD = {"700", "800", "900", "தடிமனான", "bold"};
-    if (!style.font.empty()) {
-        return style.font;
-    }
-    char* end = nullptr;
-    const long number = std::strtol(style.weight.c_str(), &end, 10);
-    const bool isHeavy = *end == '\0' && number > HEAVIEST_LIGHT;
-    const bool isBold = isHeavy || std::find(BOLD.begin(), BOLD.end(), style.weight) != BOLD.end();
-    return isBold ? "tamil_font" : "sans";
-}
-
-std::string weightOf(const TextStyle& style) {
-    return style.weight.empty() ? "400" : style.weight;
-}
 
 /// r = 33; g = 150; b = 243;
 std::string assignRgb(const std::string& prefix, const Colour& colour) {
@@ -87,10 +19,14 @@ std::string assignRgb(const std::string& prefix, const Colour& colour) {
            prefix + "b = " + std::to_string(bytes.blue) + ";";
 }
 
-void emitColours(const WidgetWriter& button, const Label& label) {
+std::optional<Colour> hoverColour(const WidgetNode& button) {
+    return colourOf(findProperty(button, {"style_மேம்படுத்தப்பட்ட_நிறம்"}));
+}
+
+void emitColours(const WidgetWriter& button, const ButtonLabel& label) {
     button.block(R"(
-    int r = 33, g = 150, b = 243, a = 255;
-    int tr = 255, tg = 255, tb = 255, ta = 255;
+    int r=33, g=150, b=243, a=255;
+    int tr=255, tg=255, tb=255, ta=255;
 )");
     for (const char* name : {"பொபின்னணி", "style_பின்னணி"}) {
         if (const std::optional<Colour> background = colourOf(findProperty(button.widget(), {name}))) {
@@ -100,23 +36,31 @@ void emitColours(const WidgetWriter& button, const Label& label) {
     }
     button.block("    $rgb ta = $alpha;\n",
                  {{"rgb", assignRgb("t", label.colour)}, {"alpha", std::to_string(byteColour(label.colour).alpha)}});
+    if (const std::optional<Colour> hover = hoverColour(button.widget())) {
+        const ByteColour bytes = byteColour(*hover);
+        button.block(
+            "    int hr=$r, hg=$g, hb=$b;\n",
+            {{"r", std::to_string(bytes.red)}, {"g", std::to_string(bytes.green)}, {"b", std::to_string(bytes.blue)}});
+    }
 }
 
-void emitSize(const WidgetWriter& button, const Label& label) {
+void emitSize(const WidgetWriter& button, const ButtonLabel& label) {
     button.block(R"(
     float responsiveSize = responsiveTextSize($size, winWidth);
     nvgFontSize(vg, responsiveSize);
     nvgFontFace(vg, "$face");
     float bounds[4] = {0.0f, 0.0f, 0.0f, 0.0f};
     nvgTextBounds(vg, 0, 0, btnTextStr.c_str(), NULL, bounds);
-    float btnW = (bounds[2] - bounds[0]) + 32.0f;
+    float txtW = bounds[2] - bounds[0];
+    float txtH = bounds[3] - bounds[1];
+    float btnW = txtW + 32.0f;
     if (btnW < 80.0f) btnW = 80.0f;
 )",
                  {{"size", floatConstant(fontSizeOf(label.style))}, {"face", faceOf(label.style)}});
     emitGivenSize(button, {"style_அகலம்", "அகலம்"}, "btnW", "(forcedW > 0.0f ? forcedW : winWidth)");
     button.block(R"(
     btnW = responsiveW(btnW, winWidth, 40.0f);
-    float btnH = (bounds[3] - bounds[1]) + 18.0f;
+    float btnH = txtH + 18.0f;
     if (btnH < 36.0f) btnH = 36.0f;
 )");
     emitGivenSize(button, {"style_உயரம்", "உயரம்"}, "btnH", "(forcedH > 0.0f ? forcedH : winHeight)");
@@ -156,13 +100,6 @@ void emitHover(const WidgetWriter& button) {
     if (isAnimated) {
         emitColourTargets(button);
     }
-    const std::optional<Colour> hover = colourOf(findProperty(button.widget(), {"style_மேம்படுத்தப்பட்ட_நிறம்"}));
-    if (hover) {
-        const ByteColour bytes = byteColour(*hover);
-        button.block(
-            "    int hr = $r, hg = $g, hb = $b;\n",
-            {{"r", std::to_string(bytes.red)}, {"g", std::to_string(bytes.green)}, {"b", std::to_string(bytes.blue)}});
-    }
     button.block(R"(
     if (isHover) {
         pozhil_pointer_cursor();
@@ -174,9 +111,10 @@ void emitHover(const WidgetWriter& button) {
 )",
                  {{"recolour", button.blocks([&] {
                        if (!isAnimated) {
-                           button.block(hover ? "    r = hr; g = hg; b = hb;\n"
-                                              : "    r = std::max(0, r - 20); g = std::max(0, g - 20); "
-                                                "b = std::max(0, b - 20);\n");
+                           button.block(hoverColour(button.widget())
+                                            ? "    r = hr; g = hg; b = hb;\n"
+                                            : "    r = std::max(0, r - 20); g = std::max(0, g - 20); "
+                                              "b = std::max(0, b - 20);\n");
                        }
                    })},
                   {"handler", pressHandler(button)}});
@@ -184,7 +122,7 @@ void emitHover(const WidgetWriter& button) {
 
 void emitBorder(const WidgetWriter& button) {
     const std::optional<Colour> colour = colourOf(findProperty(button.widget(), {"style_கரை_நிறம்"}));
-    const std::optional<float> width = numberOf(findProperty(button.widget(), {"style_கரை_அளவு"}));
+    const std::optional<float> width = constantOf(findProperty(button.widget(), {"style_கரை_அளவு"}));
     if (colour && width) {
         button.block(R"(
     nvgBeginPath(vg);
@@ -202,7 +140,7 @@ void emitBody(const WidgetWriter& button) {
     if (shadowBlur > 0.0f) {
         nvgBeginPath(vg);
         nvgRect(vg, btnX - 2, btnY - 2, btnW + 4, btnH + 4);
-        nvgFillPaint(vg, nvgBoxGradient(vg, btnX, btnY + 2, btnW, btnH, radius, shadowBlur, nvgRGBA(0, 0, 0, 100), nvgRGBA(0, 0, 0, 0)));
+        nvgFillPaint(vg, nvgBoxGradient(vg, btnX, btnY + 2, btnW, btnH, radius, shadowBlur, nvgRGBA(0,0,0,100), nvgRGBA(0,0,0,0)));
         nvgFill(vg);
     }
     if (true) {
@@ -219,7 +157,7 @@ void emitBody(const WidgetWriter& button) {
     emitBorder(button);
 }
 
-void emitLabel(const WidgetWriter& button, const Label& label) {
+void emitLabel(const WidgetWriter& button, const ButtonLabel& label) {
     if (!label.style.font.empty()) {
         button.block(R"(
     if (nvgFindFont(vg, "$font") == -1) nvgCreateFont(vg, "$font", "$font");
@@ -228,8 +166,8 @@ void emitLabel(const WidgetWriter& button, const Label& label) {
     }
     button.block(R"block(
     std::string tColor = "rgb(" + std::to_string(tr) + "," + std::to_string(tg) + "," + std::to_string(tb) + ")";
-    float centerX = btnX + btnW / 2.0f;
-    float centerY = btnY + btnH / 2.0f - responsiveSize / 2.0f + 2.0f;
+    float centerX = btnX + btnW/2;
+    float centerY = btnY + btnH/2 - responsiveSize/2 + 2.0f;
     drawFixedText(centerX, centerY, btnTextStr.c_str(), tColor.c_str(), responsiveSize, "center", "$weight", false, "$font");
 }
 )block",
@@ -241,7 +179,8 @@ void emitLabel(const WidgetWriter& button, const Label& label) {
 void emitButton(const WidgetWriter& button) {
     constexpr float USUAL_RADIUS = 8.0F;
     const WidgetNode& widget = button.widget();
-    const Label label = labelOf(widget);
+    const ButtonLabel label = buttonLabel(widget);
+    const float plainRadius = constantOf(findProperty(widget, {"வளைவு"})).value_or(USUAL_RADIUS);
     button.block(
         R"(
 {
@@ -250,8 +189,8 @@ void emitButton(const WidgetWriter& button) {
     float shadowBlur = $shadow;
     std::string btnTextStr = fn_any_to_string($text);
 )",
-        {{"radius", floatConstant(numberOf(findProperty(widget, {"style_வளைவு", "வளைவு"})).value_or(USUAL_RADIUS))},
-         {"shadow", floatConstant(numberOf(findProperty(widget, {"style_நிழல்"})).value_or(0.0F))},
+        {{"radius", numberConstant(widget, {"style_வளைவு"}, plainRadius)},
+         {"shadow", numberConstant(widget, {"style_நிழல்"}, 0.0F)},
          {"text", textValue(button, label.text, "std::string(\"Click\")")}});
     emitColours(button, label);
     emitSize(button, label);

@@ -40,7 +40,7 @@ void emitBody(const WidgetWriter& card) {
     if (elevation > 0.0f) {
         float shadowBlur = elevation * 3.0f;
         float shadowOffsetY = elevation * 1.5f;
-        NVGpaint shadowPaint = nvgBoxGradient(vg, cardX, cardY + shadowOffsetY, cardW, cardH, radius, shadowBlur, nvgRGBA(0, 0, 0, 80), nvgRGBA(0, 0, 0, 0));
+        NVGpaint shadowPaint = nvgBoxGradient(vg, cardX, cardY + shadowOffsetY, cardW, cardH, radius, shadowBlur, nvgRGBA(0,0,0,80), nvgRGBA(0,0,0,0));
         nvgBeginPath(vg);
         nvgRect(vg, cardX - shadowBlur - 5, cardY - shadowBlur - 5, cardW + (shadowBlur * 2) + 10, cardH + (shadowBlur * 2) + 10);
         nvgRoundedRect(vg, cardX, cardY, cardW, cardH, radius);

@@ -43,7 +43,7 @@ void emitScrolling(const WidgetWriter& column, float contentHeight) {
                  {{"contentH", floatConstant(contentHeight)}});
     emitScrollLimits(column, AXIS, "contentH", "colH");
     emitClip(column, "colX", "colY", "colW", "colH");
-    emitScrollToId(column, "scrollY", "colY", "y");
+    emitScrollToId(column, "scrollY", "colY", SCROLL_Y);
 }
 
 void emitScrollBar(const WidgetWriter& column) {
@@ -92,9 +92,8 @@ void emitFreeChild(const WidgetWriter& column, const WidgetNode& child) {
 
 void emitChild(const WidgetWriter& column, const WidgetNode& child) {
     emitChildWidth(column, child);
-    const float share = flexShare(child);
-    if (share > 0.0F) {
-        const std::string height = child.kind == "நெகிழ்வு" ? "unitFlexH * " + floatConstant(share) : "unitFlexH";
+    if (const std::optional<float> share = flexShare(child)) {
+        const std::string height = child.kind == "நெகிழ்வு" ? "unitFlexH * " + floatConstant(*share) : "unitFlexH";
         column.block("    forcedH = $height;\n", {{"height", height}});
         emitFreeChild(column, child);
         column.block("    currentY += $height + spacing;\n", {{"height", height}});

@@ -35,9 +35,9 @@ void emitBody(const WidgetWriter& dialog) {
         R"(
     pozhil_dim_page(alertX, alertY, alertW, alertH, radius);
     if (shadow > 0.0f) {
-        NVGpaint shadowPaint = nvgBoxGradient(vg, alertX, alertY + (shadow * 1.5f), alertW, alertH, radius, shadow * 4.0f, nvgRGBA(0, 0, 0, 80), nvgRGBA(0, 0, 0, 0));
+        NVGpaint shadowPaint = nvgBoxGradient(vg, alertX, alertY + (shadow * 1.5f), alertW, alertH, radius, shadow * 4.0f, nvgRGBA(0,0,0,80), nvgRGBA(0,0,0,0));
         nvgBeginPath(vg);
-        nvgRect(vg, alertX - shadow * 5 - 10, alertY - shadow * 5 - 10, alertW + shadow * 10 + 20, alertH + shadow * 12 + 20);
+        nvgRect(vg, alertX - shadow*5 - 10, alertY - shadow*5 - 10, alertW + shadow*10 + 20, alertH + shadow*12 + 20);
         nvgRoundedRect(vg, alertX, alertY, alertW, alertH, radius);
         nvgPathWinding(vg, NVG_HOLE);
         nvgFillPaint(vg, shadowPaint);

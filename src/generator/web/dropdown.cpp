@@ -29,8 +29,7 @@ void emitState(const WidgetWriter& dropdown) {
     emitOwnSize(dropdown, "ddW", "ddH");
     dropdown.block(R"(
     ddW = responsiveW(ddW, winWidth, 0.0f);
-    static bool isOpen_$n = false;
-    static int selectedIndex_$n = -1;
+    static bool isOpen_$n = false; static int selectedIndex_$n = -1;
 )");
     emitItems(dropdown);
     dropdown.block(R"(

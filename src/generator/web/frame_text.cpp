@@ -108,7 +108,7 @@ const std::string_view frame_text::TAIL = R"(
             int sb_b = global_vars.count("sb_bg_b") ? std::any_cast<int>(global_vars["sb_bg_b"]) : 50;
             nvgBeginPath(vg);
             nvgRect(vg, barX - 20, currentY - 20, barW + 40, barH + 40);
-            nvgFillPaint(vg, nvgBoxGradient(vg, barX, currentY + 5, barW, barH, 12, 15, nvgRGBA(0, 0, 0, 100), nvgRGBA(0, 0, 0, 0)));
+            nvgFillPaint(vg, nvgBoxGradient(vg, barX, currentY + 5, barW, barH, 12, 15, nvgRGBA(0,0,0,100), nvgRGBA(0,0,0,0)));
             nvgFill(vg);
             nvgBeginPath(vg);
             nvgRoundedRect(vg, barX, currentY, barW, barH, 12);
@@ -180,7 +180,7 @@ int main() {
     nvgFillColor(vg, nvgRGBA(255, 255, 255, 255));
     emscripten_run_script(
         "var style = document.createElement('style');"
-        "style.textContent = \"@import url('https://fonts.googleapis.com/css2?family=Noto+Sans+Tamil:wght@400;700&display=swap');"
+        "style.textContent = \"@import url('https://$fontHost/css2?family=Noto+Sans+Tamil:wght@400;700&display=swap');"
         " canvas { font-variant-ligatures: common-ligatures; font-feature-settings: 'liga' 1, 'clig' 1, 'kern' 1;"
         " text-rendering: optimizeLegibility; -webkit-font-smoothing: antialiased; }\";"
         "document.head.appendChild(style);"

@@ -10,7 +10,7 @@ namespace pozhil::frame_text {
 extern const std::string_view HEAD;
 /// The end of the frame function: overlays, the message bar, input fields that are no longer drawn.
 extern const std::string_view TAIL;
-/// main. Holes: width, height and title of the window.
+/// main. Holes: width, height and title of the window, and the fontHost that the font of the page comes from.
 extern const std::string_view MAIN;
 
 } // namespace pozhil::frame_text

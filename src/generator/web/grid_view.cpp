@@ -1,5 +1,5 @@
 #include "generator/web/lists.h"
-#include "generator/web/metrics.h"
+#include "generator/web/literals.h"
 #include "generator/web/widget_writer.h"
 
 #include <algorithm>
@@ -21,11 +21,11 @@ std::string gapOf(const WidgetNode& grid, const char* spacerSize, std::initializ
     for (const auto& property : grid.properties) {
         const WidgetNode* spacer = asWidget(property.second.get());
         if (spacer != nullptr && spacer->kind == "இவெ") {
-            gap = numberOf(findProperty(*spacer, {spacerSize})).value_or(gap);
+            gap = constantOf(findProperty(*spacer, {spacerSize})).value_or(gap);
         }
     }
     for (const char* name : names) {
-        gap = numberOf(findProperty(grid, {name})).value_or(gap);
+        gap = constantOf(findProperty(grid, {name})).value_or(gap);
     }
     return floatConstant(gap);
 }
@@ -76,7 +76,7 @@ void emitGridView(const WidgetWriter& grid) {
         {{"cols", std::to_string(columnsOf(widget))},
          {"gapH", gapOf(widget, "அகலம்", {"h_gap", "கி_இவெ"})},
          {"gapV", gapOf(widget, "உயரம்", {"v_gap", "நெ_இவெ"})},
-         {"width", floatConstant(numberOf(findProperty(widget, {"width", "அகலம்"})).value_or(grid.widthOf(widget)))}});
+         {"width", floatConstant(constantOf(findProperty(widget, {"width", "அகலம்"})).value_or(grid.widthOf(widget)))}});
     for (const WidgetNode* child : childWidgets(widget)) {
         emitCell(grid, *child);
     }

@@ -1,7 +1,6 @@
 #include "generator/web/layout_children.h"
 
 #include "generator/web/literals.h"
-#include "generator/web/metrics.h"
 #include "generator/web/sizes.h"
 #include "generator/web/widget_writer.h"
 
@@ -17,17 +16,18 @@ LayoutChildren::LayoutChildren(const WidgetWriter& layout)
         heightSum += layout.heightOf(*child);
         largestWidth = std::max(largestWidth, layout.widthOf(*child));
         largestHeight = std::max(largestHeight, layout.heightOf(*child));
-        totalFlex += flexShare(*child);
+        totalFlex += flexShare(*child).value_or(0.0F);
     }
     gaps = widgets.size() > 1 ? static_cast<float>(widgets.size() - 1) * spacing : 0.0F;
 }
 
-float flexShare(const WidgetNode& child) {
+std::optional<float> flexShare(const WidgetNode& child) {
     if (child.kind == "நெகிழ்வு") {
         const auto* flexible = dynamic_cast<const FlexibleNode*>(&child);
         return flexible == nullptr ? 1.0F : static_cast<float>(flexible->flex);
     }
-    return child.kind == "விரிவாக்கம்" || child.kind == "வெற்றிடம்" ? 1.0F : 0.0F;
+    const bool isFlex = child.kind == "விரிவாக்கம்" || child.kind == "வெற்றிடம்";
+    return isFlex ? std::optional(1.0F) : std::nullopt;
 }
 
 bool hasScrollBar(const WidgetNode& layout) {
@@ -56,7 +56,7 @@ void emitShares(const WidgetWriter& layout, const LayoutChildren& children, cons
                   {"flex", floatConstant(children.totalFlex)},
                   {"spacing", floatConstant(children.spacing)}});
     for (const WidgetNode* child : children.widgets) {
-        if (flexShare(*child) > 0.0F) {
+        if (flexShare(*child)) {
             continue;
         }
         std::string size = floatConstant((layout.*axis.sizeOf)(*child));
@@ -109,18 +109,20 @@ void emitClipEnd(const WidgetWriter& layout) {
 )");
 }
 
-void emitScrollToId(const WidgetWriter& layout, const char* offset, const char* start, const char* axis) {
+void emitScrollToId(const WidgetWriter& layout, const char* offset, const char* start, const ScrollAxis& axis) {
     layout.block(R"(
     if (!g_scrollToId.empty() && g_widgetPositions.count(g_scrollToId)) {
-        float error = g_widgetPositions[g_scrollToId].$axis - ($start + 50.0f);
+        float target${letter}_id = g_widgetPositions[g_scrollToId].$axis;
+        float desired$letter = $start + 50.0f;
+        float error = target${letter}_id - desired$letter;
         ${offset}_$n += error * 0.1f;
         bool hitLimit = false;
         if (${offset}_$n <= 0.5f) { ${offset}_$n = 0.0f; hitLimit = (error < 0); }
-        if (${offset}_$n >= maxScroll - 0.5f) { ${offset}_$n = maxScroll; hitLimit = hitLimit || (error > 0); }
+        if (${offset}_$n >= maxScroll - 0.5f) { ${offset}_$n = maxScroll; hitLimit = (error > 0); }
         if (std::abs(error) < 2.0f || hitLimit) g_scrollToId = "";
     }
 )",
-                 {{"offset", offset}, {"start", start}, {"axis", axis}});
+                 {{"offset", offset}, {"start", start}, {"axis", axis.property}, {"letter", axis.letter}});
 }
 
 } // namespace pozhil

@@ -3,6 +3,8 @@
 #include "parser/syntax_tree.h"
 
 #include <initializer_list>
+#include <optional>
+#include <vector>
 
 namespace pozhil {
 
@@ -24,8 +26,8 @@ struct LayoutChildren {
     float totalFlex = 0;
 };
 
-/// How many shares of the free space a child takes; 0 for a child with a size of its own.
-float flexShare(const WidgetNode& child);
+/// How many shares of the free space a child takes; nothing for a child with a size of its own.
+std::optional<float> flexShare(const WidgetNode& child);
 
 /// Whether the layout scrolls.
 bool hasScrollBar(const WidgetNode& layout);
@@ -58,11 +60,19 @@ void emitShares(const WidgetWriter& layout, const LayoutChildren& children, cons
 /// \param content, visible names of the variables that hold the two sizes
 void emitScrollLimits(const WidgetWriter& layout, const LayoutAxis& axis, const char* content, const char* visible);
 
+/// An axis as positions name it, and as it ends the names of variables.
+struct ScrollAxis {
+    const char* property;
+    const char* letter;
+};
+
+constexpr ScrollAxis SCROLL_X = {"x", "X"};
+constexpr ScrollAxis SCROLL_Y = {"y", "Y"};
+
 /// How a scrolling layout eases towards the widget that the program wants to see.
 ///
 /// \param offset name of the variable that holds how far it is scrolled
 /// \param start where the layout begins, along the axis
-/// \param axis "x" or "y"
-void emitScrollToId(const WidgetWriter& layout, const char* offset, const char* start, const char* axis);
+void emitScrollToId(const WidgetWriter& layout, const char* offset, const char* start, const ScrollAxis& axis);
 
 } // namespace pozhil

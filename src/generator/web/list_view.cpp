@@ -20,7 +20,7 @@ void emitScrolling(const WidgetWriter& list) {
     if (scrollOffset_$n < 0.0f) scrollOffset_$n = 0.0f;
     if (scrollOffset_$n > maxScroll) scrollOffset_$n = maxScroll;
 )");
-    emitScrollToId(list, "scrollOffset", "listStartY", "y");
+    emitScrollToId(list, "scrollOffset", "listStartY", SCROLL_Y);
 }
 
 void emitScrollBar(const WidgetWriter& list) {

@@ -1,7 +1,6 @@
 #include "generator/web/literals.h"
 
 #include "generator/web/emitted_block.h"
-#include "generator/web/metrics.h"
 #include "generator/web/widget_writer.h"
 #include "scanner/number_text.h"
 
@@ -15,6 +14,11 @@ std::string textOf(const Expression* value) {
 bool isTrue(const Expression* value) {
     const auto* truth = nodeCast<BooleanLiteral>(value);
     return truth != nullptr && truth->value == "மெய்";
+}
+
+std::optional<float> numberOf(const Expression* expression) {
+    const auto* number = nodeCast<NumberLiteral>(expression);
+    return number == nullptr ? std::nullopt : std::optional(floatOf(number->value));
 }
 
 std::optional<float> constantOf(const Expression* value) {

@@ -17,6 +17,9 @@ std::string textOf(const Expression* value);
 /// Whether it is the word மெய்.
 bool isTrue(const Expression* value);
 
+/// The value of a whole number as the source writes it, with Tamil digits too; nothing for any other expression.
+std::optional<float> numberOf(const Expression* expression);
+
 /// A number as the source writes it: whole or with a fraction, with or without a minus. Nothing for anything else.
 std::optional<float> constantOf(const Expression* value);
 

@@ -2,9 +2,6 @@
 
 #include "parser/syntax_tree.h"
 
-#include <cstddef>
-#include <optional>
-#include <string>
 #include <unordered_map>
 
 namespace pozhil {
@@ -24,11 +21,5 @@ private:
     std::unordered_map<const Statement*, float> widths_;
     std::unordered_map<const Statement*, float> heights_;
 };
-
-/// Code points of \p text; a Tamil letter may have several.
-std::size_t countCodePoints(const std::string& text);
-
-/// The value of a whole number as the source writes it, with Tamil digits too; nothing for any other expression.
-std::optional<float> numberOf(const Expression* expression);
 
 } // namespace pozhil

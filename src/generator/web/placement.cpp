@@ -3,7 +3,6 @@
 #include "generator/web/layout.h"
 #include "generator/web/layout_children.h"
 #include "generator/web/literals.h"
-#include "generator/web/metrics.h"
 #include "generator/web/sizes.h"
 #include "generator/web/widget_writer.h"
 

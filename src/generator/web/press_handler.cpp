@@ -11,13 +11,21 @@ bool isDrawnInPlace(const Expression* handler) {
     return drawn != nullptr && dynamic_cast<const SnackBarNode*>(drawn) == nullptr;
 }
 
+/// \p lines, outlived by the page whatever they throw. A call that stands in place of a function has run, and may have
+/// thrown, by the time its value is there.
+Filling guarded(const WidgetWriter& widget, const Filling& lines) {
+    return widget.blocks([&widget, lines] {
+        widget.block("try {\n    $lines\n} catch (...) {\n}\n", {{"lines", lines}});
+    });
+}
+
 } // namespace
 
 Filling handlerCall(const WidgetWriter& widget, const Expression* handler) {
     if (isDrawnInPlace(handler)) {
         return widget.blocks([&widget, handler] { widget.child(*asWidget(handler), "0.0f", "0.0f"); });
     }
-    return widget.blocks([&widget, handler] {
+    return guarded(widget, widget.blocks([&widget, handler] {
         widget.block(R"(
 std::any callback = $handler;
 try {
@@ -28,7 +36,7 @@ try {
 }
 )",
                      {{"handler", widget.expression(handler)}});
-    });
+    }));
 }
 
 Filling changeHandler(const WidgetWriter& widget) {
@@ -44,9 +52,9 @@ Filling pressValue(const WidgetWriter& widget) {
     if (isDrawnInPlace(handler)) {
         return handlerCall(widget, handler);
     }
-    return widget.blocks([&widget, handler] {
+    return guarded(widget, widget.blocks([&widget, handler] {
         widget.block("std::any callback = $handler;\n", {{"handler", widget.expression(handler)}});
-    });
+    }));
 }
 
 bool isDisabled(const WidgetNode& widget) {
@@ -77,15 +85,7 @@ Filling pressHandler(const WidgetWriter& widget) {
     if (statements.empty()) {
         return "";
     }
-    return widget.blocks([&widget, &statements] {
-        widget.block(R"(
-try {
-    $statements
-} catch (...) {
-}
-)",
-                     {{"statements", widget.statements(statements)}});
-    });
+    return guarded(widget, widget.statements(statements));
 }
 
 } // namespace pozhil

@@ -23,8 +23,7 @@ void emitSelection(const WidgetWriter& radio, const Expression* value, const Exp
                     {{"value", radio.expression(value)}, {"group", radio.expression(group)}});
     } else {
         radio.block(R"(
-    static bool demoState_$n = false;
-    isSelected = demoState_$n;
+    static bool demoState_$n = false; isSelected = demoState_$n;
 )");
     }
 }

@@ -40,7 +40,7 @@ void emitScrolling(const WidgetWriter& row, float contentWidth) {
               {{"contentW", floatConstant(contentWidth)}});
     emitScrollLimits(row, AXIS, "contentW", "rowW");
     emitClip(row, "rowX", "rowY", "rowW", "rowH");
-    emitScrollToId(row, "scrollX", "rowX", "x");
+    emitScrollToId(row, "scrollX", "rowX", SCROLL_X);
 }
 
 void emitScrollBar(const WidgetWriter& row) {
@@ -67,7 +67,7 @@ void emitChildTop(const WidgetWriter& row, const WidgetNode& child) {
                                        : "rowY + (containerH - childH_val) / 2.0f"}});
 }
 
-/// Draws the child with \p width imposed on it; -1.0f leaves it free.
+/// Draws the child with \p width imposed on it; -1.0f leaves it free. A flexible spacer draws nothing.
 void emitPlacedChild(const WidgetWriter& row, const WidgetNode& child, const char* width) {
     if (child.kind == "வெற்றிடம்") {
         return;
@@ -83,10 +83,12 @@ void emitPlacedChild(const WidgetWriter& row, const WidgetNode& child, const cha
 }
 
 void emitChild(const WidgetWriter& row, const WidgetNode& child) {
-    const float share = flexShare(child);
-    if (share > 0.0F) {
-        row.block("    float current_wW = $width;\n",
-                  {{"width", child.kind == "நெகிழ்வு" ? "unitFlexW * " + floatConstant(share) : "unitFlexW"}});
+    const std::optional<float> share = flexShare(child);
+    const bool isOneShare = share && child.kind != "நெகிழ்வு";
+    if (isOneShare) {
+        emitPlacedChild(row, child, "unitFlexW");
+    } else if (share) {
+        row.block("    float current_wW = unitFlexW * $share;\n", {{"share", floatConstant(*share)}});
         emitPlacedChild(row, child, "current_wW");
     } else if (child.kind == "இவெ") {
         row.block("    float current_wW = 0.0f;\n");
@@ -95,7 +97,7 @@ void emitChild(const WidgetWriter& row, const WidgetNode& child) {
         row.block("    float current_wW = $width;\n", {{"width", floatConstant(row.widthOf(child))}});
         emitPlacedChild(row, child, "-1.0f");
     }
-    row.block("    currentX += current_wW + spacing;\n");
+    row.block("    currentX += $width + spacing;\n", {{"width", isOneShare ? "unitFlexW" : "current_wW"}});
 }
 
 } // namespace

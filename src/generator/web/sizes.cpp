@@ -61,7 +61,8 @@ std::string processPercentage(const Expression* expression, const std::string& b
         return endsInPercent(text->value) ? percentOf(text->value, base) : "";
     }
     if (const auto* number = nodeCast<NumberLiteral>(expression)) {
-        return toAsciiDigits(number->value) + ".0f";
+        const bool isWhole = number->value.find('.') == std::string::npos;
+        return toAsciiDigits(number->value) + (isWhole ? ".0f" : "f");
     }
     if (const auto* grouping = nodeCast<GroupingExpression>(expression)) {
         const std::string inner = processPercentage(grouping->inner.get(), base);
@@ -107,7 +108,16 @@ std::pair<float, float> getAlignmentCoords(சீரமைப்பு_வகை
     if (value < 0 || value >= POSITIONS * POSITIONS) {
         return {-1.0F, -1.0F};
     }
-    return {static_cast<float>(value % POSITIONS - 1), static_cast<float>(value / POSITIONS - 1)};
+    const int column = value % POSITIONS - 1;
+    const int line = value / POSITIONS - 1;
+    return {static_cast<float>(column), static_cast<float>(line)};
+}
+
+void calculateAlign(சீரமைப்பு_வகை alignment, float parentW, float parentH, float childW, float childH, float& outX,
+                    float& outY) {
+    const auto [x, y] = getAlignmentCoords(alignment);
+    outX = (1 + x) * (parentW - childW) / 2;
+    outY = (1 + y) * (parentH - childH) / 2;
 }
 
 } // namespace pozhil

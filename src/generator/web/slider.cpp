@@ -7,11 +7,9 @@
 namespace pozhil {
 namespace {
 
-/// The range, the rectangle and the value, which is no number of the range until the first frame.
-void emitState(const WidgetWriter& slider) {
+void emitRangeAndSize(const WidgetWriter& slider) {
     constexpr float LARGEST = 100.0F;
     const WidgetNode& widget = slider.widget();
-    const Expression* value = findProperty(widget, {"மதிப்பு"});
     slider.block(R"(
 {
     float minVal = $min; float maxVal = $max;
@@ -25,6 +23,20 @@ void emitState(const WidgetWriter& slider) {
     slW = responsiveW(slW, winWidth, 0.0f);
     float slH = 20.0f;
     bool isDragging = false;
+)");
+}
+
+/// The button itself is asked: a drag goes on behind the frame of the click.
+void emitButtonState(const WidgetWriter& slider) {
+    slider.block(R"(
+    bool isMouseDown = glfwGetMouseButton(window, GLFW_MOUSE_BUTTON_LEFT) == GLFW_PRESS;
+)");
+}
+
+/// The value is no number of the range until the first frame.
+void emitValue(const WidgetWriter& slider) {
+    const Expression* value = findProperty(slider.widget(), {"மதிப்பு"});
+    slider.block(R"(
     static float currentVal_$n = -99999.0f;
     if (currentVal_$n == -99999.0f) currentVal_$n = $value;
 )",
@@ -36,7 +48,6 @@ void emitDrag(const WidgetWriter& slider) {
     slider.block(R"(
     float mx = pozhil_mouse_x();
     float my = pozhil_mouse_y();
-    bool isMouseDown = glfwGetMouseButton(window, GLFW_MOUSE_BUTTON_LEFT) == GLFW_PRESS;
     bool isHover = mx >= slX - 10 && mx <= slX + slW + 10 && my >= slY - 10 && my <= slY + slH + 10;
     if (isHover) {
         pozhil_pointer_cursor();
@@ -89,8 +100,13 @@ void emitTrackAndThumb(const WidgetWriter& slider) {
 } // namespace
 
 void emitSlider(const WidgetWriter& slider) {
-    emitState(slider);
-    if (!isDisabled(slider.widget())) {
+    const bool isEnabled = !isDisabled(slider.widget());
+    emitRangeAndSize(slider);
+    if (isEnabled) {
+        emitButtonState(slider);
+    }
+    emitValue(slider);
+    if (isEnabled) {
         emitDrag(slider);
     }
     emitTrackAndThumb(slider);

@@ -23,8 +23,7 @@ void emitBar(const WidgetWriter& bar) {
 {
     float tbX = $x; float tbY = $y;
     float tbW = winWidth; float tbH = 50.0f;
-    static int curTabIdx_$n = $initial;
-    int& curTabIdx = curTabIdx_$n;
+    static int curTabIdx_$n = $initial; int& curTabIdx = curTabIdx_$n;
     nvgBeginPath(vg);
     nvgRect(vg, tbX, tbY, tbW, tbH);
     nvgFillColor(vg, $fill);

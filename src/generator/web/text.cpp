@@ -68,7 +68,7 @@ void emitText(const WidgetWriter& text) {
                {{"size", floatConstant(fontSizeOf(style))},
                 {"align", style.align.empty() ? "இடது" : style.align},
                 {"colour", cssColour(styleColour(style.color.empty() ? "#000000" : style.color))},
-                {"weight", style.weight.empty() ? "400" : style.weight},
+                {"weight", weightOf(style)},
                 {"underline", style.underline ? "true" : "false"},
                 {"font", style.font}});
 }

@@ -1,6 +1,6 @@
 #include "generator/web/button.h"
 #include "generator/web/colours.h"
-#include "generator/web/metrics.h"
+#include "generator/web/literals.h"
 #include "generator/web/press_handler.h"
 #include "generator/web/widget_writer.h"
 
@@ -46,14 +46,10 @@ void emitPress(const WidgetWriter& button) {
 void emitTextButton(const WidgetWriter& button) {
     constexpr float USUAL_SIZE = 16.0F;
     const WidgetNode& widget = button.widget();
-    const auto colour = [&](const char* name, const char* usual) {
-        return cssColour(colourOf(findProperty(widget, {name})).value_or(styleColour(usual)));
-    };
     button.block(R"(
 {
     const char* txt = u8"$text"; float fs = $size; float bX = $x; float bY = $y;
-    nvgFontSize(vg, fs);
-    nvgFontFace(vg, "sans");
+    nvgFontSize(vg, fs); nvgFontFace(vg, "sans");
     float bounds[4] = {0.0f, 0.0f, 0.0f, 0.0f};
     nvgTextBounds(vg, 0, 0, txt, NULL, bounds);
     float bW = (bounds[2] - bounds[0]) + 16.0f;
@@ -62,8 +58,7 @@ void emitTextButton(const WidgetWriter& button) {
     float my = pozhil_mouse_y();
     bool isHov = mx >= bX && mx <= bX + bW && my >= bY && my <= bY + bH;
 )",
-                 {{"text", labelText(widget)},
-                  {"size", floatConstant(numberOf(findProperty(widget, {"style_அளவு"})).value_or(USUAL_SIZE))}});
+                 {{"text", labelText(widget)}, {"size", numberConstant(widget, {"style_அளவு"}, USUAL_SIZE)}});
     emitPress(button);
     button.block(
         R"(
@@ -72,7 +67,8 @@ void emitTextButton(const WidgetWriter& button) {
     drawFixedText(bX + (bW / 2.0f), bY + (bH / 2.0f) - (fs / 2.0f) + 2.0f, txt, activeColor.c_str(), fs, "center", "400", false, "");
 }
 )",
-        {{"hover", colour("style_மேம்படுத்தப்பட்ட_நிறம்", "#3AAD68")}, {"colour", colour("style_நிறம்", "#ffffff")}});
+        {{"hover", cssColour(colourProperty(widget, {"style_மேம்படுத்தப்பட்ட_நிறம்"}, "#3AAD68"))},
+         {"colour", cssColour(colourProperty(widget, {"style_நிறம்"}, "#ffffff"))}});
 }
 
 } // namespace pozhil

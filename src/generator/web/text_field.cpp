@@ -1,24 +1,41 @@
 #include "generator/web/colours.h"
 #include "generator/web/input.h"
 #include "generator/web/literals.h"
-#include "generator/web/metrics.h"
 #include "generator/web/widget_writer.h"
+
+#include <array>
 
 namespace pozhil {
 namespace {
 
 constexpr const char* NO_ID = "default_id";
 
+/// A variable of the emitted block, and the properties that may say its value.
+struct BoxNumber {
+    const char* variable;
+    const char* styleName;
+    const char* name;
+};
+
 void emitBox(const WidgetWriter& field) {
-    constexpr float WIDTH = 320.0F;
-    constexpr float HEIGHT = 50.0F;
-    constexpr float RADIUS = 8.0F;
+    constexpr std::array<BoxNumber, 3> NUMBERS = {{
+        {"tbW", "style_அகலம்", "அகலம்"},
+        {"tbH", "style_உயரம்", "உயரம்"},
+        {"radius", "style_வளைவு", "வளைவு"},
+    }};
     constexpr float BORDER = 1.0F;
     const WidgetNode& widget = field.widget();
     field.block(R"(
 {
     float tbX = std::floor($x); float tbY = std::floor($y);
-    float tbW = $width, tbH = $height, radius = $radius, fSize = 16.0f;
+    float tbW = 320.0f, tbH = 50.0f, radius = 8.0f, fSize = 16.0f;
+)");
+    for (const BoxNumber& one : NUMBERS) {
+        if (const std::optional<float> number = constantOf(findProperty(widget, {one.styleName, one.name}))) {
+            field.block("    $variable = $number;\n", {{"variable", one.variable}, {"number", floatConstant(*number)}});
+        }
+    }
+    field.block(R"(
     tbW = responsiveW(tbW, winWidth, 40.0f);
     if (forcedW > 0.0f) tbW = forcedW;
     nvgBeginPath(vg);
@@ -29,10 +46,7 @@ void emitBox(const WidgetWriter& field) {
     nvgFill(vg);
     nvgStroke(vg);
 )",
-                {{"width", numberConstant(widget, {"style_அகலம்", "அகலம்"}, WIDTH)},
-                 {"height", numberConstant(widget, {"style_உயரம்", "உயரம்"}, HEIGHT)},
-                 {"radius", numberConstant(widget, {"style_வளைவு", "வளைவு"}, RADIUS)},
-                 {"fill", floatColour(colourProperty(widget, {"style_களப்பின்னணி", "பின்னணி"}, "#FFFFFF"))},
+                {{"fill", floatColour(colourProperty(widget, {"style_களப்பின்னணி", "பின்னணி"}, "#FFFFFF"))},
                  {"border", floatColour(colourProperty(widget, {"style_கரை_நிறம்", "கரை_நிறம்"}, "#E5E7EB"))},
                  {"borderWidth", numberConstant(widget, {"style_கரை_அளவு", "கரை_அளவு"}, BORDER)}});
 }

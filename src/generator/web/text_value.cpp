@@ -60,4 +60,8 @@ float fontSizeOf(const TextStyle& style) {
     return style.size > 0 ? style.size : USUAL;
 }
 
+std::string weightOf(const TextStyle& style) {
+    return style.weight.empty() ? "400" : style.weight;
+}
+
 } // namespace pozhil

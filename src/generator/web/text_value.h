@@ -3,6 +3,8 @@
 #include "generator/web/emitted_block.h"
 #include "parser/syntax_tree.h"
 
+#include <string>
+
 namespace pozhil {
 
 class WidgetWriter;
@@ -26,5 +28,8 @@ Filling truthValue(const WidgetWriter& widget, const Expression* value);
 
 /// The size that a text style asks for, in pixels before it follows the window.
 float fontSizeOf(const TextStyle& style);
+
+/// The weight that a text is drawn with, as CSS writes it.
+std::string weightOf(const TextStyle& style);
 
 } // namespace pozhil

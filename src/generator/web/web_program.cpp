@@ -32,7 +32,8 @@ void Generator::emitWebMain(const ScreenConfig& screen, const std::string& title
     writeBlock(out_, frame_text::MAIN,
                {{"width", floatConstant(screen.useDefault ? DEFAULT_WIDTH : screen.width)},
                 {"height", floatConstant(screen.useDefault ? DEFAULT_HEIGHT : screen.height)},
-                {"title", title}});
+                {"title", title},
+                {"fontHost", POZHIL_WEB_FONT_HOST}});
 }
 
 } // namespace pozhil

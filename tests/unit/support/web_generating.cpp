@@ -12,10 +12,22 @@ std::string webText(const std::string& source) {
     return ownPart(generatedText(source));
 }
 
-std::string frameOf(const std::string& widget) {
-    const std::string text = webText(app("", widget));
+namespace {
+
+std::string frameIn(const std::string& text) {
     const std::size_t begin = text.find("float forcedW = -1.0f;");
     return text.substr(begin, text.find("window.savedMouseX", begin) - begin);
+}
+
+} // namespace
+
+std::string frameOf(const std::string& widget) {
+    return frameIn(webText(app("", widget)));
+}
+
+std::string frameOf(std::unique_ptr<WidgetNode> widget) {
+    StatementPtr page = make<WebAppNode>("கடை", nullptr, nullptr, std::move(widget), nullptr);
+    return frameIn(ownPart(generatedText("", listOf(std::move(page)))));
 }
 
 void expectInOrder(const std::string& text, const std::vector<std::string>& pieces) {

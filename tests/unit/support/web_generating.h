@@ -13,8 +13,9 @@ std::string app(const std::string& header, const std::string& body = "", const s
 /// What a web program adds to the runtime.
 std::string webText(const std::string& source);
 
-/// The frame function of a page whose body is \p widget.
+/// The frame function of a page whose body is \p widget: as the source writes it, or a tree that no source has.
 std::string frameOf(const std::string& widget);
+std::string frameOf(std::unique_ptr<WidgetNode> widget);
 
 /// Asserts that \p pieces stand in \p text, one behind the other.
 void expectInOrder(const std::string& text, const std::vector<std::string>& pieces);

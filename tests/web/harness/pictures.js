@@ -26,16 +26,14 @@ function chunk(type, data) {
 
 /// A PNG whose left half has one colour, [red, green, blue], and whose right half another.
 export function png(size, left, right = left) {
-    const lines = [];
-    for (let y = 0; y < size; y++) {
-        lines.push(0);
-        for (let x = 0; x < size; x++) {
-            lines.push(...(x < size / 2 ? left : right), 255);
-        }
+    const line = Buffer.alloc(1 + 4 * size);
+    for (let x = 0; x < size; x++) {
+        line.set([...(x < size / 2 ? left : right), 255], 1 + 4 * x);
     }
     const header = Buffer.concat([number32(size), number32(size), Buffer.from([8, 6, 0, 0, 0])]);
     return Buffer.concat([Buffer.from([137, 80, 78, 71, 13, 10, 26, 10]), chunk('IHDR', header),
-                          chunk('IDAT', deflateSync(Buffer.from(lines))), chunk('IEND', Buffer.alloc(0))]);
+                          chunk('IDAT', deflateSync(Buffer.alloc(line.length * size, line))),
+                          chunk('IEND', Buffer.alloc(0))]);
 }
 
 /// The pixels of one frame, all of the same colour of the table, in codes of three bits: each second code clears the
@@ -86,3 +84,24 @@ export const jpeg = Buffer.from(
     + 'AQMEBAUEBQkFBQkUDQsNFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBQUFBT/wAARCAAQABADASIAAhEB'
     + 'AxEB/8QAFQABAQAAAAAAAAAAAAAAAAAABwj/xAAUEAEAAAAAAAAAAAAAAAAAAAAA/8QAFQEBAQAAAAAAAAAAAAAAAAAABwj/xAAYEQACAwAA'
     + 'AAAAAAAAAAAAAAAACEWDw//aAAwDAQACEQMRAD8AnQBH0BHBZZijYo1hoq7I/9k=', 'base64');
+
+/// An SVG of one colour.
+export const svg = colour => '<svg xmlns="http://www.w3.org/2000/svg" width="40" height="40">'
+    + `<rect width="40" height="40" fill="${colour}"/></svg>`;
+
+/// An MP4 of half a second, 64 by 64, red to the left and blue to the right.
+export const mp4 = Buffer.from(
+    'AAAAJGZ0eXBpc29tAAACAGlzb21pc282aXNvMmF2YzFtcDQxAAACy21vb3YAAAB4bXZoZAEAAAAAAAAA5yb5YwAAAADnJvljAAAD6AAAAAAA'
+    + 'AAIaAAEAAAEAAAAAAAAAAAAAAAABAAAAAAAAAAAAAAAAAAAAAQAAAAAAAAAAAAAAAAAAQAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA'
+    + 'AAIAAAIjdHJhawAAAGh0a2hkAQAAAwAAAADnJvljAAAAAOcm+WMAAAABAAAAAAAAAAAAAAIaAAAAAAAAAAAAAAAAAAAAAAABAAAAAAAAAAAA'
+    + 'AAAAAAAAAQAAAAAAAAAAAAAAAAAAQAAAAABAAAAAQAAAAAABs21kaWEAAAAsbWRoZAEAAAAAAAAA5yb5YwAAAADnJvljAAB1MAAAAAAAAAIa'
+    + 'VcQAAAAAAC1oZGxyAAAAAAAAAAB2aWRlAAAAAAAAAAAAAAAAVmlkZW9IYW5kbGVyAAAAAVJtaW5mAAAAFHZtaGQAAAABAAAAAAAAAAAAAAAl'
+    + 'ZGluZgAAAB1kcmVmAAAAAAAAAAEAAAANdXJsIAAAAAEAAAABEXN0YmwAAAAQc3RzYwAAAAAAAAAAAAAAEHN0dHMAAAAAAAAAAAAAABRzdHN6'
+    + 'AAAAAAAAAAAAAAAAAAAAEHN0Y28AAAAAAAAAAAAAAMVzdHNkAAAAAAAAAAEAAAC1YXZjMQAAAAAAAAABAAAAAQAAAAAAAAAAAAAAAABAAEAA'
+    + 'SAAAAEgAAAAAAAAAAQtBVkMxIENvZGluZwAAAAAAAAAAAAAAAAAAAAAAAAAAABj//wAAABBwYXNwAAAAAQAAAAEAAAAUYnRydAAAAAAAAAAA'
+    + 'AAAAAAAAAChhdmNDAULACv/hABFnQsAKjI1CEk3AQ0BB4RCNQAEABGjOPIAAAAATY29scm5jbHgAAQANAAGAAAAAKG12ZXgAAAAgdHJleAAA'
+    + 'AAAAAAABAAAAAQAAAAAAAAAAAAAAAAAAAJBtb29mAAAAEG1maGQAAAAAAAAAAQAAAHh0cmFmAAAAFHRmaGQAAgAgAAAAAQEBAAAAAAAUdGZk'
+    + 'dAEAAAAAAAAAAAAAAAAAAEh0cnVuAQADBQAAAAYAAACYAgAAAAAAC8QAAAA3AAALzQAAABcAAAvxAAAAFAAAC94AAAAUAAALyAAAABIAAAPn'
+    + 'AAAADQAAAJ1tZGF0AAAAM2W4AAQAAAQ///4IooABHxwACMcAAQLJN+H/+CKKD44AAgfRwABA1k3W66d11109dddPXgAAABNh4ABAAL5AQ6E/'
+    + 'Ef0IuQ9yHkuAAAAAEGHgAIABPkCuhO5D8h+Q8lwAAAAQYeAAwAG+QbuB84ndnd5+JgAAAA5h4AEAAj5Hizvn7OyZ/AAAAAlh4AFAAr5BeEYA'
+    + 'AABMbWZyYQAAADR0ZnJhAQAAAAAAAAEAAAA/AAAAAQAAAAAAAAAAAAAAAAAAAu8AAAABAAAAAQAAAAEAAAAQbWZybwAAAAAAAABM', 'base64');

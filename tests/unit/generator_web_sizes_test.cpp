@@ -1,0 +1,115 @@
+// Texts of sizes that the page computes, and where an alignment puts content.
+
+#include "generator/web/sizes.h"
+#include "parser/parser.h"
+#include "scanner/lexer.h"
+#include "support/generating.h"
+
+#include <gtest/gtest.h>
+
+using namespace pozhil;
+
+namespace {
+
+/// An application around one widget.
+class Page {
+public:
+    explicit Page(const std::string& widget)
+        : source_("வலைதளம் (\n தலைமை () குமரி (" + widget + ") வரையறை ()\n)\n"),
+          parser_(Lexer(source_, "நிரல்.பொழில்").tokenize(), source_, "நிரல்.பொழில்"), program_(parser_.parse()) {}
+
+    const WidgetNode* root() const {
+        const auto* app = dynamic_cast<const WebAppNode*>(program_.statements.at(0).get());
+        return dynamic_cast<const WidgetNode*>(app->uiBody.get());
+    }
+
+private:
+    std::string source_;
+    Parser parser_;
+    Program program_;
+};
+
+/// The text of the width that a button of the source asks for.
+std::string sizeText(const std::string& size) {
+    const Page page("பொத்தான்(அகலம்: " + size + ")");
+    return processPercentage(page.root()->properties.at("அகலம்").get(), "B");
+}
+
+TEST(SizeTexts, AreConstantsPercentagesOrChoices) {
+    EXPECT_EQ(sizeText("120"), "120.0f");
+    EXPECT_EQ(sizeText("௧௨"), "12.0f");
+    EXPECT_EQ(sizeText("50%"), "(B * 0.500000f)");
+    EXPECT_EQ(sizeText("\"12.5%\""), "(B * 0.125000f)");
+    EXPECT_EQ(sizeText("(120)"), "(120.0f)");
+    EXPECT_EQ(sizeText("திரை_அகலம் பெரிது 800 ? 400 : 90%"), "((winWidth > 800.0f) ? 400.0f : (B * 0.900000f))");
+    EXPECT_EQ(sizeText("திரை_உயரம்"), "winHeight");
+    EXPECT_EQ(sizeText("அளவு_எண்"), "fn_get_double(global_vars[\"அளவு_எண்\"])");
+}
+
+TEST(SizeTexts, TakeTheNumberAsItStands) {
+    EXPECT_EQ(processPercentage(test::number("62.5").get(), "B"), "62.5f");
+    EXPECT_EQ(sizeText("௫௦%"), "(B * 0.500000f)");
+    EXPECT_EQ(sizeText("100%"), "(B * 1.000000f)");
+    EXPECT_EQ(processPercentage(nullptr, "B"), "");
+}
+
+TEST(SizeTexts, TakeAnyTextAsTheirBase) {
+    EXPECT_EQ(
+        processPercentage(std::make_unique<PercentageLiteral>("25%").get(), "(forcedW > 0.0f ? forcedW : winWidth)"),
+        "((forcedW > 0.0f ? forcedW : winWidth) * 0.250000f)");
+}
+
+TEST(SizeTexts, AreEmptyForAnythingElse) {
+    EXPECT_EQ(sizeText("\"120\""), "");
+    EXPECT_EQ(sizeText("62.5"), "");
+    EXPECT_EQ(sizeText("நீளம்(அ)"), "");
+    EXPECT_EQ(sizeText("அ சமம் 1 ? \"பெரிய\" : 5"), "");
+}
+
+TEST(SizeTexts, KnowEveryComparison) {
+    const std::pair<const char*, const char*> words[] = {{"சமம்", "=="},   {"சமமில்லை", "!="},   {"பெரிது", ">"},
+                                                         {"சிறிது", "<"}, {"பெரிதுசமம்", ">="}, {"சிறிதுசமம்", "<="},
+                                                         {"கூட்டு", "=="}};
+    for (const auto& [word, symbol] : words) {
+        EXPECT_EQ(sizeText("(1 " + std::string(word) + " 2)"), "((1.0f " + std::string(symbol) + " 2.0f))");
+    }
+}
+
+TEST(SizeTexts, ChooseInsideChoices) {
+    EXPECT_EQ(sizeText("திரை_அகலம் சிறிது 600 ? 100% : (திரை_உயரம் பெரிதுசமம் 500 ? \"50%\" : 300)"),
+              "((winWidth < 600.0f) ? (B * 1.000000f) : (((winHeight >= 500.0f) ? (B * 0.500000f) : 300.0f)))");
+}
+
+TEST(Alignment, PutsContentInNinePlaces) {
+    for (int place = 0; place < 9; ++place) {
+        const auto [x, y] = getAlignmentCoords(static_cast<சீரமைப்பு_வகை>(place));
+        EXPECT_FLOAT_EQ(x, static_cast<float>(place % 3 - 1));
+        EXPECT_FLOAT_EQ(y, static_cast<float>(place / 3 - 1));
+    }
+    EXPECT_EQ(getAlignmentCoords(static_cast<சீரமைப்பு_வகை>(9)), std::pair(-1.0F, -1.0F));
+}
+
+TEST(Alignment, SharesOutTheFreeSpace) {
+    struct Case {
+        சீரமைப்பு_வகை alignment;
+        float x;
+        float y;
+    };
+    const Case cases[] = {
+        {சீரமைப்பு_வகை::மேல்_இடது, 0, 0},  {சீரமைப்பு_வகை::மேல்_மையம், 100, 0}, {சீரமைப்பு_வகை::மேல்_வலது, 200, 0},
+        {சீரமைப்பு_வகை::மைய_இடது, 0, 40}, {சீரமைப்பு_வகை::மையம், 100, 40},    {சீரமைப்பு_வகை::மைய_வலது, 200, 40},
+        {சீரமைப்பு_வகை::கீழ்_இடது, 0, 80},  {சீரமைப்பு_வகை::கீழ்_மையம், 100, 80}, {சீரமைப்பு_வகை::கீழ்_வலது, 200, 80},
+    };
+    for (const Case& one : cases) {
+        float x = -1;
+        float y = -1;
+        calculateAlign(one.alignment, 300, 100, 100, 20, x, y);
+        EXPECT_EQ(std::pair(x, y), std::pair(one.x, one.y)) << static_cast<int>(one.alignment);
+    }
+    float x = 0;
+    float y = 0;
+    calculateAlign(சீரமைப்பு_வகை::மையம், 100, 100, 160, 100, x, y);
+    EXPECT_EQ(std::pair(x, y), std::pair(-30.0F, 0.0F)) << "a child larger than its parent";
+}
+
+} // namespace
