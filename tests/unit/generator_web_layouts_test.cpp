@@ -326,4 +326,39 @@ TEST(Gap, IsAComment) {
     EXPECT_THAT(frameOf("இவெ(உயரம்: 30)"), HasSubstr("    // இவெ (Spacer) - Space reserved\n"));
 }
 
+// --- layouts of many children ---
+
+std::string texts(std::size_t count) {
+    std::string children;
+    for (std::size_t number = 0; number < count; ++number) {
+        children += (number == 0 ? "உரை(\"" : ", உரை(\"") + std::to_string(number) + "\")";
+    }
+    return "(" + children + ")";
+}
+
+std::size_t functionsIn(const std::string& text) {
+    std::size_t count = 0;
+    for (std::size_t at = 0; (at = text.find("[&] {\n", at)) != std::string::npos; ++at) {
+        ++count;
+    }
+    return count;
+}
+
+class ManyChildren : public testing::TestWithParam<std::pair<const char*, std::size_t>> {};
+
+TEST_P(ManyChildren, StandInFunctionsOfThirtyTwo) {
+    const auto& [layout, loops] = GetParam();
+    EXPECT_EQ(functionsIn(frameOf(layout + texts(32))), functionsIn(frameOf(layout + texts(1))));
+    EXPECT_EQ(functionsIn(frameOf(layout + texts(33))), functionsIn(frameOf(layout + texts(1))) + 2 * loops);
+    const std::string many = frameOf(layout + texts(100));
+    EXPECT_EQ(functionsIn(many), functionsIn(frameOf(layout + texts(1))) + 4 * loops);
+    EXPECT_THAT(many, HasSubstr("std::string(u8\"0\")"));
+    EXPECT_THAT(many, HasSubstr("std::string(u8\"99\")"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Layouts, ManyChildren,
+                         testing::Values(std::pair("நெடுவரிசை", 2), std::pair("கிடைவரிசை", 2), std::pair("அடுக்கி", 1),
+                                         std::pair("மடிப்பு", 1), std::pair("பெட்டி", 1), std::pair("அட்டை", 1),
+                                         std::pair("பட்டியல்_காட்சி", 2)));
+
 } // namespace

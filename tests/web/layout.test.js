@@ -189,3 +189,17 @@ webTest('sizes in percent and by condition follow the window', application(`
         ]);
     }
 });
+
+const MANY = 1200;
+const lines = Array.from({ length: MANY }, (_, number) => `உரை("வரி ${number}")`);
+
+webTest('a column takes more children than a function of WebAssembly could', application(`
+        நெடுவரிசை(
+            ${lines.join(',\n            ')}
+        )`), async page => {
+    // Texts count as 16 high.
+    near((await page.text('வரி 0')).y, 0);
+    near((await page.text('வரி 33')).y, 33 * 16);
+    near((await page.text(`வரி ${MANY - 1}`)).y, (MANY - 1) * 16);
+    assert.deepEqual(page.errors, []);
+});

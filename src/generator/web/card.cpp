@@ -63,16 +63,16 @@ void emitChildren(const WidgetWriter& card) {
     forcedW = cardW; forcedH = cardH;
     float currentChildY = cardY + 15.0f;
 )");
-    for (const WidgetNode* child : childWidgets(card.widget())) {
+    card.eachChild(childWidgets(card.widget()), [&](const WidgetNode& child) {
         card.block(R"(
     {
         $child
     }
     currentChildY += $height + 10.0f;
 )",
-                   {{"child", card.blocks([&] { card.child(*child, CHILD_X, "currentChildY"); })},
-                    {"height", floatConstant(card.heightOf(*child))}});
-    }
+                   {{"child", card.blocks([&] { card.child(child, CHILD_X, "currentChildY"); })},
+                    {"height", floatConstant(card.heightOf(child))}});
+    });
     card.block("    forcedW = savedForcedW; forcedH = savedForcedH;\n");
 }
 

@@ -134,11 +134,11 @@ void emitColumn(const WidgetWriter& column) {
                   {"contentH", floatConstant(contentHeight)},
                   {"start", scrolls ? "startY - scrollY_" + column.number() : "startY"}});
     emitShares(column, children, AXIS);
-    for (const WidgetNode* child : children.widgets) {
-        if (child->kind != "அசைவூட்டம்") {
-            column.block("    {\n$child\n    }\n", {{"child", column.blocks([&] { emitChild(column, *child); })}});
+    column.eachChild(children.widgets, [&](const WidgetNode& child) {
+        if (child.kind != "அசைவூட்டம்") {
+            column.block("    {\n$child\n    }\n", {{"child", column.blocks([&] { emitChild(column, child); })}});
         }
-    }
+    });
     if (scrolls) {
         emitScrollBar(column);
     }

@@ -82,11 +82,11 @@ void emitContainer(const WidgetWriter& box) {
 )");
     emitClipRectangle(box, "boxX", "boxY", "boxW", "boxH");
     box.block("    float oldForcedW_container = forcedW; float oldForcedH_container = forcedH;\n");
-    for (const WidgetNode* child : childWidgets(box.widget())) {
-        if (child->kind != BOX_STYLE_KIND) {
-            emitChild(box, *child);
+    box.eachChild(childWidgets(box.widget()), [&](const WidgetNode& child) {
+        if (child.kind != BOX_STYLE_KIND) {
+            emitChild(box, child);
         }
-    }
+    });
     box.block("    forcedW = oldForcedW_container; forcedH = oldForcedH_container;\n");
     emitClipEnd(box);
     box.block("}\n");

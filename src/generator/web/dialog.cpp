@@ -58,7 +58,7 @@ void emitDialog(const WidgetWriter& dialog) {
     emitRectangle(dialog);
     emitBody(dialog);
     emitClip(dialog, "alertX", "alertY", "alertW", "alertH");
-    for (const WidgetNode* child : childWidgets(dialog.widget())) {
+    dialog.eachChild(childWidgets(dialog.widget()), [&](const WidgetNode& child) {
         dialog.block(R"(
     {
         float savedForcedW = forcedW, savedForcedH = forcedH;
@@ -67,8 +67,8 @@ void emitDialog(const WidgetWriter& dialog) {
         forcedW = savedForcedW; forcedH = savedForcedH;
     }
 )",
-                     {{"child", dialog.blocks([&] { dialog.child(*child, "alertX", "alertY"); })}});
-    }
+                     {{"child", dialog.blocks([&] { dialog.child(child, "alertX", "alertY"); })}});
+    });
     emitClipEnd(dialog);
     dialog.block("});\n");
 }

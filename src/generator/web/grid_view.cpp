@@ -77,9 +77,7 @@ void emitGridView(const WidgetWriter& grid) {
          {"gapH", gapOf(widget, "அகலம்", {"h_gap", "கி_இவெ"})},
          {"gapV", gapOf(widget, "உயரம்", {"v_gap", "நெ_இவெ"})},
          {"width", floatConstant(constantOf(findProperty(widget, {"width", "அகலம்"})).value_or(grid.widthOf(widget)))}});
-    for (const WidgetNode* child : childWidgets(widget)) {
-        emitCell(grid, *child);
-    }
+    grid.eachChild(childWidgets(widget), [&](const WidgetNode& child) { emitCell(grid, child); });
     grid.block("}\n");
 }
 

@@ -55,17 +55,17 @@ void emitShares(const WidgetWriter& layout, const LayoutChildren& children, cons
                  {{"sum", axis.fixedSum},
                   {"flex", floatConstant(children.totalFlex)},
                   {"spacing", floatConstant(children.spacing)}});
-    for (const WidgetNode* child : children.widgets) {
-        if (flexShare(*child)) {
-            continue;
+    layout.eachChild(children.widgets, [&](const WidgetNode& child) {
+        if (flexShare(child)) {
+            return;
         }
-        std::string size = floatConstant((layout.*axis.sizeOf)(*child));
-        if (child->kind == "இவெ") {
-            size = processPercentage(findProperty(*child, {axis.gapProperty}), axis.gapBase);
+        std::string size = floatConstant((layout.*axis.sizeOf)(child));
+        if (child.kind == "இவெ") {
+            size = processPercentage(findProperty(child, {axis.gapProperty}), axis.gapBase);
         }
         layout.block("    $sum += $size + spacing;\n",
                      {{"sum", axis.fixedSum}, {"size", size.empty() ? "0.0f" : size}});
-    }
+    });
     layout.block(R"(
     float remaining$axis = container$axis - $sum;
     if (remaining$axis < 0.0f) remaining$axis = 0.0f;

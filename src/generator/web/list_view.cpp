@@ -53,12 +53,12 @@ void emitListView(const WidgetWriter& list) {
     float spacing = 0.0f;
     float totalContentHeight = 0.0f;
 )");
-    for (const WidgetNode* child : children) {
-        list.block("    totalContentHeight += $height;\n", {{"height", floatConstant(list.heightOf(*child))}});
-    }
+    list.eachChild(children, [&](const WidgetNode& child) {
+        list.block("    totalContentHeight += $height;\n", {{"height", floatConstant(list.heightOf(child))}});
+    });
     emitScrolling(list);
     list.block("    float currentY = listStartY - scrollOffset_$n;\n");
-    for (const WidgetNode* child : children) {
+    list.eachChild(children, [&](const WidgetNode& child) {
         list.block(R"(
     {
         float childX = listStartX + (winWidth - $width) / 2.0f;
@@ -69,10 +69,10 @@ void emitListView(const WidgetWriter& list) {
         currentY += $height;
     }
 )",
-                   {{"width", floatConstant(list.widthOf(*child))},
-                    {"height", floatConstant(list.heightOf(*child))},
-                    {"child", list.blocks([&] { list.child(*child, "childX", "currentY"); })}});
-    }
+                   {{"width", floatConstant(list.widthOf(child))},
+                    {"height", floatConstant(list.heightOf(child))},
+                    {"child", list.blocks([&] { list.child(child, "childX", "currentY"); })}});
+    });
     emitClipEnd(list);
     emitScrollBar(list);
 }

@@ -7,9 +7,8 @@ namespace pozhil {
 void emitNestedPage(const WidgetWriter& page) {
     const auto* name = nodeCast<StringLiteral>(findProperty(page.widget(), {"பக்கம்"}));
     const Filling children = page.blocks([&] {
-        for (const WidgetNode* child : childWidgets(page.widget())) {
-            page.child(*child, "0.0f", "0.0f");
-        }
+        page.eachChild(childWidgets(page.widget()),
+                       [&](const WidgetNode& child) { page.child(child, "0.0f", "0.0f"); });
     });
     page.block(R"(
 // --- Page: $name ---

@@ -25,7 +25,7 @@ void emitStack(const WidgetWriter& stack) {
     float sStartX = $x; float sStartY = $y;
 )",
                 {{"width", floatConstant(children.largestWidth)}, {"height", floatConstant(children.largestHeight)}});
-    for (const WidgetNode* child : children.widgets) {
+    stack.eachChild(children.widgets, [&](const WidgetNode& child) {
         stack.block(R"(
     {
         float childX = sStartX + (stackW - $width) * (1.0f + $alignX) / 2.0f + $offsetX;
@@ -36,14 +36,14 @@ void emitStack(const WidgetWriter& stack) {
         forcedW = savedForcedW; forcedH = savedForcedH;
     }
 )",
-                    {{"width", floatConstant(stack.widthOf(*child))},
-                     {"height", floatConstant(stack.heightOf(*child))},
+                    {{"width", floatConstant(stack.widthOf(child))},
+                     {"height", floatConstant(stack.heightOf(child))},
                      {"alignX", floatConstant(alignX)},
                      {"alignY", floatConstant(alignY)},
-                     {"offsetX", floatConstant(offsetOf(*child, "நகர்வு_X"))},
-                     {"offsetY", floatConstant(offsetOf(*child, "நகர்வு_Y"))},
-                     {"child", stack.blocks([&] { stack.child(*child, "childX", "childY"); })}});
-    }
+                     {"offsetX", floatConstant(offsetOf(child, "நகர்வு_X"))},
+                     {"offsetY", floatConstant(offsetOf(child, "நகர்வு_Y"))},
+                     {"child", stack.blocks([&] { stack.child(child, "childX", "childY"); })}});
+    });
     stack.block("}\n");
 }
 
@@ -58,7 +58,7 @@ void emitWrap(const WidgetWriter& wrap) {
     float spacing = $spacing;
 )",
                {{"spacing", floatConstant(spacing)}});
-    for (const WidgetNode* child : childWidgets(wrap.widget())) {
+    wrap.eachChild(childWidgets(wrap.widget()), [&](const WidgetNode& child) {
         wrap.block(R"(
     {
         float childW = $width; float childH = $height;
@@ -75,10 +75,10 @@ void emitWrap(const WidgetWriter& wrap) {
         curX += childW + spacing;
     }
 )",
-                   {{"width", floatConstant(wrap.widthOf(*child))},
-                    {"height", floatConstant(wrap.heightOf(*child))},
-                    {"child", wrap.blocks([&] { wrap.child(*child, "curX", "curY"); })}});
-    }
+                   {{"width", floatConstant(wrap.widthOf(child))},
+                    {"height", floatConstant(wrap.heightOf(child))},
+                    {"child", wrap.blocks([&] { wrap.child(child, "curX", "curY"); })}});
+    });
     wrap.block(wrap.isAtTop() ? "}\n" : "    $y = curY + rowMaxH + spacing;\n}\n");
 }
 
@@ -96,9 +96,8 @@ void emitPadding(const WidgetWriter& padding) {
                    {"top", isInChild ? "outerY" : padding.y()},
                    {"inset", floatConstant(inset)},
                    {"children", padding.blocks([&] {
-                        for (const WidgetNode* child : childWidgets(padding.widget())) {
-                            padding.child(*child, "childX", "childY");
-                        }
+                        padding.eachChild(childWidgets(padding.widget()),
+                                          [&](const WidgetNode& child) { padding.child(child, "childX", "childY"); });
                     })}});
 }
 

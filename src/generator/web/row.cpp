@@ -119,11 +119,11 @@ void emitRow(const WidgetWriter& row) {
 )",
               {{"alignX", floatConstant(getAlignmentCoords(row.widget().alignment).first)},
                {"start", scrolls ? "startX - scrollX_" + row.number() : "startX"}});
-    for (const WidgetNode* child : children.widgets) {
-        if (child->kind != "அசைவூட்டம்") {
-            row.block("    {\n$child\n    }\n", {{"child", row.blocks([&] { emitChild(row, *child); })}});
+    row.eachChild(children.widgets, [&](const WidgetNode& child) {
+        if (child.kind != "அசைவூட்டம்") {
+            row.block("    {\n$child\n    }\n", {{"child", row.blocks([&] { emitChild(row, child); })}});
         }
-    }
+    });
     if (scrolls) {
         emitScrollBar(row);
     }

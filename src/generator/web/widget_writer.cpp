@@ -71,6 +71,22 @@ void WidgetWriter::child(const WidgetNode& widget, const std::string& x, const s
     generator_.generateWidgetCode(&widget, x, y);
 }
 
+/// WebAssembly takes no function with as many locals as the children of a large layout would need.
+void WidgetWriter::eachChild(const std::vector<const WidgetNode*>& children,
+                             const std::function<void(const WidgetNode&)>& write) const {
+    constexpr std::size_t MOST_IN_A_FUNCTION = 32;
+    const bool isSplit = children.size() > MOST_IN_A_FUNCTION;
+    for (std::size_t index = 0; index < children.size(); ++index) {
+        if (isSplit && index % MOST_IN_A_FUNCTION == 0) {
+            block(index == 0 ? "    [&] {\n" : "    }();\n    [&] {\n");
+        }
+        write(*children[index]);
+    }
+    if (isSplit) {
+        block("    }();\n");
+    }
+}
+
 const Expression* findProperty(const WidgetNode& widget, std::initializer_list<const char*> names) {
     for (const char* name : names) {
         const auto property = widget.properties.find(name);

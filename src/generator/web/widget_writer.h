@@ -4,6 +4,7 @@
 #include "parser/syntax_tree.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -46,6 +47,9 @@ public:
     Filling blocks(std::function<void()> write) const;
     /// Writes another widget, at the position that \p x and \p y tell.
     void child(const WidgetNode& widget, const std::string& x, const std::string& y) const;
+    /// Writes what \p write writes for each of \p children, in functions of the emitted text where they are many.
+    void eachChild(const std::vector<const WidgetNode*>& children,
+                   const std::function<void(const WidgetNode&)>& write) const;
 
 private:
     Generator& generator_;
