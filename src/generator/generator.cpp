@@ -124,15 +124,30 @@ void Generator::emitInitGlobals() {
     out_ << "}\n\n";
 }
 
-/// What an application does before its first frame. Its functions and structures stand outside.
+/// What an application does before its first frame. Its functions and structures stand outside. A long block is cut into
+/// functions, since WebAssembly takes none with as many locals as it would need.
 void Generator::visitLogicBlockNode(const LogicBlockNode* node) {
+    constexpr std::size_t MOST_IN_A_FUNCTION = 100;
     if (node->block == nullptr) {
         return;
     }
+    std::vector<const Statement*> statements;
     for (const StatementPtr& statement : node->block->statements) {
         if (statement != nullptr && !isDefinition(statement.get())) {
-            visitStatement(statement.get());
+            statements.push_back(statement.get());
         }
+    }
+    const bool isCut = statements.size() > MOST_IN_A_FUNCTION;
+    for (std::size_t index = 0; index < statements.size(); ++index) {
+        if (isCut && index % MOST_IN_A_FUNCTION == 0) {
+            indent();
+            out_ << (index == 0 ? "[] {\n" : "}();\n" + std::string(indentation(), ' ') + "[] {\n");
+        }
+        visitStatement(statements[index]);
+    }
+    if (isCut) {
+        indent();
+        out_ << "}();\n";
     }
 }
 

@@ -156,6 +156,21 @@ TEST(Logic, StandsBehindTheDefinitionsOutsideTheApplication) {
                   {"std::any fn_வெளி() {", "std::any fn_உள்() {"});
 }
 
+TEST(Logic, IsCutIntoFunctionsWhereItIsLong) {
+    const auto logicOf = [](int count) {
+        std::string statements;
+        for (int number = 0; number < count; ++number) {
+            statements += "\n        அ = " + std::to_string(number);
+        }
+        return initGlobals(webText(app("", "", statements)));
+    };
+    EXPECT_THAT(logicOf(100), Not(HasSubstr("[] {")));
+    const std::string longer = logicOf(201);
+    expectInOrder(longer, {"    [] {\n    (global_vars[\"அ\"] = std::any(0LL)", "std::any(99LL)",
+                           "    }();\n    [] {\n", "std::any(100LL)", "    }();\n    [] {\n", "std::any(200LL)"});
+    EXPECT_THAT(longer, testing::EndsWith("\n    }();"));
+}
+
 TEST(Logic, PassesOverEnumerations) {
     EXPECT_EQ(initGlobals(webText(app("", "", "        வகை நாள்கள்:\n            திங்கள்\n        அ = 1\n"))),
               "    (global_vars[\"அ\"] = std::any(1LL), global_vars[\"அ\"]);");

@@ -135,3 +135,12 @@ webTest('a video that is missing is told on the console', withVideo, async page 
     assert.equal(await page.element('#pozhilVideo'), null);
     await page.text('போ');
 });
+
+const MANY = 1500;
+const assignments = Array.from({ length: MANY }, (_, number) => `        பெயர்${number} = ${number} கூட்டு 1`);
+
+webTest('a logic block may be longer than a function of WebAssembly', application(`        உரை(பெயர்${MANY - 1})`,
+                                                                              { logic: assignments.join('\n') }),
+        async page => {
+    await page.text(String(MANY));
+});
