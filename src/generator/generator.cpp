@@ -68,7 +68,7 @@ void Generator::emitRuntime() {
          << fillPlaceholder(runtime::navigation, START_PAGE_PLACEHOLDER, findStartPage(program_))
          << runtime::input_state << "#ifdef __EMSCRIPTEN__\n"
          << runtime::canvas_keys << "#endif\n"
-         << runtime::web_bridge << runtime::value_types << runtime::error_box
+         << runtime::web_bridge << runtime::value_types << runtime::error_box << runtime::value_texts
          << fillPlaceholder(runtime::value_functions, SOURCE_PATH_PLACEHOLDER, fileName_) << runtime::animation_engine
          << runtime::library << runtime::scrolling << runtime::web_boilerplate << runtime::input_fields
          << runtime::media_elements << "#ifdef __EMSCRIPTEN__\n"

@@ -16,6 +16,7 @@ extern const std::string_view canvas_keys;
 extern const std::string_view web_bridge;
 extern const std::string_view value_types;
 extern const std::string_view error_box;
+extern const std::string_view value_texts;
 extern const std::string_view value_functions;
 extern const std::string_view animation_engine;
 extern const std::string_view library;

@@ -38,7 +38,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Section{"navigation", runtime::navigation}, Section{"input_state", runtime::input_state},
                     Section{"canvas_keys", runtime::canvas_keys}, Section{"web_bridge", runtime::web_bridge},
                     Section{"value_types", runtime::value_types}, Section{"error_box", runtime::error_box},
-                    Section{"value_functions", runtime::value_functions},
+                    Section{"value_texts", runtime::value_texts}, Section{"value_functions", runtime::value_functions},
                     Section{"animation_engine", runtime::animation_engine}, Section{"library", runtime::library},
                     Section{"scrolling", runtime::scrolling}, Section{"web_boilerplate", runtime::web_boilerplate},
                     Section{"input_fields", runtime::input_fields}, Section{"media_elements", runtime::media_elements},

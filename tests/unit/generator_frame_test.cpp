@@ -18,27 +18,17 @@ const std::string EVERYTHING = "கட்டமைப்பு பறவை:\n  
 
 TEST(Sections, StandInTheirOrderWithNothingBetween) {
     const std::string text = generatedText("அச்சிடு(1)");
-    const std::string_view sections[] = {runtime::standard_headers,
-                                         runtime::web_text_layer,
-                                         runtime::global_state,
-                                         runtime::navigation,
-                                         runtime::input_state,
-                                         "#ifdef __EMSCRIPTEN__\n",
-                                         runtime::canvas_keys,
-                                         "#endif\n",
-                                         runtime::web_bridge,
-                                         runtime::value_types,
-                                         runtime::error_box,
-                                         runtime::value_functions,
-                                         runtime::animation_engine,
-                                         runtime::library,
-                                         runtime::scrolling,
-                                         runtime::web_boilerplate,
-                                         runtime::input_fields,
-                                         runtime::media_elements,
-                                         "#ifdef __EMSCRIPTEN__\n",
-                                         runtime::frame_helpers,
-                                         "#endif\n"};
+    const std::string_view sections[] = {runtime::standard_headers, runtime::web_text_layer,
+                                         runtime::global_state,     runtime::navigation,
+                                         runtime::input_state,      "#ifdef __EMSCRIPTEN__\n",
+                                         runtime::canvas_keys,      "#endif\n",
+                                         runtime::web_bridge,       runtime::value_types,
+                                         runtime::error_box,        runtime::value_texts,
+                                         runtime::value_functions,  runtime::animation_engine,
+                                         runtime::library,          runtime::scrolling,
+                                         runtime::web_boilerplate,  runtime::input_fields,
+                                         runtime::media_elements,   "#ifdef __EMSCRIPTEN__\n",
+                                         runtime::frame_helpers,    "#endif\n"};
     std::string expected;
     for (const std::string_view section : sections) {
         expected += section;

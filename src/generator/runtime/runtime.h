@@ -14,6 +14,7 @@
 #include "web_bridge.h"
 #include "value_types.h"
 #include "error_box.h"
+#include "value_texts.h"
 #include "value_functions.h"
 #include "animation_engine.h"
 #include "library.h"
