@@ -10,8 +10,8 @@
 
 namespace pozhil {
 
-/// The runtime at the head of an application's output text, precompiled in the background once a version is built: the
-/// versions that follow begin with the same bytes, and em++ needn't read them again.
+/// The runtime at the head of an application's output text, precompiled in the background while the first version is
+/// built: the versions that follow begin with the same bytes, and em++ needn't read them again.
 class PrecompiledRuntime {
 public:
     /// \param temporaryDirectory where it is made

@@ -86,7 +86,7 @@ PrecompiledHeaders WebBuild::headersFor(const OutputText& output) {
     return runtime.file.empty() ? headers_ : runtime;
 }
 
-/// For the versions that follow.
+/// For the versions that follow; it is done before this one is.
 void WebBuild::prepareRuntime(const OutputText& output) {
     if (!headers_.file.empty()) {
         platform::Command compiler = {{compiler_}, emscriptenVariables(headers_)};
@@ -98,8 +98,8 @@ void WebBuild::prepareRuntime(const OutputText& output) {
 /// Unlike g++, em++ refuses precompiled headers that don't fit, as with other flags or after an update.
 bool WebBuild::compile(const OutputText& output, const std::vector<std::string>& packing) {
     const PrecompiledHeaders headers = headersFor(output);
+    prepareRuntime(output);
     if (platform::runSilently(command(packing, headers)) == 0) {
-        prepareRuntime(output);
         return true;
     }
     if (headers.file.empty() || platform::runSilently(command(packing, {})) != 0) {

@@ -105,21 +105,6 @@ def test_flags_for_exceptions_stand_behind_the_user_s_own(web_place, tools, scra
     assert any("exceptions" in flag for flag in flags[1:])
 
 
-def test_precompiled_headers_that_do_not_fit_are_passed_over(web_place, installation, tools):
-    """Emscripten's own em++, which a script beside it tells apart, is given the headers first."""
-    headers = installation.include / "web_headers.pch"
-    headers.unlink(missing_ok=True)
-    headers.touch()
-    (tools.folder / "em++.py").touch()
-    tools.stands_in_for("em++", 'printf "%s\\n" "$EMCC_CFLAGS" >> "$0.flags"\n'
-                                'case $EMCC_CFLAGS in *-include-pch*) exit 1 ;; esac')
-    with serving(web_place) as session:
-        session.wait_for_output(t.WEB_OPENING)
-    assert tools.calls("em++") == [installation.web_call(web_place)] * 2
-    first, second = (tools.folder / "em++.flags").read_text(encoding="utf-8").splitlines()
-    assert first == f"{second} -include-pch '{headers}'"
-
-
 @pytest.mark.parametrize("name", ["தமிழ் அடைவு", "$(touch INJECTED)", "'; touch INJECTED; '", "a\"b\\c", "வரி\nமாற்றம்"])
 def test_places_of_any_name(scratch, installation, tools, name):
     moved = installation.folder.rename(scratch / f"i{name}")

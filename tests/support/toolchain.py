@@ -4,7 +4,7 @@ from pathlib import Path
 
 _RECORD = """#!/bin/sh
 /bin/date +%s.%N >> "$0.started"
-{ for argument in "$@"; do printf 'a%s\\0' "$argument"; done; printf 'e\\0'; } >> "$0.calls"
+{ flock 9; for argument in "$@"; do printf 'a%s\\0' "$argument"; done; printf 'e\\0'; } 9> "$0.lock" >> "$0.calls"
 for argument in "$@"; do
     if [ "$previous" = -o ]; then out=$argument; fi
     previous=$argument
