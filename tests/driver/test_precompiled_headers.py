@@ -54,18 +54,23 @@ def precompilations(tools):
     return [call for call in tools.calls("em++") if "c++-header" in call]
 
 
+def wait_for_precompilations(session, tools, count):
+    session.wait_until(lambda: len(precompilations(tools)) == count)
+    time.sleep(A_WHILE)
+
+
 def replaced_bytes(line):
     found = re.search(r"-include-pch '(.*?)' -Xclang -preamble-bytes=(\d+),1$", line)
     return (found[1], int(found[2])) if found else None
 
 
 @pytest.fixture
-def start(web_place):
-    """Starts a compiler, and goes on when the first version is there and the watch has begun."""
+def start(web_place, tools):
+    """Starts a compiler, and goes on when the first version is there, what is precompiled, and the watch has begun."""
     def started():
         session = web_place.session(SOURCE)
         session.wait_for_output(t.WEB_OPENING)
-        time.sleep(A_WHILE)
+        wait_for_precompilations(session, tools, 1)
         return session
     return started
 
@@ -108,6 +113,7 @@ def test_another_start_page_is_another_runtime(web_place, tools, start):
     with start() as session:
         edits = Edits(web_place, session)
         edits.save(page("வேறு", "2"))
+        wait_for_precompilations(session, tools, 2)
         edits.save(page("வேறு", "3"))
     assert [replaced_bytes(line) is not None for line in flags(tools)] == [False, False, True]
     assert len(precompilations(tools)) == 2
@@ -155,7 +161,7 @@ def test_program_that_em_refuses_keeps_the_headers(web_place, tools):
     tools.stands_in_for("em++", PRECOMPILE + NOTE + "exit 1")
     with web_place.session(SOURCE) as session:
         session.wait_for_output(t.WEB_FAILURE)
-        time.sleep(A_WHILE)
+        wait_for_precompilations(session, tools, 1)
         tools.stands_in_for("em++", PRECOMPILE + NOTE + BUILD)
         Edits(web_place, session).save(page("முகப்பு", "2"))
     assert ["-include-pch" in line for line in flags(tools)] == [True, False, True]
