@@ -52,7 +52,7 @@ function partOf({ functionName, url }) {
     if (functionName === '(idle)') {
         return null;
     }
-    if (url.startsWith('wasm')) {
+    if (url.includes('wasm')) {
         return /^(nvg|glnvg)/.test(functionName) ? 'NanoVG' : 'நிரல் · program';
     }
     if (url.endsWith('index.js')) {
@@ -92,7 +92,7 @@ await server.start();
 const browser = await launch();
 try {
     for (const [name, kinds] of Object.entries(pages)) {
-        const address = server.add(await buildPage(application(kinds)));
+        const address = server.add(await buildPage(application(kinds), { emFlags: ['--profiling-funcs'] }));
         const context = await browser.newContext({ viewport: WINDOW });
         const tab = await context.newPage();
         await tab.goto(address);

@@ -223,7 +223,7 @@ async function build(source, options, attempts = 20) {
         await compiler.waitForVersion(2);
         const html = await served('/');
         await compiler.stop();
-        await runNotedCall(compiler);
+        await runNotedCall(compiler, options.emFlags ?? []);
         const page = new Map([['index.html', html]]);
         for (const name of await readdir(compiler.output)) {
             page.set(name, await readFile(path.join(compiler.output, name)));
@@ -240,14 +240,15 @@ async function build(source, options, attempts = 20) {
     return build(source, options, attempts - 1);
 }
 
-async function runNotedCall(compiler) {
+async function runNotedCall(compiler, flags) {
     const noted = async kind => {
         const words = await readFile(path.join(compiler.tools, `em++.${kind}`), 'utf8');
         return words.split('\0').slice(0, -1);
     };
     const pairs = (await noted('env')).map(line => /^(.*?)=(.*)$/s.exec(line).slice(1));
     const env = { ...Object.fromEntries(pairs), PATH: process.env.PATH };
-    const tool = spawn('em++', await noted('call'), { cwd: compiler.folder, env, stdio: ['ignore', 'pipe', 'pipe'] });
+    const call = [...await noted('call'), ...flags];
+    const tool = spawn('em++', call, { cwd: compiler.folder, env, stdio: ['ignore', 'pipe', 'pipe'] });
     let said = '';
     for (const stream of [tool.stdout, tool.stderr]) {
         stream.setEncoding('utf8').on('data', text => { said += text; });
