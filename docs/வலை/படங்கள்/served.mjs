@@ -3,17 +3,16 @@
 
 import { spawn } from 'node:child_process';
 import { cpSync, mkdtempSync, rmSync, writeFileSync } from 'node:fs';
-import { createRequire } from 'node:module';
 import { tmpdir } from 'node:os';
 import path from 'node:path';
 import { setTimeout as pause } from 'node:timers/promises';
 import { fileURLToPath } from 'node:url';
 
+import { launch } from '../../../tests/web/harness/browser.js';
+
 export const here = path.dirname(fileURLToPath(import.meta.url));
 export const root = path.resolve(here, '../../..');
 export const examples = path.join(root, 'எடுத்துக்காட்டுகள்');
-
-const { chromium } = createRequire(path.join(root, 'tests/web/package.json'))('playwright-core');
 
 const SOURCE = 'படங்கள்.பொழில்';
 const BUILD_TIME = 180_000;
@@ -35,10 +34,7 @@ export async function withApplication(source, use) {
             }
         }
         await pause(500);
-        const browser = await chromium.launch({
-            executablePath: process.env.POZHIL_CHROMIUM || '/usr/bin/chromium',
-            args: ['--no-sandbox', '--use-gl=angle', '--use-angle=swiftshader', '--enable-unsafe-swiftshader'],
-        });
+        const browser = await launch();
         await use(browser);
         await browser.close();
     } finally {
