@@ -1,5 +1,5 @@
 #include "driver/front_end.h"
-#include "generator/generator.h"
+#include "generator/first/generator.h"
 #include "scanner/lexer.h"
 
 #include <benchmark/benchmark.h>

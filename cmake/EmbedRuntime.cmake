@@ -1,4 +1,4 @@
-# Writes the C++ source that defines the constants of src/generator/runtime_text.h: for each section the text behind
+# Writes the C++ source that defines the constants of src/generator/first/runtime_text.h: for each section the text behind
 # the marker line of its file, byte for byte.
 #
 #   cmake -D SECTIONS=<name;...> -D DIRECTORY=<folder of the files> -D OUTPUT=<source> -P EmbedRuntime.cmake
@@ -7,7 +7,7 @@ set(marker "\n// --- emitted from here ---\n")
 set(delimiter "emitted_text")
 string(LENGTH "${marker}" marker_length)
 
-set(source "#include \"generator/runtime_text.h\"\n")
+set(source "#include \"generator/first/runtime_text.h\"\n")
 foreach(section IN LISTS SECTIONS)
     set(file "${DIRECTORY}/${section}.h")
     file(READ "${file}" content)

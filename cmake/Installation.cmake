@@ -7,7 +7,7 @@ install(DIRECTORY உள்ளடக்கம்/ DESTINATION உள்ளடக
 install(FILES ${precompiled_headers} ${web_precompiled_headers} DESTINATION உள்ளடக்கம்)
 install(FILES ${web_headers} DESTINATION உள்ளடக்கம்/nanovg)
 install(FILES ${reporter_object} ${web_objects} DESTINATION திரட்டு)
-install(FILES src/error_handler.cpp DESTINATION src)
+install(FILES src/diagnostics/error_handler.cpp DESTINATION src)
 install(DIRECTORY DESTINATION தொகுப்புகள்)
 install(DIRECTORY தொகுப்புகள்/ DESTINATION தொகுப்புகள் OPTIONAL)
 
@@ -22,7 +22,7 @@ add_custom_command(
     COMMAND ${CMAKE_COMMAND} -E rm -rf ${stage}/உள்ளடக்கம் ${stage}/திரட்டு ${stage}/தொகுப்புகள்
     COMMAND ${CMAKE_COMMAND} -E env --unset=DESTDIR ${CMAKE_COMMAND} --install ${PROJECT_BINARY_DIR} --prefix ${stage}
     COMMAND ${CMAKE_COMMAND} -E touch ${stage}/பொழி
-    DEPENDS pozhil ${precompiled_headers} ${reporter_object} ${PROJECT_SOURCE_DIR}/src/error_handler.cpp
+    DEPENDS pozhil ${precompiled_headers} ${reporter_object} ${PROJECT_SOURCE_DIR}/src/diagnostics/error_handler.cpp
             ${web_objects} ${web_headers} ${web_precompiled_headers}
             ${installed_files} ${PROJECT_BINARY_DIR}/generated/installed_files.txt
     COMMENT "Staging the installation"

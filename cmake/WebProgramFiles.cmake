@@ -55,13 +55,13 @@ add_drawing_header(${nanovg}/nanovg_gl.h "#undef NANOVG_GLES2_IMPLEMENTATION" "#
 
 set(nanovg_object ${web_parts}/nanovg_web.o)
 add_web_program_file(
-    ${nanovg_object} ${PROJECT_SOURCE_DIR}/src/generator/web_drawing.c -O2 -x c
+    ${nanovg_object} ${PROJECT_SOURCE_DIR}/src/installation/web_drawing.c -O2 -x c
     -I ${nanovg} -I ${nanosvg} -I ${POZHIL_STB})
 
 # The headers of the toolchain that a web program includes, and none of our own, which lie elsewhere once installed:
 # unlike g++, em++ fails where a file in the precompiled headers is not what it was. What else they are to hold is read
 # as one text from standard input, for the same reason.
-file(GLOB runtime_files CONFIGURE_DEPENDS src/generator/runtime/*.h)
+file(GLOB runtime_files CONFIGURE_DEPENDS src/generator/first/runtime/*.h)
 set(includes)
 foreach(file IN LISTS runtime_files)
     file(STRINGS ${file} lines REGEX "^#include <")
@@ -70,7 +70,7 @@ foreach(file IN LISTS runtime_files)
 endforeach()
 set(shared_templates ${web_parts}/web_shared_templates.h)
 set(shared_template_parts
-    ${PROJECT_SOURCE_DIR}/உள்ளடக்கம்/error_record.h ${PROJECT_SOURCE_DIR}/src/generator/web_shared_templates.h)
+    ${PROJECT_SOURCE_DIR}/உள்ளடக்கம்/error_record.h ${PROJECT_SOURCE_DIR}/src/installation/web_shared_templates.h)
 add_custom_command(
     OUTPUT ${shared_templates}
     COMMAND sh -c "output=$1 && shift && exec cat \"$@\" >\"$output\"" sh ${shared_templates} ${shared_template_parts}
@@ -86,7 +86,7 @@ set(web_reporter ${web_parts}/web_reporter.o)
 set(web_headers_code ${web_parts}/web_headers.o)
 set(web_reporter_object ${web_parts}/error_handler_web.o)
 add_web_program_file(
-    ${web_reporter} ${PROJECT_SOURCE_DIR}/src/error_handler.cpp -x c++ -O2 -std=c++17
+    ${web_reporter} ${PROJECT_SOURCE_DIR}/src/diagnostics/error_handler.cpp -x c++ -O2 -std=c++17
     -I ${PROJECT_SOURCE_DIR}/உள்ளடக்கம்)
 add_custom_command(
     OUTPUT ${web_reporter_object}

@@ -1,16 +1,16 @@
-#include "driver/banner.h"
+#include "base/source_text.h"
 #include "driver/command_line.h"
-#include "driver/emscripten_environment.h"
+#include "driver/console/banner.h"
 #include "driver/front_end.h"
-#include "driver/native_build.h"
-#include "driver/native_watch.h"
+#include "driver/native/native_build.h"
+#include "driver/native/native_watch.h"
 #include "driver/output_stage.h"
 #include "driver/settings.h"
-#include "driver/web_messages.h"
-#include "driver/web_mode.h"
+#include "driver/web/emscripten_environment.h"
+#include "driver/web/web_messages.h"
+#include "driver/web/web_mode.h"
 #include "platform/console.h"
 #include "platform/paths.h"
-#include "scanner/source_text.h"
 
 #include <exception>
 #include <iostream>

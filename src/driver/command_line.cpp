@@ -1,7 +1,7 @@
 #include "driver/command_line.h"
 
-#include "driver/banner.h"
-#include "scanner/source_text.h"
+#include "base/source_text.h"
+#include "driver/console/banner.h"
 
 #include <iostream>
 

@@ -1,7 +1,7 @@
 #include "driver/front_end.h"
 
-#include "driver/console_style.h"
-#include "generator/generator.h"
+#include "driver/console/console_style.h"
+#include "generator/first/generator.h"
 #include "scanner/lexer.h"
 
 #include <algorithm>

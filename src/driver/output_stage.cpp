@@ -1,6 +1,6 @@
 #include "driver/output_stage.h"
 
-#include "driver/web_messages.h"
+#include "driver/web/web_messages.h"
 
 #include <fstream>
 #include <iostream>

@@ -1,6 +1,6 @@
 #include "driver/source_watch.h"
 
-#include "scanner/source_text.h"
+#include "base/source_text.h"
 
 #include <chrono>
 #include <filesystem>

@@ -1,5 +1,5 @@
+#include "base/number_text.h"
 #include "parser/parser.h"
-#include "scanner/number_text.h"
 
 #include <algorithm>
 #include <array>

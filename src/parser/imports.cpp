@@ -1,6 +1,6 @@
+#include "base/source_text.h"
 #include "parser/parser.h"
 #include "scanner/lexer.h"
-#include "scanner/source_text.h"
 
 #include <iterator>
 #include <utility>

@@ -1,8 +1,8 @@
+#include "base/number_text.h"
 #include "parser/bracketed_list.h"
 #include "parser/parser.h"
 #include "parser/siblings.h"
 #include "parser/widget_tokens.h"
-#include "scanner/number_text.h"
 
 #include <utility>
 

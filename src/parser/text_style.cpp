@@ -1,6 +1,6 @@
+#include "base/number_text.h"
 #include "parser/bracketed_list.h"
 #include "parser/parser.h"
-#include "scanner/number_text.h"
 
 #include <algorithm>
 #include <array>

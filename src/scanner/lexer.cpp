@@ -1,8 +1,8 @@
 #include "scanner/lexer.h"
 
+#include "base/utf8.h"
 #include "error_codes.h"
 #include "error_handler.h"
-#include "scanner/utf8.h"
 
 #include <algorithm>
 #include <stdexcept>

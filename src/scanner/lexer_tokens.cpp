@@ -1,8 +1,8 @@
+#include "base/script_checks.h"
+#include "base/utf8.h"
 #include "scanner/keywords.h"
 #include "scanner/lexer.h"
-#include "scanner/script_checks.h"
 #include "scanner/spelling.h"
-#include "scanner/utf8.h"
 
 #include <utility>
 

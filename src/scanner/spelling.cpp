@@ -1,7 +1,7 @@
 #include "scanner/spelling.h"
 
+#include "base/utf8.h"
 #include "scanner/keywords.h"
-#include "scanner/utf8.h"
 
 #include <algorithm>
 #include <vector>

@@ -5,9 +5,9 @@
 ///
 /// A failing input is kept beside the current directory as failure-<number>.பொழில்.
 
+#include "base/source_text.h"
 #include "driver/front_end.h"
 #include "mutator.h"
-#include "scanner/source_text.h"
 
 #include <algorithm>
 #include <fcntl.h>

@@ -1,6 +1,6 @@
 // What the build embeds into the compiler is the text of the runtime's files, byte for byte.
 
-#include "generator/runtime_text.h"
+#include "generator/first/runtime_text.h"
 
 #include <gtest/gtest.h>
 
@@ -28,7 +28,7 @@ std::string emitted_part(const std::string& file) {
 TEST_P(EmbeddedRuntime, EqualsItsFile) {
     const auto& [name, text] = GetParam();
     EXPECT_FALSE(text.empty());
-    EXPECT_EQ(text, emitted_part(POZHIL_SOURCE_DIRECTORY "/src/generator/runtime/" + std::string(name) + ".h"));
+    EXPECT_EQ(text, emitted_part(POZHIL_SOURCE_DIRECTORY "/src/generator/first/runtime/" + std::string(name) + ".h"));
 }
 
 INSTANTIATE_TEST_SUITE_P(

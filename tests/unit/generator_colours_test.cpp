@@ -1,6 +1,6 @@
 // Colours of a source: the words, the hex forms, what is taken for black, and how they are written.
 
-#include "generator/web/colours.h"
+#include "generator/web/write/colours.h"
 #include "support/generating.h"
 
 #include <cstdio>

@@ -1,7 +1,7 @@
 // The frame of the emitted text: its sections in their order, the start page, and what a program adds to it.
 
-#include "generator/runtime_text.h"
-#include "generator/start_page.h"
+#include "generator/first/runtime_text.h"
+#include "generator/web/page/start_page.h"
 #include "support/generating.h"
 
 #include <gtest/gtest.h>

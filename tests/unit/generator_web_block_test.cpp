@@ -1,6 +1,6 @@
 // Blocks of emitted text: their holes, their indentation, and the numbers that stand in them.
 
-#include "generator/web/emitted_block.h"
+#include "emit/emitted_block.h"
 
 #include <gtest/gtest.h>
 #include <limits>

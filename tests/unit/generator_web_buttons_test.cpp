@@ -1,6 +1,6 @@
 // Buttons: label, colours, size, what the mouse does, and the order of all that.
 
-#include "generator/web/button_label.h"
+#include "generator/web/widgets/button_label.h"
 #include "support/web_generating.h"
 
 #include <gmock/gmock.h>

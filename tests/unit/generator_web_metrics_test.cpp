@@ -1,6 +1,6 @@
 // Sizes of widgets before the page runs: every kind, and every rule that a kind's size follows.
 
-#include "generator/web/metrics.h"
+#include "generator/web/measure/metrics.h"
 #include "parser/parser.h"
 #include "scanner/lexer.h"
 #include "support/generating.h"

@@ -1,6 +1,6 @@
 // Texts of sizes that the page computes, and where an alignment puts content.
 
-#include "generator/web/sizes.h"
+#include "generator/web/write/sizes.h"
 #include "parser/parser.h"
 #include "scanner/lexer.h"
 #include "support/generating.h"

@@ -1,6 +1,6 @@
-#include "driver/http_response.h"
+#include "driver/server/http_response.h"
 
-#include "driver/web_state.h"
+#include "driver/server/web_state.h"
 #include "support/working_folder.h"
 
 #include <sys/stat.h>

@@ -1,7 +1,7 @@
-#include "driver/local_server.h"
+#include "driver/server/local_server.h"
 
 #include "child_process.h"
-#include "driver/web_state.h"
+#include "driver/server/web_state.h"
 #include "support/test_client.h"
 #include "support/working_folder.h"
 

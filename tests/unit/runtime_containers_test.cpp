@@ -1,6 +1,6 @@
 // Reading, writing, measuring and removing elements of text, lists, maps and objects.
 
-#include "generator/runtime/runtime.h"
+#include "generator/first/runtime/runtime.h"
 
 #include <gtest/gtest.h>
 

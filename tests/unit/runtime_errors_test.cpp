@@ -1,7 +1,7 @@
 // The report of a failure at run time, byte for byte, what raises it, and the guard of endless recursion.
 
 #include "child_process.h"
-#include "generator/runtime/runtime.h"
+#include "generator/first/runtime/runtime.h"
 
 #include <algorithm>
 

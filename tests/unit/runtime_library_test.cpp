@@ -1,7 +1,7 @@
 // Library functions over text, files, time and input, and the state of the page.
 
 #include "child_process.h"
-#include "generator/runtime/runtime.h"
+#include "generator/first/runtime/runtime.h"
 
 #include <filesystem>
 

@@ -1,6 +1,6 @@
 // How values are shown: printed text, script literal, type name.
 
-#include "generator/runtime/runtime.h"
+#include "generator/first/runtime/runtime.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // Arithmetic, comparison and conversion of values whose kind is known only at run time.
 
-#include "generator/runtime/runtime.h"
+#include "generator/first/runtime/runtime.h"
 
 #include <gtest/gtest.h>
 

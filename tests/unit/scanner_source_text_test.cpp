@@ -1,4 +1,4 @@
-#include "scanner/source_text.h"
+#include "base/source_text.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -1,4 +1,4 @@
-#include "scanner/utf8.h"
+#include "base/utf8.h"
 #include "support/scanning_tables.h"
 #include "support/token_kinds.h"
 

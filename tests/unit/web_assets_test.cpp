@@ -1,4 +1,4 @@
-#include "driver/web_assets.h"
+#include "driver/web/web_assets.h"
 #include "support/generating.h"
 #include "support/working_folder.h"
 

@@ -1,4 +1,4 @@
-#include "driver/emscripten_environment.h"
+#include "driver/web/emscripten_environment.h"
 #include "support/working_folder.h"
 
 #include <cstdlib>

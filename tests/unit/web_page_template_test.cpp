@@ -1,4 +1,4 @@
-#include "driver/page_template.h"
+#include "driver/web/page_template.h"
 #include "support/working_folder.h"
 
 #include <numeric>

@@ -1,7 +1,7 @@
 #include "support/generating.h"
 
-#include "generator/generator.h"
-#include "generator/runtime_text.h"
+#include "generator/first/generator.h"
+#include "generator/first/runtime_text.h"
 #include "scanner/lexer.h"
 #include "support/diagnosis.h"
 

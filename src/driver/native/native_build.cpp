@@ -1,0 +1,129 @@
+#include "driver/native/native_build.h"
+
+#include "driver/console/console_style.h"
+#include "driver/settings.h"
+#include "platform/paths.h"
+
+#include <iostream>
+#include <system_error>
+#include <utility>
+
+namespace pozhil {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* OBJECT_NAME = "error_handler_native_windows.o";
+/// Where Debian's mold package keeps a linker under the plain name ld.
+constexpr const char* FAST_LINKER_DIRECTORY = "/usr/libexec/mold";
+
+/// The cached reporter object: in the installation, or in the user's cache if the installation can't be written.
+fs::path objectPath(const fs::path& appDirectory) {
+    fs::path installed = appDirectory / "திரட்டு" / OBJECT_NAME;
+    std::error_code ignored;
+    if (fs::exists(installed, ignored)) {
+        return installed;
+    }
+    fs::create_directories(installed.parent_path(), ignored);
+    const fs::path cache = platform::userCacheDirectory();
+    if (platform::isWritableDirectory(installed.parent_path()) || cache.empty()) {
+        return installed;
+    }
+    fs::create_directories(cache / "pozhil", ignored);
+    return cache / "pozhil" / OBJECT_NAME;
+}
+
+platform::Command compilerCommand(std::vector<std::string> arguments) {
+    platform::Command command;
+    command.arguments = std::move(arguments);
+    std::error_code ignored;
+    if (fs::exists(fs::path(FAST_LINKER_DIRECTORY) / "ld", ignored)) {
+        command.environment.emplace_back("COMPILER_PATH", FAST_LINKER_DIRECTORY);
+    }
+    return command;
+}
+
+void show(const platform::CommandResult& result) {
+    std::cout << result.output << std::flush;
+    std::cerr << result.errors << std::flush;
+}
+
+} // namespace
+
+NativeBuild::NativeBuild(fs::path appDirectory, fs::path generatedSource, fs::path temporaryDirectory)
+    : appDirectory_(std::move(appDirectory)), generatedSource_(std::move(generatedSource)),
+      freshProgram_(temporaryDirectory / "pozhil_temp_app"), program_(temporaryDirectory / "பொழில்_செயலி") {}
+
+void NativeBuild::start() {
+    object_ = objectPath(appDirectory_);
+    std::error_code ignored;
+    objectIsMissing_ = !fs::exists(object_, ignored);
+    toolchain_ = std::async(std::launch::async, [this] { return runToolchain(); });
+}
+
+bool NativeBuild::finish() {
+    if (objectIsMissing_) {
+        std::cout
+            << "⚙️ சிஸ்டம் ஆப்ஜெக்ட் ஃபைல் புதிதாக உருவாக்கப்படுகிறது...\n"
+            << std::flush;
+    }
+    const ToolchainResult result = toolchain_.get();
+    show(result.object);
+    show(result.link);
+    if (result.link.status == platform::COULD_NOT_START) {
+        std::cerr << "பிழை: 'g++' கிடைக்கவில்லை! 'sudo apt install g++' என்று கட்டளையிட்டு நிறுவிக்கொள்." << std::endl;
+    }
+    if (result.link.status != 0) {
+        std::cerr << style::RED << "பிழை: தொகுப்பதில் சிக்கல்! உன்னோட கோடை ஒருவாட்டி பாரு மச்சி." << style::RESET << std::endl;
+        return false;
+    }
+    return runProgram();
+}
+
+/// The object of the diagnostics once per installation, then always the program. A failed object shows as a failed
+/// link.
+NativeBuild::ToolchainResult NativeBuild::runToolchain() const {
+    ToolchainResult result;
+    if (objectIsMissing_) {
+        result.object = platform::captureCommand(objectCommand());
+    }
+    result.link = platform::captureCommand(linkCommand());
+    return result;
+}
+
+platform::Command NativeBuild::objectCommand() const {
+    return compilerCommand({"g++", "-c", (appDirectory_ / "src" / "error_handler.cpp").u8string(), "-o",
+                            object_.u8string(), "-std=c++17", "-I" + (appDirectory_ / "உள்ளடக்கம்").u8string()});
+}
+
+platform::Command NativeBuild::linkCommand() const {
+    const fs::path include = appDirectory_ / "உள்ளடக்கம்";
+    std::vector<std::string> arguments = {"g++",
+                                          generatedSource_.u8string(),
+                                          object_.u8string(),
+                                          "-o",
+                                          freshProgram_.u8string(),
+                                          "-std=c++17",
+                                          "-I" + include.u8string(),
+                                          "-I" + (include / "nanovg").u8string(),
+                                          "-static",
+                                          "-static-libstdc++",
+                                          "-static-libgcc",
+                                          "-lm",
+                                          "-lpthread"};
+    for (std::string& flag : settings::cxxFlags()) {
+        arguments.push_back(std::move(flag));
+    }
+    return compilerCommand(std::move(arguments));
+}
+
+/// The detour over a fresh file means that a failed link leaves the previous program untouched.
+bool NativeBuild::runProgram() const {
+    std::error_code ignored;
+    fs::remove(program_, ignored);
+    fs::rename(freshProgram_, program_, ignored);
+    platform::run_command({{program_.u8string()}, {}});
+    return true;
+}
+
+} // namespace pozhil

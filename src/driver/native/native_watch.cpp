@@ -1,0 +1,22 @@
+#include "driver/native/native_watch.h"
+
+#include "driver/output_stage.h"
+#include "driver/source_watch.h"
+
+namespace pozhil {
+
+void watchNative(const std::string& sourcePath, const std::vector<std::string>& moduleDirectories,
+                 const std::filesystem::path& outputFile, NativeBuild& build) {
+    WatchSteps steps;
+    steps.changeNote = "\n🔄 மாற்றம் கண்டறியப்பட்டது! புதுப்பிக்கப்படுகிறது...";
+    steps.build = [&](const SourceFile&, const OutputText& output) {
+        if (writeOutput(outputFile, output.text)) {
+            build.start();
+            build.finish();
+        }
+    };
+    steps.reportFailure = reportWatchFailure;
+    watchSource(sourcePath, moduleDirectories, steps);
+}
+
+} // namespace pozhil

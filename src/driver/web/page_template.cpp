@@ -1,0 +1,118 @@
+#include "driver/web/page_template.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <string_view>
+#include <system_error>
+
+namespace pozhil {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view SCRIPT = R"(<script async type="text/javascript" src="index.js"></script>)";
+constexpr std::string_view END_OF_BODY = "</body>";
+
+std::optional<std::vector<unsigned char>> readBytes(const fs::path& path) {
+    std::error_code ignored;
+    std::ifstream file(path, std::ios::binary);
+    if (!file.is_open() || fs::is_directory(path, ignored)) { // a directory can be opened too
+        return std::nullopt;
+    }
+    return std::vector<unsigned char>(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+}
+
+bool replaceFirst(std::string& text, std::string_view placeholder, std::string_view value) {
+    const std::size_t position = text.find(placeholder);
+    if (position != std::string::npos) {
+        text.replace(position, placeholder.size(), value);
+    }
+    return position != std::string::npos;
+}
+
+void replaceAll(std::string& text, std::string_view placeholder, std::string_view value) {
+    for (std::size_t position = text.find(placeholder); position != std::string::npos;
+         position = text.find(placeholder, position + value.size())) {
+        text.replace(position, placeholder.size(), value);
+    }
+}
+
+void insertBeforeEndOfBody(std::string& page, const std::string& text) {
+    const std::size_t position = page.find(END_OF_BODY);
+    if (position != std::string::npos) {
+        page.insert(position, text);
+    }
+}
+
+std::string reloadScript(int version) {
+    return R"(
+        <script>
+            let currentVersion = )" +
+           std::to_string(version) + R"(;
+            setInterval(() => {
+                fetch('/version')
+                    .then(response => response.text())
+                    .then(text => {
+                        if (parseInt(text) > currentVersion) {
+                            location.reload();
+                        }
+                    })
+                    .catch(() => {});
+            }, 500);
+        </script>
+            )";
+}
+
+std::string imageType(const std::string& path) {
+    const auto endsWith = [&](std::string_view ending) {
+        return path.size() >= ending.size() && path.compare(path.size() - ending.size(), ending.size(), ending) == 0;
+    };
+    if (endsWith(".svg")) {
+        return "image/svg+xml";
+    }
+    return endsWith(".jpg") || endsWith(".jpeg") ? "image/jpeg" : "image/png";
+}
+
+} // namespace
+
+std::optional<std::string> readTemplate(const fs::path& appDirectory) {
+    const auto bytes = readBytes(appDirectory / "உள்ளடக்கம்" / "template.html");
+    return bytes ? std::optional<std::string>(std::in_place, bytes->begin(), bytes->end()) : std::nullopt;
+}
+
+std::string fillTemplate(std::string page, const PageValues& values) {
+    replaceFirst(page, "{{{ இணைய_தலைப்பு }}}", values.title.empty() ? "பொழில் தளம்" : values.title);
+    replaceFirst(page, "{{{ சின்னம் }}}", embeddedIcon(values.icon));
+    replaceAll(page, "{{{ பின்னணி_நிறம் }}}", values.background.empty() ? "#ffffff" : values.background);
+    if (!replaceFirst(page, "{{{ SCRIPT }}}", SCRIPT)) {
+        insertBeforeEndOfBody(page, std::string(SCRIPT) + "\n");
+    }
+    insertBeforeEndOfBody(page, reloadScript(values.version));
+    return page;
+}
+
+std::string embeddedIcon(const std::string& path) {
+    const auto bytes = path.empty() ? std::nullopt : readBytes(fs::u8path(path));
+    return bytes ? "data:" + imageType(path) + ";base64," + base64_encode_logo(*bytes) : "file-icon.png";
+}
+
+std::string base64_encode_logo(const std::vector<unsigned char>& bytes) {
+    constexpr std::string_view TABLE = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    constexpr std::size_t GROUP = 3;
+    std::string text;
+    text.reserve((bytes.size() + GROUP - 1) / GROUP * (GROUP + 1));
+    for (std::size_t start = 0; start < bytes.size(); start += GROUP) {
+        const std::size_t count = std::min(GROUP, bytes.size() - start);
+        unsigned int group = 0;
+        for (std::size_t offset = 0; offset < GROUP; ++offset) {
+            group = group << 8U | (offset < count ? bytes[start + offset] : 0U);
+        }
+        for (std::size_t digit = 0; digit <= GROUP; ++digit) {
+            text += digit <= count ? TABLE[group >> (18U - 6U * digit) & 63U] : '=';
+        }
+    }
+    return text;
+}
+
+} // namespace pozhil

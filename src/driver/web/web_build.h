@@ -1,0 +1,44 @@
+#pragma once
+
+#include "driver/front_end.h"
+#include "driver/web/emscripten_environment.h"
+#include "driver/web/precompiled_runtime.h"
+#include "platform/process.h"
+
+#include <array>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace pozhil {
+
+/// Builds the versions of an application, one after the other, with em++ into the directory வெளியீடு.
+class WebBuild {
+public:
+    /// \param appDirectory the installation
+    /// \param temporaryDirectory where the output text is written for em++
+    WebBuild(const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory);
+
+    /// Makes the page of one version anew for the server and compiles its output text. The server's version number grows
+    /// once all files are in place. What goes wrong is told to the user.
+    /// \return whether em++ succeeded
+    bool run(const Program& program, const OutputText& output);
+
+private:
+    bool makePage(const Program& program, int version) const;
+    PrecompiledHeaders headersFor(const OutputText& output);
+    void prepareRuntime(const OutputText& output);
+    bool compile(const OutputText& output, const std::vector<std::string>& packing);
+    platform::Command command(const std::vector<std::string>& packing, const PrecompiledHeaders& headers) const;
+    void explainFailure() const;
+
+    std::filesystem::path appDirectory_;
+    std::string compiler_;
+    std::filesystem::path source_;
+    std::array<std::filesystem::path, 2> objects_;
+    std::filesystem::path outputDirectory_;
+    PrecompiledHeaders headers_;
+    PrecompiledRuntime runtime_;
+};
+
+} // namespace pozhil

@@ -1,0 +1,38 @@
+#include "driver/web/web_mode.h"
+
+#include "driver/server/local_server.h"
+#include "driver/source_watch.h"
+#include "driver/web/web_build.h"
+#include "driver/web/web_messages.h"
+#include "platform/browser.h"
+
+#include <iostream>
+#include <thread>
+
+namespace pozhil {
+
+void runWeb(const SourceFile& source, const OutputText& output, const std::vector<std::string>& moduleDirectories,
+            const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory) {
+    const std::string address = "http://127.0.0.1:" + std::to_string(LOCAL_SERVER_PORT);
+    WebBuild build(appDirectory, temporaryDirectory);
+    printWebPacking();
+    if (build.run(source.program, output)) {
+        printWebSuccess(address);
+        platform::openInBrowser(address);
+    } else {
+        printWebFailure();
+    }
+    std::thread(runLocalServer, LOCAL_SERVER_PORT).detach();
+
+    WatchSteps steps;
+    steps.changeNote = "\n🔄 மாற்றம் கண்டறியப்பட்டது! வலைத்தளம் புதுப்பிக்கப்படுகிறது...";
+    steps.build = [&](const SourceFile& changed, const OutputText& changedOutput) {
+        if (build.run(changed.program, changedOutput)) {
+            std::cout << "✅ தளம் புதுப்பிக்கப்பட்டது! பிரவுசரில் பார்க்கவும்." << std::endl;
+        }
+    };
+    steps.reportFailure = reportWebWatchFailure;
+    watchSource(source.path, moduleDirectories, steps);
+}
+
+} // namespace pozhil

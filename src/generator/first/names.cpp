@@ -1,0 +1,60 @@
+#include "generator/first/names.h"
+
+#include "generator/first/runtime_text.h"
+
+#include <algorithm>
+#include <set>
+
+namespace pozhil {
+namespace {
+
+constexpr std::string_view FUNCTION_PREFIX = "fn_";
+
+bool isNameByte(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte >= 0x80 || c == '_' || (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+void collectFunctionNames(std::string_view text, std::set<std::string, std::less<>>& names) {
+    std::size_t start = text.find(FUNCTION_PREFIX);
+    while (start != std::string_view::npos) {
+        const auto* end = std::find_if_not(text.begin() + static_cast<std::ptrdiff_t>(start), text.end(), isNameByte);
+        const auto length = static_cast<std::size_t>(end - text.begin()) - start;
+        names.emplace(text.substr(start, length));
+        start = text.find(FUNCTION_PREFIX, start + length);
+    }
+}
+
+/// Every name of the runtime that begins like a user's function.
+const std::set<std::string, std::less<>>& runtimeFunctionNames() {
+    static const std::set<std::string, std::less<>> names = [] {
+        std::set<std::string, std::less<>> found;
+        for (const std::string_view section : {runtime::global_state, runtime::value_texts, runtime::value_functions,
+                                               runtime::library, runtime::scrolling}) {
+            collectFunctionNames(section, found);
+        }
+        return found;
+    }();
+    return names;
+}
+
+} // namespace
+
+bool isSelfName(std::string_view name) {
+    return name == "தான்" || name == "self";
+}
+
+std::string anyTypes(std::size_t count) {
+    std::string types;
+    for (std::size_t index = 0; index < count; ++index) {
+        types += index == 0 ? "std::any" : ", std::any";
+    }
+    return types;
+}
+
+std::string emittedFunctionName(const std::string& stem) {
+    std::string name = std::string(FUNCTION_PREFIX) + stem;
+    return runtimeFunctionNames().count(name) == 0 ? name : name + "_";
+}
+
+} // namespace pozhil

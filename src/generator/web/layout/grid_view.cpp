@@ -1,0 +1,84 @@
+#include "generator/web/layout/lists.h"
+#include "generator/web/write/literals.h"
+#include "generator/web/write/widget_writer.h"
+
+#include <algorithm>
+
+namespace pozhil {
+namespace {
+
+int columnsOf(const WidgetNode& grid) {
+    constexpr float USUAL = 2.0F;
+    constexpr float MOST = 1.0e6F;
+    const float columns = numberOf(findProperty(grid, {"cols", "குறுக்கு_எண்ணிக்கை"})).value_or(USUAL);
+    return static_cast<int>(std::clamp(columns, 1.0F, MOST));
+}
+
+/// The gap between cells along one axis: of \p names the last that is a number, else the size of a spacer.
+std::string gapOf(const WidgetNode& grid, const char* spacerSize, std::initializer_list<const char*> names) {
+    constexpr float USUAL = 10.0F;
+    float gap = USUAL;
+    for (const auto& property : grid.properties) {
+        const WidgetNode* spacer = asWidget(property.second.get());
+        if (spacer != nullptr && spacer->kind == "இவெ") {
+            gap = constantOf(findProperty(*spacer, {spacerSize})).value_or(gap);
+        }
+    }
+    for (const char* name : names) {
+        gap = constantOf(findProperty(grid, {name})).value_or(gap);
+    }
+    return floatConstant(gap);
+}
+
+/// A child keeps its own size; the cell only says where it stands.
+void emitCell(const WidgetWriter& grid, const WidgetNode& child) {
+    grid.block(R"(
+    {
+        float savedForcedW = forcedW, savedForcedH = forcedH;
+        forcedW = -1.0f; forcedH = -1.0f;
+        $child
+        forcedW = savedForcedW; forcedH = savedForcedH;
+        if ($height > maxRowH) maxRowH = $height;
+        colIndex++;
+        curX += cellW + gapH;
+        if (colIndex >= cols) {
+            colIndex = 0;
+            curX = gX;
+            curY += maxRowH + gapV;
+            maxRowH = 0.0f;
+        }
+    }
+)",
+               {{"height", floatConstant(grid.heightOf(child))},
+                {"child", grid.blocks([&] { grid.child(child, "curX", "curY"); })}});
+}
+
+} // namespace
+
+void emitGridView(const WidgetWriter& grid) {
+    const WidgetNode& widget = grid.widget();
+    grid.block(
+        R"(
+{
+    int cols = $cols;
+    if (cols > 1) {
+        if (winWidth <= 768.0f && cols >= 3) cols = 2;
+        if (winWidth <= 480.0f) cols = 1;
+    }
+    float gapH = $gapH; float gapV = $gapV;
+    float gX = $x; float gY = $y;
+    float gW = $width;
+    float cellW = (gW - ((cols - 1) * gapH)) / cols;
+    int colIndex = 0;
+    float curX = gX; float curY = gY;
+    float maxRowH = 0.0f;
+)",
+        {{"cols", std::to_string(columnsOf(widget))},
+         {"gapH", gapOf(widget, "அகலம்", {"h_gap", "கி_இவெ"})},
+         {"gapV", gapOf(widget, "உயரம்", {"v_gap", "நெ_இவெ"})},
+         {"width", floatConstant(constantOf(findProperty(widget, {"width", "அகலம்"})).value_or(grid.widthOf(widget)))}});
+    grid.eachChild(childWidgets(widget), [&](const WidgetNode& child) { emitCell(grid, child); });
+    grid.block("}\n");
+}
+
+} // namespace pozhil

@@ -1,0 +1,128 @@
+#include "generator/web/layout/layout_children.h"
+
+#include "generator/web/write/literals.h"
+#include "generator/web/write/sizes.h"
+#include "generator/web/write/widget_writer.h"
+
+#include <algorithm>
+
+namespace pozhil {
+
+LayoutChildren::LayoutChildren(const WidgetWriter& layout)
+    : widgets(childWidgets(layout.widget())),
+      spacing(numberOf(findProperty(layout.widget(), {"இடைவெளி"})).value_or(0.0F)) {
+    for (const WidgetNode* child : widgets) {
+        widthSum += layout.widthOf(*child);
+        heightSum += layout.heightOf(*child);
+        largestWidth = std::max(largestWidth, layout.widthOf(*child));
+        largestHeight = std::max(largestHeight, layout.heightOf(*child));
+        totalFlex += flexShare(*child).value_or(0.0F);
+    }
+    gaps = widgets.size() > 1 ? static_cast<float>(widgets.size() - 1) * spacing : 0.0F;
+}
+
+std::optional<float> flexShare(const WidgetNode& child) {
+    if (child.kind == "நெகிழ்வு") {
+        const auto* flexible = dynamic_cast<const FlexibleNode*>(&child);
+        return flexible == nullptr ? 1.0F : static_cast<float>(flexible->flex);
+    }
+    const bool isFlex = child.kind == "விரிவாக்கம்" || child.kind == "வெற்றிடம்";
+    return isFlex ? std::optional(1.0F) : std::nullopt;
+}
+
+bool hasScrollBar(const WidgetNode& layout) {
+    return isTrue(findProperty(layout, {"உருளும்பட்டை"}));
+}
+
+void emitLayoutSize(const WidgetWriter& layout, std::initializer_list<const char*> names, const char* variable,
+                    const char* forced, const char* window) {
+    const Expression* given = findProperty(layout.widget(), names);
+    if (const std::optional<float> size = numberOf(given)) {
+        layout.block("    $variable = $size;\n", {{"variable", variable}, {"size", floatConstant(*size)}});
+    } else if (given == nullptr && layout.isRoot()) {
+        layout.block("    if ($forced < 0.0f) $variable = $window;\n",
+                     {{"forced", forced}, {"variable", variable}, {"window", window}});
+    }
+}
+
+void emitShares(const WidgetWriter& layout, const LayoutChildren& children, const LayoutAxis& axis) {
+    layout.block(R"(
+    float $sum = 0.0f;
+    float totalFlex = $flex;
+    float spacing = 0.0f;
+    spacing = $spacing;
+)",
+                 {{"sum", axis.fixedSum},
+                  {"flex", floatConstant(children.totalFlex)},
+                  {"spacing", floatConstant(children.spacing)}});
+    layout.eachChild(children.widgets, [&](const WidgetNode& child) {
+        if (flexShare(child)) {
+            return;
+        }
+        std::string size = floatConstant((layout.*axis.sizeOf)(child));
+        if (child.kind == "இவெ") {
+            size = processPercentage(findProperty(child, {axis.gapProperty}), axis.gapBase);
+        }
+        layout.block("    $sum += $size + spacing;\n",
+                     {{"sum", axis.fixedSum}, {"size", size.empty() ? "0.0f" : size}});
+    });
+    layout.block(R"(
+    float remaining$axis = container$axis - $sum;
+    if (remaining$axis < 0.0f) remaining$axis = 0.0f;
+    float unitFlex$axis = (totalFlex > 0) ? (remaining$axis / totalFlex) : 0.0f;
+)",
+                 {{"axis", axis.letter}, {"sum", axis.fixedSum}});
+}
+
+void emitScrollLimits(const WidgetWriter& layout, const LayoutAxis& axis, const char* content, const char* visible) {
+    layout.block(R"(
+    float maxScroll = $content - $visible;
+    if (maxScroll < 0.0f) maxScroll = 0.0f;
+    if (${offset}_$n < 0.0f) ${offset}_$n = 0.0f;
+    if (${offset}_$n > maxScroll) ${offset}_$n = maxScroll;
+)",
+                 {{"content", content}, {"visible", visible}, {"offset", axis.offset}});
+}
+
+void emitClip(const WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height) {
+    layout.block(R"(
+    nvgSave(vg);
+    nvgScissor(vg, $left, $top, $width, $height);
+)",
+                 {{"left", x}, {"top", y}, {"width", width}, {"height", height}});
+    emitClipRectangle(layout, x, y, width, height);
+}
+
+void emitClipRectangle(const WidgetWriter& layout, const char* x, const char* y, const char* width,
+                       const char* height) {
+    layout.block(R"(
+    float oldClipX = g_currentClipX, oldClipY = g_currentClipY, oldClipW = g_currentClipW, oldClipH = g_currentClipH;
+    g_currentClipX = $left; g_currentClipY = $top; g_currentClipW = $width; g_currentClipH = $height;
+)",
+                 {{"left", x}, {"top", y}, {"width", width}, {"height", height}});
+}
+
+void emitClipEnd(const WidgetWriter& layout) {
+    layout.block(R"(
+    nvgRestore(vg);
+    g_currentClipX = oldClipX; g_currentClipY = oldClipY; g_currentClipW = oldClipW; g_currentClipH = oldClipH;
+)");
+}
+
+void emitScrollToId(const WidgetWriter& layout, const char* offset, const char* start, const ScrollAxis& axis) {
+    layout.block(R"(
+    if (!g_scrollToId.empty() && g_widgetPositions.count(g_scrollToId)) {
+        float target${letter}_id = g_widgetPositions[g_scrollToId].$axis;
+        float desired$letter = $start + 50.0f;
+        float error = target${letter}_id - desired$letter;
+        ${offset}_$n += error * 0.1f;
+        bool hitLimit = false;
+        if (${offset}_$n <= 0.5f) { ${offset}_$n = 0.0f; hitLimit = (error < 0); }
+        if (${offset}_$n >= maxScroll - 0.5f) { ${offset}_$n = maxScroll; hitLimit = (error > 0); }
+        if (std::abs(error) < 2.0f || hitLimit) g_scrollToId = "";
+    }
+)",
+                 {{"offset", offset}, {"start", start}, {"axis", axis.property}, {"letter", axis.letter}});
+}
+
+} // namespace pozhil

@@ -1,0 +1,80 @@
+#include "generator/web/layout/layout_children.h"
+#include "generator/web/layout/lists.h"
+#include "generator/web/write/widget_writer.h"
+
+namespace pozhil {
+namespace {
+
+void emitScrolling(const WidgetWriter& list) {
+    emitClip(list, "listStartX", "listStartY", "winWidth", "winHeight");
+    list.block(R"(
+    static float scrollOffset_$n = 0.0f;
+    float mouseX = pozhil_mouse_x();
+    float mouseY = pozhil_mouse_y();
+    if (mouseX >= listStartX && mouseX <= listStartX + winWidth && mouseY >= listStartY && mouseY <= listStartY + winHeight) {
+        float wheel = pozhil_take_wheel();
+        scrollOffset_$n += wheel;
+    }
+    float maxScroll = totalContentHeight - winHeight;
+    if (maxScroll < 0.0f) maxScroll = 0.0f;
+    if (scrollOffset_$n < 0.0f) scrollOffset_$n = 0.0f;
+    if (scrollOffset_$n > maxScroll) scrollOffset_$n = maxScroll;
+)");
+    emitScrollToId(list, "scrollOffset", "listStartY", SCROLL_Y);
+}
+
+void emitScrollBar(const WidgetWriter& list) {
+    list.block(R"(
+    if (maxScroll > 0) {
+        float barH = (winHeight / totalContentHeight) * winHeight;
+        float barY = (scrollOffset_$n / totalContentHeight) * winHeight;
+        nvgBeginPath(vg);
+        nvgRoundedRect(vg, winWidth - 6, barY, 4, barH, 2);
+        nvgFillColor(vg, nvgRGBA(0, 0, 0, 100));
+        nvgFill(vg);
+    }
+}
+)");
+}
+
+} // namespace
+
+void emitListView(const WidgetWriter& list) {
+    const auto children = childWidgets(list.widget());
+    if (const Expression* id = findProperty(list.widget(), {"ID", "id", "அடையாளம்"})) {
+        list.block(
+            R"({ std::string _wid = fn_any_to_string($id); if (!_wid.empty()) g_widgetPositions[_wid] = {(float)($x), (float)($y)}; })"
+            "\n",
+            {{"id", list.expression(id)}});
+    }
+    list.block(R"(
+{
+    float listStartX = $x; float listStartY = $y;
+    float spacing = 0.0f;
+    float totalContentHeight = 0.0f;
+)");
+    list.eachChild(children, [&](const WidgetNode& child) {
+        list.block("    totalContentHeight += $height;\n", {{"height", floatConstant(list.heightOf(child))}});
+    });
+    emitScrolling(list);
+    list.block("    float currentY = listStartY - scrollOffset_$n;\n");
+    list.eachChild(children, [&](const WidgetNode& child) {
+        list.block(R"(
+    {
+        float childX = listStartX + (winWidth - $width) / 2.0f;
+        float savedForcedW = forcedW, savedForcedH = forcedH;
+        forcedW = -1.0f; forcedH = -1.0f;
+        $child
+        forcedW = savedForcedW; forcedH = savedForcedH;
+        currentY += $height;
+    }
+)",
+                   {{"width", floatConstant(list.widthOf(child))},
+                    {"height", floatConstant(list.heightOf(child))},
+                    {"child", list.blocks([&] { list.child(child, "childX", "currentY"); })}});
+    });
+    emitClipEnd(list);
+    emitScrollBar(list);
+}
+
+} // namespace pozhil

@@ -1,0 +1,133 @@
+#include "generator/web/layout/layout.h"
+#include "generator/web/layout/layout_children.h"
+#include "generator/web/write/sizes.h"
+#include "generator/web/write/widget_writer.h"
+
+namespace pozhil {
+namespace {
+
+constexpr LayoutAxis AXIS = {"W",       "fixedWidthSum",       "அகலம்", "(forcedW > 0.0f ? forcedW : containerW)",
+                             "scrollX", &WidgetWriter::widthOf};
+
+void emitRectangle(const WidgetWriter& row, const LayoutChildren& children, float contentWidth) {
+    row.block(R"(
+{
+    float rowX = $x; float rowY = $y;
+    float containerW = (forcedW > 0.0f) ? forcedW : $contentW;
+)",
+              {{"contentW", floatConstant(contentWidth)}});
+    emitLayoutSize(row, {"style_அகலம்", "அகலம்"}, "containerW", "forcedW", "winWidth");
+    row.block("    float containerH = (forcedH > 0.0f) ? forcedH : $contentH;\n",
+              {{"contentH", floatConstant(children.largestHeight)}});
+    emitLayoutSize(row, {"style_உயரம்", "உயரம்"}, "containerH", "forcedH", "winHeight");
+    row.block("    float rowW = $width;\n    float rowH = containerH;\n",
+              {{"width", hasScrollBar(row.widget()) ? "winWidth" : "containerW"}});
+}
+
+/// A scrolling row leaves room behind its last child.
+void emitScrolling(const WidgetWriter& row, float contentWidth) {
+    row.block(R"(
+    float contentW = $contentW + 150.0f;
+    if (contentW < rowW) contentW = rowW;
+    static float scrollX_$n = 0.0f;
+    float mouseX = pozhil_mouse_x();
+    float mouseY = pozhil_mouse_y();
+    if (mouseX >= rowX && mouseX <= rowX + rowW && mouseY >= rowY && mouseY <= rowY + rowH) {
+        float wheel = pozhil_take_both_wheels();
+        scrollX_$n += wheel;
+    }
+)",
+              {{"contentW", floatConstant(contentWidth)}});
+    emitScrollLimits(row, AXIS, "contentW", "rowW");
+    emitClip(row, "rowX", "rowY", "rowW", "rowH");
+    emitScrollToId(row, "scrollX", "rowX", SCROLL_X);
+}
+
+void emitScrollBar(const WidgetWriter& row) {
+    emitClipEnd(row);
+    row.block(R"(
+    if (maxScroll > 0) {
+        float barW = (rowW / contentW) * rowW;
+        float barX = rowX + (scrollX_$n / contentW) * rowW;
+        nvgBeginPath(vg);
+        nvgRoundedRect(vg, barX, rowY + rowH - 6, barW, 4, 2);
+        nvgFillColor(vg, nvgRGBA(0, 0, 0, 100));
+        nvgFill(vg);
+    }
+)");
+}
+
+/// Where the child stands across the row.
+void emitChildTop(const WidgetWriter& row, const WidgetNode& child) {
+    const float alignY = getAlignmentCoords(row.widget().alignment).second;
+    row.block("    float childH_val = $height;\n    float childY = $top;\n",
+              {{"height", floatConstant(row.heightOf(child))},
+               {"top", alignY < 0.0F   ? "rowY"
+                       : alignY > 0.0F ? "rowY + (containerH - childH_val)"
+                                       : "rowY + (containerH - childH_val) / 2.0f"}});
+}
+
+/// Draws the child with \p width imposed on it; -1.0f leaves it free. A flexible spacer draws nothing.
+void emitPlacedChild(const WidgetWriter& row, const WidgetNode& child, const char* width) {
+    if (child.kind == "வெற்றிடம்") {
+        return;
+    }
+    emitChildTop(row, child);
+    row.block(R"(
+    float savedForcedW = forcedW, savedForcedH = forcedH;
+    forcedW = $width; forcedH = -1.0f;
+    $child
+    forcedW = savedForcedW; forcedH = savedForcedH;
+)",
+              {{"width", width}, {"child", row.blocks([&] { row.child(child, "currentX", "childY"); })}});
+}
+
+void emitChild(const WidgetWriter& row, const WidgetNode& child) {
+    const std::optional<float> share = flexShare(child);
+    const bool isOneShare = share && child.kind != "நெகிழ்வு";
+    if (isOneShare) {
+        emitPlacedChild(row, child, "unitFlexW");
+    } else if (share) {
+        row.block("    float current_wW = unitFlexW * $share;\n", {{"share", floatConstant(*share)}});
+        emitPlacedChild(row, child, "current_wW");
+    } else if (child.kind == "இவெ") {
+        row.block("    float current_wW = 0.0f;\n");
+        emitSize(row, findProperty(child, {AXIS.gapProperty}), "current_wW", "(forcedW > 0.0f ? forcedW : containerW)");
+    } else {
+        row.block("    float current_wW = $width;\n", {{"width", floatConstant(row.widthOf(child))}});
+        emitPlacedChild(row, child, "-1.0f");
+    }
+    row.block("    currentX += $width + spacing;\n", {{"width", isOneShare ? "unitFlexW" : "current_wW"}});
+}
+
+} // namespace
+
+void emitRow(const WidgetWriter& row) {
+    const LayoutChildren children(row);
+    const float contentWidth = children.widthSum + children.gaps;
+    const bool scrolls = hasScrollBar(row.widget());
+    emitRectangle(row, children, contentWidth);
+    if (scrolls) {
+        emitScrolling(row, contentWidth);
+    }
+    emitShares(row, children, AXIS);
+    row.block(R"(
+    float alignX = $alignX;
+    float usedW = (totalFlex > 0.0f) ? containerW : fixedWidthSum;
+    float startX = rowX + (containerW - usedW) * (1.0f + alignX) / 2.0f;
+    float currentX = $start;
+)",
+              {{"alignX", floatConstant(getAlignmentCoords(row.widget().alignment).first)},
+               {"start", scrolls ? "startX - scrollX_" + row.number() : "startX"}});
+    row.eachChild(children.widgets, [&](const WidgetNode& child) {
+        if (child.kind != "அசைவூட்டம்") {
+            row.block("    {\n$child\n    }\n", {{"child", row.blocks([&] { emitChild(row, child); })}});
+        }
+    });
+    if (scrolls) {
+        emitScrollBar(row);
+    }
+    row.block("}\n");
+}
+
+} // namespace pozhil

@@ -1,0 +1,184 @@
+/// The bridge to the realtime database: each operation is a script for the browser, put together when it runs. A native
+/// program has no database, and its operations do nothing.
+
+#include "emit/emitted_block.h"
+#include "generator/first/generator.h"
+
+#include <array>
+
+namespace pozhil {
+namespace {
+
+constexpr std::string_view LIBRARY_HOST = "https://www.gstatic.com";
+
+constexpr std::string_view LOADER = R"block(
+#ifdef __EMSCRIPTEN__
+    pozhil_run_script(R"script(
+        if (!window.firebaseInitialized) {
+            window.firebaseInitialized = true;
+            var app = document.createElement('script');
+            app.src = '$host/firebasejs/10.0.0/firebase-app-compat.js';
+            app.onload = function() {
+                var database = document.createElement('script');
+                database.src = '$host/firebasejs/10.0.0/firebase-database-compat.js';
+                database.onload = function() {
+                    var cfg = {
+                        apiKey: '$api_key',
+                        authDomain: '$auth_domain',
+                        databaseURL: '$database_url',
+                        projectId: '$project_id',
+                        storageBucket: '$storage_bucket',
+                        messagingSenderId: '$messaging_sender_id',
+                        appId: '$app_id'
+                    };
+                    if (!firebase.apps.length) {
+                        firebase.initializeApp(cfg);
+                    }
+                    window.db = firebase.database();
+                    console.log('🔥 பொழில்: பயர்பேஸ் தரவுத்தளம் வெற்றிகரமாக இணைக்கப்பட்டது!');
+                };
+                document.head.appendChild(database);
+            };
+            document.head.appendChild(app);
+        }
+    )script");
+#endif
+)block";
+
+constexpr std::string_view INSERT = R"block(
+    std::string script = "try { if (typeof window.db === 'undefined') throw Error('Firebase Database இணைக்கப்படவில்லை!');"
+        " var data = JSON.parse('" + json_data + "');"
+        " window.db.ref('" + path_str + "').set(data)"
+        ".then(() => { console.log('✅ தரவு வெற்றிகரமாக சேமிக்கப்பட்டது!'); })"
+        ".catch((error) => { console.error('❌ ஃபயர்பேஸ் பிழை:', error); }); }"
+        " catch (error) { console.error('🔥 பொழில் இயக்கநேரப் பிழை (WASM):', error.message); }";
+    pozhil_run_script(script);
+)block";
+
+constexpr std::string_view UPDATE = R"block(
+    std::string script = "try { var data = JSON.parse('" + json_data + "');"
+        " window.db.ref('" + path_str + "').update(data)"
+        ".then(() => { console.log('✅ தரவு வெற்றிகரமாக மாற்றப்பட்டது!'); })"
+        ".catch((error) => { console.error('❌ ஃபயர்பேஸ் பிழை:', error); }); }"
+        " catch (error) { console.error('🔥 பொழில் இயக்கநேரப் பிழை (WASM):', error.message); }";
+    pozhil_run_script(script);
+)block";
+
+constexpr std::string_view DELETE = R"block(
+    std::string script = "window.db.ref('" + path_str + "').remove()"
+        ".then(() => { console.log('✅ தரவு வெற்றிகரமாக அழிக்கப்பட்டது!'); })"
+        ".catch((error) => { console.error('❌ ஃபயர்பேஸ் பிழை:', error); });";
+    pozhil_run_script(script);
+)block";
+
+constexpr std::string_view READ = R"block(
+{
+#ifdef __EMSCRIPTEN__
+    std::string path_str = fn_any_to_string($path);
+    int cb_id = ++g_rtdb_cb_counter;
+    g_rtdb_callbacks[cb_id] = [=]() mutable -> std::any {
+        $body
+        return std::any();
+    };
+    std::string script = "window.db.ref('" + path_str + "').once('value').then((snapshot) => {"
+        " var data = snapshot.val();"
+        " Module.ccall('rtdb_clear_temp', null, [], []);"
+        " if (data) { for (var k in data) { var v = data[k];"
+        " if (typeof v === 'string') Module.ccall('rtdb_add_temp_str', null, ['string', 'string'], [k, v]);"
+        " else if (typeof v === 'number') Module.ccall('rtdb_add_temp_num', null, ['string', 'number'], [k, v]);"
+        " else if (typeof v === 'boolean') Module.ccall('rtdb_add_temp_bool', null, ['string', 'number'], [k, v ? 1 : 0]);"
+        " } }"
+        " Module.ccall('rtdb_execute_callback', null, ['number'], [" + std::to_string(cb_id) + "]);"
+        " }).catch((error) => { console.error('🔥 பொழில் இயக்கநேரப் பிழை (WASM):', error.message); });";
+    pozhil_run_script(script);
+#endif
+}
+)block";
+
+/// A configuration value, empty if the source gives none or no text.
+std::string configured(const FirebaseConfigNode& config, const char* key) {
+    const auto property = config.properties.find(key);
+    const auto* text = property == config.properties.end() ? nullptr : nodeCast<StringLiteral>(property->second.get());
+    return text == nullptr ? "" : text->value;
+}
+
+} // namespace
+
+void Generator::visitDatabaseManagerNode(const DatabaseManagerNode* node) {
+    if (const auto* config = nodeCast<FirebaseConfigNode>(node->firebaseConfig.get())) {
+        visitFirebaseConfigNode(config);
+    }
+}
+
+/// Loads the database's libraries into the page, one behind the other and only once.
+void Generator::visitFirebaseConfigNode(const FirebaseConfigNode* node) {
+    constexpr std::array<const char*, 7> KEYS = {"api_key",        "auth_domain",         "database_url", "project_id",
+                                                 "storage_bucket", "messaging_sender_id", "app_id"};
+    Holes holes = {{"host", std::string(LIBRARY_HOST)}};
+    for (const char* key : KEYS) {
+        holes.emplace_back(key, configured(*node, key));
+    }
+    writeBlock(out_, LOADER, holes);
+}
+
+/// An operation as an expression without a value: \p script stands behind the path and the data, if there are any.
+template <class WriteData>
+void Generator::emitDatabaseOperation(const Expression* path, WriteData writeData, std::string_view script) {
+    out_ << "[&]() -> std::any {\n#ifdef __EMSCRIPTEN__\n    std::string path_str = fn_any_to_string(";
+    visitExpression(path);
+    out_ << ");\n";
+    writeData();
+    writeBlock(out_, script, {});
+    out_ << "#endif\n    return std::any();\n}()";
+}
+
+/// The data as JSON. A number that is changed stays one, while new values are all sent as texts.
+void Generator::emitDatabaseEntries(const MapLiteral* data, bool keepsNumbers) {
+    out_ << "    std::string json_data = \"{\";\n";
+    bool isFirst = true;
+    for (const auto& [key, value] : data->entries) {
+        const bool isQuoted = !keepsNumbers || nodeCast<StringLiteral>(value.get()) != nullptr;
+        const std::string_view quote = isQuoted ? "\\\"" : "";
+        out_ << "    json_data += \"" << (isFirst ? "" : ", ") << "\\\"" << key << "\\\": " << quote
+             << "\" + fn_any_to_string(";
+        visitExpression(value.get());
+        out_ << ") + \"" << quote << "\";\n";
+        isFirst = false;
+    }
+    out_ << "    json_data += \"}\";\n";
+}
+
+void Generator::visitRTDBInsertExpression(const RTDBInsertExpression* node) {
+    static const MapLiteral NO_ENTRIES({});
+    const auto* data = nodeCast<MapLiteral>(node->data.get());
+    const auto writeData = [&] { emitDatabaseEntries(data == nullptr ? &NO_ENTRIES : data, false); };
+    emitDatabaseOperation(node->path.get(), writeData, INSERT);
+}
+
+void Generator::visitRTDBUpdateExpression(const RTDBUpdateExpression* node) {
+    const auto writeData = [&] { emitDatabaseEntries(node->data.get(), true); };
+    emitDatabaseOperation(node->path.get(), writeData, UPDATE);
+}
+
+void Generator::visitRTDBDeleteExpression(const RTDBDeleteExpression* node) {
+    emitDatabaseOperation(
+        node->path.get(), [] {}, DELETE);
+}
+
+/// The body runs when the data has arrived; what stands behind the statement doesn't wait. The variables of a function
+/// are copied for it, and its own end with it. A return in it leaves the body alone, on some of its ways or on all.
+void Generator::visitRTDBReadStatement(const RTDBReadStatement* node) {
+    const Filling path = std::function<void()>([&] { visitExpression(node->path.get()); });
+    const Filling body = std::function<void()>([&] {
+        const std::size_t outerLocals = localsLog_.size();
+        indentLevel_ += 2;
+        for (const StatementPtr& statement : node->body) {
+            visitStatement(statement.get());
+        }
+        indentLevel_ -= 2;
+        dropLocalsBehind(outerLocals);
+    });
+    writeBlock(out_, READ, {{"path", path}, {"body", body}}, indentation());
+}
+
+} // namespace pozhil

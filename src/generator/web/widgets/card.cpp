@@ -1,0 +1,94 @@
+#include "generator/web/layout/layout_children.h"
+#include "generator/web/widgets/box.h"
+#include "generator/web/write/colours.h"
+#include "generator/web/write/literals.h"
+#include "generator/web/write/sizes.h"
+#include "generator/web/write/widget_writer.h"
+
+namespace pozhil {
+namespace {
+
+constexpr const char* CHILD_X = "cardX + 15.0f";
+
+void emitRectangle(const WidgetWriter& card) {
+    constexpr float RADIUS = 12.0F;
+    constexpr float ELEVATION = 4.0F;
+    // A card in a card has a variable of the same name, and its position is told by that of the outer one.
+    const bool isInCard = card.x() == CHILD_X;
+    card.block("{\n");
+    if (isInCard) {
+        card.block("    float outerX = $x;\n");
+    }
+    card.block(R"(
+    float cardX = std::floor($left); float cardY = std::floor($y);
+    float cardW = 350.0f; float cardH = 200.0f;
+)",
+               {{"left", isInCard ? "outerX" : card.x()}});
+    emitOwnSize(card, "cardW", "cardH");
+    card.block(R"(
+    float radius = $radius;
+    float elevation = $elevation;
+)",
+               {{"radius", numberConstant(card.widget(), {"style_வளைவு", "வளைவு"}, RADIUS)},
+                {"elevation", numberConstant(card.widget(), {"style_எலிவேஷன்", "எலிவேஷன்"}, ELEVATION)}});
+}
+
+void emitBody(const WidgetWriter& card) {
+    const ByteColour fill =
+        byteColour(colourProperty(card.widget(), {"style_பின்னணி", "பின்னணி", "style_நிறம்"}, "#FFFFFF"));
+    card.block(R"(
+    if (elevation > 0.0f) {
+        float shadowBlur = elevation * 3.0f;
+        float shadowOffsetY = elevation * 1.5f;
+        NVGpaint shadowPaint = nvgBoxGradient(vg, cardX, cardY + shadowOffsetY, cardW, cardH, radius, shadowBlur, nvgRGBA(0,0,0,80), nvgRGBA(0,0,0,0));
+        nvgBeginPath(vg);
+        nvgRect(vg, cardX - shadowBlur - 5, cardY - shadowBlur - 5, cardW + (shadowBlur * 2) + 10, cardH + (shadowBlur * 2) + 10);
+        nvgRoundedRect(vg, cardX, cardY, cardW, cardH, radius);
+        nvgPathWinding(vg, NVG_HOLE);
+        nvgFillPaint(vg, shadowPaint);
+        nvgFill(vg);
+    }
+    nvgBeginPath(vg);
+    nvgRoundedRect(vg, cardX, cardY, cardW, cardH, radius);
+    nvgFillColor(vg, nvgRGBA($r, $g, $b, 255));
+    nvgFill(vg);
+)",
+               {{"r", std::to_string(fill.red)}, {"g", std::to_string(fill.green)}, {"b", std::to_string(fill.blue)}});
+}
+
+/// Each child is as wide as the whole card, though it starts further in.
+void emitChildren(const WidgetWriter& card) {
+    card.block(R"(
+    float savedForcedW = forcedW, savedForcedH = forcedH;
+    forcedW = cardW; forcedH = cardH;
+    float currentChildY = cardY + 15.0f;
+)");
+    card.eachChild(childWidgets(card.widget()), [&](const WidgetNode& child) {
+        card.block(R"(
+    {
+        $child
+    }
+    currentChildY += $height + 10.0f;
+)",
+                   {{"child", card.blocks([&] { card.child(child, CHILD_X, "currentChildY"); })},
+                    {"height", floatConstant(card.heightOf(child))}});
+    });
+    card.block("    forcedW = savedForcedW; forcedH = savedForcedH;\n");
+}
+
+} // namespace
+
+void emitCard(const WidgetWriter& card) {
+    emitRectangle(card);
+    emitBody(card);
+    card.block(R"(
+    nvgSave(vg);
+    nvgIntersectScissor(vg, cardX, cardY, cardW, cardH);
+)");
+    emitClipRectangle(card, "cardX", "cardY", "cardW", "cardH");
+    emitChildren(card);
+    emitClipEnd(card);
+    card.block("}\n");
+}
+
+} // namespace pozhil

@@ -1,0 +1,95 @@
+#include "generator/web/layout/layout_children.h"
+#include "generator/web/widgets/box.h"
+#include "generator/web/widgets/container_body.h"
+#include "generator/web/write/literals.h"
+#include "generator/web/write/sizes.h"
+#include "generator/web/write/text_value.h"
+#include "generator/web/write/widget_writer.h"
+
+#include <algorithm>
+
+namespace pozhil {
+namespace {
+
+std::string alignmentWord(const Expression* value) {
+    if (const auto* member = nodeCast<GetExpression>(value)) {
+        return member->member.value;
+    }
+    const auto* variable = nodeCast<VariableAccess>(value);
+    return variable == nullptr ? textOf(value) : variable->name;
+}
+
+/// Where a child stands in the box. Written as a property, மைய_வலது puts it at the bottom.
+std::pair<float, float> alignmentOf(const WidgetNode& child) {
+    static constexpr std::pair<std::string_view, std::pair<float, float>> WORDS[] = {
+        {"மேல்_இடது", {-1.0F, -1.0F}}, {"மேல்_மையம்", {0.0F, -1.0F}}, {"மேல்_வலது", {1.0F, -1.0F}},
+        {"மைய_இடது", {-1.0F, 0.0F}},  {"மையம்", {0.0F, 0.0F}},      {"மைய_வலது", {1.0F, 1.0F}},
+        {"கீழ்_இடது", {-1.0F, 1.0F}},   {"கீழ்_மையம்", {0.0F, 1.0F}},   {"கீழ்_வலது", {1.0F, 1.0F}},
+    };
+    const std::string word = alignmentWord(findProperty(child, {"சீரமைப்பு"}));
+    const auto* found =
+        std::find_if(std::begin(WORDS), std::end(WORDS), [&](const auto& entry) { return entry.first == word; });
+    return found == std::end(WORDS) ? getAlignmentCoords(child.alignment) : found->second;
+}
+
+/// A text is measured as it will be drawn, since its width by the count of its letters is only a rough one.
+void emitChildSize(const WidgetWriter& box, const WidgetNode& child) {
+    box.block("        float childW = $width; float childH = $height;\n",
+              {{"width", floatConstant(box.widthOf(child))}, {"height", floatConstant(box.heightOf(child))}});
+    if (child.kind == "உரை") {
+        box.block(R"block(
+        if (std::string(u8"உரை") == "$kind") {
+            childW = pozhil_text_width(fn_any_to_string($text).c_str(), $size, "$weight");
+        }
+)block",
+                  {{"kind", child.kind},
+                   {"text", textValue(box, findProperty(child, {"உரை"}), "std::string(\"\")")},
+                   {"size", floatConstant(fontSizeOf(child.style))},
+                   {"weight", weightOf(child.style)}});
+    }
+}
+
+void emitChild(const WidgetWriter& box, const WidgetNode& child) {
+    const auto [alignX, alignY] = alignmentOf(child);
+    box.block("    {\n");
+    emitChildSize(box, child);
+    box.block(R"(
+        float childX = boxX + (boxW - childW) * (1.0f + $alignX) / 2.0f;
+        float childY = boxY + (boxH - childH) * (1.0f + $alignY) / 2.0f;
+)",
+              {{"alignX", floatConstant(alignX)}, {"alignY", floatConstant(alignY)}});
+    if (child.kind == "உரை") {
+        box.block("        childY += 2.0f;\n");
+    }
+    box.block(R"(
+        float savedForcedW = forcedW, savedForcedH = forcedH;
+        forcedW = -1.0f; forcedH = -1.0f;
+        $child
+        forcedW = savedForcedW; forcedH = savedForcedH;
+    }
+)",
+              {{"child", box.blocks([&] { box.child(child, "childX", "childY"); })}});
+}
+
+} // namespace
+
+void emitContainer(const WidgetWriter& box) {
+    emitContainerBody(box);
+    box.block(R"(
+    nvgSave(vg);
+    nvgBeginPath(vg);
+    nvgIntersectScissor(vg, boxX, boxY, boxW, boxH);
+)");
+    emitClipRectangle(box, "boxX", "boxY", "boxW", "boxH");
+    box.block("    float oldForcedW_container = forcedW; float oldForcedH_container = forcedH;\n");
+    box.eachChild(childWidgets(box.widget()), [&](const WidgetNode& child) {
+        if (child.kind != BOX_STYLE_KIND) {
+            emitChild(box, child);
+        }
+    });
+    box.block("    forcedW = oldForcedW_container; forcedH = oldForcedH_container;\n");
+    emitClipEnd(box);
+    box.block("}\n");
+}
+
+} // namespace pozhil

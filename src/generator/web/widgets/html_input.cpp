@@ -1,0 +1,39 @@
+#include "generator/web/widgets/input.h"
+#include "generator/web/write/colours.h"
+#include "generator/web/write/literals.h"
+#include "generator/web/write/widget_writer.h"
+
+namespace pozhil {
+
+void emitHtmlInput(const WidgetWriter& input) {
+    constexpr float WIDTH = 320.0F;
+    constexpr float HEIGHT = 60.0F;
+    const WidgetNode& widget = input.widget();
+    // நிறம் is the background, unless there is a பின்னணி: then it is the text's colour.
+    const bool hasBackground = findProperty(widget, {"பின்னணி"}) != nullptr;
+    const Colour background = colourProperty(widget, {"பின்னணி", "நிறம்"}, "#FFFFFF");
+    const Colour textColour = hasBackground ? colourProperty(widget, {"எழுத்து_நிறம்", "நிறம்"}, "#000000")
+                                            : colourProperty(widget, {"எழுத்து_நிறம்"}, "#000000");
+    input.block(R"(
+{
+    std::string inputId = "input_$n";
+    float tx = std::floor($x); float ty = std::floor($y);
+    float tw = $width;
+    tw = responsiveW(tw, winWidth, 40.0f);
+    float th = $height;
+    nvgBeginPath(vg);
+    nvgRoundedRect(vg, tx, ty, tw, th, 12);
+    nvgFillColor(vg, $fill);
+    nvgFill(vg);
+    pozhil_place_html_input(inputId.c_str(), "$hint", "$background", "$colour", tx, ty, tw, th, winHeight);
+)",
+                {{"width", numberConstant(widget, {"style_அகலம்", "அகலம்"}, WIDTH)},
+                 {"height", numberConstant(widget, {"style_உயரம்", "உயரம்"}, HEIGHT)},
+                 {"fill", floatColour(background)},
+                 {"hint", textOf(findProperty(widget, {"குறிப்பு"}))},
+                 {"background", cssColour(background)},
+                 {"colour", cssColour(textColour)}});
+    input.block(input.isAtTop() ? "}\n" : "    $y += th;\n}\n");
+}
+
+} // namespace pozhil

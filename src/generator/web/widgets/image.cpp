@@ -1,0 +1,66 @@
+#include "generator/web/widgets/media.h"
+#include "generator/web/write/literals.h"
+#include "generator/web/write/sizes.h"
+#include "generator/web/write/widget_writer.h"
+
+namespace pozhil {
+namespace {
+
+void emitRectangle(const WidgetWriter& image) {
+    const auto* path = nodeCast<StringLiteral>(findProperty(image.widget(), {"பாதை"}));
+    image.block(R"(
+{
+    float imgX = std::floor($x); float imgY = std::floor($y);
+    float tw = 100.0f; float th = 100.0f; float r = 0.0f;
+)");
+    emitGivenSize(image, {"style_அகலம்", "அகலம்"}, "tw", "(forcedW > 0.0f ? forcedW : winWidth)");
+    emitGivenSize(image, {"style_உயரம்", "உயரம்"}, "th", "(forcedH > 0.0f ? forcedH : winHeight)");
+    image.block(R"(
+    r = $radius;
+    if (forcedW > 0.0f) tw = forcedW;
+    if (forcedH > 0.0f) th = forcedH;
+    tw = responsiveW(tw, winWidth, 0.0f);
+    std::string path = "$path";
+    bool isGif = path.size() >= 4 && (path.substr(path.size() - 4) == ".gif" || path.substr(path.size() - 4) == ".GIF");
+)",
+                {{"radius", numberConstant(image.widget(), {"வளைவு"}, 0.0F)},
+                 {"path", path == nullptr ? "logo.png" : path->value}});
+}
+
+} // namespace
+
+void emitImage(const WidgetWriter& image) {
+    emitRectangle(image);
+    image.block(R"(
+    if (isGif) {
+        std::string imgId = "gif_$n";
+        float mx = pozhil_mouse_x();
+        float my = pozhil_mouse_y();
+        bool isImgHover = mx >= imgX - 10 && mx <= imgX + tw + 10 && my >= imgY - 10 && my <= imgY + th + 10;
+        pozhil_place_gif(imgId.c_str(), path.c_str(), imgX, imgY, tw, th, r, isImgHover);
+    } else {
+        static int img_$n = -1;
+        if (img_$n == -1) {
+            if (path.size() >= 4 && path.substr(path.size() - 4) == ".svg") {
+                img_$n = loadSVGImage(vg, path.c_str(), tw, th);
+            } else {
+                img_$n = nvgCreateImage(vg, path.c_str(), NVG_IMAGE_GENERATE_MIPMAPS | NVG_IMAGE_NEAREST);
+            }
+        }
+        if (img_$n > 0) {
+            NVGpaint imgPaint = nvgImagePattern(vg, imgX, imgY, tw, th, 0.0f, img_$n, 1.0f);
+            nvgBeginPath(vg);
+            if (r > 0.1f) {
+                nvgRoundedRect(vg, imgX, imgY, tw, th, r);
+            } else {
+                nvgRect(vg, imgX, imgY, tw, th);
+            }
+            nvgFillPaint(vg, imgPaint);
+            nvgFill(vg);
+        }
+    }
+}
+)");
+}
+
+} // namespace pozhil

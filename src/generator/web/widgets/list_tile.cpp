@@ -1,0 +1,130 @@
+#include "generator/web/layout/lists.h"
+#include "generator/web/write/colours.h"
+#include "generator/web/write/literals.h"
+#include "generator/web/write/press_handler.h"
+#include "generator/web/write/sizes.h"
+#include "generator/web/write/widget_writer.h"
+
+namespace pozhil {
+namespace {
+
+void emitBody(const WidgetWriter& tile) {
+    constexpr float RADIUS = 8.0F;
+    const WidgetNode& widget = tile.widget();
+    const ByteColour colour = byteColour(colourProperty(widget, {"பின்னணி"}, "#FFFFFF"));
+    tile.block(R"(
+{
+    float ltX = std::floor($x); float ltY = std::floor($y);
+    float ltW = 200.0f; float ltH = $height;
+)",
+               {{"height", findProperty(widget, {"துணைத்_தலைப்பு"}) != nullptr ? "72.0f" : "56.0f"}});
+    emitGivenSize(tile, {"அகலம்"}, "ltW", "winWidth");
+    emitGivenSize(tile, {"உயரம்"}, "ltH", "winHeight");
+    tile.block(R"(
+    float radius = $radius;
+    ltW = responsiveW(ltW, winWidth, 0.0f);
+    float mx = pozhil_mouse_x();
+    float my = pozhil_mouse_y();
+    bool isHover = mx >= ltX && mx <= ltX + ltW && my >= ltY && my <= ltY + ltH && (!g_block_background_clicks || g_inside_overlay);
+    int r = $red, g = $green, b = $blue;
+    if (isHover) {
+        pozhil_pointer_cursor();
+        r = std::max(0, r - 10); g = std::max(0, g - 10); b = std::max(0, b - 10);
+        if (g_mouseClicked) {
+            $handler
+        }
+    }
+    nvgBeginPath(vg);
+    nvgRoundedRect(vg, ltX, ltY, ltW, ltH, radius);
+    nvgFillColor(vg, nvgRGBA(r, g, b, $alpha));
+    nvgFill(vg);
+    float currentContentX = ltX + 16.0f;
+)",
+               {{"radius", numberConstant(widget, {"வளைவு"}, RADIUS)},
+                {"red", std::to_string(colour.red)},
+                {"green", std::to_string(colour.green)},
+                {"blue", std::to_string(colour.blue)},
+                {"alpha", std::to_string(colour.alpha)},
+                {"handler", pressHandler(tile)}});
+}
+
+/// One of the widgets in the tile, free to take its own size.
+Filling slotContent(const WidgetWriter& tile, const WidgetNode& content, const char* x, const char* y) {
+    return tile.blocks([&tile, &content, x, y] {
+        tile.block(R"(
+    float savedForcedW = forcedW, savedForcedH = forcedH;
+    forcedW = -1.0f; forcedH = -1.0f;
+    $content
+    forcedW = savedForcedW; forcedH = savedForcedH;
+)",
+                   {{"content", tile.blocks([&] { tile.child(content, x, y); })}});
+    });
+}
+
+void emitLeading(const WidgetWriter& tile) {
+    if (const WidgetNode* leading = asWidget(findProperty(tile.widget(), {"முன்னணி"}))) {
+        tile.block(R"(
+    {
+        float leadY = std::floor(ltY + (ltH - $height) / 2.0f);
+        $content
+        currentContentX += $width + 12.0f;
+    }
+)",
+                   {{"height", floatConstant(tile.heightOf(*leading))},
+                    {"width", floatConstant(tile.widthOf(*leading))},
+                    {"content", slotContent(tile, *leading, "currentContentX", "leadY")}});
+    }
+}
+
+void emitLines(const WidgetWriter& tile) {
+    const Expression* subtitleSlot = findProperty(tile.widget(), {"துணைத்_தலைப்பு"});
+    if (const WidgetNode* title = asWidget(findProperty(tile.widget(), {"தலைப்பு"}))) {
+        const std::string centred = "ltY + (ltH - " + floatConstant(tile.heightOf(*title)) + ") / 2.0f";
+        tile.block(R"(
+    {
+        float titleY = $top;
+        $content
+    }
+)",
+                   {{"top", subtitleSlot == nullptr ? centred : "ltY + 12.0f"},
+                    {"content", slotContent(tile, *title, "currentContentX", "titleY")}});
+    }
+    if (const WidgetNode* subtitle = asWidget(subtitleSlot)) {
+        tile.block(R"(
+    {
+        float subY = ltY + ltH - $height - 12.0f;
+        $content
+    }
+)",
+                   {{"height", floatConstant(tile.heightOf(*subtitle))},
+                    {"content", slotContent(tile, *subtitle, "currentContentX", "subY")}});
+    }
+}
+
+void emitTrailing(const WidgetWriter& tile) {
+    if (const WidgetNode* trailing = asWidget(findProperty(tile.widget(), {"பின்னணி_விட்ஜெட்"}))) {
+        tile.block(R"(
+    {
+        float trailW = $width;
+        float trailX = ltX + ltW - trailW - 16.0f;
+        float trailY = ltY + (ltH - $height) / 2.0f;
+        $content
+    }
+)",
+                   {{"width", floatConstant(tile.widthOf(*trailing))},
+                    {"height", floatConstant(tile.heightOf(*trailing))},
+                    {"content", slotContent(tile, *trailing, "trailX", "trailY")}});
+    }
+}
+
+} // namespace
+
+void emitListTile(const WidgetWriter& tile) {
+    emitBody(tile);
+    emitLeading(tile);
+    emitLines(tile);
+    emitTrailing(tile);
+    tile.block("}\n");
+}
+
+} // namespace pozhil

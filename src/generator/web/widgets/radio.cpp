@@ -1,0 +1,74 @@
+#include "generator/web/widgets/controls.h"
+#include "generator/web/write/colours.h"
+#include "generator/web/write/literals.h"
+#include "generator/web/write/press_handler.h"
+#include "generator/web/write/text_value.h"
+#include "generator/web/write/widget_writer.h"
+
+namespace pozhil {
+namespace {
+
+/// What the program's group says; without a group the widget keeps a state of its own, to be tried out.
+void emitSelection(const WidgetWriter& radio, const Expression* value, const Expression* group) {
+    radio.block(R"(
+{
+    float rbX = std::floor($x); float rbY = std::floor($y);
+    float rbSize = 20.0f;
+    bool isSelected = false;
+)");
+    if (value != nullptr && group != nullptr) {
+        radio.block(R"(
+    if (fn_compare_any($value, $group, "==")) isSelected = true;
+)",
+                    {{"value", radio.expression(value)}, {"group", radio.expression(group)}});
+    } else {
+        radio.block(R"(
+    static bool demoState_$n = false; isSelected = demoState_$n;
+)");
+    }
+}
+
+/// A press leaves the group's value to the program.
+void emitPress(const WidgetWriter& radio, bool hasGroup, const Filling& label) {
+    radio.block("    float txtW = pozhil_plain_text_width($label);\n", {{"label", label}});
+    const Filling press =
+        hasGroup ? changeHandler(radio)
+                 : radio.blocks([&] { radio.block("demoState_$n = !demoState_$n;\nisSelected = demoState_$n;\n"); });
+    emitPressArea(radio, {"rbX", "rbX + rbSize + 15.0f + txtW", "rbY", "rbY + rbSize"}, press);
+}
+
+void emitRing(const WidgetWriter& radio, const Filling& label) {
+    radio.block(R"(
+    nvgBeginPath(vg);
+    nvgCircle(vg, rbX + rbSize / 2.0f, rbY + rbSize / 2.0f, 10);
+    nvgStrokeColor(vg, isSelected ? $selected : $unselected);
+    nvgStrokeWidth(vg, 2);
+    nvgStroke(vg);
+    if (isSelected) {
+        nvgBeginPath(vg);
+        nvgCircle(vg, rbX + rbSize / 2.0f, rbY + rbSize / 2.0f, 5);
+        nvgFillColor(vg, $selected);
+        nvgFill(vg);
+    }
+    drawFixedText(std::floor(rbX + rbSize + 10), std::floor(rbY + (rbSize/2)), $label, "#000000", 18.0, "left");
+}
+)",
+                {{"selected", byteColourText(colourProperty(radio.widget(), {"தேர்வு_நிறம்"}, "#2196F3"))},
+                 {"unselected", byteColourText(colourProperty(radio.widget(), {"தேர்வற்ற_நிறம்"}, "#787878"))},
+                 {"label", label}});
+}
+
+} // namespace
+
+void emitRadio(const WidgetWriter& radio) {
+    const WidgetNode& widget = radio.widget();
+    const Expression* group = findProperty(widget, {"குழு_மதிப்பு"});
+    const Filling label = textArgument(radio, findProperty(widget, {"உரை"}));
+    emitSelection(radio, findProperty(widget, {"மதிப்பு"}), group);
+    if (!isDisabled(widget)) {
+        emitPress(radio, group != nullptr, label);
+    }
+    emitRing(radio, label);
+}
+
+} // namespace pozhil

@@ -1,0 +1,66 @@
+#include "generator/web/widgets/controls.h"
+#include "generator/web/write/colours.h"
+#include "generator/web/write/literals.h"
+#include "generator/web/write/press_handler.h"
+#include "generator/web/write/text_value.h"
+#include "generator/web/write/widget_writer.h"
+
+namespace pozhil {
+namespace {
+
+void emitTrack(const WidgetWriter& widget) {
+    widget.block(R"(
+    nvgBeginPath(vg);
+    nvgRoundedRect(vg, swX, swY, swW, swH, swH / 2.0f);
+    if (isOn_$n) {
+        nvgFillColor(vg, $on);
+        nvgFill(vg);
+    } else {
+        nvgFillColor(vg, $off);
+        nvgFill(vg);
+        nvgStrokeColor(vg, nvgRGBA(180, 180, 180, 255));
+        nvgStrokeWidth(vg, 1);
+        nvgStroke(vg);
+    }
+)",
+                 {{"on", byteColourText(colourProperty(widget.widget(), {"இயங்கும்_நிறம்"}, "#2196F3"))},
+                  {"off", byteColourText(colourProperty(widget.widget(), {"முடங்கிய_நிறம்"}, "#E0E0E0"))}});
+}
+
+void emitThumb(const WidgetWriter& widget) {
+    widget.block(R"(
+    float thumbX = isOn_$n ? swX + swW - thumbSize - padding : swX + padding;
+    float thumbY = swY + padding;
+    nvgBeginPath(vg);
+    nvgRect(vg, thumbX - 5, thumbY - 5, thumbSize + 10, thumbSize + 10);
+    nvgFillPaint(vg, nvgBoxGradient(vg, thumbX, thumbY + 2, thumbSize, thumbSize, thumbSize/2, 4, nvgRGBA(0,0,0,60), nvgRGBA(0,0,0,0)));
+    nvgFill(vg);
+    nvgBeginPath(vg);
+    nvgCircle(vg, thumbX + thumbSize / 2.0f, thumbY + thumbSize / 2.0f, thumbSize / 2.0f);
+    nvgFillColor(vg, nvgRGBA(255, 255, 255, 255));
+    nvgFill(vg);
+}
+)");
+}
+
+} // namespace
+
+void emitSwitch(const WidgetWriter& widget) {
+    widget.block(R"(
+{
+    float swX = std::floor($x); float swY = std::floor($y);
+    float swW = 48.0f; float swH = 28.0f;
+    float thumbSize = 24.0f; float padding = (swH - thumbSize) / 2.0f;
+    static bool isOn_$n = $initial;
+)",
+                 {{"initial", truthValue(widget, findProperty(widget.widget(), {"ஆரம்ப_நிலை"}))}});
+    if (!isDisabled(widget.widget())) {
+        emitPressArea(widget, {"swX - 5", "swX + swW + 5", "swY - 5", "swY + swH + 5"}, widget.blocks([&] {
+            widget.block("isOn_$n = !isOn_$n;\n$handler\n", {{"handler", changeHandler(widget)}});
+        }));
+    }
+    emitTrack(widget);
+    emitThumb(widget);
+}
+
+} // namespace pozhil

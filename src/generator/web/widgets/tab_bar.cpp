@@ -1,0 +1,93 @@
+#include "generator/web/widgets/navigation.h"
+#include "generator/web/write/colours.h"
+#include "generator/web/write/literals.h"
+#include "generator/web/write/press_handler.h"
+#include "generator/web/write/text_value.h"
+#include "generator/web/write/widget_writer.h"
+
+namespace pozhil {
+namespace {
+
+/// The tab that is selected before the first press, as a whole number of the emitted text.
+Filling initialIndex(const WidgetWriter& bar) {
+    const Expression* given = findProperty(bar.widget(), {"தத்தல்_தேர்வு"});
+    const std::optional<float> constant = given == nullptr ? 0.0F : constantOf(given);
+    if (constant) {
+        return std::to_string(static_cast<int>(*constant));
+    }
+    return Filling(std::vector<Filling>{"(int)", numberValue(bar, given, 0.0F)});
+}
+
+void emitBar(const WidgetWriter& bar) {
+    bar.block(R"(
+{
+    float tbX = $x; float tbY = $y;
+    float tbW = winWidth; float tbH = 50.0f;
+    static int curTabIdx_$n = $initial; int& curTabIdx = curTabIdx_$n;
+    nvgBeginPath(vg);
+    nvgRect(vg, tbX, tbY, tbW, tbH);
+    nvgFillColor(vg, $fill);
+    nvgFill(vg);
+    nvgBeginPath(vg);
+    nvgRect(vg, tbX, tbY+tbH, tbW, 6);
+    nvgFillPaint(vg, nvgBoxGradient(vg, tbX, tbY+tbH-2, tbW, 6, 0, 6, nvgRGBA(0,0,0,30), nvgRGBA(0,0,0,0)));
+    nvgFill(vg);
+)",
+              {{"initial", initialIndex(bar)},
+               {"fill", byteColourText(colourProperty(bar.widget(), {"style_பின்னணி"}, "#2196F3"))}});
+}
+
+void emitPress(const WidgetWriter& bar, std::size_t tabCount) {
+    bar.block(R"(
+    int tabCount = $count;
+    float tabW = tbW / (float)(tabCount > 0 ? tabCount : 1);
+    float mx = pozhil_mouse_x();
+    float my = pozhil_mouse_y();
+    if (g_mouseClicked && mx >= tbX && mx <= tbX + tbW && my >= tbY && my <= tbY + tbH) {
+        int clickedTab = (int)((mx - tbX) / tabW);
+        nvgBeginPath(vg);
+        nvgCircle(vg, tbX + clickedTab * tabW + tabW / 2, tbY + tbH / 2, 20);
+        nvgFillColor(vg, nvgRGBA(255, 255, 255, 30));
+        nvgFill(vg);
+        if (clickedTab >= 0 && clickedTab < tabCount) {
+            curTabIdx = clickedTab;
+            $handler
+        }
+    }
+    nvgBeginPath(vg);
+    nvgRect(vg, tbX + curTabIdx * tabW, tbY + tbH - 3.0f, tabW, 3);
+    nvgFillColor(vg, nvgRGBA(255, 255, 255, 255));
+    nvgFill(vg);
+)",
+              {{"count", std::to_string(tabCount)}, {"handler", pressValue(bar)}});
+}
+
+void emitTab(const WidgetWriter& bar, const WidgetNode& tab, std::size_t index) {
+    const Expression* own = findProperty(tab, {"உரை"});
+    const WidgetNode* label = childOfKind(tab, "உரை");
+    bar.block(R"(
+    {
+        float tx = tbX + $i * tabW + tabW / 2; float ty = tbY + tbH / 2;
+        bool isSelected = ($i == curTabIdx);
+        std::string tColor = isSelected ? "#FFFFFF" : "#E0E0E0";
+        float fontSize = isSelected ? 15.0f : 14.0f;
+        drawFixedText(tx, ty, $label, tColor.c_str(), fontSize, "center");
+    }
+)",
+              {{"i", std::to_string(index)},
+               {"label", textArgument(bar, own == nullptr && label != nullptr ? findProperty(*label, {"உரை"}) : own)}});
+}
+
+} // namespace
+
+void emitTabBar(const WidgetWriter& bar) {
+    const auto tabs = childrenOfKind(bar.widget(), "தத்தல்_உருப்படி");
+    emitBar(bar);
+    emitPress(bar, tabs.size());
+    for (std::size_t i = 0; i < tabs.size(); ++i) {
+        emitTab(bar, *tabs[i], i);
+    }
+    bar.block(bar.isAtTop() ? "}\n" : "    $y += tbH;\n}\n");
+}
+
+} // namespace pozhil

@@ -1,0 +1,76 @@
+#include "generator/web/widgets/text.h"
+
+#include "generator/web/write/colours.h"
+#include "generator/web/write/text_value.h"
+#include "generator/web/write/widget_writer.h"
+
+namespace pozhil {
+namespace {
+
+/// Fading in while rising, and counting up to a number.
+void emitTextAnimation(const WidgetWriter& text) {
+    const AnimationNode* animation = text.widget().animation.get();
+    if (animation == nullptr) {
+        return;
+    }
+    text.block(
+        R"(
+    float p = updateProgress(${n}ULL, "$condition", false, $y, winHeight, $duration);
+    float t = getCurveValue("$curve", p);
+    if ($fades) { animAlpha = p; animOffsetY = 30.0f * (1.0f - p); }
+)",
+        {{"condition", animation->condition},
+         {"duration", floatConstant(animation->duration)},
+         {"curve", animation->curve},
+         {"fades", animation->numericTargets.count("மங்குநழுவு") != 0 || animation->stringTargets.count("மங்குநழுவு") != 0
+                       ? "1"
+                       : "0"}});
+    const auto number = animation->numericTargets.find("மதிப்பு");
+    if (number != animation->numericTargets.end()) {
+        text.block(R"(
+    int currentNum = (int)(0.0f + ($value * t));
+    TextParts parts = splitText(textContent);
+    textContent = parts.prefix + std::to_string(currentNum) + parts.suffix;
+)",
+                   {{"value", floatConstant(number->second)}});
+    }
+}
+
+} // namespace
+
+void emitText(const WidgetWriter& text) {
+    const TextStyle& style = text.widget().style;
+    text.block(R"(
+{
+    std::string textContent = fn_any_to_string($value);
+    float animAlpha = 1.0f;
+    float animOffsetY = 0.0f;
+)",
+               {{"value", textValue(text, findProperty(text.widget(), {"உரை"}), "std::string(\"\")")}});
+    emitTextAnimation(text);
+    text.block(R"(
+    float textX = $x; float textY = $y; float drawX = textX;
+    float responsiveSize = responsiveTextSize($size, winWidth);
+    float _actualW = getTextWidth(textContent.c_str(), responsiveSize);
+    float _maxW = (forcedW > 0.0f) ? forcedW : winWidth;
+    if (_actualW > _maxW - 20.0f) {
+        responsiveSize *= (_maxW - 20.0f) / _actualW;
+    }
+    std::string webAlign = "left";
+    std::string alignProp = "$align";
+    if (alignProp == "மையம்" || alignProp == "center") {
+        webAlign = "center";
+        drawX = textX + getTextWidth(textContent.c_str(), responsiveSize) / 2.0f;
+    }
+    drawFixedText(drawX, textY, textContent.c_str(), "$colour", responsiveSize, webAlign.c_str(), "$weight", $underline, "$font", animAlpha, animOffsetY);
+}
+)",
+               {{"size", floatConstant(fontSizeOf(style))},
+                {"align", style.align.empty() ? "இடது" : style.align},
+                {"colour", cssColour(styleColour(style.color.empty() ? "#000000" : style.color))},
+                {"weight", weightOf(style)},
+                {"underline", style.underline ? "true" : "false"},
+                {"font", style.font}});
+}
+
+} // namespace pozhil

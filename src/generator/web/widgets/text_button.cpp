@@ -1,0 +1,74 @@
+#include "generator/web/widgets/button.h"
+#include "generator/web/write/colours.h"
+#include "generator/web/write/literals.h"
+#include "generator/web/write/press_handler.h"
+#include "generator/web/write/widget_writer.h"
+
+namespace pozhil {
+namespace {
+
+std::string labelText(const WidgetNode& widget) {
+    const auto* text = nodeCast<StringLiteral>(findProperty(widget, {"உரை"}));
+    return text == nullptr ? "Home" : text->value;
+}
+
+/// The handler is evaluated by the press itself: a call does what it says, a function value isn't called.
+Filling handlerOf(const WidgetWriter& button, const Expression* handler) {
+    const WidgetNode* drawn = asWidget(handler);
+    if (drawn != nullptr && dynamic_cast<const SnackBarNode*>(drawn) == nullptr) {
+        return handlerCall(button, handler);
+    }
+    return button.blocks([&button, handler] {
+        button.block(R"(
+    std::any callback = std::function<void()>([=](){ $handler; });
+    try {
+        std::any_cast<std::function<void()>>(callback)();
+    } catch (...) {
+    }
+)",
+                     {{"handler", button.expression(handler)}});
+    });
+}
+
+void emitPress(const WidgetWriter& button) {
+    if (const Expression* handler = findProperty(button.widget(), {"அழுத்தினால்"})) {
+        button.block(R"(
+    if (isHov && g_mouseClicked) {
+        $handler
+    }
+)",
+                     {{"handler", handlerOf(button, handler)}});
+    }
+}
+
+} // namespace
+
+void emitTextButton(const WidgetWriter& button) {
+    constexpr float USUAL_SIZE = 16.0F;
+    const WidgetNode& widget = button.widget();
+    button.block(R"(
+{
+    const char* txt = u8"$text"; float fs = $size; float bX = $x; float bY = $y;
+    nvgFontSize(vg, fs); nvgFontFace(vg, "sans");
+    float bounds[4] = {0.0f, 0.0f, 0.0f, 0.0f};
+    nvgTextBounds(vg, 0, 0, txt, NULL, bounds);
+    float bW = (bounds[2] - bounds[0]) + 16.0f;
+    float bH = 40.0f;
+    float mx = pozhil_mouse_x();
+    float my = pozhil_mouse_y();
+    bool isHov = mx >= bX && mx <= bX + bW && my >= bY && my <= bY + bH;
+)",
+                 {{"text", labelText(widget)}, {"size", numberConstant(widget, {"style_அளவு"}, USUAL_SIZE)}});
+    emitPress(button);
+    button.block(
+        R"(
+    if (isHov) pozhil_pointer_cursor();
+    std::string activeColor = isHov ? "$hover" : "$colour";
+    drawFixedText(bX + (bW / 2.0f), bY + (bH / 2.0f) - (fs / 2.0f) + 2.0f, txt, activeColor.c_str(), fs, "center", "400", false, "");
+}
+)",
+        {{"hover", cssColour(colourProperty(widget, {"style_மேம்படுத்தப்பட்ட_நிறம்"}, "#3AAD68"))},
+         {"colour", cssColour(colourProperty(widget, {"style_நிறம்"}, "#ffffff"))}});
+}
+
+} // namespace pozhil

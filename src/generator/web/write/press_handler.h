@@ -1,0 +1,39 @@
+#pragma once
+
+#include "emit/emitted_block.h"
+
+namespace pozhil {
+
+class WidgetWriter;
+struct Expression;
+struct WidgetNode;
+
+/// Lines that call what the source gave as a handler, inside the test for the click; for a hole alone in its line.
+/// A function value is called; a widget is drawn in place for that frame. What the handler throws is swallowed, so that
+/// a page outlives it.
+Filling handlerCall(const WidgetWriter& widget, const Expression* handler);
+
+/// What a change of a control does: மாறியதால்.
+Filling changeHandler(const WidgetWriter& widget);
+
+/// Lines that evaluate அழுத்தினால் without calling the function that it may be; for a hole alone in its line.
+Filling pressValue(const WidgetWriter& widget);
+
+/// Whether the widget is shown but answers nothing.
+bool isDisabled(const WidgetNode& widget);
+
+/// Texts of the emitted program for the edges of a rectangle.
+struct PressArea {
+    const char* left;
+    const char* right;
+    const char* top;
+    const char* bottom;
+};
+
+/// The test for the pointer in the rectangle, and what a click there does: lines for a hole alone in its line.
+void emitPressArea(const WidgetWriter& widget, const PressArea& area, const Filling& press);
+
+/// What a press does: அழுத்தினால், else the statements that the source wrote in its place.
+Filling pressHandler(const WidgetWriter& widget);
+
+} // namespace pozhil

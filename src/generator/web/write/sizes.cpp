@@ -1,0 +1,123 @@
+#include "generator/web/write/sizes.h"
+
+#include "base/number_text.h"
+#include "generator/web/write/widget_writer.h"
+
+#include <string_view>
+#include <unordered_map>
+
+namespace pozhil {
+namespace {
+
+std::string percentOf(const std::string& literal, const std::string& base) {
+    const float percentage = floatOf(std::string_view(literal).substr(0, literal.size() - 1));
+    return "(" + base + " * " + std::to_string(percentage / 100) + "f)";
+}
+
+bool endsInPercent(const std::string& text) {
+    return !text.empty() && text.back() == '%';
+}
+
+std::string comparisonSymbol(const std::string& word) {
+    static const std::unordered_map<std::string_view, const char*> symbols = {
+        {"சமம்", "=="}, {"சமமில்லை", "!="}, {"பெரிது", ">"}, {"சிறிது", "<"}, {"பெரிதுசமம்", ">="}, {"சிறிதுசமம்", "<="},
+    };
+    const auto symbol = symbols.find(word);
+    return symbol == symbols.end() ? "==" : symbol->second;
+}
+
+std::string variableSize(const std::string& name) {
+    if (name == "திரை_அகலம்") {
+        return "winWidth";
+    }
+    if (name == "திரை_உயரம்") {
+        return "winHeight";
+    }
+    return "fn_get_double(global_vars[\"" + name + "\"])";
+}
+
+std::string choice(const TernaryExpression& ternary, const std::string& base) {
+    const std::string condition = processPercentage(ternary.condition.get(), base);
+    const std::string thenSize = processPercentage(ternary.thenBranch.get(), base);
+    const std::string elseSize = processPercentage(ternary.elseBranch.get(), base);
+    const bool isWhole = !condition.empty() && !thenSize.empty() && !elseSize.empty();
+    return isWhole ? "(" + condition + " ? " + thenSize + " : " + elseSize + ")" : "";
+}
+
+std::string comparison(const BinaryExpression& binary, const std::string& base) {
+    const std::string left = processPercentage(binary.left.get(), base);
+    const std::string right = processPercentage(binary.right.get(), base);
+    const bool isWhole = !left.empty() && !right.empty();
+    return isWhole ? "(" + left + " " + comparisonSymbol(binary.op.value) + " " + right + ")" : "";
+}
+
+} // namespace
+
+std::string processPercentage(const Expression* expression, const std::string& base) {
+    if (const auto* percentage = nodeCast<PercentageLiteral>(expression)) {
+        return percentOf(percentage->value, base);
+    }
+    if (const auto* text = nodeCast<StringLiteral>(expression)) {
+        return endsInPercent(text->value) ? percentOf(text->value, base) : "";
+    }
+    if (const auto* number = nodeCast<NumberLiteral>(expression)) {
+        const bool isWhole = number->value.find('.') == std::string::npos;
+        return toAsciiDigits(number->value) + (isWhole ? ".0f" : "f");
+    }
+    if (const auto* grouping = nodeCast<GroupingExpression>(expression)) {
+        const std::string inner = processPercentage(grouping->inner.get(), base);
+        return inner.empty() ? "" : "(" + inner + ")";
+    }
+    if (const auto* ternary = nodeCast<TernaryExpression>(expression)) {
+        return choice(*ternary, base);
+    }
+    if (const auto* binary = nodeCast<BinaryExpression>(expression)) {
+        return comparison(*binary, base);
+    }
+    const auto* variable = nodeCast<VariableAccess>(expression);
+    return variable == nullptr ? "" : variableSize(variable->name);
+}
+
+void emitGivenSize(const WidgetWriter& widget, std::initializer_list<const char*> names, const char* variable,
+                   const char* base) {
+    emitSize(widget, findProperty(widget.widget(), names), variable, base);
+}
+
+void emitSize(const WidgetWriter& widget, const Expression* size, const char* variable, const char* base) {
+    const std::string text = processPercentage(size, base);
+    if (!text.empty()) {
+        widget.block("    $variable = $size;\n", {{"variable", variable}, {"size", text}});
+    }
+}
+
+void emitOwnSize(const WidgetWriter& widget, const char* width, const char* height) {
+    emitGivenSize(widget, {"style_அகலம்", "அகலம்"}, width, "(forcedW > 0.0f ? forcedW : winWidth)");
+    emitGivenSize(widget, {"style_உயரம்", "உயரம்"}, height, "(forcedH > 0.0f ? forcedH : winHeight)");
+    widget.block("    if (forcedW > 0.0f) $width = forcedW;\n    if (forcedH > 0.0f) $height = forcedH;\n",
+                 {{"width", width}, {"height", height}});
+}
+
+void emitOwnWidth(const WidgetWriter& widget, const char* width) {
+    emitGivenSize(widget, {"style_அகலம்", "அகலம்"}, width, "(forcedW > 0.0f ? forcedW : winWidth)");
+    widget.block("    if (forcedW > 0.0f) $width = forcedW;\n", {{"width", width}});
+}
+
+std::pair<float, float> getAlignmentCoords(சீரமைப்பு_வகை alignment) {
+    constexpr int POSITIONS = 3;
+    const int value = static_cast<int>(alignment);
+    if (value < 0 || value >= POSITIONS * POSITIONS) {
+        return {-1.0F, -1.0F};
+    }
+    const int column = value % POSITIONS - 1;
+    const int line = value / POSITIONS - 1;
+    return {static_cast<float>(column), static_cast<float>(line)};
+}
+
+void calculateAlign(சீரமைப்பு_வகை alignment, float parentW, float parentH, float childW, float childH, float& outX,
+                    float& outY) {
+    const auto [x, y] = getAlignmentCoords(alignment);
+    outX = (1 + x) * (parentW - childW) / 2;
+    outY = (1 + y) * (parentH - childH) / 2;
+}
+
+} // namespace pozhil
