@@ -1,6 +1,7 @@
 #include "base/source_text.h"
 #include "driver/command_line.h"
 #include "driver/console/banner.h"
+#include "driver/console/fault_report.h"
 #include "driver/front_end.h"
 #include "driver/native/native_build.h"
 #include "driver/native/native_watch.h"
@@ -100,6 +101,8 @@ int main(int argc, char** argv) {
         injectEmscriptenEnvironment(platform::executableDirectory());
         const Invocation invocation = readCommandLine(std::vector<std::string>(argv, argv + argc));
         return invocation.exitCode ? *invocation.exitCode : compile(invocation);
+    } catch (const Fault& fault) {
+        reportFault(fault);
     } catch (const StageFailure& failure) {
         reportFirstFailure(failure);
     } catch (const std::exception& exception) {

@@ -40,4 +40,15 @@ std::optional<std::string> readSourceText(const std::string& path) {
     return text;
 }
 
+std::string_view lineOf(std::string_view text, std::int32_t number) {
+    for (std::int32_t line = 1; line < number; ++line) {
+        const std::size_t end = text.find('\n');
+        if (end == std::string_view::npos) {
+            return {};
+        }
+        text.remove_prefix(end + 1);
+    }
+    return number < 1 ? std::string_view() : text.substr(0, text.find('\n'));
+}
+
 } // namespace pozhil

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace pozhil {
 
@@ -14,5 +16,8 @@ bool canReadSource(const std::string& path);
 /// \param path the file's path in UTF-8
 /// \return the text, or nothing if the file can't be read (missing, not permitted, a directory)
 std::optional<std::string> readSourceText(const std::string& path);
+
+/// Line \p number of \p text, counted from 1, without its end; empty if there is no such line.
+std::string_view lineOf(std::string_view text, std::int32_t number);
 
 } // namespace pozhil

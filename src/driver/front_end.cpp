@@ -1,5 +1,6 @@
 #include "driver/front_end.h"
 
+#include "diagnostics/fault.h"
 #include "driver/console/console_style.h"
 #include "generator/first/generator.h"
 #include "scanner/lexer.h"
@@ -32,10 +33,15 @@ StageTexts textsOf(Stage stage) {
             "ஜெனரேட்டர் பிழை: ", "🚨 ஜெனரேட்டர் பிழை (குறியீடு உருவாக்கம்): குறியீட்டை உருவாக்குவதில் சிக்கல்!"};
 }
 
-/// Runs one stage; an exception that leaves it tells which stage it was.
+/// Runs one stage; what leaves it without a box tells which stage it was.
 template <class Work> auto runStage(Stage stage, Work work) {
     try {
         return work();
+    } catch (const Fault& fault) {
+        if (fault.form == FaultForm::Box) {
+            throw;
+        }
+        throw StageFailure(stage, messageOf(fault));
     } catch (const std::exception& exception) {
         throw StageFailure(stage, exception.what());
     }

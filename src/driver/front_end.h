@@ -14,7 +14,7 @@ namespace pozhil {
 /// The stages between source and output text.
 enum class Stage { Scan, Parse, Generate };
 
-/// A stage failed by an exception instead of a diagnostic, which would have ended the process.
+/// A stage failed by something that has no box: a fault without a place, or an exception.
 class StageFailure : public std::runtime_error {
 public:
     StageFailure(Stage failedStage, const std::string& what) : std::runtime_error(what), stage(failedStage) {}
@@ -39,10 +39,12 @@ struct OutputText {
 };
 
 /// Scans and parses \p source.text, imported files included.
+/// \throws Fault
 /// \throws StageFailure
 void parseSource(SourceFile& source, const std::vector<std::string>& moduleDirectories);
 
 /// Translates a parsed source into the output text.
+/// \throws Fault
 /// \throws StageFailure
 OutputText generateText(const SourceFile& source);
 

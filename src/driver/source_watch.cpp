@@ -1,6 +1,7 @@
 #include "driver/source_watch.h"
 
 #include "base/source_text.h"
+#include "driver/console/fault_report.h"
 
 #include <chrono>
 #include <filesystem>
@@ -18,6 +19,8 @@ void rebuild(const std::string& sourcePath, const std::vector<std::string>& modu
         source.text = readSourceText(sourcePath).value_or("");
         parseSource(source, moduleDirectories);
         steps.build(source, generateText(source));
+    } catch (const Fault& fault) {
+        reportFault(fault);
     } catch (const StageFailure& failure) {
         steps.reportFailure(failure);
     }

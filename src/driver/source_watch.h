@@ -18,7 +18,8 @@ struct WatchSteps {
     std::function<void(const StageFailure&)> reportFailure;
 };
 
-/// Compiles a source file anew whenever it changes, each time on objects of its own. Never returns.
+/// Compiles a source file anew whenever it changes, each time on objects of its own. Never returns; a fault
+/// with a box ends the process.
 /// \throws std::filesystem::filesystem_error if the source file vanishes
 [[noreturn]] void watchSource(const std::string& sourcePath, const std::vector<std::string>& moduleDirectories,
                               const WatchSteps& steps);

@@ -1,9 +1,8 @@
-#include "error_codes.h"
-#include "error_handler.h"
+#include "base/source_text.h"
+#include "diagnostics/fault.h"
 #include "parser/parser.h"
 
 #include <algorithm>
-#include <sstream>
 
 namespace pozhil {
 namespace {
@@ -121,22 +120,14 @@ std::string Parser::getLineText(std::int32_t line) const {
     if (source_.empty()) {
         return "(சோர்ஸ் கோடு கிடைக்கவில்லை)";
     }
-    std::istringstream lines(source_);
-    std::string text;
-    for (std::int32_t number = 1; std::getline(lines, text); ++number) {
-        if (number == line) {
-            return text;
-        }
-    }
-    return "";
+    return std::string(lineOf(source_, line));
 }
 
 void Parser::பிழை(const std::string& code, std::int32_t line) const {
-    const பிழைதகவல்& info = பிழை_அகராதி.at(code);
-    ErrorHandler::அறிக்கை(பிழைவகை::இலக்கண_பிழை, code, info.விளக்கம், filename_, line, getLineText(line), info.தீர்வு);
+    throw Fault{பிழைவகை::இலக்கண_பிழை, code, filename_, line, "", getLineText(line)};
 }
 
-/// Counts one more level of the tree; ends the run before the native stack would.
+/// Counts one more level of the tree; ends the parse before the native stack would.
 void Parser::enterNesting() {
     if (++nesting_ > MAX_NESTING) {
         பிழை("பொழி-291", peek().line);

@@ -28,7 +28,7 @@ bool isValidVariableName(const Token& token);
 
 /// Recursive-descent parser of one source file; imported files are parsed by parsers of their own and merged in.
 ///
-/// There is no recovery: the first fault ends the process through the diagnostic report.
+/// There is no recovery: the first fault ends the parse.
 class Parser {
 public:
     /// \param tokens all tokens of the file, ending in END_OF_FILE
@@ -42,6 +42,7 @@ public:
     Parser& operator=(const Parser&) = delete;
 
     /// Parses the whole file. The statements of imported files come first, in the order of their imports.
+    /// \throws Fault
     Program parse();
 
     /// Parses the targets of an animation, each by its own word, into the record that holds one field for each. Animation

@@ -1,8 +1,7 @@
 #include "scanner/lexer.h"
 
 #include "base/utf8.h"
-#include "error_codes.h"
-#include "error_handler.h"
+#include "diagnostics/fault.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -169,10 +168,9 @@ void Lexer::skipBlockComment() {
 }
 
 void Lexer::பிழை(const std::string& code) const {
-    const பிழைதகவல்& info = பிழை_அகராதி.at(code);
     const std::string_view fromLineStart = std::string_view(source_).substr(lineStart_);
-    const std::string lineText(fromLineStart.substr(0, fromLineStart.find('\n')));
-    ErrorHandler::அறிக்கை(பிழைவகை::சொல்_பிழை, code, info.விளக்கம், fileName_, line_, lineText, info.தீர்வு);
+    std::string lineText(fromLineStart.substr(0, fromLineStart.find('\n')));
+    throw Fault{பிழைவகை::சொல்_பிழை, code, fileName_, line_, "", std::move(lineText)};
 }
 
 } // namespace pozhil

@@ -12,7 +12,7 @@ namespace pozhil {
 
 /// Turns the text of one source file into tokens. Indentation becomes INDENT and DEDENT, line ends become NEWLINE.
 ///
-/// A fault in the text ends the process through the diagnostic report; nothing is repaired.
+/// The first fault in the text ends the scan; nothing is repaired.
 class Lexer {
 public:
     /// \param source the whole text, without carriage returns
@@ -24,6 +24,7 @@ public:
 
     /// Scans the whole text. The last token is END_OF_FILE; so is the one before the closing DEDENTs if blanks end
     /// the text.
+    /// \throws Fault
     /// \throws std::out_of_range if a line's tabs measure wider than the text that is left
     std::vector<Token> tokenize();
 

@@ -1,4 +1,3 @@
-#include "error_handler.h"
 #include "generator/first/builtins.h"
 #include "generator/first/generator.h"
 
@@ -36,7 +35,7 @@ bool Generator::emitBuiltinCall(const CallExpression* node, const std::string& n
         if (anyForm->wrongCount == WrongCount::Report) {
             பிழை("பொழி-331", node->line, std::string(anyForm->wrongCountDetail));
         }
-        throw_static_error("பொழி-331", std::string(anyForm->wrongCountDetail));
+        placelessFault("பொழி-331", node->line, std::string(anyForm->wrongCountDetail));
     }
     emitPattern(form->text, node, "");
     return true;

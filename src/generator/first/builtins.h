@@ -7,7 +7,7 @@ namespace pozhil {
 /// How a call with a wrong number of arguments is refused.
 enum class WrongCount {
     Report,   ///< by the diagnostic report, with the line of the call
-    Exception ///< by throw_static_error
+    Exception ///< without its place
 };
 
 /// One form of a built-in function: its name, how many arguments it takes, and what the call becomes.

@@ -1,4 +1,3 @@
-#include "error_handler.h"
 #include "generator/first/builtins.h"
 #include "generator/first/generator.h"
 #include "generator/first/names.h"
@@ -42,7 +41,7 @@ void Generator::visitCallExpression(const CallExpression* node) {
     } else if (const auto* name = nodeCast<VariableAccess>(callee)) {
         emitNamedCall(node, name->name);
     } else {
-        throw_static_error("பொழி-399", "Unknown call expression");
+        placelessFault("பொழி-399", node->line, "Unknown call expression");
     }
 }
 
@@ -101,7 +100,7 @@ void Generator::emitTimeMethod(const CallExpression* node, const GetExpression& 
     const auto* object = nodeCast<VariableAccess>(callee.object.get());
     if (object != nullptr && object->name == "நேரம்" && method == "வினாடிகள்") {
         if (!node->arguments.empty()) {
-            throw_static_error("பொழி-331", "'நேரம்.வினாடிகள்()' arguments எதையும் ஏற்காது.");
+            placelessFault("பொழி-331", node->line, "'நேரம்.வினாடிகள்()' arguments எதையும் ஏற்காது.");
         }
         out_ << "std::any(std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count())";
     } else if (method == "தேதி" || method == "நேரம்" || method == "முழுவதும்") {
@@ -110,7 +109,7 @@ void Generator::emitTimeMethod(const CallExpression* node, const GetExpression& 
         visitExpression(callee.object.get());
         out_ << "))";
     } else {
-        throw_static_error("பொழி-332", "'" + method + "' என்பது ஒரு function இல்லை.");
+        placelessFault("பொழி-332", node->line, "'" + method + "' என்பது ஒரு function இல்லை.");
     }
 }
 
@@ -139,7 +138,7 @@ void Generator::emitNamedCall(const CallExpression* node, const std::string& nam
     } else if (localVars_.count(name) != 0 || varTypes_.count(name) != 0) {
         emitGuardedCall(node);
     } else {
-        throw_static_error("பொழி-332", "'" + name + "' என்பது ஒரு function இல்லை.");
+        placelessFault("பொழி-332", node->line, "'" + name + "' என்பது ஒரு function இல்லை.");
     }
 }
 

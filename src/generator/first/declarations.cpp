@@ -1,4 +1,3 @@
-#include "error_handler.h"
 #include "generator/first/generator.h"
 
 namespace pozhil {

@@ -1,5 +1,4 @@
 #include "base/number_text.h"
-#include "error_handler.h"
 #include "generator/first/generator.h"
 #include "generator/first/names.h"
 
@@ -40,7 +39,8 @@ void Generator::visitExpression(const Expression* expression) {
         visitAs(expression, &Generator::visitRTDBDeleteExpression) ||
         visitAs(expression, &Generator::visitWidgetExpression);
     if (!isVisited) {
-        throw_static_error("பொழி-399", "Unknown expression type in generator");
+        placelessFault("பொழி-399", expression == nullptr ? 0 : expression->line,
+                       "Unknown expression type in generator");
     }
 }
 

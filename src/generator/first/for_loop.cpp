@@ -1,4 +1,3 @@
-#include "error_handler.h"
 #include "generator/first/generator.h"
 
 namespace pozhil {
@@ -29,7 +28,7 @@ void Generator::visitForStatement(const ForStatement* node) {
 void Generator::emitRangeLoop(const ForStatement* node, const CallExpression& range) {
     const ExpressionList& arguments = range.arguments;
     if (arguments.empty() || arguments.size() > 2) {
-        throw_static_error("பொழி-331", "'வரம்பு' 1 அல்லது 2 arguments-ஐ மட்டுமே ஏற்கும்.");
+        placelessFault("பொழி-331", range.line, "'வரம்பு' 1 அல்லது 2 arguments-ஐ மட்டுமே ஏற்கும்.");
     }
     const std::string& variable = node->variable.value;
     indent();

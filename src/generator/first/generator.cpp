@@ -1,12 +1,10 @@
 #include "generator/first/generator.h"
 
-#include "error_codes.h"
-#include "error_handler.h"
+#include "base/source_text.h"
+#include "diagnostics/fault.h"
 #include "generator/first/runtime_text.h"
 #include "generator/web/page/start_page.h"
 
-#include <cstdlib>
-#include <iostream>
 #include <utility>
 
 namespace pozhil {
@@ -174,28 +172,14 @@ std::size_t Generator::indentation() const {
     return BLANKS_PER_LEVEL * static_cast<std::size_t>(indentLevel_);
 }
 
-std::string Generator::getLineText(std::int32_t line) const {
-    std::istringstream lines(sourceCode_);
-    std::string text;
-    for (std::int32_t number = 1; std::getline(lines, text); ++number) {
-        if (number == line) {
-            return text;
-        }
-    }
-    return "";
+void Generator::பிழை(const std::string& code, std::int32_t line, const std::string& extra) const {
+    throw Fault{பிழைவகை::பொருள்_பிழை, code, fileName_, line, extra, std::string(lineOf(sourceCode_, line))};
 }
 
-void Generator::பிழை(const std::string& code, std::int32_t line, const std::string& extra) const {
-    const auto info = பிழை_அகராதி.find(code);
-    if (info == பிழை_அகராதி.end()) {
-        std::cerr << "பொழி-399: அறியப்படாத பிழை (" << code << ")" << std::endl;
-        std::exit(1);
-    }
-    std::string description = info->second.விளக்கம்;
-    if (!extra.empty()) {
-        description += " (" + extra + ")";
-    }
-    ErrorHandler::அறிக்கை(பிழைவகை::பொருள்_பிழை, code, description, fileName_, line, getLineText(line), info->second.தீர்வு);
+/// A fault that is told without its place.
+void Generator::placelessFault(const std::string& code, std::int32_t line, const std::string& extra) const {
+    throw Fault{பிழைவகை::பொருள்_பிழை, code, fileName_, line, extra, std::string(lineOf(sourceCode_, line)),
+                FaultForm::StageLine};
 }
 
 } // namespace pozhil

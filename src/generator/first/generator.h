@@ -18,8 +18,7 @@ namespace pozhil {
 
 /// Translates a program into one C++17 text that holds the whole runtime of the language and the program itself.
 ///
-/// An object is used once. A fault that the program has at sight ends the process through the diagnostic report or,
-/// where no source line is at hand, leaves as std::runtime_error.
+/// An object is used once.
 class Generator {
 public:
     /// \param program the tree; it outlives the generator
@@ -35,7 +34,7 @@ public:
     Generator& operator=(const Generator&) = delete;
 
     /// The whole text. The same program gives the same bytes.
-    /// \throws std::runtime_error for a fault without a line
+    /// \throws Fault for what is wrong in the program at sight
     std::string generate();
 
     /// How many bytes at the head of the generated text are the runtime. They change with the start page and the source
@@ -59,8 +58,8 @@ private:
     template <class Visit> void forEachDefinition(Visit visit) const;
     void indent();
     std::size_t indentation() const;
-    std::string getLineText(std::int32_t line) const;
     [[noreturn]] void பிழை(const std::string& code, std::int32_t line, const std::string& extra) const;
+    [[noreturn]] void placelessFault(const std::string& code, std::int32_t line, const std::string& extra) const;
 
     // Statements (statements.cpp).
     void visitStatement(const Statement* statement);

@@ -1,4 +1,3 @@
-#include "error_handler.h"
 #include "generator/first/generator.h"
 
 #include <algorithm>
@@ -52,7 +51,7 @@ void Generator::visitStatement(const Statement* statement) {
         visitOwn(statement, &Generator::visitRTDBReadStatement) || visitOwn(statement, &Generator::visitWebAppNode) ||
         visitWidgetStatement(statement) || visitOwn(statement, &Generator::visitLogicBlockNode);
     if (!isVisited) {
-        throw_static_error("பொழி-399", "Unknown statement type in generator");
+        placelessFault("பொழி-399", 0, "Unknown statement type in generator");
     }
 }
 

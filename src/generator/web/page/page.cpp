@@ -1,6 +1,5 @@
 /// Pages: each application of the source is one, drawn while it is the page being shown.
 
-#include "error_handler.h"
 #include "generator/first/generator.h"
 #include "generator/web/page/start_page.h"
 #include "generator/web/write/colours.h"
@@ -67,7 +66,8 @@ void emitBackgroundVideo(const WidgetWriter& page) {
     }
     const auto* literal = nodeCast<StringLiteral>(path);
     if (literal == nullptr) {
-        throw_static_error("பொழி-254", "ஊடகப் பிழை: காணொளியின் முகவரி சரியாக இல்லை (" + sourceText(path) + ")");
+        page.placelessFault("பொழி-254", path->line,
+                            "ஊடகப் பிழை: காணொளியின் முகவரி சரியாக இல்லை (" + sourceText(path) + ")");
     }
     page.block(R"(
     static bool videoInit_$n = false;

@@ -87,6 +87,10 @@ void WidgetWriter::eachChild(const std::vector<const WidgetNode*>& children,
     }
 }
 
+void WidgetWriter::placelessFault(const std::string& code, std::int32_t line, const std::string& details) const {
+    generator_.placelessFault(code, line, details);
+}
+
 const Expression* findProperty(const WidgetNode& widget, std::initializer_list<const char*> names) {
     for (const char* name : names) {
         const auto property = widget.properties.find(name);

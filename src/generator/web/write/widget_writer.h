@@ -51,6 +51,9 @@ public:
     void eachChild(const std::vector<const WidgetNode*>& children,
                    const std::function<void(const WidgetNode&)>& write) const;
 
+    /// A fault in the source that is told without its place.
+    [[noreturn]] void placelessFault(const std::string& code, std::int32_t line, const std::string& details) const;
+
 private:
     Generator& generator_;
     const WidgetNode& widget_;
