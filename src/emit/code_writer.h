@@ -1,0 +1,60 @@
+#pragma once
+
+#include "emit/emitted_block.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <sstream>
+#include <string>
+#include <string_view>
+
+namespace pozhil {
+
+/// The emitted text as it grows, and the level of indentation that it has reached.
+class CodeWriter {
+public:
+    CodeWriter() = default;
+    CodeWriter(const CodeWriter&) = delete;
+    CodeWriter& operator=(const CodeWriter&) = delete;
+
+    /// Goes on with \p piece where the text ends.
+    template <class Piece> CodeWriter& operator<<(const Piece& piece) {
+        out_ << piece;
+        return *this;
+    }
+
+    /// The blanks in front of a line of the present level.
+    void indent();
+    std::size_t indentation() const;
+
+    /// Writes a block with holes at the present level (emitted_block.h).
+    void block(std::string_view text, const Holes& holes = {});
+
+    /// How many bytes have been written.
+    std::size_t length() { return static_cast<std::size_t>(out_.tellp()); }
+    std::string text() const { return out_.str(); }
+
+    std::int32_t level() const { return level_; }
+
+    /// Another level of indentation until the end of the scope.
+    class Indented {
+    public:
+        /// \param levels how many levels deeper
+        explicit Indented(CodeWriter& writer, std::int32_t levels = 1) : writer_(writer), outer_(writer.level_) {
+            writer_.level_ += levels;
+        }
+        ~Indented() { writer_.level_ = outer_; }
+        Indented(const Indented&) = delete;
+        Indented& operator=(const Indented&) = delete;
+
+    private:
+        CodeWriter& writer_;
+        const std::int32_t outer_;
+    };
+
+private:
+    std::ostringstream out_;
+    std::int32_t level_ = 0;
+};
+
+} // namespace pozhil
