@@ -19,4 +19,8 @@ void CodeWriter::block(std::string_view text, const Holes& holes) {
     writeBlock(out_, text, holes, indentation());
 }
 
+void CodeWriter::blockAtMargin(std::string_view text, const Holes& holes) {
+    writeBlock(out_, text, holes);
+}
+
 } // namespace pozhil

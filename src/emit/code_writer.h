@@ -30,6 +30,9 @@ public:
     /// Writes a block with holes at the present level (emitted_block.h).
     void block(std::string_view text, const Holes& holes = {});
 
+    /// Writes a block with holes that isn't indented, whatever the present level.
+    void blockAtMargin(std::string_view text, const Holes& holes = {});
+
     /// How many bytes have been written.
     std::size_t length() { return static_cast<std::size_t>(out_.tellp()); }
     std::string text() const { return out_.str(); }

@@ -43,11 +43,11 @@ bool Generator::emitBuiltinCall(const CallExpression* node, const std::string& n
 
 /// Writes \p pattern with the arguments, the source path, the line, and \p id in place of its holes.
 void Generator::emitPattern(std::string_view pattern, const CallExpression* node, const std::string& id) {
-    struct Hole {
+    struct ArgumentHole {
         std::string_view name;
         std::size_t argument;
     };
-    constexpr Hole ARGUMENT_HOLES[] = {{"$A", 0}, {"$B", 1}, {"$D", 2}};
+    constexpr ArgumentHole ARGUMENT_HOLES[] = {{"$A", 0}, {"$B", 1}, {"$D", 2}};
     while (!pattern.empty()) {
         const std::string_view text = pattern.substr(0, pattern.find('$'));
         out_ << text;
@@ -63,7 +63,7 @@ void Generator::emitPattern(std::string_view pattern, const CallExpression* node
             out_ << id;
             pattern.remove_prefix(3);
         }
-        for (const Hole& hole : ARGUMENT_HOLES) {
+        for (const ArgumentHole& hole : ARGUMENT_HOLES) {
             if (isHole(hole.name)) {
                 const Expression* argument = node->arguments[hole.argument].get();
                 endsWith(text, ">(") ? emitCastOperand(argument) : visitExpression(argument);

@@ -27,17 +27,12 @@ void Generator::visitExpression(const Expression* expression) {
         visitAs(expression, &Generator::visitTernaryExpression) ||
         visitAs(expression, &Generator::visitGetExpression) || visitAs(expression, &Generator::visitListLiteral) ||
         visitAs(expression, &Generator::visitMapLiteral) || visitAs(expression, &Generator::visitIndexExpression) ||
-        visitAs(expression, &Generator::visitColorExpression) ||
         visitAs(expression, &Generator::visitLambdaExpression) ||
         visitAs(expression, &Generator::visitCallExpression) ||
         visitAs(expression, &Generator::visitBinaryExpression) ||
         visitAs(expression, &Generator::visitLogicalExpression) ||
         visitAs(expression, &Generator::visitUnaryExpression) ||
-        visitAs(expression, &Generator::visitGroupingExpression) ||
-        visitAs(expression, &Generator::visitRTDBInsertExpression) ||
-        visitAs(expression, &Generator::visitRTDBUpdateExpression) ||
-        visitAs(expression, &Generator::visitRTDBDeleteExpression) ||
-        visitAs(expression, &Generator::visitWidgetExpression);
+        visitAs(expression, &Generator::visitGroupingExpression) || web_.writeExpression(expression);
     if (!isVisited) {
         placelessFault("பொழி-399", expression == nullptr ? 0 : expression->line,
                        "Unknown expression type in generator");

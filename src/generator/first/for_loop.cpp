@@ -31,7 +31,7 @@ void Generator::emitRangeLoop(const ForStatement* node, const CallExpression& ra
         placelessFault("பொழி-331", range.line, "'வரம்பு' 1 அல்லது 2 arguments-ஐ மட்டுமே ஏற்கும்.");
     }
     const std::string& variable = node->variable.value;
-    indent();
+    out_.indent();
     out_ << "for (long long " << variable << " = ";
     if (arguments.size() == 1) {
         out_ << "0";
@@ -43,10 +43,11 @@ void Generator::emitRangeLoop(const ForStatement* node, const CallExpression& ra
     out_ << "; " << variable << " < fn_index(";
     visitExpression(arguments.back().get());
     out_ << "); ++" << variable << ") {\n";
-    ++indentLevel_;
-    emitLoopBody(node);
-    --indentLevel_;
-    indent();
+    {
+        const CodeWriter::Indented deeper(out_);
+        emitLoopBody(node);
+    }
+    out_.indent();
     out_ << "}\n";
 }
 
@@ -55,42 +56,48 @@ void Generator::emitContainerLoop(const ForStatement* node) {
     if (++containerLoopDepth_ > MAX_CONTAINER_LOOP_DEPTH) {
         பிழை("பொழி-291", node->variable.line, "");
     }
+    out_.indent();
+    out_ << "{\n";
+    {
+        const CodeWriter::Indented deeper(out_);
+        emitLoops(node);
+    }
+    out_.indent();
+    out_ << "}\n";
+    --containerLoopDepth_;
+}
+
+void Generator::emitLoops(const ForStatement* node) {
     const std::string& variable = node->variable.value;
     const auto emitLoop = [&](std::string_view element, std::string_view container, const std::string& value) {
-        ++indentLevel_;
-        indent();
+        const CodeWriter::Indented deeper(out_);
+        out_.indent();
         out_ << "for (const auto& " << element << " : std::any_cast<const " << container << "&>(_iterable)) {\n";
-        ++indentLevel_;
-        indent();
-        out_ << "std::any " << variable << " = " << value << ";\n";
-        emitLoopBody(node);
-        --indentLevel_;
-        indent();
+        {
+            const CodeWriter::Indented inLoop(out_);
+            out_.indent();
+            out_ << "std::any " << variable << " = " << value << ";\n";
+            emitLoopBody(node);
+        }
+        out_.indent();
         out_ << "}\n";
-        --indentLevel_;
-        indent();
     };
-    indent();
-    out_ << "{\n";
-    ++indentLevel_;
-    indent();
+    out_.indent();
     out_ << "auto& _iterable = ";
     visitExpression(node->iterable.get());
     out_ << ";\n";
-    indent();
+    out_.indent();
     out_ << "if (_iterable.type() == typeid(std::vector<std::any>)) {\n";
     emitLoop(variable + "_any", "std::vector<std::any>", variable + "_any");
+    out_.indent();
     out_ << "} else if (_iterable.type() == typeid(std::map<std::string, std::any>)) {\n";
     emitLoop("pair", "std::map<std::string, std::any>", "std::any(pair.first)");
+    out_.indent();
     out_ << "} else {\n";
-    indent();
+    out_.indent();
     out_ << "    pozhil_runtime_error(\"பொழி-313\", \"" << fileName_ << "\", " << node->variable.line << ");\n";
-    indent();
+    out_.indent();
     out_ << "}\n";
-    --indentLevel_;
-    indent();
-    out_ << "}\n";
-    --containerLoopDepth_;
 }
 
 /// The body, with the loop variable as a native name.

@@ -28,7 +28,7 @@ void Generator::emitFunction(const FunctionDefinitionStatement* node) {
     }
     out_ << ") {\n";
     emitFunctionBody(node, "return std::any(); // Default return\n");
-    indent();
+    out_.indent();
     out_ << "}\n\n";
     currentFunction_.clear();
     dropLocalsBehind(0);
@@ -37,7 +37,7 @@ void Generator::emitFunction(const FunctionDefinitionStatement* node) {
 /// A function in a function  ->  a native variable that holds a closure over copies of the outer ones
 void Generator::emitNestedFunction(const FunctionDefinitionStatement* node) {
     const std::string& name = node->name.value;
-    indent();
+    out_.indent();
     out_ << "std::any " << name << " = std::any(std::function<std::any(" << anyTypes(node->params.size()) << ")>([=](";
     for (std::size_t index = 0; index < node->params.size(); ++index) {
         out_ << (index == 0 ? "" : ", ") << "std::any " << node->params[index].name.value;
@@ -49,7 +49,7 @@ void Generator::emitNestedFunction(const FunctionDefinitionStatement* node) {
         setLocal(param.name.value);
     }
     emitFunctionBody(node, "return std::any();\n");
-    indent();
+    out_.indent();
     out_ << "}));\n";
     currentFunction_ = std::move(outerFunction);
     dropLocalsBehind(outerLocals);
@@ -58,14 +58,13 @@ void Generator::emitNestedFunction(const FunctionDefinitionStatement* node) {
 
 /// The guard against endless recursion, the statements, and the value of a function that ends without திரும்பு.
 void Generator::emitFunctionBody(const FunctionDefinitionStatement* node, std::string_view fallThrough) {
-    ++indentLevel_;
-    indent();
+    const CodeWriter::Indented deeper(out_);
+    out_.indent();
     out_ << "CallTracker _tracker(\"" << fileName_ << "\");\n";
     visitBlockStatement(node->body.get());
     out_ << "\n";
-    indent();
+    out_.indent();
     out_ << fallThrough;
-    --indentLevel_;
 }
 
 } // namespace pozhil

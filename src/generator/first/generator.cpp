@@ -3,8 +3,6 @@
 #include "base/source_text.h"
 #include "diagnostics/fault.h"
 #include "generator/first/runtime_text.h"
-#include "generator/web/page/start_page.h"
-
 #include <utility>
 
 namespace pozhil {
@@ -31,12 +29,7 @@ bool isDefinition(const Statement* statement) {
 Generator::Generator(const Program& program, const FunctionTable& functions, const StructTable& structs,
                      const AbstractStructTable& abstractStructs, std::string source, std::string filePath)
     : program_(program), structDefs_(structs), abstractStructDefs_(abstractStructs), functionParams_(functions),
-      sourceCode_(std::move(source)), fileName_(std::move(filePath)) {
-    for (const StatementPtr& statement : program_.statements) {
-        if (const auto* app = nodeCast<WebAppNode>(statement.get())) {
-            webApps_.push_back(app);
-        }
-    }
+      sourceCode_(std::move(source)), fileName_(std::move(filePath)), web_(out_, *this, program) {
     for (const auto& entry : structDefs_) {
         for (const auto& field : entry.second->fields) {
             if (field->isPrivate) {
@@ -48,23 +41,23 @@ Generator::Generator(const Program& program, const FunctionTable& functions, con
 
 std::string Generator::generate() {
     emitRuntime();
-    runtimeLength_ = static_cast<std::size_t>(out_.tellp());
+    runtimeLength_ = out_.length();
     emitStructures();
     emitFunctions();
     emitInitGlobals();
-    if (webApps_.empty()) {
+    if (web_.applications().empty()) {
         emitConsoleMain();
     } else {
-        emitWebProgram();
+        web_.writeProgram();
     }
-    return out_.str();
+    return out_.text();
 }
 
 /// The sections that are the same in every program but for the start page and the source path.
 void Generator::emitRuntime() {
     out_ << runtime::standard_headers << runtime::web_text_layer << runtime::global_state
-         << fillPlaceholder(runtime::navigation, START_PAGE_PLACEHOLDER, findStartPage(program_))
-         << runtime::input_state << "#ifdef __EMSCRIPTEN__\n"
+         << fillPlaceholder(runtime::navigation, START_PAGE_PLACEHOLDER, web_.startPage()) << runtime::input_state
+         << "#ifdef __EMSCRIPTEN__\n"
          << runtime::canvas_keys << "#endif\n"
          << runtime::web_bridge << runtime::value_types << runtime::error_box << runtime::value_texts
          << fillPlaceholder(runtime::value_functions, SOURCE_PATH_PLACEHOLDER, fileName_) << runtime::animation_engine
@@ -78,7 +71,7 @@ template <class Visit> void Generator::forEachDefinition(Visit visit) const {
     for (const StatementPtr& statement : program_.statements) {
         visit(statement.get());
     }
-    for (const WebAppNode* app : webApps_) {
+    for (const WebAppNode* app : web_.applications()) {
         const auto* logic = nodeCast<LogicBlockNode>(app->definition.get());
         if (logic != nullptr && logic->block != nullptr) {
             for (const StatementPtr& statement : logic->block->statements) {
@@ -107,18 +100,15 @@ void Generator::emitFunctions() {
 /// The set-up of a web application; a console program has nothing to set up.
 void Generator::emitInitGlobals() {
     out_ << "void init_globals() {\n";
-    ++indentLevel_;
-    for (const WebAppNode* app : webApps_) {
-        if (const auto* manager = nodeCast<DatabaseManagerNode>(app->databaseManager.get())) {
-            visitDatabaseManagerNode(manager);
+    {
+        const CodeWriter::Indented deeper(out_);
+        web_.writeDatabaseSetup();
+        for (const WebAppNode* app : web_.applications()) {
+            if (const auto* logic = nodeCast<LogicBlockNode>(app->definition.get())) {
+                visitLogicBlockNode(logic);
+            }
         }
     }
-    for (const WebAppNode* app : webApps_) {
-        if (const auto* logic = nodeCast<LogicBlockNode>(app->definition.get())) {
-            visitLogicBlockNode(logic);
-        }
-    }
-    --indentLevel_;
     out_ << "}\n\n";
 }
 
@@ -138,48 +128,58 @@ void Generator::visitLogicBlockNode(const LogicBlockNode* node) {
     const bool isCut = statements.size() > MOST_IN_A_FUNCTION;
     for (std::size_t index = 0; index < statements.size(); ++index) {
         if (isCut && index % MOST_IN_A_FUNCTION == 0) {
-            indent();
-            out_ << (index == 0 ? "[] {\n" : "}();\n" + std::string(indentation(), ' ') + "[] {\n");
+            out_.indent();
+            out_ << (index == 0 ? "[] {\n" : "}();\n" + std::string(out_.indentation(), ' ') + "[] {\n");
         }
         visitStatement(statements[index]);
     }
     if (isCut) {
-        indent();
+        out_.indent();
         out_ << "}();\n";
     }
 }
 
 void Generator::emitConsoleMain() {
     out_ << "int main() {\n";
-    ++indentLevel_;
-    for (const StatementPtr& statement : program_.statements) {
-        if (statement != nullptr && !isDefinition(statement.get())) {
-            visitStatement(statement.get());
+    {
+        const CodeWriter::Indented deeper(out_);
+        for (const StatementPtr& statement : program_.statements) {
+            if (statement != nullptr && !isDefinition(statement.get())) {
+                visitStatement(statement.get());
+            }
         }
     }
-    --indentLevel_;
-    indent();
+    out_.indent();
     out_ << "return 0;\n}\n";
 }
 
-void Generator::indent() {
-    out_ << std::string(indentation(), ' ');
+void Generator::writeExpression(const Expression* expression) {
+    visitExpression(expression);
 }
 
-/// Blanks in front of a line of the present level.
-std::size_t Generator::indentation() const {
-    constexpr std::size_t BLANKS_PER_LEVEL = 4;
-    return BLANKS_PER_LEVEL * static_cast<std::size_t>(indentLevel_);
+void Generator::writeStatement(const Statement* statement) {
+    visitStatement(statement);
+}
+
+void Generator::writeBody(const StatementList& statements) {
+    const std::size_t outerLocals = localsLog_.size();
+    for (const StatementPtr& statement : statements) {
+        visitStatement(statement.get());
+    }
+    dropLocalsBehind(outerLocals);
 }
 
 void Generator::பிழை(const std::string& code, std::int32_t line, const std::string& extra) const {
     throw Fault{பிழைவகை::பொருள்_பிழை, code, fileName_, line, extra, std::string(lineOf(sourceCode_, line))};
 }
 
-/// A fault that is told without its place.
 void Generator::placelessFault(const std::string& code, std::int32_t line, const std::string& extra) const {
-    throw Fault{பிழைவகை::பொருள்_பிழை, code, fileName_, line, extra, std::string(lineOf(sourceCode_, line)),
-                FaultForm::StageLine};
+    throw faultWithoutPlace(code, line, extra);
+}
+
+Fault Generator::faultWithoutPlace(const std::string& code, std::int32_t line, const std::string& details) const {
+    return Fault{பிழைவகை::பொருள்_பிழை, code, fileName_, line, details, std::string(lineOf(sourceCode_, line)),
+                 FaultForm::StageLine};
 }
 
 } // namespace pozhil

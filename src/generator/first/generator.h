@@ -1,6 +1,7 @@
 #pragma once
 
-#include "generator/web/measure/metrics.h"
+#include "emit/code_writer.h"
+#include "generator/web/page/web_emitter.h"
 #include "parser/parser.h"
 #include "parser/syntax_tree.h"
 
@@ -8,7 +9,6 @@
 #include <cstdint>
 #include <map>
 #include <set>
-#include <sstream>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -19,7 +19,7 @@ namespace pozhil {
 /// Translates a program into one C++17 text that holds the whole runtime of the language and the program itself.
 ///
 /// An object is used once.
-class Generator {
+class Generator : private Edition {
 public:
     /// \param program the tree; it outlives the generator
     /// \param functions parameters of the functions that stand outside all others
@@ -56,10 +56,8 @@ private:
     void visitLogicBlockNode(const LogicBlockNode* node);
     void emitConsoleMain();
     template <class Visit> void forEachDefinition(Visit visit) const;
-    void indent();
-    std::size_t indentation() const;
-    [[noreturn]] void பிழை(const std::string& code, std::int32_t line, const std::string& extra) const;
     [[noreturn]] void placelessFault(const std::string& code, std::int32_t line, const std::string& extra) const;
+    [[noreturn]] void பிழை(const std::string& code, std::int32_t line, const std::string& extra) const;
 
     // Statements (statements.cpp).
     void visitStatement(const Statement* statement);
@@ -72,6 +70,7 @@ private:
     void visitIfStatement(const IfStatement* node);
     void visitWhileStatement(const WhileStatement* node);
     void visitSwitchStatement(const SwitchStatement* node);
+    void emitCases(const SwitchStatement* node);
     void visitTryCatchStatement(const TryCatchStatement* node);
     void visitWaitStatement(const WaitStatement* node);
     void visitReturnStatement(const ReturnStatement* node);
@@ -87,6 +86,7 @@ private:
     void visitForStatement(const ForStatement* node);
     void emitRangeLoop(const ForStatement* node, const CallExpression& range);
     void emitContainerLoop(const ForStatement* node);
+    void emitLoops(const ForStatement* node);
     void emitLoopBody(const ForStatement* node);
 
     // Declarations and writes that stand as statements (declarations.cpp).
@@ -112,7 +112,7 @@ private:
     std::string constructorOwner(const std::string& structName) const;
     void emitConstructorCall(const std::string& owner, const std::string& object, const ExpressionList& arguments);
 
-    // Expressions (expressions.cpp, operators.cpp, members.cpp, web/colours.cpp).
+    // Expressions (expressions.cpp, operators.cpp, members.cpp).
     void visitExpression(const Expression* expression);
     template <class Node> bool visitAs(const Expression* expression, void (Generator::*visit)(const Node*));
     void visitNumberLiteral(const NumberLiteral* node);
@@ -128,7 +128,6 @@ private:
     void visitTernaryExpression(const TernaryExpression* node);
     void visitLambdaExpression(const LambdaExpression* node);
     void visitIndexExpression(const IndexExpression* node);
-    void visitColorExpression(const ColorExpression* node);
     void visitBinaryExpression(const BinaryExpression* node);
     void checkOperandTypes(const BinaryExpression* node, VarType left, VarType right) const;
     void emitNativeArithmetic(const BinaryExpression* node, VarType left, VarType right);
@@ -163,28 +162,11 @@ private:
     void emitIndexAssignment(const CallExpression* node);
     void emitElementReference(const Expression* target);
 
-    // Pages and widgets of web applications (web/web_program.cpp, web/page.cpp, web/widget_frame.cpp).
-    friend class WidgetWriter;
-    void emitWebProgram();
-    void generateWebBoilerplate();
-    void emitWebMain(const ScreenConfig& screen, const std::string& title);
-    void visitWebAppNode(const WebAppNode* node);
-    void generateUI(const Statement* root);
-    void generateWidgetCode(const WidgetNode* widget, const std::string& x, const std::string& y);
-    void visitWidgetNode(const WidgetNode* node);
-    bool visitWidgetStatement(const Statement* statement);
-    void visitWidgetExpression(const WidgetExpression* node);
-
-    // The realtime database (database.cpp).
-    void visitDatabaseManagerNode(const DatabaseManagerNode* node);
-    void visitFirebaseConfigNode(const FirebaseConfigNode* node);
-    template <class WriteData>
-    void emitDatabaseOperation(const Expression* path, WriteData writeData, std::string_view script);
-    void emitDatabaseEntries(const MapLiteral* data, bool keepsNumbers);
-    void visitRTDBInsertExpression(const RTDBInsertExpression* node);
-    void visitRTDBUpdateExpression(const RTDBUpdateExpression* node);
-    void visitRTDBDeleteExpression(const RTDBDeleteExpression* node);
-    void visitRTDBReadStatement(const RTDBReadStatement* node);
+    // What pages ask of the edition (generator.cpp).
+    void writeExpression(const Expression* expression) override;
+    void writeStatement(const Statement* statement) override;
+    void writeBody(const StatementList& statements) override;
+    Fault faultWithoutPlace(const std::string& code, std::int32_t line, const std::string& details) const override;
 
     // Static types (types.cpp).
     VarType inferExpressionType(const Expression* expression);
@@ -197,8 +179,7 @@ private:
     void dropLocalsBehind(std::size_t count);
 
     const Program& program_;
-    std::vector<const WebAppNode*> webApps_;
-    std::ostringstream out_;
+    CodeWriter out_;
     std::size_t runtimeLength_ = 0;
     std::map<std::string, VarType> varTypes_;
     std::set<std::string> knownStructs_;
@@ -215,14 +196,11 @@ private:
     std::set<std::string> localVars_;
     /// What entered localVars_, in order. Names that left it again may still stand here.
     std::vector<std::string> localsLog_;
-    std::int32_t indentLevel_ = 0;
     int containerLoopDepth_ = 0;
     int constructionDepth_ = 0;
-    WidgetMetrics metrics_;
-    /// Widgets written so far; the count tells their static locals apart.
-    std::uint64_t widgetCount_ = 0;
     std::uint64_t typeEpoch_ = 0;
     std::unordered_map<const Expression*, InferredType> inferredTypes_;
+    WebEmitter web_;
 };
 
 } // namespace pozhil

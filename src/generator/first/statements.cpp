@@ -21,7 +21,7 @@ template <class Node> bool Generator::visitFramed(const Statement* statement, vo
     if (node == nullptr) {
         return false;
     }
-    indent();
+    out_.indent();
     (this->*visit)(node);
     out_ << ";\n";
     return true;
@@ -47,9 +47,8 @@ void Generator::visitStatement(const Statement* statement) {
         visitOwn(statement, &Generator::visitNestedDefinition<StructDefinitionStatement>) ||
         visitOwn(statement, &Generator::visitFunctionDefinitionStatement) ||
         visitFramed(statement, &Generator::visitReturnStatement) ||
-        visitOwn(statement, &Generator::visitBlockStatement) ||
-        visitOwn(statement, &Generator::visitRTDBReadStatement) || visitOwn(statement, &Generator::visitWebAppNode) ||
-        visitWidgetStatement(statement) || visitOwn(statement, &Generator::visitLogicBlockNode);
+        visitOwn(statement, &Generator::visitBlockStatement) || web_.writeStatement(statement) ||
+        visitOwn(statement, &Generator::visitLogicBlockNode);
     if (!isVisited) {
         placelessFault("பொழி-399", 0, "Unknown statement type in generator");
     }
@@ -68,9 +67,8 @@ void Generator::visitBlockStatement(const BlockStatement* block) {
 
 /// A block one level deeper.
 void Generator::emitBody(const BlockStatement* block) {
-    ++indentLevel_;
+    const CodeWriter::Indented deeper(out_);
     visitBlockStatement(block);
-    --indentLevel_;
 }
 
 /// A condition: comparisons and logic are native already, any other value must hold a truth value.
@@ -99,12 +97,12 @@ void Generator::visitPrintStatement(const PrintStatement* node) {
 
 /// எனில் a: ... இல்லை: ...  ->  if (a) { ... } else { ... }
 void Generator::visitIfStatement(const IfStatement* node) {
-    indent();
+    out_.indent();
     out_ << "if (";
     emitCondition(node->condition.get());
     out_ << ") {\n";
     emitBody(node->thenBranch.get());
-    indent();
+    out_.indent();
     out_ << "}";
     if (const auto* elseIf = nodeCast<IfStatement>(node->elseBranch.get())) {
         out_ << " else ";
@@ -112,7 +110,7 @@ void Generator::visitIfStatement(const IfStatement* node) {
     } else if (const auto* elseBlock = nodeCast<BlockStatement>(node->elseBranch.get())) {
         out_ << " else {\n";
         emitBody(elseBlock);
-        indent();
+        out_.indent();
         out_ << "}\n";
     } else {
         out_ << "\n";
@@ -121,60 +119,66 @@ void Generator::visitIfStatement(const IfStatement* node) {
 
 /// சுற்று a: ...  ->  while (a) { ... }
 void Generator::visitWhileStatement(const WhileStatement* node) {
-    indent();
+    out_.indent();
     out_ << "while (";
     emitCondition(node->condition.get());
     out_ << ") {\n";
     emitBody(node->body.get());
-    indent();
+    out_.indent();
     out_ << "}\n";
 }
 
 /// தேர்வு a: நிலை b: ... மற்றவை: ...  ->  a chain of comparisons, so that நிறுத்து leaves the loop around it
 void Generator::visitSwitchStatement(const SwitchStatement* node) {
-    indent();
+    out_.indent();
     out_ << "{\n";
-    ++indentLevel_;
-    indent();
+    {
+        const CodeWriter::Indented deeper(out_);
+        emitCases(node);
+    }
+    out_.indent();
+    out_ << "}\n";
+}
+
+void Generator::emitCases(const SwitchStatement* node) {
+    out_.indent();
     out_ << "auto _switch_val = ";
     visitExpression(node->subject.get());
     out_ << ";\n";
     bool isFirst = true;
     for (const CaseBlock& caseBlock : node->cases) {
-        indent();
+        out_.indent();
         out_ << (isFirst ? "if (" : "else if (") << "fn_compare_any(_switch_val, ";
         emitAny(caseBlock.value.get());
         out_ << ", \"==\")) {\n";
         visitBlockStatement(caseBlock.body.get());
-        indent();
+        out_.indent();
         out_ << "}\n";
         isFirst = false;
     }
     if (node->defaultBlock != nullptr) {
-        indent();
+        out_.indent();
         out_ << (isFirst ? "{\n" : "else {\n");
         visitBlockStatement(node->defaultBlock.get());
-        indent();
+        out_.indent();
         out_ << "}\n";
     }
-    --indentLevel_;
-    indent();
-    out_ << "}\n";
 }
 
 /// முயற்சி: ... பிடி (e): ...  ->  try { ... } catch; the message always lands in a global variable
 void Generator::visitTryCatchStatement(const TryCatchStatement* node) {
-    indent();
+    out_.indent();
     out_ << "try {\n";
     emitBody(node->tryBlock.get());
-    indent();
+    out_.indent();
     out_ << "} catch (const std::exception& e) {\n";
-    ++indentLevel_;
-    indent();
-    out_ << "global_vars[\"" << node->errorName << "\"] = std::any(std::string(e.what()));\n";
-    visitBlockStatement(node->catchBlock.get());
-    --indentLevel_;
-    indent();
+    {
+        const CodeWriter::Indented deeper(out_);
+        out_.indent();
+        out_ << "global_vars[\"" << node->errorName << "\"] = std::any(std::string(e.what()));\n";
+        visitBlockStatement(node->catchBlock.get());
+    }
+    out_.indent();
     out_ << "}\n";
 }
 
@@ -236,9 +240,9 @@ void Generator::visitPassStatement(const PassStatement*) {
 }
 
 void Generator::visitSetStateStatement(const SetStateStatement*) {
-    indent();
+    out_.indent();
     out_ << "// UI-ஐப் புதுப்பித்தல்\n";
-    indent();
+    out_.indent();
     out_ << "updateUI();\n";
 }
 
@@ -249,7 +253,7 @@ void Generator::visitExpressionStatement(const ExpressionStatement* node) {
         visitExpression(node->expression.get());
         return;
     }
-    indent();
+    out_.indent();
     visitSetMemberExpression(write);
     out_ << ";\n";
 }

@@ -54,13 +54,13 @@ void Generator::emitMemberComments(const StructDefinitionStatement* node, bool i
     out_ << (isPrivate ? "private:\n" : "public:\n");
     for (const auto& field : node->fields) {
         if (hasVisibility(field)) {
-            indent();
+            out_.indent();
             out_ << "// " << field->name << "\n";
         }
     }
     for (const auto& method : node->methods) {
         if (hasVisibility(method)) {
-            indent();
+            out_.indent();
             out_ << "// " << method->name.value << "()\n";
         }
     }
@@ -90,7 +90,7 @@ void Generator::bindPropertiesAndMethods(const std::string& structName, const st
     const std::vector<const StructDefinitionStatement*> line = lineage(structName);
     for (auto structure = line.rbegin(); structure != line.rend(); ++structure) {
         for (const auto& field : (*structure)->fields) {
-            indent();
+            out_.indent();
             out_ << object << "->properties[\"" << field->name << "\"] = ";
             emitAny(field->initializer.get());
             out_ << ";\n";
@@ -105,9 +105,9 @@ void Generator::bindPropertiesAndMethods(const std::string& structName, const st
 /// each level repeats the text of those below it.
 void Generator::checkConstructionDepth(std::int32_t line) {
     constexpr int MAX_CONSTRUCTION_DEPTH = 12;
-    constexpr std::streamoff MAX_NESTED_TEXT = std::streamoff(64) * 1024 * 1024;
+    constexpr std::size_t MAX_NESTED_TEXT = std::size_t(64) * 1024 * 1024;
     const bool isNested = constructionDepth_ > 1;
-    if (constructionDepth_ > MAX_CONSTRUCTION_DEPTH || (isNested && out_.tellp() > MAX_NESTED_TEXT)) {
+    if (constructionDepth_ > MAX_CONSTRUCTION_DEPTH || (isNested && out_.length() > MAX_NESTED_TEXT)) {
         பிழை("பொழி-291", line, "");
     }
 }
@@ -124,7 +124,7 @@ void Generator::bindMethod(const std::string& structName, const FunctionDefiniti
         declarations += (index == 1 ? "std::any " : ", std::any ") + name;
         names += ", " + name;
     }
-    indent();
+    out_.indent();
     out_ << object << "->properties[\"" << method.name.value << "\"] = std::any(std::function<std::any(" << types
          << ")>([=](" << declarations << ") { return " << emittedFunctionName(structName + "_" + method.name.value)
          << "(std::static_pointer_cast<_StructBase>(" << object << ")" << names << "); }));\n";
@@ -142,7 +142,7 @@ std::string Generator::constructorOwner(const std::string& structName) const {
 
 void Generator::emitConstructorCall(const std::string& owner, const std::string& object,
                                     const ExpressionList& arguments) {
-    indent();
+    out_.indent();
     out_ << emittedFunctionName(owner + "_" + CONSTRUCTOR) << "(std::static_pointer_cast<_StructBase>(" << object
          << ")";
     for (const ExpressionPtr& argument : arguments) {
@@ -157,20 +157,21 @@ void Generator::emitConstruction(const CallExpression* node, const std::string& 
     ++constructionDepth_;
     checkConstructionDepth(node->line);
     out_ << "[&]() -> std::any {\n";
-    ++indentLevel_;
-    indent();
-    out_ << "auto temp_obj = std::make_shared<" << structName << ">();\n";
-    bindPropertiesAndMethods(structName, "temp_obj");
-    const std::string owner = constructorOwner(structName);
-    if (!owner.empty()) {
-        emitConstructorCall(owner, "temp_obj", node->arguments);
-    } else if (!node->arguments.empty()) {
-        பிழை("பொழி-333", node->line, "'" + structName + "' கட்டமைப்பில் 'துவக்கம்()' வரையறுக்கப்படவில்லை.");
+    {
+        const CodeWriter::Indented deeper(out_);
+        out_.indent();
+        out_ << "auto temp_obj = std::make_shared<" << structName << ">();\n";
+        bindPropertiesAndMethods(structName, "temp_obj");
+        const std::string owner = constructorOwner(structName);
+        if (!owner.empty()) {
+            emitConstructorCall(owner, "temp_obj", node->arguments);
+        } else if (!node->arguments.empty()) {
+            பிழை("பொழி-333", node->line, "'" + structName + "' கட்டமைப்பில் 'துவக்கம்()' வரையறுக்கப்படவில்லை.");
+        }
+        out_.indent();
+        out_ << "return std::any(std::static_pointer_cast<_StructBase>(temp_obj));\n";
     }
-    indent();
-    out_ << "return std::any(std::static_pointer_cast<_StructBase>(temp_obj));\n";
-    --indentLevel_;
-    indent();
+    out_.indent();
     out_ << "}()";
     --constructionDepth_;
 }
@@ -181,7 +182,7 @@ void Generator::emitObjectDeclaration(const VarDeclaration* node, const CallExpr
                                       const std::string& structName) {
     const std::string object = "obj_" + node->name;
     setVarType(node->name, VarType::Object);
-    indent();
+    out_.indent();
     out_ << "auto " << object << " = std::make_shared<" << structName << ">();\n";
     bindPropertiesAndMethods(structName, object);
     if (ownsConstructor(*structDefs_.at(structName))) {
@@ -189,7 +190,7 @@ void Generator::emitObjectDeclaration(const VarDeclaration* node, const CallExpr
     } else if (!call.arguments.empty()) {
         பிழை("பொழி-333", node->line, "'" + structName + "' கட்டமைப்பில் 'துவக்கம்()' வரையறுக்கப்படவில்லை.");
     }
-    indent();
+    out_.indent();
     out_ << (currentFunction_.empty() ? "global_vars[\"" + node->name + "\"]" : node->name)
          << " = std::any(std::static_pointer_cast<_StructBase>(" << object << "))";
 }

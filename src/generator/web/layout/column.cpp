@@ -10,7 +10,7 @@ namespace {
 constexpr LayoutAxis AXIS = {"H", "fixedHeightSum", "உயரம்", "containerH", "scrollY", &WidgetWriter::heightOf};
 
 /// Rectangle of the column. One that scrolls takes the window's height, wherever it starts.
-void emitRectangle(const WidgetWriter& column, const LayoutChildren& children, float contentHeight) {
+void emitRectangle(WidgetWriter& column, const LayoutChildren& children, float contentHeight) {
     column.block(R"(
 {
     float colX = $x; float colY = $y;
@@ -28,7 +28,7 @@ void emitRectangle(const WidgetWriter& column, const LayoutChildren& children, f
                  {{"height", hasScrollBar(column.widget()) ? "winHeight" : "containerH"}});
 }
 
-void emitScrolling(const WidgetWriter& column, float contentHeight) {
+void emitScrolling(WidgetWriter& column, float contentHeight) {
     column.block(R"(
     float contentH = $contentH;
     if (contentH < colH) contentH = colH;
@@ -46,7 +46,7 @@ void emitScrolling(const WidgetWriter& column, float contentHeight) {
     emitScrollToId(column, "scrollY", "colY", SCROLL_Y);
 }
 
-void emitScrollBar(const WidgetWriter& column) {
+void emitScrollBar(WidgetWriter& column) {
     emitClipEnd(column);
     column.block(R"(
     if (maxScroll > 0) {
@@ -61,7 +61,7 @@ void emitScrollBar(const WidgetWriter& column) {
 }
 
 /// The child's width across the column. A text is measured, so that centring goes by what is seen.
-void emitChildWidth(const WidgetWriter& column, const WidgetNode& child) {
+void emitChildWidth(WidgetWriter& column, const WidgetNode& child) {
     column.block("    float childW = $width;\n", {{"width", floatConstant(column.widthOf(child))}});
     const Expression* text = findProperty(child, {"உரை"});
     if (child.kind == "உரை" && text != nullptr) {
@@ -74,7 +74,7 @@ void emitChildWidth(const WidgetWriter& column, const WidgetNode& child) {
     }
 }
 
-void emitFreeChild(const WidgetWriter& column, const WidgetNode& child) {
+void emitFreeChild(WidgetWriter& column, const WidgetNode& child) {
     column.block(R"(
     float childX = colX + (containerW - childW) * (1.0f + alignX) / 2.0f;
     if (childW > containerW) childX = colX;
@@ -90,7 +90,7 @@ void emitFreeChild(const WidgetWriter& column, const WidgetNode& child) {
                    })}});
 }
 
-void emitChild(const WidgetWriter& column, const WidgetNode& child) {
+void emitChild(WidgetWriter& column, const WidgetNode& child) {
     emitChildWidth(column, child);
     if (const std::optional<float> share = flexShare(child)) {
         const std::string height = child.kind == "நெகிழ்வு" ? "unitFlexH * " + floatConstant(*share) : "unitFlexH";
@@ -113,7 +113,7 @@ void emitChild(const WidgetWriter& column, const WidgetNode& child) {
 
 } // namespace
 
-void emitColumn(const WidgetWriter& column) {
+void emitColumn(WidgetWriter& column) {
     const LayoutChildren children(column);
     const float contentHeight = children.heightSum + children.gaps;
     const bool scrolls = hasScrollBar(column.widget());

@@ -31,7 +31,7 @@ std::string gapOf(const WidgetNode& grid, const char* spacerSize, std::initializ
 }
 
 /// A child keeps its own size; the cell only says where it stands.
-void emitCell(const WidgetWriter& grid, const WidgetNode& child) {
+void emitCell(WidgetWriter& grid, const WidgetNode& child) {
     grid.block(R"(
     {
         float savedForcedW = forcedW, savedForcedH = forcedH;
@@ -55,7 +55,7 @@ void emitCell(const WidgetWriter& grid, const WidgetNode& child) {
 
 } // namespace
 
-void emitGridView(const WidgetWriter& grid) {
+void emitGridView(WidgetWriter& grid) {
     const WidgetNode& widget = grid.widget();
     grid.block(
         R"(

@@ -8,7 +8,7 @@
 
 namespace pozhil {
 
-LayoutChildren::LayoutChildren(const WidgetWriter& layout)
+LayoutChildren::LayoutChildren(WidgetWriter& layout)
     : widgets(childWidgets(layout.widget())),
       spacing(numberOf(findProperty(layout.widget(), {"இடைவெளி"})).value_or(0.0F)) {
     for (const WidgetNode* child : widgets) {
@@ -34,7 +34,7 @@ bool hasScrollBar(const WidgetNode& layout) {
     return isTrue(findProperty(layout, {"உருளும்பட்டை"}));
 }
 
-void emitLayoutSize(const WidgetWriter& layout, std::initializer_list<const char*> names, const char* variable,
+void emitLayoutSize(WidgetWriter& layout, std::initializer_list<const char*> names, const char* variable,
                     const char* forced, const char* window) {
     const Expression* given = findProperty(layout.widget(), names);
     if (const std::optional<float> size = numberOf(given)) {
@@ -45,7 +45,7 @@ void emitLayoutSize(const WidgetWriter& layout, std::initializer_list<const char
     }
 }
 
-void emitShares(const WidgetWriter& layout, const LayoutChildren& children, const LayoutAxis& axis) {
+void emitShares(WidgetWriter& layout, const LayoutChildren& children, const LayoutAxis& axis) {
     layout.block(R"(
     float $sum = 0.0f;
     float totalFlex = $flex;
@@ -74,7 +74,7 @@ void emitShares(const WidgetWriter& layout, const LayoutChildren& children, cons
                  {{"axis", axis.letter}, {"sum", axis.fixedSum}});
 }
 
-void emitScrollLimits(const WidgetWriter& layout, const LayoutAxis& axis, const char* content, const char* visible) {
+void emitScrollLimits(WidgetWriter& layout, const LayoutAxis& axis, const char* content, const char* visible) {
     layout.block(R"(
     float maxScroll = $content - $visible;
     if (maxScroll < 0.0f) maxScroll = 0.0f;
@@ -84,7 +84,7 @@ void emitScrollLimits(const WidgetWriter& layout, const LayoutAxis& axis, const 
                  {{"content", content}, {"visible", visible}, {"offset", axis.offset}});
 }
 
-void emitClip(const WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height) {
+void emitClip(WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height) {
     layout.block(R"(
     nvgSave(vg);
     nvgScissor(vg, $left, $top, $width, $height);
@@ -93,8 +93,7 @@ void emitClip(const WidgetWriter& layout, const char* x, const char* y, const ch
     emitClipRectangle(layout, x, y, width, height);
 }
 
-void emitClipRectangle(const WidgetWriter& layout, const char* x, const char* y, const char* width,
-                       const char* height) {
+void emitClipRectangle(WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height) {
     layout.block(R"(
     float oldClipX = g_currentClipX, oldClipY = g_currentClipY, oldClipW = g_currentClipW, oldClipH = g_currentClipH;
     g_currentClipX = $left; g_currentClipY = $top; g_currentClipW = $width; g_currentClipH = $height;
@@ -102,14 +101,14 @@ void emitClipRectangle(const WidgetWriter& layout, const char* x, const char* y,
                  {{"left", x}, {"top", y}, {"width", width}, {"height", height}});
 }
 
-void emitClipEnd(const WidgetWriter& layout) {
+void emitClipEnd(WidgetWriter& layout) {
     layout.block(R"(
     nvgRestore(vg);
     g_currentClipX = oldClipX; g_currentClipY = oldClipY; g_currentClipW = oldClipW; g_currentClipH = oldClipH;
 )");
 }
 
-void emitScrollToId(const WidgetWriter& layout, const char* offset, const char* start, const ScrollAxis& axis) {
+void emitScrollToId(WidgetWriter& layout, const char* offset, const char* start, const ScrollAxis& axis) {
     layout.block(R"(
     if (!g_scrollToId.empty() && g_widgetPositions.count(g_scrollToId)) {
         float target${letter}_id = g_widgetPositions[g_scrollToId].$axis;

@@ -12,7 +12,7 @@ class WidgetWriter;
 
 /// What a column or a row knows of its children before the page runs.
 struct LayoutChildren {
-    explicit LayoutChildren(const WidgetWriter& layout);
+    explicit LayoutChildren(WidgetWriter& layout);
 
     std::vector<const WidgetNode*> widgets;
     float widthSum = 0;
@@ -33,14 +33,14 @@ std::optional<float> flexShare(const WidgetNode& child);
 bool hasScrollBar(const WidgetNode& layout);
 
 /// Assigns the size of a layout along one axis: what the source says, else the window's for the root of a page.
-void emitLayoutSize(const WidgetWriter& layout, std::initializer_list<const char*> names, const char* variable,
+void emitLayoutSize(WidgetWriter& layout, std::initializer_list<const char*> names, const char* variable,
                     const char* forced, const char* window);
 
 /// The clip rectangle of a scrolling layout; written before its children, and taken back behind them.
-void emitClip(const WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height);
+void emitClip(WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height);
 /// What the widgets inside know of the clip rectangle, for a layout that sets the clip itself.
-void emitClipRectangle(const WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height);
-void emitClipEnd(const WidgetWriter& layout);
+void emitClipRectangle(WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height);
+void emitClipEnd(WidgetWriter& layout);
 
 /// The direction in which a layout places its children, by the names of its emitted variables.
 struct LayoutAxis {
@@ -53,12 +53,12 @@ struct LayoutAxis {
 };
 
 /// How the free space is shared out among the children.
-void emitShares(const WidgetWriter& layout, const LayoutChildren& children, const LayoutAxis& axis);
+void emitShares(WidgetWriter& layout, const LayoutChildren& children, const LayoutAxis& axis);
 
 /// Keeps the offset of a scrolling layout within its content. `maxScroll` is known behind it.
 ///
 /// \param content, visible names of the variables that hold the two sizes
-void emitScrollLimits(const WidgetWriter& layout, const LayoutAxis& axis, const char* content, const char* visible);
+void emitScrollLimits(WidgetWriter& layout, const LayoutAxis& axis, const char* content, const char* visible);
 
 /// An axis as positions name it, and as it ends the names of variables.
 struct ScrollAxis {
@@ -73,6 +73,6 @@ constexpr ScrollAxis SCROLL_Y = {"y", "Y"};
 ///
 /// \param offset name of the variable that holds how far it is scrolled
 /// \param start where the layout begins, along the axis
-void emitScrollToId(const WidgetWriter& layout, const char* offset, const char* start, const ScrollAxis& axis);
+void emitScrollToId(WidgetWriter& layout, const char* offset, const char* start, const ScrollAxis& axis);
 
 } // namespace pozhil

@@ -5,7 +5,7 @@
 namespace pozhil {
 namespace {
 
-void emitScrolling(const WidgetWriter& list) {
+void emitScrolling(WidgetWriter& list) {
     emitClip(list, "listStartX", "listStartY", "winWidth", "winHeight");
     list.block(R"(
     static float scrollOffset_$n = 0.0f;
@@ -23,7 +23,7 @@ void emitScrolling(const WidgetWriter& list) {
     emitScrollToId(list, "scrollOffset", "listStartY", SCROLL_Y);
 }
 
-void emitScrollBar(const WidgetWriter& list) {
+void emitScrollBar(WidgetWriter& list) {
     list.block(R"(
     if (maxScroll > 0) {
         float barH = (winHeight / totalContentHeight) * winHeight;
@@ -39,7 +39,7 @@ void emitScrollBar(const WidgetWriter& list) {
 
 } // namespace
 
-void emitListView(const WidgetWriter& list) {
+void emitListView(WidgetWriter& list) {
     const auto children = childWidgets(list.widget());
     if (const Expression* id = findProperty(list.widget(), {"ID", "id", "அடையாளம்"})) {
         list.block(

@@ -16,7 +16,7 @@ float offsetOf(const WidgetNode& child, const char* name) {
 
 } // namespace
 
-void emitStack(const WidgetWriter& stack) {
+void emitStack(WidgetWriter& stack) {
     const LayoutChildren children(stack);
     const auto [alignX, alignY] = getAlignmentCoords(stack.widget().alignment);
     stack.block(R"(
@@ -47,7 +47,7 @@ void emitStack(const WidgetWriter& stack) {
     stack.block("}\n");
 }
 
-void emitWrap(const WidgetWriter& wrap) {
+void emitWrap(WidgetWriter& wrap) {
     constexpr float USUAL_SPACING = 10.0F;
     const float spacing = numberOf(findProperty(wrap.widget(), {"இடைவெளி"})).value_or(USUAL_SPACING);
     wrap.block(R"(
@@ -82,7 +82,7 @@ void emitWrap(const WidgetWriter& wrap) {
     wrap.block(wrap.isAtTop() ? "}\n" : "    $y = curY + rowMaxH + spacing;\n}\n");
 }
 
-void emitPadding(const WidgetWriter& padding) {
+void emitPadding(WidgetWriter& padding) {
     const float inset = numberOf(findProperty(padding.widget(), {"அளவு"})).value_or(0.0F);
     // A parent that places it by variables of the same names is read before they are hidden.
     const bool isInChild = padding.x() == "childX" || padding.y() == "childY";
@@ -101,16 +101,16 @@ void emitPadding(const WidgetWriter& padding) {
                     })}});
 }
 
-void emitFlexWrapper(const WidgetWriter& wrapper) {
+void emitFlexWrapper(WidgetWriter& wrapper) {
     const auto children = childWidgets(wrapper.widget());
     if (!children.empty()) {
         wrapper.child(*children.front(), wrapper.x(), wrapper.y());
     }
 }
 
-void emitFlexSpacer(const WidgetWriter&) {}
+void emitFlexSpacer(WidgetWriter&) {}
 
-void emitGap(const WidgetWriter& gap) {
+void emitGap(WidgetWriter& gap) {
     gap.block("    // இவெ (Spacer) - Space reserved\n");
 }
 

@@ -9,7 +9,7 @@ namespace {
 constexpr LayoutAxis AXIS = {"W",       "fixedWidthSum",       "அகலம்", "(forcedW > 0.0f ? forcedW : containerW)",
                              "scrollX", &WidgetWriter::widthOf};
 
-void emitRectangle(const WidgetWriter& row, const LayoutChildren& children, float contentWidth) {
+void emitRectangle(WidgetWriter& row, const LayoutChildren& children, float contentWidth) {
     row.block(R"(
 {
     float rowX = $x; float rowY = $y;
@@ -25,7 +25,7 @@ void emitRectangle(const WidgetWriter& row, const LayoutChildren& children, floa
 }
 
 /// A scrolling row leaves room behind its last child.
-void emitScrolling(const WidgetWriter& row, float contentWidth) {
+void emitScrolling(WidgetWriter& row, float contentWidth) {
     row.block(R"(
     float contentW = $contentW + 150.0f;
     if (contentW < rowW) contentW = rowW;
@@ -43,7 +43,7 @@ void emitScrolling(const WidgetWriter& row, float contentWidth) {
     emitScrollToId(row, "scrollX", "rowX", SCROLL_X);
 }
 
-void emitScrollBar(const WidgetWriter& row) {
+void emitScrollBar(WidgetWriter& row) {
     emitClipEnd(row);
     row.block(R"(
     if (maxScroll > 0) {
@@ -58,7 +58,7 @@ void emitScrollBar(const WidgetWriter& row) {
 }
 
 /// Where the child stands across the row.
-void emitChildTop(const WidgetWriter& row, const WidgetNode& child) {
+void emitChildTop(WidgetWriter& row, const WidgetNode& child) {
     const float alignY = getAlignmentCoords(row.widget().alignment).second;
     row.block("    float childH_val = $height;\n    float childY = $top;\n",
               {{"height", floatConstant(row.heightOf(child))},
@@ -68,7 +68,7 @@ void emitChildTop(const WidgetWriter& row, const WidgetNode& child) {
 }
 
 /// Draws the child with \p width imposed on it; -1.0f leaves it free. A flexible spacer draws nothing.
-void emitPlacedChild(const WidgetWriter& row, const WidgetNode& child, const char* width) {
+void emitPlacedChild(WidgetWriter& row, const WidgetNode& child, const char* width) {
     if (child.kind == "வெற்றிடம்") {
         return;
     }
@@ -82,7 +82,7 @@ void emitPlacedChild(const WidgetWriter& row, const WidgetNode& child, const cha
               {{"width", width}, {"child", row.blocks([&] { row.child(child, "currentX", "childY"); })}});
 }
 
-void emitChild(const WidgetWriter& row, const WidgetNode& child) {
+void emitChild(WidgetWriter& row, const WidgetNode& child) {
     const std::optional<float> share = flexShare(child);
     const bool isOneShare = share && child.kind != "நெகிழ்வு";
     if (isOneShare) {
@@ -102,7 +102,7 @@ void emitChild(const WidgetWriter& row, const WidgetNode& child) {
 
 } // namespace
 
-void emitRow(const WidgetWriter& row) {
+void emitRow(WidgetWriter& row) {
     const LayoutChildren children(row);
     const float contentWidth = children.widthSum + children.gaps;
     const bool scrolls = hasScrollBar(row.widget());

@@ -2,7 +2,7 @@
 
 #include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/literals.h"
-#include "generator/web/write/widget_writer.h"
+#include "generator/web/write/widget_properties.h"
 
 #include <algorithm>
 

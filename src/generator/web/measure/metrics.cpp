@@ -1,7 +1,7 @@
 #include "generator/web/measure/metrics.h"
 
 #include "generator/web/measure/metric_rules.h"
-#include "generator/web/write/widget_writer.h"
+#include "generator/web/write/widget_properties.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,8 +1,4 @@
-/// The bridge to the realtime database: each operation is a script for the browser, put together when it runs. A native
-/// program has no database, and its operations do nothing.
-
-#include "emit/emitted_block.h"
-#include "generator/first/generator.h"
+#include "generator/web/page/database.h"
 
 #include <array>
 
@@ -102,83 +98,75 @@ std::string configured(const FirebaseConfigNode& config, const char* key) {
     return text == nullptr ? "" : text->value;
 }
 
-} // namespace
-
-void Generator::visitDatabaseManagerNode(const DatabaseManagerNode* node) {
-    if (const auto* config = nodeCast<FirebaseConfigNode>(node->firebaseConfig.get())) {
-        visitFirebaseConfigNode(config);
-    }
-}
-
-/// Loads the database's libraries into the page, one behind the other and only once.
-void Generator::visitFirebaseConfigNode(const FirebaseConfigNode* node) {
-    constexpr std::array<const char*, 7> KEYS = {"api_key",        "auth_domain",         "database_url", "project_id",
-                                                 "storage_bucket", "messaging_sender_id", "app_id"};
-    Holes holes = {{"host", std::string(LIBRARY_HOST)}};
-    for (const char* key : KEYS) {
-        holes.emplace_back(key, configured(*node, key));
-    }
-    writeBlock(out_, LOADER, holes);
-}
-
-/// An operation as an expression without a value: \p script stands behind the path and the data, if there are any.
+/// An operation as an expression without a value: \p script stands after the path and the data, if there are any.
 template <class WriteData>
-void Generator::emitDatabaseOperation(const Expression* path, WriteData writeData, std::string_view script) {
-    out_ << "[&]() -> std::any {\n#ifdef __EMSCRIPTEN__\n    std::string path_str = fn_any_to_string(";
-    visitExpression(path);
-    out_ << ");\n";
+void emitOperation(CodeWriter& out, Edition& edition, const Expression* path, WriteData writeData,
+                   std::string_view script) {
+    out << "[&]() -> std::any {\n#ifdef __EMSCRIPTEN__\n    std::string path_str = fn_any_to_string(";
+    edition.writeExpression(path);
+    out << ");\n";
     writeData();
-    writeBlock(out_, script, {});
-    out_ << "#endif\n    return std::any();\n}()";
+    out.blockAtMargin(script);
+    out << "#endif\n    return std::any();\n}()";
 }
 
 /// The data as JSON. A number that is changed stays one, while new values are all sent as texts.
-void Generator::emitDatabaseEntries(const MapLiteral* data, bool keepsNumbers) {
-    out_ << "    std::string json_data = \"{\";\n";
+void emitEntries(CodeWriter& out, Edition& edition, const MapLiteral& data, bool keepsNumbers) {
+    out << "    std::string json_data = \"{\";\n";
     bool isFirst = true;
-    for (const auto& [key, value] : data->entries) {
+    for (const auto& [key, value] : data.entries) {
         const bool isQuoted = !keepsNumbers || nodeCast<StringLiteral>(value.get()) != nullptr;
         const std::string_view quote = isQuoted ? "\\\"" : "";
-        out_ << "    json_data += \"" << (isFirst ? "" : ", ") << "\\\"" << key << "\\\": " << quote
-             << "\" + fn_any_to_string(";
-        visitExpression(value.get());
-        out_ << ") + \"" << quote << "\";\n";
+        out << "    json_data += \"" << (isFirst ? "" : ", ") << "\\\"" << key << "\\\": " << quote
+            << "\" + fn_any_to_string(";
+        edition.writeExpression(value.get());
+        out << ") + \"" << quote << "\";\n";
         isFirst = false;
     }
-    out_ << "    json_data += \"}\";\n";
+    out << "    json_data += \"}\";\n";
 }
 
-void Generator::visitRTDBInsertExpression(const RTDBInsertExpression* node) {
+} // namespace
+
+void emitDatabaseSetup(CodeWriter& out, const WebAppNode& app) {
+    constexpr std::array<const char*, 7> KEYS = {"api_key",        "auth_domain",         "database_url", "project_id",
+                                                 "storage_bucket", "messaging_sender_id", "app_id"};
+    const auto* manager = nodeCast<DatabaseManagerNode>(app.databaseManager.get());
+    const auto* config = manager == nullptr ? nullptr : nodeCast<FirebaseConfigNode>(manager->firebaseConfig.get());
+    if (config == nullptr) {
+        return;
+    }
+    Holes holes = {{"host", std::string(LIBRARY_HOST)}};
+    for (const char* key : KEYS) {
+        holes.emplace_back(key, configured(*config, key));
+    }
+    out.blockAtMargin(LOADER, holes);
+}
+
+void emitInsert(CodeWriter& out, Edition& edition, const RTDBInsertExpression& insert) {
     static const MapLiteral NO_ENTRIES({});
-    const auto* data = nodeCast<MapLiteral>(node->data.get());
-    const auto writeData = [&] { emitDatabaseEntries(data == nullptr ? &NO_ENTRIES : data, false); };
-    emitDatabaseOperation(node->path.get(), writeData, INSERT);
+    const auto* data = nodeCast<MapLiteral>(insert.data.get());
+    const auto writeData = [&] { emitEntries(out, edition, data == nullptr ? NO_ENTRIES : *data, false); };
+    emitOperation(out, edition, insert.path.get(), writeData, INSERT);
 }
 
-void Generator::visitRTDBUpdateExpression(const RTDBUpdateExpression* node) {
-    const auto writeData = [&] { emitDatabaseEntries(node->data.get(), true); };
-    emitDatabaseOperation(node->path.get(), writeData, UPDATE);
+void emitUpdate(CodeWriter& out, Edition& edition, const RTDBUpdateExpression& update) {
+    const auto writeData = [&] { emitEntries(out, edition, *update.data, true); };
+    emitOperation(out, edition, update.path.get(), writeData, UPDATE);
 }
 
-void Generator::visitRTDBDeleteExpression(const RTDBDeleteExpression* node) {
-    emitDatabaseOperation(
-        node->path.get(), [] {}, DELETE);
+void emitDelete(CodeWriter& out, Edition& edition, const RTDBDeleteExpression& remove) {
+    const auto writeNoData = [] {};
+    emitOperation(out, edition, remove.path.get(), writeNoData, DELETE);
 }
 
-/// The body runs when the data has arrived; what stands behind the statement doesn't wait. The variables of a function
-/// are copied for it, and its own end with it. A return in it leaves the body alone, on some of its ways or on all.
-void Generator::visitRTDBReadStatement(const RTDBReadStatement* node) {
-    const Filling path = std::function<void()>([&] { visitExpression(node->path.get()); });
+void emitRead(CodeWriter& out, Edition& edition, const RTDBReadStatement& read) {
+    const Filling path = std::function<void()>([&] { edition.writeExpression(read.path.get()); });
     const Filling body = std::function<void()>([&] {
-        const std::size_t outerLocals = localsLog_.size();
-        indentLevel_ += 2;
-        for (const StatementPtr& statement : node->body) {
-            visitStatement(statement.get());
-        }
-        indentLevel_ -= 2;
-        dropLocalsBehind(outerLocals);
+        const CodeWriter::Indented deeper(out, 2);
+        edition.writeBody(read.body);
     });
-    writeBlock(out_, READ, {{"path", path}, {"body", body}}, indentation());
+    out.block(READ, {{"path", path}, {"body", body}});
 }
 
 } // namespace pozhil

@@ -4,7 +4,7 @@
 
 namespace pozhil {
 
-void emitNestedPage(const WidgetWriter& page) {
+void emitNestedPage(WidgetWriter& page) {
     const auto* name = nodeCast<StringLiteral>(findProperty(page.widget(), {"பக்கம்"}));
     const Filling children = page.blocks([&] {
         page.eachChild(childWidgets(page.widget()),

@@ -5,6 +5,6 @@ namespace pozhil {
 class WidgetWriter;
 
 /// பக்கம் inside a page: drawn while it is the page being shown.
-void emitNestedPage(const WidgetWriter& page);
+void emitNestedPage(WidgetWriter& page);
 
 } // namespace pozhil

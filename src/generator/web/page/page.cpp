@@ -1,15 +1,15 @@
-/// Pages: each application of the source is one, drawn while it is the page being shown.
+#include "generator/web/page/page.h"
 
-#include "generator/first/generator.h"
 #include "generator/web/page/start_page.h"
 #include "generator/web/write/colours.h"
+#include "generator/web/write/widget_context.h"
 #include "generator/web/write/widget_writer.h"
 
 namespace pozhil {
 namespace {
 
 /// The page's colour, as far as the compiler can tell it.
-void emitBackgroundColour(const WidgetWriter& page) {
+void emitBackgroundColour(WidgetWriter& page) {
     const Expression* background = findProperty(page.widget(), {"பின்னணி"});
     if (background == nullptr) {
         return;
@@ -25,7 +25,7 @@ void emitBackgroundColour(const WidgetWriter& page) {
     }
 }
 
-void emitBackgroundImage(const WidgetWriter& page) {
+void emitBackgroundImage(WidgetWriter& page) {
     const Expression* path = findProperty(page.widget(), {"பின்னணிபடம்"});
     if (path == nullptr) {
         return;
@@ -59,15 +59,15 @@ std::string sourceText(const Expression* value) {
 }
 
 /// A video behind the transparent canvas. It plays on when the page is left, behind pages that fill their background.
-void emitBackgroundVideo(const WidgetWriter& page) {
+void emitBackgroundVideo(WidgetWriter& page) {
     const Expression* path = findProperty(page.widget(), {"பின்னணிகாணொளி"});
     if (path == nullptr) {
         return;
     }
     const auto* literal = nodeCast<StringLiteral>(path);
     if (literal == nullptr) {
-        page.placelessFault("பொழி-254", path->line,
-                            "ஊடகப் பிழை: காணொளியின் முகவரி சரியாக இல்லை (" + sourceText(path) + ")");
+        throw page.faultWithoutPlace("பொழி-254", path->line,
+                                     "ஊடகப் பிழை: காணொளியின் முகவரி சரியாக இல்லை (" + sourceText(path) + ")");
     }
     page.block(R"(
     static bool videoInit_$n = false;
@@ -107,7 +107,7 @@ void emitBackgroundVideo(const WidgetWriter& page) {
                {{"path", literal->value}});
 }
 
-void emitTitle(const WidgetWriter& page) {
+void emitTitle(WidgetWriter& page) {
     if (const Expression* title = findProperty(page.widget(), {"இணைய_தலைப்பு"})) {
         page.block(R"(
 #ifdef __EMSCRIPTEN__
@@ -118,19 +118,26 @@ void emitTitle(const WidgetWriter& page) {
     }
 }
 
+/// The root of a page stands at the texts "0.0f", by which layouts know that they are one.
+void emitRoot(WidgetWriter& page, const Statement* root) {
+    if (const WidgetNode* widget = asWidget(root)) {
+        page.child(*widget, "0.0f", "0.0f");
+    }
+}
+
 } // namespace
 
-void Generator::visitWebAppNode(const WebAppNode* node) {
+void emitPage(WidgetContext& context, const WebAppNode& app) {
     static const WidgetNode NO_HEADER("தலைமை", {}, {}, சீரமைப்பு_வகை::மேல்_இடது);
-    const WidgetNode* header = asWidget(node->header.get());
-    const WidgetWriter page(*this, header == nullptr ? NO_HEADER : *header, "0.0f", "0.0f", ++widgetCount_);
+    const WidgetNode* header = asWidget(app.header.get());
+    WidgetWriter page(context, header == nullptr ? NO_HEADER : *header, "0.0f", "0.0f", context.nextNumber());
     page.block(R"(
 if (g_currentPage == "$name") {
     nvgBeginPath(vg);
     nvgRect(vg, 0, 0, winWidth, winHeight);
     bool bgSet = false;
 )",
-               {{"name", pageName(*node)}});
+               {{"name", pageName(app)}});
     emitBackgroundColour(page);
     emitBackgroundImage(page);
     emitBackgroundVideo(page);
@@ -141,14 +148,7 @@ if (g_currentPage == "$name") {
     nvgFill(vg);
 )");
     emitTitle(page);
-    page.block("$body\n}\n", {{"body", page.blocks([&] { generateUI(node->uiBody.get()); })}});
-}
-
-/// The root of a page stands at the texts "0.0f", by which layouts know that they are one.
-void Generator::generateUI(const Statement* root) {
-    if (const WidgetNode* widget = asWidget(root)) {
-        generateWidgetCode(widget, "0.0f", "0.0f");
-    }
+    page.block("$body\n}\n", {{"body", page.blocks([&] { emitRoot(page, app.uiBody.get()); })}});
 }
 
 } // namespace pozhil

@@ -7,7 +7,7 @@ namespace pozhil {
 class WidgetWriter;
 
 /// Writes the block of one widget.
-using WidgetEmitter = void (*)(const WidgetWriter&);
+using WidgetEmitter = void (*)(WidgetWriter&);
 
 /// The emitter of the widgets that the source calls \p kind; null for a word that draws nothing.
 WidgetEmitter findWidgetEmitter(std::string_view kind);

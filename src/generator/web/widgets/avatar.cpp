@@ -9,7 +9,7 @@ namespace pozhil {
 namespace {
 
 /// The diameter: the first size that is given, else twice the radius.
-void emitDiameter(const WidgetWriter& avatar) {
+void emitDiameter(WidgetWriter& avatar) {
     constexpr float USUAL_RADIUS = 24.0F;
     const WidgetNode& widget = avatar.widget();
     const float radius = constantOf(findProperty(widget, {"style_வளைவு", "வளைவு"})).value_or(USUAL_RADIUS);
@@ -32,7 +32,7 @@ void emitDiameter(const WidgetWriter& avatar) {
 )");
 }
 
-void emitDisc(const WidgetWriter& avatar, const std::string& imagePath) {
+void emitDisc(WidgetWriter& avatar, const std::string& imagePath) {
     const ByteColour fill = byteColour(colourProperty(avatar.widget(), {"style_பின்னணி", "பின்னணி"}, "#C8C8C8"));
     avatar.block("    int br = $r, bg = $g, bb = $b, ba = $a;\n", {{"r", std::to_string(fill.red)},
                                                                    {"g", std::to_string(fill.green)},
@@ -60,7 +60,7 @@ void emitDisc(const WidgetWriter& avatar, const std::string& imagePath) {
 }
 
 /// The border lies around the disc.
-void emitBorder(const WidgetWriter& avatar) {
+void emitBorder(WidgetWriter& avatar) {
     const WidgetNode& widget = avatar.widget();
     const float width = constantOf(findProperty(widget, {"style_கரை_அளவு", "கரை_அளவு"})).value_or(0.0F);
     if (width > 0.0F) {
@@ -76,7 +76,7 @@ void emitBorder(const WidgetWriter& avatar) {
     }
 }
 
-void emitInitials(const WidgetWriter& avatar, const WidgetNode& text) {
+void emitInitials(WidgetWriter& avatar, const WidgetNode& text) {
     avatar.block(R"block(
     drawFixedText(caX + radius, caY + radius + 2.0f, $text, "#FFFFFF", radius, "center");
 )block",
@@ -85,7 +85,7 @@ void emitInitials(const WidgetWriter& avatar, const WidgetNode& text) {
 
 } // namespace
 
-void emitAvatar(const WidgetWriter& avatar) {
+void emitAvatar(WidgetWriter& avatar) {
     const auto children = childWidgets(avatar.widget());
     const WidgetNode* content = children.empty() ? nullptr : children.front();
     const bool hasImage = content != nullptr && content->kind == "படம்";

@@ -8,7 +8,7 @@
 namespace pozhil {
 namespace {
 
-void emitBar(const WidgetWriter& bar) {
+void emitBar(WidgetWriter& bar) {
     bar.block(R"(
 {
     float winW = winWidth; float winH = winHeight;
@@ -26,7 +26,7 @@ void emitBar(const WidgetWriter& bar) {
 }
 
 /// The items are told apart by where the pointer is. Which one is shown as selected is up to the program.
-void emitPress(const WidgetWriter& bar, std::size_t itemCount) {
+void emitPress(WidgetWriter& bar, std::size_t itemCount) {
     bar.block(R"(
     int itemCount = $count;
     float itemW = winW / (float)(itemCount > 0 ? itemCount : 1);
@@ -51,7 +51,7 @@ void emitPress(const WidgetWriter& bar, std::size_t itemCount) {
 }
 
 /// A picture that is loaded when the item is first drawn, paler while it isn't selected.
-void emitIcon(const WidgetWriter& bar, const WidgetNode& item) {
+void emitIcon(WidgetWriter& bar, const WidgetNode& item) {
     const WidgetNode* icon = childOfKind(item, "படம்");
     const std::string path = icon == nullptr ? "" : textOf(findProperty(*icon, {"பாதை"}));
     if (path.empty()) {
@@ -75,7 +75,7 @@ void emitIcon(const WidgetWriter& bar, const WidgetNode& item) {
                 isDrawing ? "loadSVGImage(vg, \"" + path + "\", 24, 24)" : "nvgCreateImage(vg, \"" + path + "\", 0)"}});
 }
 
-void emitItem(const WidgetWriter& bar, const WidgetNode& item, std::size_t index) {
+void emitItem(WidgetWriter& bar, const WidgetNode& item, std::size_t index) {
     const WidgetNode* label = childOfKind(item, "உரை");
     bar.block(R"(
     {
@@ -94,7 +94,7 @@ void emitItem(const WidgetWriter& bar, const WidgetNode& item, std::size_t index
 
 } // namespace
 
-void emitBottomNavigation(const WidgetWriter& bar) {
+void emitBottomNavigation(WidgetWriter& bar) {
     const auto items = childrenOfKind(bar.widget(), "அடி_உருப்படி");
     emitBar(bar);
     emitPress(bar, items.size());

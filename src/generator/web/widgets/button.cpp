@@ -23,7 +23,7 @@ std::optional<Colour> hoverColour(const WidgetNode& button) {
     return colourOf(findProperty(button, {"style_மேம்படுத்தப்பட்ட_நிறம்"}));
 }
 
-void emitColours(const WidgetWriter& button, const ButtonLabel& label) {
+void emitColours(WidgetWriter& button, const ButtonLabel& label) {
     button.block(R"(
     int r=33, g=150, b=243, a=255;
     int tr=255, tg=255, tb=255, ta=255;
@@ -44,7 +44,7 @@ void emitColours(const WidgetWriter& button, const ButtonLabel& label) {
     }
 }
 
-void emitSize(const WidgetWriter& button, const ButtonLabel& label) {
+void emitSize(WidgetWriter& button, const ButtonLabel& label) {
     button.block(R"(
     float responsiveSize = responsiveTextSize($size, winWidth);
     nvgFontSize(vg, responsiveSize);
@@ -71,7 +71,7 @@ void emitSize(const WidgetWriter& button, const ButtonLabel& label) {
 }
 
 /// Fades the background towards the animation's colour.
-void emitColourTargets(const WidgetWriter& button) {
+void emitColourTargets(WidgetWriter& button) {
     for (const auto& [name, colour] : button.widget().animation->stringTargets) {
         if (name == "பொபின்னணி" || name == "பின்னணி" || name == "பெட்டிபின்னணி") {
             button.block(R"(
@@ -88,7 +88,7 @@ void emitColourTargets(const WidgetWriter& button) {
 }
 
 /// How the button answers the mouse: its colour under the pointer, unless it is animated, and the press.
-void emitHover(const WidgetWriter& button) {
+void emitHover(WidgetWriter& button) {
     button.block(R"(
     float mx = pozhil_mouse_x();
     float my = pozhil_mouse_y();
@@ -120,7 +120,7 @@ void emitHover(const WidgetWriter& button) {
                   {"handler", pressHandler(button)}});
 }
 
-void emitBorder(const WidgetWriter& button) {
+void emitBorder(WidgetWriter& button) {
     const std::optional<Colour> colour = colourOf(findProperty(button.widget(), {"style_கரை_நிறம்"}));
     const std::optional<float> width = constantOf(findProperty(button.widget(), {"style_கரை_அளவு"}));
     if (colour && width) {
@@ -135,7 +135,7 @@ void emitBorder(const WidgetWriter& button) {
     }
 }
 
-void emitBody(const WidgetWriter& button) {
+void emitBody(WidgetWriter& button) {
     button.block(R"(
     if (shadowBlur > 0.0f) {
         nvgBeginPath(vg);
@@ -157,7 +157,7 @@ void emitBody(const WidgetWriter& button) {
     emitBorder(button);
 }
 
-void emitLabel(const WidgetWriter& button, const ButtonLabel& label) {
+void emitLabel(WidgetWriter& button, const ButtonLabel& label) {
     if (!label.style.font.empty()) {
         button.block(R"(
     if (nvgFindFont(vg, "$font") == -1) nvgCreateFont(vg, "$font", "$font");
@@ -176,7 +176,7 @@ void emitLabel(const WidgetWriter& button, const ButtonLabel& label) {
 
 } // namespace
 
-void emitButton(const WidgetWriter& button) {
+void emitButton(WidgetWriter& button) {
     constexpr float USUAL_RADIUS = 8.0F;
     const WidgetNode& widget = button.widget();
     const ButtonLabel label = buttonLabel(widget);

@@ -5,9 +5,9 @@ namespace pozhil {
 class WidgetWriter;
 
 /// பொத்தான்: a filled button with centred text.
-void emitButton(const WidgetWriter& button);
+void emitButton(WidgetWriter& button);
 
 /// உரைபொத்தான்: a text that can be pressed, without background or border.
-void emitTextButton(const WidgetWriter& button);
+void emitTextButton(WidgetWriter& button);
 
 } // namespace pozhil

@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char* CHILD_X = "cardX + 15.0f";
 
-void emitRectangle(const WidgetWriter& card) {
+void emitRectangle(WidgetWriter& card) {
     constexpr float RADIUS = 12.0F;
     constexpr float ELEVATION = 4.0F;
     // A card in a card has a variable of the same name, and its position is told by that of the outer one.
@@ -33,7 +33,7 @@ void emitRectangle(const WidgetWriter& card) {
                 {"elevation", numberConstant(card.widget(), {"style_எலிவேஷன்", "எலிவேஷன்"}, ELEVATION)}});
 }
 
-void emitBody(const WidgetWriter& card) {
+void emitBody(WidgetWriter& card) {
     const ByteColour fill =
         byteColour(colourProperty(card.widget(), {"style_பின்னணி", "பின்னணி", "style_நிறம்"}, "#FFFFFF"));
     card.block(R"(
@@ -57,7 +57,7 @@ void emitBody(const WidgetWriter& card) {
 }
 
 /// Each child is as wide as the whole card, though it starts further in.
-void emitChildren(const WidgetWriter& card) {
+void emitChildren(WidgetWriter& card) {
     card.block(R"(
     float savedForcedW = forcedW, savedForcedH = forcedH;
     forcedW = cardW; forcedH = cardH;
@@ -78,7 +78,7 @@ void emitChildren(const WidgetWriter& card) {
 
 } // namespace
 
-void emitCard(const WidgetWriter& card) {
+void emitCard(WidgetWriter& card) {
     emitRectangle(card);
     emitBody(card);
     card.block(R"(

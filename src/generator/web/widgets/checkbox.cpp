@@ -15,7 +15,7 @@ const WidgetNode* labelOf(const WidgetNode& box) {
     return children.empty() ? nullptr : children.front();
 }
 
-void emitBoxAndLabelSize(const WidgetWriter& box) {
+void emitBoxAndLabelSize(WidgetWriter& box) {
     box.block(R"(
 {
     float cb_w = 24.0f; float cb_h = 24.0f;
@@ -36,7 +36,7 @@ void emitBoxAndLabelSize(const WidgetWriter& box) {
 }
 
 /// A program that knows the box by its id sees each change, and may change it too.
-void emitState(const WidgetWriter& box, const std::string& id) {
+void emitState(WidgetWriter& box, const std::string& id) {
     box.block(R"(
     float cbX = ($x); float cbY = ($y);
     static bool checked_$n = $initial;
@@ -65,7 +65,7 @@ g_inputErrors.erase("$id");
     }
 }
 
-void emitTick(const WidgetWriter& box) {
+void emitTick(WidgetWriter& box) {
     box.block(R"(
     nvgBeginPath(vg);
     nvgRoundedRect(vg, cbX, cbY, cb_w, cb_h, 5);
@@ -90,7 +90,7 @@ void emitTick(const WidgetWriter& box) {
                {"unselected", byteColourText(colourProperty(box.widget(), {"தேர்வற்ற_நிறம்"}, "#757575"))}});
 }
 
-void emitLabel(const WidgetWriter& box) {
+void emitLabel(WidgetWriter& box) {
     if (const WidgetNode* label = labelOf(box.widget())) {
         box.block(R"(
     {
@@ -106,7 +106,7 @@ void emitLabel(const WidgetWriter& box) {
     }
 }
 
-void emitError(const WidgetWriter& box, const std::string& id) {
+void emitError(WidgetWriter& box, const std::string& id) {
     box.block(R"(
     if (g_inputErrors.count("$id") && !g_inputErrors["$id"].empty()) {
         nvgBeginPath(vg);
@@ -122,7 +122,7 @@ void emitError(const WidgetWriter& box, const std::string& id) {
 
 } // namespace
 
-void emitCheckbox(const WidgetWriter& box) {
+void emitCheckbox(WidgetWriter& box) {
     const std::string id = textOf(findProperty(box.widget(), {"அடையாளம்"}));
     emitBoxAndLabelSize(box);
     emitState(box, id);

@@ -33,7 +33,7 @@ std::pair<float, float> alignmentOf(const WidgetNode& child) {
 }
 
 /// A text is measured as it will be drawn, since its width by the count of its letters is only a rough one.
-void emitChildSize(const WidgetWriter& box, const WidgetNode& child) {
+void emitChildSize(WidgetWriter& box, const WidgetNode& child) {
     box.block("        float childW = $width; float childH = $height;\n",
               {{"width", floatConstant(box.widthOf(child))}, {"height", floatConstant(box.heightOf(child))}});
     if (child.kind == "உரை") {
@@ -49,7 +49,7 @@ void emitChildSize(const WidgetWriter& box, const WidgetNode& child) {
     }
 }
 
-void emitChild(const WidgetWriter& box, const WidgetNode& child) {
+void emitChild(WidgetWriter& box, const WidgetNode& child) {
     const auto [alignX, alignY] = alignmentOf(child);
     box.block("    {\n");
     emitChildSize(box, child);
@@ -73,7 +73,7 @@ void emitChild(const WidgetWriter& box, const WidgetNode& child) {
 
 } // namespace
 
-void emitContainer(const WidgetWriter& box) {
+void emitContainer(WidgetWriter& box) {
     emitContainerBody(box);
     box.block(R"(
     nvgSave(vg);

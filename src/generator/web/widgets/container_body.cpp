@@ -40,7 +40,7 @@ std::optional<Colour> hoverColourIn(const WidgetNode& box) {
 }
 
 /// A size of the box itself, else of its style record. It may depend on the window, chosen anew in each frame.
-void emitBoxSize(const WidgetWriter& box, std::initializer_list<const char*> names, const char* styleName,
+void emitBoxSize(WidgetWriter& box, std::initializer_list<const char*> names, const char* styleName,
                  const char* variable, const char* base) {
     const Expression* own = findProperty(box.widget(), names);
     const Expression* size = own == nullptr ? styleProperty(box.widget(), {styleName}) : own;
@@ -56,7 +56,7 @@ void emitBoxSize(const WidgetWriter& box, std::initializer_list<const char*> nam
     }
 }
 
-void emitRectangle(const WidgetWriter& box) {
+void emitRectangle(WidgetWriter& box) {
     const WidgetNode& widget = box.widget();
     box.block(R"(
 {
@@ -98,7 +98,7 @@ bool fadesToHoverColour(const WidgetNode& box) {
     return box.animation != nullptr && animatedColours(box).empty() && hoverColourIn(box);
 }
 
-void emitAnimation(const WidgetWriter& box) {
+void emitAnimation(WidgetWriter& box) {
     const WidgetNode& widget = box.widget();
     if (widget.animation == nullptr) {
         return;
@@ -122,7 +122,7 @@ void emitAnimation(const WidgetWriter& box) {
 }
 
 /// The colour under the pointer comes at once where no animation leads to it.
-void emitHover(const WidgetWriter& box) {
+void emitHover(WidgetWriter& box) {
     const WidgetNode& widget = box.widget();
     const std::optional<Colour> hover = hoverColourIn(widget);
     box.block(R"(
@@ -136,7 +136,7 @@ void emitHover(const WidgetWriter& box) {
 }
 
 /// The shadow has a hole where the box lies, so that none shows through a translucent one.
-void emitShadow(const WidgetWriter& box) {
+void emitShadow(WidgetWriter& box) {
     box.block(R"(
     if (shadow > 0) {
         float shadowBlur = shadow * 8.0f;
@@ -153,7 +153,7 @@ void emitShadow(const WidgetWriter& box) {
 }
 
 /// The picture is kept by its path, which may change while the page runs.
-void emitFill(const WidgetWriter& box) {
+void emitFill(WidgetWriter& box) {
     const Expression* own = findProperty(box.widget(), {"பின்னணிபடம்"});
     const Expression* image = own == nullptr ? styleProperty(box.widget(), {"பின்னணிபடம்"}) : own;
     box.block(R"(
@@ -181,7 +181,7 @@ void emitFill(const WidgetWriter& box) {
     box.block("    nvgFill(vg);\n");
 }
 
-void emitPress(const WidgetWriter& box) {
+void emitPress(WidgetWriter& box) {
     const Expression* handler = findProperty(box.widget(), {"அழுத்தினால்"});
     if (handler == nullptr || dynamic_cast<const ContainerNode*>(&box.widget()) == nullptr) {
         return;
@@ -197,7 +197,7 @@ void emitPress(const WidgetWriter& box) {
 
 } // namespace
 
-void emitContainerBody(const WidgetWriter& box) {
+void emitContainerBody(WidgetWriter& box) {
     emitRectangle(box);
     emitAnimation(box);
     emitHover(box);

@@ -11,6 +11,6 @@ constexpr std::string_view BOX_STYLE_KIND = "பெட்டி_பாணி";
 
 /// பெட்டி without its children: place, shadow, fill, and what the pointer does. Opens the block of the box, in which
 /// `boxX`, `boxY`, `boxW` and `boxH` are known; whoever calls it closes the block.
-void emitContainerBody(const WidgetWriter& box);
+void emitContainerBody(WidgetWriter& box);
 
 } // namespace pozhil

@@ -8,7 +8,7 @@
 namespace pozhil {
 namespace {
 
-void emitRectangle(const WidgetWriter& dialog) {
+void emitRectangle(WidgetWriter& dialog) {
     constexpr float RADIUS = 16.0F;
     constexpr float SHADOW = 8.0F;
     dialog.block(R"(
@@ -29,7 +29,7 @@ g_overlays.push_back([=]() mutable {
                   {"shadow", numberConstant(dialog.widget(), {"style_நிழல்"}, SHADOW)}});
 }
 
-void emitBody(const WidgetWriter& dialog) {
+void emitBody(WidgetWriter& dialog) {
     const ByteColour fill = byteColour(colourProperty(dialog.widget(), {"style_பின்னணி", "பின்னணி"}, "#FFFFFF"));
     dialog.block(
         R"(
@@ -54,7 +54,7 @@ void emitBody(const WidgetWriter& dialog) {
 } // namespace
 
 /// The dialog is drawn when the page is done. Its closure has its own copies of what the frame knows by now.
-void emitDialog(const WidgetWriter& dialog) {
+void emitDialog(WidgetWriter& dialog) {
     emitRectangle(dialog);
     emitBody(dialog);
     emitClip(dialog, "alertX", "alertY", "alertW", "alertH");

@@ -6,7 +6,7 @@
 
 namespace pozhil {
 
-void emitDivider(const WidgetWriter& divider) {
+void emitDivider(WidgetWriter& divider) {
     divider.block(R"(
 {
     float divX = std::floor($x); float divY = std::floor($y);

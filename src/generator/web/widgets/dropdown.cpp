@@ -7,7 +7,7 @@
 namespace pozhil {
 namespace {
 
-void emitItems(const WidgetWriter& dropdown) {
+void emitItems(WidgetWriter& dropdown) {
     dropdown.block("    std::vector<std::string> items;\n");
     const auto* list = nodeCast<ListLiteral>(findProperty(dropdown.widget(), {"பட்டியல்"}));
     if (list == nullptr) {
@@ -20,7 +20,7 @@ void emitItems(const WidgetWriter& dropdown) {
     }
 }
 
-void emitState(const WidgetWriter& dropdown) {
+void emitState(WidgetWriter& dropdown) {
     dropdown.block(R"(
 {
     float ddX = std::floor($x); float ddY = std::floor($y);
@@ -43,7 +43,7 @@ void emitState(const WidgetWriter& dropdown) {
     }
 }
 
-void emitBox(const WidgetWriter& dropdown) {
+void emitBox(WidgetWriter& dropdown) {
     dropdown.block(R"(
     nvgBeginPath(vg);
     nvgRoundedRect(vg, ddX, ddY, ddW, ddH, 6);
@@ -68,7 +68,7 @@ void emitBox(const WidgetWriter& dropdown) {
 
 /// The menu stands above the shapes of the page. Its closure has copies of where the pointer is and whether the box was
 /// clicked, but its assignments reach the static locals.
-void emitMenu(const WidgetWriter& dropdown) {
+void emitMenu(WidgetWriter& dropdown) {
     dropdown.block(R"(
     if (isOpen_$n) {
         g_overlays.push_back([=]() mutable {
@@ -109,7 +109,7 @@ void emitMenu(const WidgetWriter& dropdown) {
 
 } // namespace
 
-void emitDropdown(const WidgetWriter& dropdown) {
+void emitDropdown(WidgetWriter& dropdown) {
     emitState(dropdown);
     emitBox(dropdown);
     if (!isDisabled(dropdown.widget())) {

@@ -5,7 +5,7 @@
 
 namespace pozhil {
 
-void emitHtmlInput(const WidgetWriter& input) {
+void emitHtmlInput(WidgetWriter& input) {
     constexpr float WIDTH = 320.0F;
     constexpr float HEIGHT = 60.0F;
     const WidgetNode& widget = input.widget();

@@ -6,7 +6,7 @@
 namespace pozhil {
 namespace {
 
-void emitRectangle(const WidgetWriter& image) {
+void emitRectangle(WidgetWriter& image) {
     const auto* path = nodeCast<StringLiteral>(findProperty(image.widget(), {"பாதை"}));
     image.block(R"(
 {
@@ -29,7 +29,7 @@ void emitRectangle(const WidgetWriter& image) {
 
 } // namespace
 
-void emitImage(const WidgetWriter& image) {
+void emitImage(WidgetWriter& image) {
     emitRectangle(image);
     image.block(R"(
     if (isGif) {

@@ -7,7 +7,7 @@
 
 namespace pozhil {
 
-void emitInfoPill(const WidgetWriter& pill) {
+void emitInfoPill(WidgetWriter& pill) {
     const WidgetNode& widget = pill.widget();
     pill.block(R"(
 {

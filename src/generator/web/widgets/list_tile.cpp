@@ -8,7 +8,7 @@
 namespace pozhil {
 namespace {
 
-void emitBody(const WidgetWriter& tile) {
+void emitBody(WidgetWriter& tile) {
     constexpr float RADIUS = 8.0F;
     const WidgetNode& widget = tile.widget();
     const ByteColour colour = byteColour(colourProperty(widget, {"பின்னணி"}, "#FFFFFF"));
@@ -49,7 +49,7 @@ void emitBody(const WidgetWriter& tile) {
 }
 
 /// One of the widgets in the tile, free to take its own size.
-Filling slotContent(const WidgetWriter& tile, const WidgetNode& content, const char* x, const char* y) {
+Filling slotContent(WidgetWriter& tile, const WidgetNode& content, const char* x, const char* y) {
     return tile.blocks([&tile, &content, x, y] {
         tile.block(R"(
     float savedForcedW = forcedW, savedForcedH = forcedH;
@@ -61,7 +61,7 @@ Filling slotContent(const WidgetWriter& tile, const WidgetNode& content, const c
     });
 }
 
-void emitLeading(const WidgetWriter& tile) {
+void emitLeading(WidgetWriter& tile) {
     if (const WidgetNode* leading = asWidget(findProperty(tile.widget(), {"முன்னணி"}))) {
         tile.block(R"(
     {
@@ -76,7 +76,7 @@ void emitLeading(const WidgetWriter& tile) {
     }
 }
 
-void emitLines(const WidgetWriter& tile) {
+void emitLines(WidgetWriter& tile) {
     const Expression* subtitleSlot = findProperty(tile.widget(), {"துணைத்_தலைப்பு"});
     if (const WidgetNode* title = asWidget(findProperty(tile.widget(), {"தலைப்பு"}))) {
         const std::string centred = "ltY + (ltH - " + floatConstant(tile.heightOf(*title)) + ") / 2.0f";
@@ -101,7 +101,7 @@ void emitLines(const WidgetWriter& tile) {
     }
 }
 
-void emitTrailing(const WidgetWriter& tile) {
+void emitTrailing(WidgetWriter& tile) {
     if (const WidgetNode* trailing = asWidget(findProperty(tile.widget(), {"பின்னணி_விட்ஜெட்"}))) {
         tile.block(R"(
     {
@@ -119,7 +119,7 @@ void emitTrailing(const WidgetWriter& tile) {
 
 } // namespace
 
-void emitListTile(const WidgetWriter& tile) {
+void emitListTile(WidgetWriter& tile) {
     emitBody(tile);
     emitLeading(tile);
     emitLines(tile);

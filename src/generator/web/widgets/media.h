@@ -5,9 +5,9 @@ namespace pozhil {
 class WidgetWriter;
 
 /// படம்: a picture from a file, stretched to its box; an animated one is played by the browser.
-void emitImage(const WidgetWriter& image);
+void emitImage(WidgetWriter& image);
 
 /// வட்டபடம்: a round picture, or initials on a round background.
-void emitAvatar(const WidgetWriter& avatar);
+void emitAvatar(WidgetWriter& avatar);
 
 } // namespace pozhil

@@ -8,7 +8,7 @@
 namespace pozhil {
 namespace {
 
-void emitTrack(const WidgetWriter& bar) {
+void emitTrack(WidgetWriter& bar) {
     bar.block(R"(
 {
     float lpX = std::floor($x); float lpY = std::floor($y);
@@ -26,7 +26,7 @@ void emitTrack(const WidgetWriter& bar) {
 }
 
 /// A part of the track as long as what is done; without a value a piece that goes to and fro.
-void emitPart(const WidgetWriter& bar, const Expression* value) {
+void emitPart(WidgetWriter& bar, const Expression* value) {
     if (value != nullptr) {
         bar.block(R"(
     float progress = $value / 100.0f;
@@ -50,7 +50,7 @@ void emitPart(const WidgetWriter& bar, const Expression* value) {
 
 } // namespace
 
-void emitProgressBar(const WidgetWriter& bar) {
+void emitProgressBar(WidgetWriter& bar) {
     emitTrack(bar);
     emitPart(bar, findProperty(bar.widget(), {"style_மதிப்பு", "மதிப்பு"}));
     bar.block(R"(

@@ -9,7 +9,7 @@ namespace pozhil {
 namespace {
 
 /// What the program's group says; without a group the widget keeps a state of its own, to be tried out.
-void emitSelection(const WidgetWriter& radio, const Expression* value, const Expression* group) {
+void emitSelection(WidgetWriter& radio, const Expression* value, const Expression* group) {
     radio.block(R"(
 {
     float rbX = std::floor($x); float rbY = std::floor($y);
@@ -29,7 +29,7 @@ void emitSelection(const WidgetWriter& radio, const Expression* value, const Exp
 }
 
 /// A press leaves the group's value to the program.
-void emitPress(const WidgetWriter& radio, bool hasGroup, const Filling& label) {
+void emitPress(WidgetWriter& radio, bool hasGroup, const Filling& label) {
     radio.block("    float txtW = pozhil_plain_text_width($label);\n", {{"label", label}});
     const Filling press =
         hasGroup ? changeHandler(radio)
@@ -37,7 +37,7 @@ void emitPress(const WidgetWriter& radio, bool hasGroup, const Filling& label) {
     emitPressArea(radio, {"rbX", "rbX + rbSize + 15.0f + txtW", "rbY", "rbY + rbSize"}, press);
 }
 
-void emitRing(const WidgetWriter& radio, const Filling& label) {
+void emitRing(WidgetWriter& radio, const Filling& label) {
     radio.block(R"(
     nvgBeginPath(vg);
     nvgCircle(vg, rbX + rbSize / 2.0f, rbY + rbSize / 2.0f, 10);
@@ -60,7 +60,7 @@ void emitRing(const WidgetWriter& radio, const Filling& label) {
 
 } // namespace
 
-void emitRadio(const WidgetWriter& radio) {
+void emitRadio(WidgetWriter& radio) {
     const WidgetNode& widget = radio.widget();
     const Expression* group = findProperty(widget, {"குழு_மதிப்பு"});
     const Filling label = textArgument(radio, findProperty(widget, {"உரை"}));

@@ -7,7 +7,7 @@
 namespace pozhil {
 namespace {
 
-void emitBox(const WidgetWriter& bar) {
+void emitBox(WidgetWriter& bar) {
     constexpr float RADIUS = 25.0F;
     constexpr float TEXT_SIZE = 16.0F;
     bar.block(R"(
@@ -31,7 +31,7 @@ void emitBox(const WidgetWriter& bar) {
 }
 
 /// An image of the source's own, 20 by 20 about the given point.
-void emitIconImage(const WidgetWriter& bar, const char* handle, const std::string& path, const char* centreX) {
+void emitIconImage(WidgetWriter& bar, const char* handle, const std::string& path, const char* centreX) {
     bar.block(R"(
     static int ${handle}_$n = -1;
     if (${handle}_$n == -1) ${handle}_$n = nvgCreateImage(vg, "$path", 0);
@@ -45,7 +45,7 @@ void emitIconImage(const WidgetWriter& bar, const char* handle, const std::strin
               {{"handle", handle}, {"path", path}, {"centreX", centreX}});
 }
 
-void emitLens(const WidgetWriter& bar) {
+void emitLens(WidgetWriter& bar) {
     const std::string path = textOf(findProperty(bar.widget(), {"தேடல்_படம்"}));
     if (!path.empty()) {
         emitIconImage(bar, "sIcon", path, "iconX");
@@ -62,7 +62,7 @@ void emitLens(const WidgetWriter& bar) {
 )");
 }
 
-void emitClear(const WidgetWriter& bar) {
+void emitClear(WidgetWriter& bar) {
     const std::string path = textOf(findProperty(bar.widget(), {"அழி_படம்"}));
     bar.block(R"(
     if (!g_inputValues[sbId].empty()) {
@@ -97,7 +97,7 @@ void emitClear(const WidgetWriter& bar) {
 
 } // namespace
 
-void emitSearchBar(const WidgetWriter& bar) {
+void emitSearchBar(WidgetWriter& bar) {
     emitBox(bar);
     emitLens(bar);
     const std::string hint = textOf(findProperty(bar.widget(), {"தேடல்_குறிப்பு", "குறிப்பு"}));

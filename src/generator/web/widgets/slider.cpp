@@ -7,7 +7,7 @@
 namespace pozhil {
 namespace {
 
-void emitRangeAndSize(const WidgetWriter& slider) {
+void emitRangeAndSize(WidgetWriter& slider) {
     constexpr float LARGEST = 100.0F;
     const WidgetNode& widget = slider.widget();
     slider.block(R"(
@@ -27,14 +27,14 @@ void emitRangeAndSize(const WidgetWriter& slider) {
 }
 
 /// The button itself is asked: a drag goes on behind the frame of the click.
-void emitButtonState(const WidgetWriter& slider) {
+void emitButtonState(WidgetWriter& slider) {
     slider.block(R"(
     bool isMouseDown = glfwGetMouseButton(window, GLFW_MOUSE_BUTTON_LEFT) == GLFW_PRESS;
 )");
 }
 
 /// The value is no number of the range until the first frame.
-void emitValue(const WidgetWriter& slider) {
+void emitValue(WidgetWriter& slider) {
     const Expression* value = findProperty(slider.widget(), {"மதிப்பு"});
     slider.block(R"(
     static float currentVal_$n = -99999.0f;
@@ -44,7 +44,7 @@ void emitValue(const WidgetWriter& slider) {
 }
 
 /// The thumb follows the pointer while the button is down and the pointer near the track.
-void emitDrag(const WidgetWriter& slider) {
+void emitDrag(WidgetWriter& slider) {
     slider.block(R"(
     float mx = pozhil_mouse_x();
     float my = pozhil_mouse_y();
@@ -64,7 +64,7 @@ void emitDrag(const WidgetWriter& slider) {
                  {{"handler", changeHandler(slider)}});
 }
 
-void emitTrackAndThumb(const WidgetWriter& slider) {
+void emitTrackAndThumb(WidgetWriter& slider) {
     slider.block(R"(
     float val = currentVal_$n;
     if (val < minVal) val = minVal;
@@ -99,7 +99,7 @@ void emitTrackAndThumb(const WidgetWriter& slider) {
 
 } // namespace
 
-void emitSlider(const WidgetWriter& slider) {
+void emitSlider(WidgetWriter& slider) {
     const bool isEnabled = !isDisabled(slider.widget());
     emitRangeAndSize(slider);
     if (isEnabled) {

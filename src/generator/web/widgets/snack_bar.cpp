@@ -6,13 +6,13 @@ namespace pozhil {
 namespace {
 
 /// The text of a widget that is shown as a message.
-Filling textIn(const WidgetWriter& bar, const WidgetNode& content, const char* otherwise) {
+Filling textIn(WidgetWriter& bar, const WidgetNode& content, const char* otherwise) {
     const Expression* text = findProperty(content, {"உரை"});
     return text == nullptr ? Filling(otherwise) : bar.expression(text);
 }
 
 /// What the bar says, as an argument of fn_any_to_string.
-Filling messageOf(const WidgetWriter& bar) {
+Filling messageOf(WidgetWriter& bar) {
     const Expression* message = findProperty(bar.widget(), {"செய்தி"});
     if (const WidgetNode* content = asWidget(message)) {
         return textIn(bar, *content, "std::string(u8\"[விட்ஜெட்]\")");
@@ -27,9 +27,9 @@ Filling messageOf(const WidgetWriter& bar) {
 
 } // namespace
 
-void emitSnackBar(const WidgetWriter&) {}
+void emitSnackBar(WidgetWriter&) {}
 
-void emitSnackBarFunction(const WidgetWriter& bar) {
+void emitSnackBarFunction(WidgetWriter& bar) {
     constexpr ByteColour USUAL = {50, 50, 50, 255};
     const std::optional<Colour> given = colourOf(findProperty(bar.widget(), {"பின்னணி"}));
     const ByteColour colour = given ? byteColour(*given) : USUAL;

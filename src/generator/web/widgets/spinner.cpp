@@ -5,7 +5,7 @@
 
 namespace pozhil {
 
-void emitSpinner(const WidgetWriter& spinner) {
+void emitSpinner(WidgetWriter& spinner) {
     constexpr float SIZE = 40.0F;
     constexpr float THICKNESS = 4.0F;
     const WidgetNode& widget = spinner.widget();

@@ -8,7 +8,7 @@
 namespace pozhil {
 namespace {
 
-void emitTrack(const WidgetWriter& widget) {
+void emitTrack(WidgetWriter& widget) {
     widget.block(R"(
     nvgBeginPath(vg);
     nvgRoundedRect(vg, swX, swY, swW, swH, swH / 2.0f);
@@ -27,7 +27,7 @@ void emitTrack(const WidgetWriter& widget) {
                   {"off", byteColourText(colourProperty(widget.widget(), {"முடங்கிய_நிறம்"}, "#E0E0E0"))}});
 }
 
-void emitThumb(const WidgetWriter& widget) {
+void emitThumb(WidgetWriter& widget) {
     widget.block(R"(
     float thumbX = isOn_$n ? swX + swW - thumbSize - padding : swX + padding;
     float thumbY = swY + padding;
@@ -45,7 +45,7 @@ void emitThumb(const WidgetWriter& widget) {
 
 } // namespace
 
-void emitSwitch(const WidgetWriter& widget) {
+void emitSwitch(WidgetWriter& widget) {
     widget.block(R"(
 {
     float swX = std::floor($x); float swY = std::floor($y);

@@ -9,7 +9,7 @@ namespace pozhil {
 namespace {
 
 /// The tab that is selected before the first press, as a whole number of the emitted text.
-Filling initialIndex(const WidgetWriter& bar) {
+Filling initialIndex(WidgetWriter& bar) {
     const Expression* given = findProperty(bar.widget(), {"தத்தல்_தேர்வு"});
     const std::optional<float> constant = given == nullptr ? 0.0F : constantOf(given);
     if (constant) {
@@ -18,7 +18,7 @@ Filling initialIndex(const WidgetWriter& bar) {
     return Filling(std::vector<Filling>{"(int)", numberValue(bar, given, 0.0F)});
 }
 
-void emitBar(const WidgetWriter& bar) {
+void emitBar(WidgetWriter& bar) {
     bar.block(R"(
 {
     float tbX = $x; float tbY = $y;
@@ -37,7 +37,7 @@ void emitBar(const WidgetWriter& bar) {
                {"fill", byteColourText(colourProperty(bar.widget(), {"style_பின்னணி"}, "#2196F3"))}});
 }
 
-void emitPress(const WidgetWriter& bar, std::size_t tabCount) {
+void emitPress(WidgetWriter& bar, std::size_t tabCount) {
     bar.block(R"(
     int tabCount = $count;
     float tabW = tbW / (float)(tabCount > 0 ? tabCount : 1);
@@ -62,7 +62,7 @@ void emitPress(const WidgetWriter& bar, std::size_t tabCount) {
               {{"count", std::to_string(tabCount)}, {"handler", pressValue(bar)}});
 }
 
-void emitTab(const WidgetWriter& bar, const WidgetNode& tab, std::size_t index) {
+void emitTab(WidgetWriter& bar, const WidgetNode& tab, std::size_t index) {
     const Expression* own = findProperty(tab, {"உரை"});
     const WidgetNode* label = childOfKind(tab, "உரை");
     bar.block(R"(
@@ -80,7 +80,7 @@ void emitTab(const WidgetWriter& bar, const WidgetNode& tab, std::size_t index) 
 
 } // namespace
 
-void emitTabBar(const WidgetWriter& bar) {
+void emitTabBar(WidgetWriter& bar) {
     const auto tabs = childrenOfKind(bar.widget(), "தத்தல்_உருப்படி");
     emitBar(bar);
     emitPress(bar, tabs.size());

@@ -8,7 +8,7 @@ namespace pozhil {
 namespace {
 
 /// Fading in while rising, and counting up to a number.
-void emitTextAnimation(const WidgetWriter& text) {
+void emitTextAnimation(WidgetWriter& text) {
     const AnimationNode* animation = text.widget().animation.get();
     if (animation == nullptr) {
         return;
@@ -38,7 +38,7 @@ void emitTextAnimation(const WidgetWriter& text) {
 
 } // namespace
 
-void emitText(const WidgetWriter& text) {
+void emitText(WidgetWriter& text) {
     const TextStyle& style = text.widget().style;
     text.block(R"(
 {

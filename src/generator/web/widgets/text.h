@@ -5,6 +5,6 @@ namespace pozhil {
 class WidgetWriter;
 
 /// உரை: a line of text, which gets smaller until it fits.
-void emitText(const WidgetWriter& text);
+void emitText(WidgetWriter& text);
 
 } // namespace pozhil

@@ -13,7 +13,7 @@ std::string labelText(const WidgetNode& widget) {
 }
 
 /// The handler is evaluated by the press itself: a call does what it says, a function value isn't called.
-Filling handlerOf(const WidgetWriter& button, const Expression* handler) {
+Filling handlerOf(WidgetWriter& button, const Expression* handler) {
     const WidgetNode* drawn = asWidget(handler);
     if (drawn != nullptr && dynamic_cast<const SnackBarNode*>(drawn) == nullptr) {
         return handlerCall(button, handler);
@@ -30,7 +30,7 @@ Filling handlerOf(const WidgetWriter& button, const Expression* handler) {
     });
 }
 
-void emitPress(const WidgetWriter& button) {
+void emitPress(WidgetWriter& button) {
     if (const Expression* handler = findProperty(button.widget(), {"அழுத்தினால்"})) {
         button.block(R"(
     if (isHov && g_mouseClicked) {
@@ -43,7 +43,7 @@ void emitPress(const WidgetWriter& button) {
 
 } // namespace
 
-void emitTextButton(const WidgetWriter& button) {
+void emitTextButton(WidgetWriter& button) {
     constexpr float USUAL_SIZE = 16.0F;
     const WidgetNode& widget = button.widget();
     button.block(R"(

@@ -17,7 +17,7 @@ struct BoxNumber {
     const char* name;
 };
 
-void emitBox(const WidgetWriter& field) {
+void emitBox(WidgetWriter& field) {
     constexpr std::array<BoxNumber, 3> NUMBERS = {{
         {"tbW", "style_அகலம்", "அகலம்"},
         {"tbH", "style_உயரம்", "உயரம்"},
@@ -51,7 +51,7 @@ void emitBox(const WidgetWriter& field) {
                  {"borderWidth", numberConstant(widget, {"style_கரை_அளவு", "கரை_அளவு"}, BORDER)}});
 }
 
-void emitError(const WidgetWriter& field, const std::string& id) {
+void emitError(WidgetWriter& field, const std::string& id) {
     field.block(R"(
     bool hasError = g_inputErrors.count("$id") && !g_inputErrors["$id"].empty();
     if (hasError) {
@@ -67,7 +67,7 @@ void emitError(const WidgetWriter& field, const std::string& id) {
 }
 
 /// A widget in front of the text, such as an icon.
-void emitPrefix(const WidgetWriter& field) {
+void emitPrefix(WidgetWriter& field) {
     field.block("    float prefixOffset = 0.0f;\n");
     const WidgetNode* prefix = asWidget(findProperty(field.widget(), {"முன்னணி"}));
     if (prefix == nullptr) {
@@ -91,7 +91,7 @@ void emitPrefix(const WidgetWriter& field) {
 }
 
 /// The browser's field: made when it is first drawn, and placed over its box in each frame.
-void emitOverlay(const WidgetWriter& field, const std::string& id) {
+void emitOverlay(WidgetWriter& field, const std::string& id) {
     const bool hasManyLines = isTrue(findProperty(field.widget(), {"பலவரி"}));
     field.block(
         R"(
@@ -106,7 +106,7 @@ void emitOverlay(const WidgetWriter& field, const std::string& id) {
 
 } // namespace
 
-void emitTextField(const WidgetWriter& field) {
+void emitTextField(WidgetWriter& field) {
     const std::string given = textOf(findProperty(field.widget(), {"அடையாளம்"}));
     const std::string id = given.empty() ? NO_ID : given;
     emitBox(field);

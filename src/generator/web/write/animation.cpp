@@ -32,7 +32,7 @@ constexpr Target TARGETS[] = {
 
 } // namespace
 
-void emitAnimationProgress(const WidgetWriter& widget, const char* isHover) {
+void emitAnimationProgress(WidgetWriter& widget, const char* isHover) {
     const AnimationNode* animation = widget.widget().animation.get();
     if (animation == nullptr) {
         return;
@@ -56,7 +56,7 @@ bool startsOnHover(const AnimationNode& animation) {
     return std::find(std::begin(CONDITIONS), std::end(CONDITIONS), animation.condition) != std::end(CONDITIONS);
 }
 
-void emitAnimationTargets(const WidgetWriter& widget, const AnimatedBox& box) {
+void emitAnimationTargets(WidgetWriter& widget, const AnimatedBox& box) {
     const AnimationNode* animation = widget.widget().animation.get();
     if (animation == nullptr) {
         return;

@@ -19,12 +19,12 @@ struct AnimatedBox {
 /// How far the animation has come in this frame, as `t` on its curve; nothing for a widget without one.
 ///
 /// \param isHover name of the emitted variable that tells whether the pointer is over the widget
-void emitAnimationProgress(const WidgetWriter& widget, const char* isHover);
+void emitAnimationProgress(WidgetWriter& widget, const char* isHover);
 
 /// Whether the animation runs while the pointer is over the widget.
 bool startsOnHover(const AnimationNode& animation);
 
 /// Moves, sizes and rounds the box by `t`.
-void emitAnimationTargets(const WidgetWriter& widget, const AnimatedBox& box);
+void emitAnimationTargets(WidgetWriter& widget, const AnimatedBox& box);
 
 } // namespace pozhil

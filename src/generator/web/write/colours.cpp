@@ -1,7 +1,7 @@
 #include "generator/web/write/colours.h"
 
 #include "emit/emitted_block.h"
-#include "generator/first/generator.h"
+#include "parser/syntax_tree.h"
 
 #include <array>
 #include <cstdio>
@@ -94,11 +94,6 @@ std::string byteColourText(const Colour& colour) {
 std::string floatColour(const Colour& colour) {
     return "nvgRGBAf(" + floatConstant(colour.red) + ", " + floatConstant(colour.green) + ", " +
            floatConstant(colour.blue) + ", " + floatConstant(colour.alpha) + ")";
-}
-
-/// "#FF0000"  ->  nvgRGBA(255, 0, 0, 255)
-void Generator::visitColorExpression(const ColorExpression* node) {
-    out_ << byteColourText(*colourOf(node));
 }
 
 } // namespace pozhil

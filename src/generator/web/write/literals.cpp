@@ -2,7 +2,7 @@
 
 #include "base/number_text.h"
 #include "emit/emitted_block.h"
-#include "generator/web/write/widget_writer.h"
+#include "generator/web/write/widget_properties.h"
 
 namespace pozhil {
 

@@ -13,7 +13,7 @@ bool isDrawnInPlace(const Expression* handler) {
 
 /// \p lines, outlived by the page whatever they throw. A call that stands in place of a function has run, and may have
 /// thrown, by the time its value is there.
-Filling guarded(const WidgetWriter& widget, const Filling& lines) {
+Filling guarded(WidgetWriter& widget, const Filling& lines) {
     return widget.blocks([&widget, lines] {
         widget.block("try {\n    $lines\n} catch (...) {\n}\n", {{"lines", lines}});
     });
@@ -21,7 +21,7 @@ Filling guarded(const WidgetWriter& widget, const Filling& lines) {
 
 } // namespace
 
-Filling handlerCall(const WidgetWriter& widget, const Expression* handler) {
+Filling handlerCall(WidgetWriter& widget, const Expression* handler) {
     if (isDrawnInPlace(handler)) {
         return widget.blocks([&widget, handler] { widget.child(*asWidget(handler), "0.0f", "0.0f"); });
     }
@@ -39,12 +39,12 @@ try {
     }));
 }
 
-Filling changeHandler(const WidgetWriter& widget) {
+Filling changeHandler(WidgetWriter& widget) {
     const Expression* handler = findProperty(widget.widget(), {"மாறியதால்"});
     return handler == nullptr ? Filling("") : handlerCall(widget, handler);
 }
 
-Filling pressValue(const WidgetWriter& widget) {
+Filling pressValue(WidgetWriter& widget) {
     const Expression* handler = findProperty(widget.widget(), {"அழுத்தினால்"});
     if (handler == nullptr) {
         return "";
@@ -61,7 +61,7 @@ bool isDisabled(const WidgetNode& widget) {
     return findProperty(widget, {"செயலிழப்பு"}) != nullptr;
 }
 
-void emitPressArea(const WidgetWriter& widget, const PressArea& area, const Filling& press) {
+void emitPressArea(WidgetWriter& widget, const PressArea& area, const Filling& press) {
     widget.block(
         R"(
     float mx = pozhil_mouse_x();
@@ -77,7 +77,7 @@ void emitPressArea(const WidgetWriter& widget, const PressArea& area, const Fill
         {{"left", area.left}, {"right", area.right}, {"top", area.top}, {"bottom", area.bottom}, {"press", press}});
 }
 
-Filling pressHandler(const WidgetWriter& widget) {
+Filling pressHandler(WidgetWriter& widget) {
     if (const Expression* handler = findProperty(widget.widget(), {"அழுத்தினால்"})) {
         return handlerCall(widget, handler);
     }

@@ -11,13 +11,13 @@ struct WidgetNode;
 /// Lines that call what the source gave as a handler, inside the test for the click; for a hole alone in its line.
 /// A function value is called; a widget is drawn in place for that frame. What the handler throws is swallowed, so that
 /// a page outlives it.
-Filling handlerCall(const WidgetWriter& widget, const Expression* handler);
+Filling handlerCall(WidgetWriter& widget, const Expression* handler);
 
 /// What a change of a control does: மாறியதால்.
-Filling changeHandler(const WidgetWriter& widget);
+Filling changeHandler(WidgetWriter& widget);
 
 /// Lines that evaluate அழுத்தினால் without calling the function that it may be; for a hole alone in its line.
-Filling pressValue(const WidgetWriter& widget);
+Filling pressValue(WidgetWriter& widget);
 
 /// Whether the widget is shown but answers nothing.
 bool isDisabled(const WidgetNode& widget);
@@ -31,9 +31,9 @@ struct PressArea {
 };
 
 /// The test for the pointer in the rectangle, and what a click there does: lines for a hole alone in its line.
-void emitPressArea(const WidgetWriter& widget, const PressArea& area, const Filling& press);
+void emitPressArea(WidgetWriter& widget, const PressArea& area, const Filling& press);
 
 /// What a press does: அழுத்தினால், else the statements that the source wrote in its place.
-Filling pressHandler(const WidgetWriter& widget);
+Filling pressHandler(WidgetWriter& widget);
 
 } // namespace pozhil

@@ -78,26 +78,26 @@ std::string processPercentage(const Expression* expression, const std::string& b
     return variable == nullptr ? "" : variableSize(variable->name);
 }
 
-void emitGivenSize(const WidgetWriter& widget, std::initializer_list<const char*> names, const char* variable,
+void emitGivenSize(WidgetWriter& widget, std::initializer_list<const char*> names, const char* variable,
                    const char* base) {
     emitSize(widget, findProperty(widget.widget(), names), variable, base);
 }
 
-void emitSize(const WidgetWriter& widget, const Expression* size, const char* variable, const char* base) {
+void emitSize(WidgetWriter& widget, const Expression* size, const char* variable, const char* base) {
     const std::string text = processPercentage(size, base);
     if (!text.empty()) {
         widget.block("    $variable = $size;\n", {{"variable", variable}, {"size", text}});
     }
 }
 
-void emitOwnSize(const WidgetWriter& widget, const char* width, const char* height) {
+void emitOwnSize(WidgetWriter& widget, const char* width, const char* height) {
     emitGivenSize(widget, {"style_அகலம்", "அகலம்"}, width, "(forcedW > 0.0f ? forcedW : winWidth)");
     emitGivenSize(widget, {"style_உயரம்", "உயரம்"}, height, "(forcedH > 0.0f ? forcedH : winHeight)");
     widget.block("    if (forcedW > 0.0f) $width = forcedW;\n    if (forcedH > 0.0f) $height = forcedH;\n",
                  {{"width", width}, {"height", height}});
 }
 
-void emitOwnWidth(const WidgetWriter& widget, const char* width) {
+void emitOwnWidth(WidgetWriter& widget, const char* width) {
     emitGivenSize(widget, {"style_அகலம்", "அகலம்"}, width, "(forcedW > 0.0f ? forcedW : winWidth)");
     widget.block("    if (forcedW > 0.0f) $width = forcedW;\n", {{"width", width}});
 }

@@ -12,7 +12,7 @@ std::string globalVariable(const std::string& name) {
 
 } // namespace
 
-Filling textValue(const WidgetWriter& widget, const Expression* value, const char* otherwise) {
+Filling textValue(WidgetWriter& widget, const Expression* value, const char* otherwise) {
     if (value == nullptr) {
         return otherwise;
     }
@@ -32,7 +32,7 @@ Filling textValue(const WidgetWriter& widget, const Expression* value, const cha
     return widget.expression(value);
 }
 
-Filling textArgument(const WidgetWriter& widget, const Expression* value) {
+Filling textArgument(WidgetWriter& widget, const Expression* value) {
     const auto* literal = nodeCast<StringLiteral>(value);
     if (value == nullptr || literal != nullptr) {
         return "\"" + textOf(value) + "\"";
@@ -40,7 +40,7 @@ Filling textArgument(const WidgetWriter& widget, const Expression* value) {
     return Filling(std::vector<Filling>{"fn_any_to_string(", textValue(widget, value, ""), ").c_str()"});
 }
 
-Filling numberValue(const WidgetWriter& widget, const Expression* value, float usual) {
+Filling numberValue(WidgetWriter& widget, const Expression* value, float usual) {
     const std::optional<float> constant = value == nullptr ? usual : constantOf(value);
     if (constant) {
         return floatConstant(*constant);
@@ -48,7 +48,7 @@ Filling numberValue(const WidgetWriter& widget, const Expression* value, float u
     return Filling(std::vector<Filling>{"(float)fn_get_double(", widget.expression(value), ")"});
 }
 
-Filling truthValue(const WidgetWriter& widget, const Expression* value) {
+Filling truthValue(WidgetWriter& widget, const Expression* value) {
     if (value == nullptr || nodeCast<BooleanLiteral>(value) != nullptr) {
         return isTrue(value) ? "true" : "false";
     }

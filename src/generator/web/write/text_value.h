@@ -13,18 +13,18 @@ class WidgetWriter;
 ///
 /// \param value the expression that the source gave, null if it gave none
 /// \param otherwise text of the program for a missing expression
-Filling textValue(const WidgetWriter& widget, const Expression* value, const char* otherwise);
+Filling textValue(WidgetWriter& widget, const Expression* value, const char* otherwise);
 
 /// A text as a `const char*` of the emitted program: what the source writes stands there as it is, anything else is read
 /// anew in each frame. Nothing is the empty text.
-Filling textArgument(const WidgetWriter& widget, const Expression* value);
+Filling textArgument(WidgetWriter& widget, const Expression* value);
 
 /// A number of the emitted program: a constant where the source writes one, else read anew in each frame; \p usual for
 /// nothing.
-Filling numberValue(const WidgetWriter& widget, const Expression* value, float usual);
+Filling numberValue(WidgetWriter& widget, const Expression* value, float usual);
 
 /// A truth value of the emitted program; what is neither true nor false counts as false.
-Filling truthValue(const WidgetWriter& widget, const Expression* value);
+Filling truthValue(WidgetWriter& widget, const Expression* value);
 
 /// The size that a text style asks for, in pixels before it follows the window.
 float fontSizeOf(const TextStyle& style);

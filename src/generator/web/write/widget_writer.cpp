@@ -1,8 +1,7 @@
 #include "generator/web/write/widget_writer.h"
 
-#include "generator/first/generator.h"
+#include "generator/web/write/widget_context.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace pozhil {
@@ -17,12 +16,12 @@ bool isZeroText(const std::string& text) {
 
 } // namespace
 
-WidgetWriter::WidgetWriter(Generator& generator, const WidgetNode& widget, std::string x, std::string y,
+WidgetWriter::WidgetWriter(WidgetContext& context, const WidgetNode& widget, std::string x, std::string y,
                            std::uint64_t number)
-    : generator_(generator), widget_(widget), x_(std::move(x)), y_(std::move(y)), number_(number) {}
+    : context_(context), widget_(widget), x_(std::move(x)), y_(std::move(y)), number_(number) {}
 
-std::string WidgetWriter::partNumber() const {
-    return std::to_string(++generator_.widgetCount_);
+std::string WidgetWriter::partNumber() {
+    return std::to_string(context_.nextNumber());
 }
 
 bool WidgetWriter::isRoot() const {
@@ -33,47 +32,46 @@ bool WidgetWriter::isAtTop() const {
     return isZeroText(y_);
 }
 
-void WidgetWriter::block(std::string_view text, Holes holes) const {
+void WidgetWriter::block(std::string_view text, Holes holes) {
     holes.insert(holes.end(), {{"x", x_}, {"y", y_}, {"n", number()}});
-    writeBlock(generator_.out_, text, holes, generator_.indentation());
+    context_.out().block(text, holes);
 }
 
 float WidgetWriter::widthOf(const WidgetNode& widget) const {
-    return generator_.metrics_.calculateWidgetWidth(&widget);
+    return context_.widthOf(widget);
 }
 
 float WidgetWriter::heightOf(const WidgetNode& widget) const {
-    return generator_.metrics_.calculateWidgetHeight(&widget);
+    return context_.heightOf(widget);
 }
 
-Filling WidgetWriter::expression(const Expression* expression) const {
-    return std::function<void()>([this, expression] { generator_.visitExpression(expression); });
+Filling WidgetWriter::expression(const Expression* expression) {
+    return std::function<void()>([this, expression] { context_.edition().writeExpression(expression); });
 }
 
-Filling WidgetWriter::blocks(std::function<void()> write) const {
+Filling WidgetWriter::blocks(std::function<void()> write) {
     return std::function<void()>([this, write = std::move(write)] {
-        const std::int32_t outerLevel = generator_.indentLevel_;
-        generator_.indentLevel_ = std::min(outerLevel + 1, std::max(outerLevel, DEEPEST_LEVEL));
+        CodeWriter& out = context_.out();
+        const CodeWriter::Indented deeper(out, out.level() < DEEPEST_LEVEL ? 1 : 0);
         write();
-        generator_.indentLevel_ = outerLevel;
     });
 }
 
-Filling WidgetWriter::statements(const StatementList& statements) const {
+Filling WidgetWriter::statements(const StatementList& statements) {
     return blocks([this, &statements] {
         for (const StatementPtr& statement : statements) {
-            generator_.visitStatement(statement.get());
+            context_.edition().writeStatement(statement.get());
         }
     });
 }
 
-void WidgetWriter::child(const WidgetNode& widget, const std::string& x, const std::string& y) const {
-    generator_.generateWidgetCode(&widget, x, y);
+void WidgetWriter::child(const WidgetNode& widget, const std::string& x, const std::string& y) {
+    context_.writeWidget(widget, x, y);
 }
 
 /// WebAssembly takes no function with as many locals as the children of a large layout would need.
 void WidgetWriter::eachChild(const std::vector<const WidgetNode*>& children,
-                             const std::function<void(const WidgetNode&)>& write) const {
+                             const std::function<void(const WidgetNode&)>& write) {
     constexpr std::size_t MOST_IN_A_FUNCTION = 32;
     const bool isSplit = children.size() > MOST_IN_A_FUNCTION;
     for (std::size_t index = 0; index < children.size(); ++index) {
@@ -87,54 +85,8 @@ void WidgetWriter::eachChild(const std::vector<const WidgetNode*>& children,
     }
 }
 
-void WidgetWriter::placelessFault(const std::string& code, std::int32_t line, const std::string& details) const {
-    generator_.placelessFault(code, line, details);
-}
-
-const Expression* findProperty(const WidgetNode& widget, std::initializer_list<const char*> names) {
-    for (const char* name : names) {
-        const auto property = widget.properties.find(name);
-        if (property != widget.properties.end()) {
-            return property->second.get();
-        }
-    }
-    return nullptr;
-}
-
-std::vector<const WidgetNode*> childWidgets(const WidgetNode& widget) {
-    std::vector<const WidgetNode*> children;
-    for (const StatementPtr& child : widget.children) {
-        if (const WidgetNode* one = asWidget(child.get())) {
-            children.push_back(one);
-        }
-    }
-    return children;
-}
-
-std::vector<const WidgetNode*> childrenOfKind(const WidgetNode& widget, std::string_view kind) {
-    auto children = childWidgets(widget);
-    children.erase(
-        std::remove_if(children.begin(), children.end(), [&](const WidgetNode* child) { return child->kind != kind; }),
-        children.end());
-    return children;
-}
-
-const WidgetNode* childOfKind(const WidgetNode& widget, std::string_view kind) {
-    for (const WidgetNode* child : childWidgets(widget)) {
-        if (child->kind == kind) {
-            return child;
-        }
-    }
-    return nullptr;
-}
-
-const WidgetNode* asWidget(const Expression* expression) {
-    const auto* slot = nodeCast<WidgetExpression>(expression);
-    return slot == nullptr ? nullptr : slot->widget.get();
-}
-
-const WidgetNode* asWidget(const Statement* statement) {
-    return dynamic_cast<const WidgetNode*>(statement);
+Fault WidgetWriter::faultWithoutPlace(const std::string& code, std::int32_t line, const std::string& details) const {
+    return context_.edition().faultWithoutPlace(code, line, details);
 }
 
 } // namespace pozhil

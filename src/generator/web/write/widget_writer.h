@@ -1,6 +1,8 @@
 #pragma once
 
+#include "diagnostics/fault.h"
 #include "emit/emitted_block.h"
+#include "generator/web/write/widget_properties.h"
 #include "parser/syntax_tree.h"
 
 #include <cstdint>
@@ -11,21 +13,21 @@
 
 namespace pozhil {
 
-class Generator;
+class WidgetContext;
 
 /// What the emitter of a widget works with: the widget, where it stands, and the means to write its block.
 class WidgetWriter {
 public:
     /// \param x, y texts of the emitted program that say where the widget's corner stands
     /// \param number tells the widget's static locals from those of other widgets
-    WidgetWriter(Generator& generator, const WidgetNode& widget, std::string x, std::string y, std::uint64_t number);
+    WidgetWriter(WidgetContext& context, const WidgetNode& widget, std::string x, std::string y, std::uint64_t number);
 
     const WidgetNode& widget() const { return widget_; }
     const std::string& x() const { return x_; }
     const std::string& y() const { return y_; }
     std::string number() const { return std::to_string(number_); }
     /// A number for a part of the widget that has static locals of its own.
-    std::string partNumber() const;
+    std::string partNumber();
 
     /// Whether the widget stands at the corner of the page, where layouts fill the window.
     bool isRoot() const;
@@ -37,45 +39,28 @@ public:
     float heightOf(const WidgetNode& widget) const;
 
     /// Writes a block of the emitted text. Besides \p holes it may have `$x`, `$y` (the position) and `$n` (the number).
-    void block(std::string_view text, Holes holes = {}) const;
+    void block(std::string_view text, Holes holes = {});
 
     /// A user's expression.
-    Filling expression(const Expression* expression) const;
+    Filling expression(const Expression* expression);
     /// The bodies of user's statements; for a hole that stands alone in its line.
-    Filling statements(const StatementList& statements) const;
+    Filling statements(const StatementList& statements);
     /// Blocks and widgets that \p write writes, one level deeper; for a hole that stands alone in its line.
-    Filling blocks(std::function<void()> write) const;
+    Filling blocks(std::function<void()> write);
     /// Writes another widget, at the position that \p x and \p y tell.
-    void child(const WidgetNode& widget, const std::string& x, const std::string& y) const;
+    void child(const WidgetNode& widget, const std::string& x, const std::string& y);
     /// Writes what \p write writes for each of \p children, in functions of the emitted text where they are many.
-    void eachChild(const std::vector<const WidgetNode*>& children,
-                   const std::function<void(const WidgetNode&)>& write) const;
+    void eachChild(const std::vector<const WidgetNode*>& children, const std::function<void(const WidgetNode&)>& write);
 
-    /// A fault in the source that is told without its place.
-    [[noreturn]] void placelessFault(const std::string& code, std::int32_t line, const std::string& details) const;
+    /// A fault in the source that is told without its place, to be thrown.
+    Fault faultWithoutPlace(const std::string& code, std::int32_t line, const std::string& details) const;
 
 private:
-    Generator& generator_;
+    WidgetContext& context_;
     const WidgetNode& widget_;
     std::string x_;
     std::string y_;
     std::uint64_t number_;
 };
-
-/// The first of \p names that the widget has as a property, null if it has none.
-const Expression* findProperty(const WidgetNode& widget, std::initializer_list<const char*> names);
-
-/// The children of a layout.
-std::vector<const WidgetNode*> childWidgets(const WidgetNode& widget);
-
-/// The children that the source calls \p kind.
-std::vector<const WidgetNode*> childrenOfKind(const WidgetNode& widget, std::string_view kind);
-
-/// The first child that the source calls \p kind, null if there is none.
-const WidgetNode* childOfKind(const WidgetNode& widget, std::string_view kind);
-
-/// The widget that an expression or a statement is, null if it is something else.
-const WidgetNode* asWidget(const Expression* expression);
-const WidgetNode* asWidget(const Statement* statement);
 
 } // namespace pozhil

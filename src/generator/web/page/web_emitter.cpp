@@ -1,0 +1,91 @@
+#include "generator/web/page/web_emitter.h"
+
+#include "generator/web/page/database.h"
+#include "generator/web/page/frame_text.h"
+#include "generator/web/page/page.h"
+#include "generator/web/page/start_page.h"
+#include "generator/web/write/colours.h"
+#include "generator/web/write/widget_properties.h"
+
+namespace pozhil {
+
+WebEmitter::WebEmitter(CodeWriter& out, Edition& edition, const Program& program)
+    : out_(out), edition_(edition), program_(program), widgets_(out, edition) {
+    for (const StatementPtr& statement : program.statements) {
+        if (const auto* app = nodeCast<WebAppNode>(statement.get())) {
+            applications_.push_back(app);
+        }
+    }
+}
+
+std::string WebEmitter::startPage() const {
+    return findStartPage(program_);
+}
+
+void WebEmitter::writeDatabaseSetup() {
+    for (const WebAppNode* app : applications_) {
+        emitDatabaseSetup(out_, *app);
+    }
+}
+
+void WebEmitter::writeProgram() {
+    writeFrameHead();
+    {
+        const CodeWriter::Indented inFrame(out_);
+        for (const WebAppNode* app : applications_) {
+            emitPage(widgets_, *app);
+        }
+    }
+    out_.block(frame_text::TAIL);
+    writeMain();
+}
+
+/// What a parent imposes on a widget passes through the two forced sizes.
+void WebEmitter::writeFrameHead() {
+    out_.block(frame_text::HEAD);
+    out_ << "    float forcedW = -1.0f; float forcedH = -1.0f; float maxW = -1.0f; float maxH = -1.0f;\n";
+}
+
+void WebEmitter::writeMain() {
+    constexpr float DEFAULT_WIDTH = 1280.0F;
+    constexpr float DEFAULT_HEIGHT = 720.0F;
+    const WebAppNode& first = *applications_.front();
+    const auto* header = nodeCast<HeaderNode>(first.header.get());
+    const ScreenConfig screen = header == nullptr ? ScreenConfig() : header->screen;
+    out_.block(frame_text::MAIN, {{"width", floatConstant(screen.useDefault ? DEFAULT_WIDTH : screen.width)},
+                                  {"height", floatConstant(screen.useDefault ? DEFAULT_HEIGHT : screen.height)},
+                                  {"title", first.name},
+                                  {"fontHost", POZHIL_WEB_FONT_HOST}});
+}
+
+bool WebEmitter::writeStatement(const Statement* statement) {
+    if (const auto* read = nodeCast<RTDBReadStatement>(statement)) {
+        emitRead(out_, edition_, *read);
+    } else if (const auto* app = nodeCast<WebAppNode>(statement)) {
+        emitPage(widgets_, *app);
+    } else if (const WidgetNode* widget = asWidget(statement)) {
+        widgets_.writeWidgetStatement(*widget);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool WebEmitter::writeExpression(const Expression* expression) {
+    if (nodeCast<ColorExpression>(expression) != nullptr) {
+        out_ << byteColourText(*colourOf(expression));
+    } else if (const auto* insert = nodeCast<RTDBInsertExpression>(expression)) {
+        emitInsert(out_, edition_, *insert);
+    } else if (const auto* update = nodeCast<RTDBUpdateExpression>(expression)) {
+        emitUpdate(out_, edition_, *update);
+    } else if (const auto* remove = nodeCast<RTDBDeleteExpression>(expression)) {
+        emitDelete(out_, edition_, *remove);
+    } else if (const WidgetNode* widget = asWidget(expression)) {
+        widgets_.writeWidgetValue(*widget);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+} // namespace pozhil

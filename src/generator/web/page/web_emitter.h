@@ -1,0 +1,51 @@
+#pragma once
+
+#include "emit/code_writer.h"
+#include "generator/web/page/widget_frame.h"
+#include "generator/web/write/edition.h"
+#include "parser/syntax_tree.h"
+
+#include <string>
+#include <vector>
+
+namespace pozhil {
+
+/// Writes what only web programs have: the frame function with all pages in it, the start, the database, and widgets
+/// wherever the source has them.
+class WebEmitter {
+public:
+    /// \param out, edition, program outlive the emitter; the edition writes to the same text
+    WebEmitter(CodeWriter& out, Edition& edition, const Program& program);
+
+    /// The applications of the program, one page each, in order. A console program has none.
+    const std::vector<const WebAppNode*>& applications() const { return applications_; }
+
+    /// Name of the page that is shown first.
+    std::string startPage() const;
+
+    /// What makes the databases of the applications ready, for the set-up before the first frame.
+    void writeDatabaseSetup();
+
+    /// The frame function and main. There is an application.
+    void writeProgram();
+
+    /// Writes \p statement if it is one of web programs: a page, a widget, a read of the database.
+    /// \return whether it is
+    bool writeStatement(const Statement* statement);
+
+    /// Writes \p expression if it is one of web programs: a colour, a widget, an operation on the database.
+    /// \return whether it is
+    bool writeExpression(const Expression* expression);
+
+private:
+    void writeFrameHead();
+    void writeMain();
+
+    CodeWriter& out_;
+    Edition& edition_;
+    const Program& program_;
+    std::vector<const WebAppNode*> applications_;
+    WidgetFrame widgets_;
+};
+
+} // namespace pozhil

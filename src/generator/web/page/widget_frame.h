@@ -1,0 +1,28 @@
+#pragma once
+
+#include "generator/web/measure/metrics.h"
+#include "generator/web/write/widget_context.h"
+
+namespace pozhil {
+
+/// Writes widgets of every kind, each with what all of them get before and after their own block: where scrolling finds
+/// the widget, the variable that shows and hides it, a function of its own.
+class WidgetFrame final : public WidgetContext {
+public:
+    using WidgetContext::WidgetContext;
+
+    void writeWidget(const WidgetNode& widget, const std::string& x, const std::string& y) override;
+    float widthOf(const WidgetNode& widget) override;
+    float heightOf(const WidgetNode& widget) override;
+
+    /// A widget as a statement of its own, outside any page: a text is drawn once, a column passes over to its children.
+    void writeWidgetStatement(const WidgetNode& widget);
+
+    /// A widget where a value is expected.
+    void writeWidgetValue(const WidgetNode& widget);
+
+private:
+    WidgetMetrics metrics_;
+};
+
+} // namespace pozhil
