@@ -2,6 +2,7 @@
 
 #include "base/source_text.h"
 #include "driver/console/banner.h"
+#include "driver/vocabulary_json.h"
 
 #include <iostream>
 
@@ -10,6 +11,9 @@ namespace {
 
 constexpr const char* DEFAULT_SOURCE = "முதன்மை.பொழில்";
 constexpr const char* SOURCE_ENDING = ".பொழில்";
+
+/// For documents, editors and tests, not for whoever writes programs: the help doesn't name it.
+constexpr const char* VOCABULARY_SWITCH = "--சொல்வளம்-json";
 
 bool hasEnding(const std::string& full, const std::string& ending) {
     return full.size() >= ending.size() && full.compare(full.size() - ending.size(), ending.size(), ending) == 0;
@@ -39,6 +43,11 @@ Invocation readCommandLine(const std::vector<std::string>& arguments) {
         const std::string& argument = arguments[index];
         if (isVersionSwitch(argument)) {
             printVersionScreen();
+            invocation.exitCode = 0;
+            return invocation;
+        }
+        if (argument == VOCABULARY_SWITCH) {
+            std::cout << vocabularyJson() << "\n";
             invocation.exitCode = 0;
             return invocation;
         }

@@ -15,8 +15,8 @@ struct Invocation {
     std::optional<int> exitCode;
 };
 
-/// Reads the arguments, the program's name first. Prints the version screen, the note about the default source, or
-/// what is wrong.
+/// Reads the arguments, the program's name first. Prints the version screen, the vocabulary, the note about the
+/// default source, or what is wrong.
 Invocation readCommandLine(const std::vector<std::string>& arguments);
 
 } // namespace pozhil

@@ -1,34 +1,22 @@
+#include "language/operators.h"
 #include "parser/parser.h"
 #include "parser/siblings.h"
 
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 
 namespace pozhil {
 namespace {
 
-/// Words of the binary operators by how tightly they bind: the higher the level, the tighter.
-const std::unordered_map<std::string_view, int>& binaryLevels() {
-    static const std::unordered_map<std::string_view, int> levels = {
-        {"அல்லது", 0},     {"மற்றும்", 1},     {"கூட்டுஇருமை", 2}, {"வேறுஇருமை", 3}, {"பெருக்குஇருமை", 4},
-        {"சமம்", 5},       {"சமமில்லை", 5},   {"பெரிது", 6},     {"சிறிது", 6},    {"பெரிதுசமம்", 6},
-        {"சிறிதுசமம்", 6}, {"இடதுஇருமை", 7}, {"வலதுஇருமை", 7},  {"கூட்டு", 8},     {"கழி", 8},
-        {"இணை", 8},       {"பெருக்கு", 9},   {"வகு", 9},        {"மீதி", 9},
-    };
-    return levels;
-}
-
 constexpr int LOOSEST_LEVEL = 0;
 constexpr int LAST_LOGICAL_LEVEL = 1;
-constexpr int NO_LEVEL = -1;
 
 int binaryLevel(const Token& token) {
     if (token.type != TokenType::OPERATOR) {
-        return NO_LEVEL;
+        return language::NO_LEVEL;
     }
-    const auto found = binaryLevels().find(token.value);
-    return found == binaryLevels().end() ? NO_LEVEL : found->second;
+    const language::Operator* found = language::findOperator(token.value);
+    return found == nullptr ? language::NO_LEVEL : found->level;
 }
 
 bool isAssignmentOperator(TokenType type) {

@@ -1,5 +1,6 @@
 """The arguments of the compiler, and how it chooses the source."""
 
+import json
 import os
 import random
 
@@ -108,6 +109,19 @@ def test_any_list_of_arguments_ends_in_an_orderly_way(place):
         arguments = random_source.choices(pieces, k=random_source.randint(0, 6))
         result = place.run(*arguments, timeout=10)
         assert (result.status, result.stdout, result.stderr) == outcome_in_an_empty_folder(arguments, version_screen)
+
+
+def test_vocabulary_is_printed_in_place_of_compiling(place):
+    place.write("அ.பொழில்")
+    result = place.run("அ.பொழில்", t.FLAG_VOCABULARY)
+    assert (result.status, result.stderr) == (0, b"")
+    tables = json.loads(result.stdout)
+    assert all(tables.values())
+    assert not place.emitted_path.exists()
+
+
+def test_vocabulary_is_asked_for_by_its_whole_name(place):
+    assert place.run(t.FLAG_VOCABULARY[:-1]).stderr.decode() == t.NO_SOURCE
 
 
 def outcome_in_an_empty_folder(arguments, version_screen):

@@ -1,7 +1,10 @@
 """The tables of the guide against what they tell: errors, built-in functions, reserved words."""
 
+import json
 import re
+import subprocess
 from concurrent.futures import ThreadPoolExecutor
+from functools import cache
 
 from support import case_file as cf
 from support import guide
@@ -11,18 +14,21 @@ from support.compiler import REPOSITORY, compiler_path
 
 SOURCES = REPOSITORY / "src"
 NEVER_RAISED = "Raised by nothing today"
+CALLED_FORMS = ("call", "element_write", "loop_range", "list_method", "clock")
+BUILT_IN_COLUMNS = 4
+CURVE_COLUMNS = 2
+NAMED_CURVES = 43
+
+
+@cache
+def _vocabulary():
+    """The tables of the compiler, as it prints them."""
+    return json.loads(subprocess.run([compiler_path(), t.FLAG_VOCABULARY], stdout=subprocess.PIPE, check=True).stdout)
 
 
 def _catalogue():
-    """Code to (description, remedy) as the header has them, without blanks around."""
-    header = (REPOSITORY / t.INCLUDE_DIRECTORY / "error_codes.h").read_text(encoding="utf-8")
-    text = r'"((?:[^"\\]|\\.)*)"'
-    entries = re.findall(rf'\{{"({t.CODE_PREFIX}\d{{3}})", {text},\s+{text}\}}', header)
-    return {code: tuple(_unescaped(part).strip() for part in parts) for code, *parts in entries}
-
-
-def _unescaped(literal):
-    return re.sub(r"\\(.)", r"\1", literal)
+    """Code to (description, remedy), without blanks around."""
+    return {row["code"]: (row["description"].strip(), row["remedy"].strip()) for row in _vocabulary()["diagnostics"]}
 
 
 def _error_rows(text=None):
@@ -43,18 +49,57 @@ def test_errors_that_nothing_raises():
     assert set(told) == set(_catalogue()) - raised
 
 
-def test_built_in_functions_are_in_the_table():
-    source = (SOURCES / "generator" / "builtins.cpp").read_text(encoding="utf-8")
-    names = set(re.findall(r'^    \{"([^"]+)", ', source, re.MULTILINE))
-    assert names
-    page = guide.GUIDE / "13_உள்ளமை_செயல்கள்.md"
-    told = {name for row in guide.table_rows(page) for name in re.findall(r"^`(\S+?)\(", row[0])}
-    assert names - told == set()
+def _call(builtin):
+    """A built-in with its arguments, as the first column of the guide's table has it."""
+    before = {"list_method": "அ.", "clock": "நேரம்."}.get(builtin["form"], "")
+    return f"`{before}{builtin['name']}({', '.join(builtin['parameters'])})`"
 
 
-def test_reserved_words_are_listed(tmp_path):
-    source = (SOURCES / "scanner" / "keywords.cpp").read_text(encoding="utf-8")
-    words = sorted(set(re.findall(r'"([\u0b80-\u0bff][\u0b80-\u0bff_.]*)"', source)))
+def _cell(told):
+    return f"{told['ta']} · {told['en']}" if told["ta"] else ""
+
+
+def _told_built_ins():
+    """Call to (value, what it does) in the guide's table; a dash is no value."""
+    rows = [row for row in guide.table_rows(guide.GUIDE / "13_உள்ளமை_செயல்கள்.md") if len(row) == BUILT_IN_COLUMNS]
+    return {call: (row[1].strip("–"), row[2]) for row in rows for call in re.findall(r"`[^`]+`", row[0])}
+
+
+def test_built_in_functions_are_told_as_the_compiler_has_them():
+    told = _told_built_ins()
+    of_use = [row for row in _called_built_ins() if row["description"]["ta"]]
+    assert of_use
+    for row in of_use:
+        assert told[_call(row)] == (_cell(row["value"]), _cell(row["description"]))
+
+
+def test_all_built_in_functions_are_told():
+    names = {re.search(r"([^`.]+)\(", call)[1] for call in _told_built_ins()}
+    assert names == {row["name"] for row in _called_built_ins()}
+
+
+def _called_built_ins():
+    return [row for row in _vocabulary()["builtins"] if row["form"] in CALLED_FORMS]
+
+
+def test_colour_words_are_listed():
+    page = (guide.WEB_GUIDE / "விட்ஜெட்டுகள்.md").read_text(encoding="utf-8")
+    listed = re.search(r"^\*\*நிறங்கள்:\*\*.*$", page, re.MULTILINE)[0]
+    words = re.findall(r'`"([^"#]+)"`', listed)
+    assert sorted(words) == sorted(row["word"] for row in _vocabulary()["colours"])
+
+
+def test_curves_are_listed_with_their_families():
+    rows = [row for row in guide.table_rows(guide.WEB_GUIDE / "அசைவூட்டம்.md") if len(row) == CURVE_COLUMNS]
+    told = {name: row[0] for row in rows for name in re.findall(r"`([^`]+)`", row[1])}
+    curves = {row["name"]: _cell(row["family"]) for row in _vocabulary()["curves"]}
+    listed = {name: family for name, family in told.items() if name in curves}
+    assert len(listed) == NAMED_CURVES
+    assert listed == {name: curves[name] for name in listed}
+
+
+def test_reserved_words_are_listed():
+    words = sorted({row["word"] for row in _vocabulary()["keywords"]})
     listed = guide.words(guide.GUIDE / "03_பெயர்கள்.md")
     assert len(listed) == len(set(listed))
     with ThreadPoolExecutor() as workers:

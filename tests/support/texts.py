@@ -5,6 +5,7 @@ SOURCE_ENDING = ".பொழில்"
 DEFAULT_SOURCE = "முதன்மை.பொழில்"
 FLAG_WEB = "--வலை"
 FLAG_WATCH = "--கண்காணி"
+FLAG_VOCABULARY = "--சொல்வளம்-json"
 VERSION_SWITCHES = ("--பதிப்பு", "--version", "-v")
 DEFAULT_SOURCE_NOTE = "ℹ️ கோப்புப் பெயர் தரப்படவில்லை. தானாகவே 'முதன்மை.பொழில்' எடுக்கப்படுகிறது...\n"
 USAGE = (

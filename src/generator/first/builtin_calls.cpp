@@ -1,5 +1,5 @@
-#include "generator/first/builtins.h"
 #include "generator/first/generator.h"
+#include "language/builtins.h"
 
 namespace pozhil {
 namespace {
@@ -22,20 +22,19 @@ bool Generator::emitBuiltinCall(const CallExpression* node, const std::string& n
         emitIndexAssignment(node);
         return true;
     }
-    if (name == "வை") {
-        emitElementWrite(node);
-        return true;
-    }
-    const Builtin* anyForm = nullptr;
-    const Builtin* form = findBuiltin(name, static_cast<int>(node->arguments.size()), anyForm);
+    const language::Builtin* anyForm = nullptr;
+    const language::Builtin* form = language::findBuiltin(name, static_cast<int>(node->arguments.size()), anyForm);
     if (anyForm == nullptr) {
         return false;
     }
     if (form == nullptr) {
-        if (anyForm->wrongCount == WrongCount::Report) {
+        if (anyForm->wrongCount == language::WrongCount::Report) {
             பிழை("பொழி-331", node->line, std::string(anyForm->wrongCountDetail));
         }
         placelessFault("பொழி-331", node->line, std::string(anyForm->wrongCountDetail));
+    }
+    if (form->form == language::BuiltinForm::ElementWrite) {
+        checkWrittenPlace(node);
     }
     emitPattern(form->text, node, "");
     return true;
@@ -73,17 +72,13 @@ void Generator::emitPattern(std::string_view pattern, const CallExpression* node
     }
 }
 
-/// வை(a, i, v)  ->  (fn_index_ref(a, std::any(i), file, line) = std::any(v))
-void Generator::emitElementWrite(const CallExpression* node) {
-    if (node->arguments.size() != ELEMENT_WRITE_ARGUMENTS) {
-        பிழை("பொழி-331", node->line, "('வை' செயலுக்கு 3 மதிப்புகள் தேவை: பட்டியல்/அகராதி, குறியீடு/சாவி, மதிப்பு)");
-    }
+/// வை(a, i, v) writes into what stands as a: a place in a variable, no value on its way.
+void Generator::checkWrittenPlace(const CallExpression* node) const {
     const Expression* target = node->arguments.front().get();
     if (!isA<VariableAccess>(target) && !isA<IndexExpression>(target) && !isA<GetExpression>(target)) {
         பிழை("பொழி-313", node->line,
              "('வை' செயலின் முதல் மதிப்பு ஒரு மாறி, பட்டியல் உறுப்பு அல்லது பொருள் பண்பாக இருக்க வேண்டும்.)");
     }
-    emitPattern("(fn_index_ref($A, std::any($B), \"$file\", $line) = std::any($D))", node, "");
 }
 
 /// a[i][j] = v  ->  references all the way down, so that the write reaches the element in place

@@ -1,28 +1,14 @@
-#include "generator/first/builtins.h"
 #include "generator/first/generator.h"
 #include "generator/first/names.h"
+#include "language/builtins.h"
 
 #include <string_view>
-#include <unordered_map>
 
 namespace pozhil {
 namespace {
 
-/// Methods of an input widget; $id is the widget, $A the first argument.
-const std::unordered_map<std::string_view, std::string_view>& inputMethods() {
-    static const std::unordered_map<std::string_view, std::string_view> methods = {
-        {"பிழைசெய்தி", R"(g_inputErrors["$id"] = fn_any_to_string($A))"},
-        {"பிழை_அழி", R"(g_inputErrors.erase("$id"))"},
-        {"கொண்டுள்ளது", R"(std::any(g_inputValues["$id"].find(fn_any_to_string($A)) != std::string::npos))"},
-        {"தொடக்கம்", R"(std::any(g_inputValues["$id"].find(fn_any_to_string($A)) == 0))"},
-        {"முடிவு",
-         R"(([&]() -> std::any { std::string s = g_inputValues["$id"]; std::string sub = fn_any_to_string($A); )"
-         R"(if (s.length() >= sub.length()) { )"
-         R"(return std::any(0 == s.compare(s.length() - sub.length(), sub.length(), sub)); } )"
-         R"(return std::any(false); })())"},
-    };
-    return methods;
-}
+using language::BuiltinForm;
+using language::findMember;
 
 } // namespace
 
@@ -52,14 +38,14 @@ bool Generator::emitInputMethod(const CallExpression* node) {
     if (widget == nullptr) {
         return false;
     }
-    const auto method = inputMethods().find(get->member.value);
-    if (method == inputMethods().end()) {
+    const language::Builtin* method = findMember(BuiltinForm::InputMethod, get->member.value);
+    if (method == nullptr) {
         return false;
     }
-    if (node->arguments.empty() && method->second.find("$A") != std::string_view::npos) {
-        பிழை("பொழி-331", node->line, "'." + get->member.value + "()'");
+    if (static_cast<int>(node->arguments.size()) < method->argumentCount) {
+        பிழை("பொழி-331", node->line, std::string(method->wrongCountDetail));
     }
-    emitPattern(method->second, node, widget->name);
+    emitPattern(method->text, node, widget->name);
     return true;
 }
 
@@ -75,7 +61,7 @@ void Generator::emitFunctionValueCall(const CallExpression* node, std::size_t pa
 void Generator::emitMethodCall(const CallExpression* node, const GetExpression& callee) {
     if (inferExpressionType(callee.object.get()) == VarType::Object) {
         emitGuardedCall(node);
-    } else if (callee.member.value == "சேர்") {
+    } else if (findMember(BuiltinForm::ListMethod, callee.member.value) != nullptr) {
         emitAppend(node, callee);
     } else {
         emitTimeMethod(node, callee);
@@ -98,16 +84,14 @@ void Generator::emitGuardedCall(const CallExpression* node) {
 void Generator::emitTimeMethod(const CallExpression* node, const GetExpression& callee) {
     const std::string& method = callee.member.value;
     const auto* object = nodeCast<VariableAccess>(callee.object.get());
-    if (object != nullptr && object->name == "நேரம்" && method == "வினாடிகள்") {
+    const bool isClock = object != nullptr && object->name == "நேரம்";
+    if (const auto* clock = isClock ? findMember(BuiltinForm::Clock, method) : nullptr) {
         if (!node->arguments.empty()) {
-            placelessFault("பொழி-331", node->line, "'நேரம்.வினாடிகள்()' arguments எதையும் ஏற்காது.");
+            placelessFault("பொழி-331", node->line, std::string(clock->wrongCountDetail));
         }
-        out_ << "std::any(std::chrono::duration<double>(std::chrono::system_clock::now().time_since_epoch()).count())";
-    } else if (method == "தேதி" || method == "நேரம்" || method == "முழுவதும்") {
-        // One parenthesis short: the form is refused by the target compiler, the function form works.
-        out_ << "std::any(fn_" << method << "(std::any_cast<std::tm*>(";
-        visitExpression(callee.object.get());
-        out_ << "))";
+        emitMemberText(clock->text, callee);
+    } else if (const auto* form = findMember(BuiltinForm::TimeMethod, method)) {
+        emitMemberText(form->text, callee);
     } else {
         placelessFault("பொழி-332", node->line, "'" + method + "' என்பது ஒரு function இல்லை.");
     }
@@ -116,7 +100,8 @@ void Generator::emitTimeMethod(const CallExpression* node, const GetExpression& 
 /// x.சேர்(v)  ->  a push_back into the list that the variable holds
 void Generator::emitAppend(const CallExpression* node, const GetExpression& callee) {
     if (node->arguments.size() != 1) {
-        பிழை("பொழி-331", node->line, "'.சேர்()' 1 argument மட்டுமே ஏற்கும்.");
+        const auto* row = findMember(BuiltinForm::ListMethod, callee.member.value);
+        பிழை("பொழி-331", node->line, std::string(row->wrongCountDetail));
     }
     out_ << "([&]() -> std::any { try { std::any_cast<std::vector<std::any>&>(";
     visitExpression(callee.object.get());

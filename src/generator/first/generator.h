@@ -134,10 +134,10 @@ private:
     void visitLogicalExpression(const LogicalExpression* node);
     void visitUnaryExpression(const UnaryExpression* node);
     std::string mapOperator(const std::string& word) const;
-    static std::string_view compoundSymbol(std::string_view word);
     void visitGetExpression(const GetExpression* node);
     bool emitInputMember(const GetExpression* node);
     void emitTimeMember(const GetExpression* node);
+    void emitMemberText(std::string_view text, const GetExpression& get);
     void visitSetMemberExpression(const SetMemberExpression* node);
     void checkMemberWrite(const SetMemberExpression* node);
     void checkPrivacy(const Expression* object, const Token& member, std::int32_t line) const;
@@ -158,7 +158,7 @@ private:
     void emitConstruction(const CallExpression* node, const std::string& structName);
     bool emitBuiltinCall(const CallExpression* node, const std::string& name);
     void emitPattern(std::string_view pattern, const CallExpression* node, const std::string& id);
-    void emitElementWrite(const CallExpression* node);
+    void checkWrittenPlace(const CallExpression* node) const;
     void emitIndexAssignment(const CallExpression* node);
     void emitElementReference(const Expression* target);
 

@@ -1,40 +1,19 @@
 #include "generator/first/generator.h"
 #include "generator/first/names.h"
+#include "language/builtins.h"
 
 #include <string_view>
-#include <unordered_map>
-#include <utility>
 
 namespace pozhil {
 namespace {
 
-/// The field of std::tm behind each part of a time value.
-const std::unordered_map<std::string_view, std::string_view>& timeParts() {
-    static const std::unordered_map<std::string_view, std::string_view> parts = {
-        {"ஆண்டு", "->tm_year + 1900"}, {"மாதம்", "->tm_mon + 1"}, {"நாள்", "->tm_mday"},    {"மணி", "->tm_hour"},
-        {"நிமிடம்", "->tm_min"},       {"வினாடி", "->tm_sec"},   {"வாரநாள்", "->tm_wday"},
-    };
-    return parts;
-}
-
-/// What stands before and behind g_inputValues["id"] when a member of an input is read.
-const std::unordered_map<std::string_view, std::pair<std::string_view, std::string_view>>& inputMembers() {
-    static const std::unordered_map<std::string_view, std::pair<std::string_view, std::string_view>> members = {
-        {"வெறுமை", {"", ".empty()"}},
-        {"வெறுமைஇல்லை", {"(!", ".empty())"}},
-        {"நீளம்", {"std::any((long long)", ".length())"}},
-        {"பெரியஎழுத்து", {"fn_பெரியஎ(std::string(", "))"}},
-        {"சிறியஎழுத்து", {"fn_சிறியஎ(std::string(", "))"}},
-        {"சுத்தம்", {"fn_சுத்தம்(std::string(", "))"}},
-        {"உரைதரவு", {"std::any(", ")"}},
-    };
-    return members;
-}
+using language::BuiltinForm;
+using language::findMember;
 
 } // namespace
 
 bool isTimePart(std::string_view name) {
-    return timeParts().count(name) != 0;
+    return findMember(BuiltinForm::TimePart, name) != nullptr;
 }
 
 /// a.b: a member of an input widget, a property of an object, or a part of a time value
@@ -57,24 +36,38 @@ void Generator::visitGetExpression(const GetExpression* node) {
 
 /// The members that name an input widget rather than a variable, whatever the variable holds.
 bool Generator::emitInputMember(const GetExpression* node) {
-    const auto* object = nodeCast<VariableAccess>(node->object.get());
-    const auto member = inputMembers().find(node->member.value);
-    if (object == nullptr || member == inputMembers().end()) {
+    const language::Builtin* member = findMember(BuiltinForm::InputProperty, node->member.value);
+    if (member == nullptr || nodeCast<VariableAccess>(node->object.get()) == nullptr) {
         return false;
     }
-    const auto& [before, behind] = member->second;
-    out_ << before << "g_inputValues[\"" << object->name << "\"]" << behind;
+    emitMemberText(member->text, *node);
     return true;
 }
 
 void Generator::emitTimeMember(const GetExpression* node) {
-    const auto part = timeParts().find(node->member.value);
-    if (part == timeParts().end()) {
+    const language::Builtin* part = findMember(BuiltinForm::TimePart, node->member.value);
+    if (part == nullptr) {
         பிழை("பொழி-304", node->line, "நேரப் பொருளில் '" + node->member.value + "' என்ற பகுதி இல்லை.");
     }
-    out_ << "std::any_cast<std::tm*>(";
-    visitExpression(node->object.get());
-    out_ << ")" << part->second;
+    emitMemberText(part->text, *node);
+}
+
+/// Writes the text of a member of \p get. What stands before the dot takes the place of its hole: its value that of $A,
+/// its name that of $id.
+void Generator::emitMemberText(std::string_view text, const GetExpression& get) {
+    constexpr std::string_view VALUE = "$A";
+    constexpr std::string_view NAME = "$id";
+    const std::size_t hole = text.find('$');
+    out_ << text.substr(0, hole);
+    if (hole == std::string_view::npos) {
+        return;
+    }
+    if (text.substr(hole, NAME.size()) == NAME) {
+        out_ << nodeCast<VariableAccess>(get.object.get())->name << text.substr(hole + NAME.size());
+    } else {
+        visitExpression(get.object.get());
+        out_ << text.substr(hole + VALUE.size());
+    }
 }
 
 /// காட்சி_நிலை.name = v  ->  the overlay's visibility;  a.b = v  ->  fn_set_property(a, "b", ...)

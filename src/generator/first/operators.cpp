@@ -1,38 +1,17 @@
+#include "language/operators.h"
 #include "base/number_text.h"
 #include "generator/first/generator.h"
 
-#include <algorithm>
-#include <array>
 #include <string_view>
-#include <unordered_map>
 
 namespace pozhil {
 namespace {
 
-using WordMap = std::unordered_map<std::string_view, std::string_view>;
-
-/// What the operator words are called in the emitted text.
-const WordMap& operatorSymbols() {
-    static const WordMap symbols = {
-        {"கூட்டு", "+"},      {"கழி", "-"},        {"பெருக்கு", "*"},     {"வகு", "/"},        {"மீதி", "%"},
-        {"சமம்", "=="},       {"சமமில்லை", "!="},   {"பெரிது", ">"},      {"சிறிது", "<"},     {"பெரிதுசமம்", ">="},
-        {"சிறிதுசமம்", "<="}, {"மற்றும்", "&&"},     {"அல்லது", "||"},      {"இல்லை", "!"},       {"பெருக்குஇருமை", "&"},
-        {"கூட்டுஇருமை", "|"}, {"வேறுஇருமை", "^"},  {"எதிர்இருமை", "~"},   {"இடதுஇருமை", "<<"}, {"வலதுஇருமை", ">>"},
-        {"கூட்டிசேர்", "+="},  {"கழிசேர்", "-="},    {"பெருக்குசேர்", "*="}, {"வகுசேர்", "/="},    {"மீதிசேர்", "%="},
-        {"பெஇசேர்", "&="},    {"கூட்டுஇசேர்", "|="}, {"வேஇசேர்", "^="},     {"இடதுஇசேர்", "<<="}, {"வலதுஇசேர்", ">>="},
-        {"ஒன்றுசேர்", "++"},   {"ஒன்றுகழி", "--"},
-    };
-    return symbols;
-}
-
-bool isArithmetic(std::string_view word) {
-    constexpr std::array<std::string_view, 5> WORDS = {"கூட்டு", "கழி", "பெருக்கு", "வகு", "மீதி"};
-    return std::find(WORDS.begin(), WORDS.end(), word) != WORDS.end();
-}
+using language::findOperator;
+using language::OperatorKind;
 
 bool isComparison(std::string_view word) {
-    constexpr std::array<std::string_view, 6> WORDS = {"சமம்", "சமமில்லை", "பெரிது", "சிறிது", "பெரிதுசமம்", "சிறிதுசமம்"};
-    return std::find(WORDS.begin(), WORDS.end(), word) != WORDS.end();
+    return findOperator(word, OperatorKind::Comparison) != nullptr;
 }
 
 bool isContainer(VarType type) {
@@ -59,11 +38,11 @@ bool isNativeLiteral(const Expression* expression) {
 } // namespace
 
 std::string Generator::mapOperator(const std::string& word) const {
-    const auto symbol = operatorSymbols().find(word);
-    if (symbol == operatorSymbols().end()) {
+    const language::Operator* found = findOperator(word);
+    if (found == nullptr || found->symbol.empty()) {
         பிழை("பொழி-304", 0, "Operator: " + word);
     }
-    return std::string(symbol->second);
+    return std::string(found->symbol);
 }
 
 /// a கூட்டு b  ->  fn_add_any(std::any(a), std::any(b)), and so on: words with a runtime function call it, the others
@@ -96,7 +75,7 @@ void Generator::visitBinaryExpression(const BinaryExpression* node) {
 /// What can be refused at sight: arithmetic on containers, division by a literal zero, text mixed with numbers.
 void Generator::checkOperandTypes(const BinaryExpression* node, VarType left, VarType right) const {
     const std::string& word = node->op.value;
-    if (!isArithmetic(word)) {
+    if (findOperator(word, OperatorKind::Arithmetic) == nullptr) {
         return;
     }
     if (isContainer(left) || isContainer(right)) {
@@ -149,9 +128,7 @@ void Generator::visitUnaryExpression(const UnaryExpression* node) {
         emitCastOperand(node->right.get());
         out_ << "))";
     } else {
-        const bool isMinus = node->op.type == TokenType::UNARY_MINUS;
-        const bool isPlus = node->op.type == TokenType::UNARY_PLUS;
-        out_ << (isMinus ? "-" : isPlus ? "+" : mapOperator(word)) << "(";
+        out_ << mapOperator(word) << "(";
         visitExpression(node->right.get());
         out_ << ")";
     }
@@ -167,7 +144,7 @@ void Generator::visitAssignmentExpression(const AssignmentExpression* node) {
     const std::string target = isLocal ? node->name : "global_vars[\"" + node->name + "\"]";
     setVarType(node->name, inferExpressionType(node->value.get()));
     out_ << "(" << target << " = ";
-    const std::string_view symbol = compoundSymbol(node->op.value);
+    const std::string_view symbol = language::compoundArithmetic(node->op.value);
     if (!symbol.empty()) {
         out_ << "std::any(std::any_cast<long long>(" << target << ") " << symbol << " ";
         visitExpression(node->value.get());
@@ -181,18 +158,6 @@ void Generator::visitAssignmentExpression(const AssignmentExpression* node) {
         }
     }
     out_ << ", " << target << ")";
-}
-
-/// The arithmetic of a compound assignment word, empty for "=".
-std::string_view Generator::compoundSymbol(std::string_view word) {
-    static const WordMap symbols = {
-        {"ஒன்றுசேர்", "+"},    {"கூட்டிசேர்", "+"}, {"+=", "+"},        {"ஒன்றுகழி", "-"}, {"கழிசேர்", "-"}, {"-=", "-"},
-        {"பெருக்குசேர்", "*"}, {"*=", "*"},       {"வகுசேர்", "/"},    {"/=", "/"},      {"மீதிசேர்", "%"}, {"%=", "%"},
-        {"பெஇசேர்", "&"},     {"&=", "&"},       {"கூட்டுஇசேர்", "|"}, {"|=", "|"},      {"வேஇசேர்", "^"}, {"^=", "^"},
-        {"இடதுஇசேர்", "<<"},  {"<<=", "<<"},     {"வலதுஇசேர்", ">>"}, {">>=", ">>"},
-    };
-    const auto symbol = symbols.find(word);
-    return symbol == symbols.end() ? std::string_view() : symbol->second;
 }
 
 } // namespace pozhil

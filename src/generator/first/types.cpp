@@ -1,39 +1,20 @@
 #include "generator/first/generator.h"
 #include "generator/first/names.h"
+#include "language/builtins.h"
+#include "language/operators.h"
 
 #include <string_view>
-#include <unordered_map>
 
 namespace pozhil {
 namespace {
 
-using TypeMap = std::unordered_map<std::string_view, VarType>;
-
-/// Built-in functions whose result is known, whatever else has their name.
-const TypeMap& firmResults() {
-    static const TypeMap results = {
-        {"உள்ளீடு", VarType::Text},      {"நீளம்", VarType::Integer},   {"எடு", VarType::Any},
-        {"வர்க்கமூலம்", VarType::Double}, {"அடுக்கு", VarType::Double}, {"சைன்", VarType::Double},
-        {"காஸ்", VarType::Double},      {"டேன்", VarType::Double},    {"மடக்கு", VarType::Double},
-        {"மேல்எண்", VarType::Integer},   {"கீழ்எண்", VarType::Integer},  {"இப்போதுநேரம்", VarType::Time},
-        {"வரம்பு", VarType::Any},
-    };
-    return results;
-}
-
-/// Built-in functions whose result is known unless a structure has their name.
-const TypeMap& weakResults() {
-    static const TypeMap results = {
-        {"பிளவு", VarType::List},        {"பதில்", VarType::Text},      {"பெரியஎ", VarType::Text},
-        {"சிறியஎ", VarType::Text},       {"கோப்பு_படி", VarType::Text}, {"கோப்பு_உள்ளதா", VarType::Boolean},
-        {"கோப்பு_அழி", VarType::Boolean},
-    };
-    return results;
-}
+using language::BuiltinForm;
+using language::OperatorKind;
+using language::ResultRule;
 
 bool yieldsTruth(std::string_view word) {
-    return word == "சமம்" || word == "சமமில்லை" || word == "பெரிது" || word == "சிறிது" || word == "பெரிதுசமம்" ||
-           word == "சிறிதுசமம்" || word == "மற்றும்" || word == "அல்லது";
+    const language::Operator* found = language::findOperator(word);
+    return found != nullptr && (found->kind == OperatorKind::Comparison || found->kind == OperatorKind::Logical);
 }
 
 template <class Node> bool isA(const Expression* expression) {
@@ -88,27 +69,32 @@ VarType Generator::inferCallType(const CallExpression& call) {
     if (const auto* get = nodeCast<GetExpression>(call.callee.get())) {
         const std::string& member = get->member.value;
         const auto* object = nodeCast<VariableAccess>(get->object.get());
-        if (object != nullptr && object->name == "நேரம்" && (member == "வினாடிகள்" || member == "உருவாக்கு")) {
-            return member == "வினாடிகள்" ? VarType::Double : VarType::Time;
+        const language::Builtin* method = nullptr;
+        if (object != nullptr && object->name == "நேரம்") {
+            if (member == "உருவாக்கு") {
+                return VarType::Time;
+            }
+            method = language::findMember(BuiltinForm::Clock, member);
         }
-        return member == "தேதி" || member == "நேரம்" || member == "முழுவதும்" ? VarType::Text : VarType::Any;
+        method = method == nullptr ? language::findMember(BuiltinForm::TimeMethod, member) : method;
+        return method == nullptr ? VarType::Any : method->result;
     }
     const auto* callee = nodeCast<VariableAccess>(call.callee.get());
     if (callee == nullptr) {
         return VarType::Any;
     }
-    if (callee->name == "தனிமதிப்பு") {
+    const language::Builtin* builtin = language::findBuiltin(callee->name);
+    const ResultRule rule = builtin == nullptr ? ResultRule::Unknown : builtin->resultRule;
+    if (rule == ResultRule::OfArgument) {
         return call.arguments.empty() ? VarType::Any : inferExpressionType(call.arguments.front().get());
     }
-    const auto firm = firmResults().find(callee->name);
-    if (firm != firmResults().end()) {
-        return firm->second;
+    if (rule == ResultRule::Firm) {
+        return builtin->result;
     }
     if (knownStructs_.count(callee->name) != 0) {
         return VarType::Object;
     }
-    const auto weak = weakResults().find(callee->name);
-    return weak == weakResults().end() ? VarType::Any : weak->second;
+    return rule == ResultRule::UnlessStruct ? builtin->result : VarType::Any;
 }
 
 VarType Generator::inferNameType(const VariableAccess& name) const {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "language/var_type.h"
 #include "parser/tree/statements.h"
-#include "parser/tree/var_type.h"
 
 #include <memory>
 #include <string>

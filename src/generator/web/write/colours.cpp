@@ -1,32 +1,18 @@
 #include "generator/web/write/colours.h"
 
 #include "emit/emitted_block.h"
+#include "language/colours.h"
 #include "parser/syntax_tree.h"
 
 #include <array>
 #include <cstdio>
 #include <string_view>
-#include <unordered_map>
 
 namespace pozhil {
 namespace {
 
 constexpr float FULL = 255.0F;
 constexpr Colour BLACK = {0.0F, 0.0F, 0.0F, 1.0F};
-
-const std::unordered_map<std::string_view, Colour>& colourWords() {
-    static const std::unordered_map<std::string_view, Colour> colours = {
-        {"வெள்ளை", {1.0F, 1.0F, 1.0F, 1.0F}},      {"கருப்பு", {0.0F, 0.0F, 0.0F, 1.0F}},
-        {"சிவப்பு", {1.0F, 0.0F, 0.0F, 1.0F}},     {"பச்சை", {0.0F, 1.0F, 0.0F, 1.0F}},
-        {"நீலம்", {0.0F, 0.0F, 1.0F, 1.0F}},        {"மஞ்சள்", {1.0F, 1.0F, 0.0F, 1.0F}},
-        {"ஆரஞ்சு", {1.0F, 0.647F, 0.0F, 1.0F}},    {"ஊதா", {0.5F, 0.0F, 0.5F, 1.0F}},
-        {"இளஞ்சிவப்பு", {1.0F, 0.75F, 0.8F, 1.0F}}, {"சாம்பல்", {0.5F, 0.5F, 0.5F, 1.0F}},
-        {"பழுப்பு", {0.65F, 0.16F, 0.16F, 1.0F}},  {"வானநீலம்", {0.53F, 0.81F, 0.92F, 1.0F}},
-        {"தங்கம்", {1.0F, 0.84F, 0.0F, 1.0F}},      {"வெள்ளி", {0.75F, 0.75F, 0.75F, 1.0F}},
-        {"சுண்ணாம்பு", {0.0F, 1.0F, 0.0F, 1.0F}},   {"கடல்நீலம்", {0.0F, 0.41F, 0.58F, 1.0F}},
-    };
-    return colours;
-}
 
 /// RRGGBB or RRGGBBAA. There is no short form: anything below six digits is black.
 Colour parseHexColour(std::string hex) {
@@ -51,8 +37,8 @@ Colour parsePozhilColor(const std::string& text, bool isHex) {
     if (isHex) {
         return parseHexColour(text);
     }
-    const auto colour = colourWords().find(text);
-    return colour == colourWords().end() ? BLACK : colour->second;
+    const language::ColourWord* colour = language::findColourWord(text);
+    return colour == nullptr ? BLACK : Colour{colour->red, colour->green, colour->blue, 1.0F};
 }
 
 Colour styleColour(const std::string& text) {

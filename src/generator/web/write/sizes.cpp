@@ -2,9 +2,9 @@
 
 #include "base/number_text.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/operators.h"
 
 #include <string_view>
-#include <unordered_map>
 
 namespace pozhil {
 namespace {
@@ -19,11 +19,8 @@ bool endsInPercent(const std::string& text) {
 }
 
 std::string comparisonSymbol(const std::string& word) {
-    static const std::unordered_map<std::string_view, const char*> symbols = {
-        {"சமம்", "=="}, {"சமமில்லை", "!="}, {"பெரிது", ">"}, {"சிறிது", "<"}, {"பெரிதுசமம்", ">="}, {"சிறிதுசமம்", "<="},
-    };
-    const auto symbol = symbols.find(word);
-    return symbol == symbols.end() ? "==" : symbol->second;
+    const language::Operator* found = language::findOperator(word, language::OperatorKind::Comparison);
+    return found == nullptr ? "==" : std::string(found->symbol);
 }
 
 std::string variableSize(const std::string& name) {

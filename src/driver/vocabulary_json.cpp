@@ -1,0 +1,116 @@
+#include "driver/vocabulary_json.h"
+
+#include "base/json_text.h"
+#include "error_codes.h"
+#include "language/builtins.h"
+#include "language/colours.h"
+#include "language/curves.h"
+#include "language/keywords.h"
+#include "language/operators.h"
+#include "language/widgets.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace pozhil {
+namespace {
+
+using json::text;
+
+/// The name of a value of an enumeration, given the names of all in order.
+template <class Enum, std::size_t N> std::string nameOf(Enum value, const std::string_view (&names)[N]) {
+    return text(names[static_cast<std::size_t>(value)]);
+}
+
+// clang-format off
+constexpr std::string_view KEYWORD_GROUPS[] = {"statement", "condition", "application", "widget", "animation",
+                                               "operator"};
+constexpr std::string_view OPERATOR_KINDS[] = {"logical", "bitwise", "comparison", "arithmetic", "join", "unary",
+                                               "compound", "step"};
+constexpr std::string_view BUILTIN_FORMS[] = {"call", "element_write", "loop_range", "list_method", "input_property",
+                                              "input_method", "time_part", "time_method", "clock"};
+constexpr std::string_view WIDGET_ROLES[] = {"widget", "item", "style", "key"};
+constexpr std::string_view VALUE_KINDS[] = {"number", "size", "text", "truth", "colour", "alignment", "path",
+                                            "variable", "handler", "widget", "list", "value"};
+// clang-format on
+
+std::string number(TokenType type) {
+    return std::to_string(static_cast<int>(type));
+}
+
+std::string bilingual(const language::Bilingual& told) {
+    return json::object({{"ta", text(told.tamil)}, {"en", text(told.english)}});
+}
+
+std::string keyword(const language::Keyword& row) {
+    return json::object(
+        {{"word", text(row.word)}, {"kind", number(row.type)}, {"group", nameOf(row.group, KEYWORD_GROUPS)}});
+}
+
+std::string operatorRow(const language::Operator& row) {
+    return json::object({{"word", text(row.word)},
+                         {"kind", nameOf(row.kind, OPERATOR_KINDS)},
+                         {"token", number(row.token)},
+                         {"level", std::to_string(row.level)},
+                         {"symbol", text(row.symbol)},
+                         {"arithmetic", text(row.arithmetic)}});
+}
+
+std::string builtin(const language::Builtin& row) {
+    const auto* last = std::find(row.parameters.begin(), row.parameters.end(), std::string_view());
+    return json::object({{"name", text(row.name)},
+                         {"form", nameOf(row.form, BUILTIN_FORMS)},
+                         {"arguments", std::to_string(row.argumentCount)},
+                         {"parameters", json::array(std::vector<std::string_view>(row.parameters.begin(), last), text)},
+                         {"value", bilingual(row.value)},
+                         {"description", bilingual(row.description)}});
+}
+
+std::string property(const language::WidgetProperty& row) {
+    return json::object({{"name", text(row.name)},
+                         {"style", text(row.style)},
+                         {"kind", nameOf(row.kind, VALUE_KINDS)},
+                         {"description", bilingual(row.description)}});
+}
+
+std::string widget(const language::Widget& row) {
+    return json::object({{"word", text(row.word)},
+                         {"token", number(row.token)},
+                         {"keyword", json::truth(row.isKeyword)},
+                         {"role", nameOf(row.role, WIDGET_ROLES)},
+                         {"description", bilingual(row.description)},
+                         {"properties", json::array(row.properties, property)}});
+}
+
+std::string colour(const language::ColourWord& row) {
+    const std::array<float, 3> components = {row.red, row.green, row.blue};
+    return json::object({{"word", text(row.word)},
+                         {"english", text(row.english)},
+                         {"components", json::array(components, [](float part) { return std::to_string(part); })}});
+}
+
+std::string curve(const language::Curve& row) {
+    return json::object({{"name", text(row.name)}, {"family", bilingual(row.family)}, {"place", bilingual(row.place)}});
+}
+
+std::string diagnostic(const catalogue::Entry& row) {
+    return json::object(
+        {{"code", text(row.code)}, {"description", text(row.description)}, {"remedy", text(row.remedy)}});
+}
+
+} // namespace
+
+std::string vocabularyJson() {
+    return json::object({{"keywords", json::array(language::keywords(), keyword)},
+                         {"typo_candidates", json::array(language::typoCandidates(), text)},
+                         {"operators", json::array(language::operators(), operatorRow)},
+                         {"builtins", json::array(language::builtins(), builtin)},
+                         {"widgets", json::array(language::widgets(), widget)},
+                         {"common_properties", json::array(language::commonProperties(), property)},
+                         {"colours", json::array(language::colourWords(), colour)},
+                         {"curves", json::array(language::curves(), curve)},
+                         {"diagnostics", json::array(catalogue::entries, diagnostic)}});
+}
+
+} // namespace pozhil
