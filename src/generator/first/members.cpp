@@ -12,10 +12,6 @@ using language::findMember;
 
 } // namespace
 
-bool isTimePart(std::string_view name) {
-    return findMember(BuiltinForm::TimePart, name) != nullptr;
-}
-
 /// a.b: a member of an input widget, a property of an object, or a part of a time value
 void Generator::visitGetExpression(const GetExpression* node) {
     if (emitInputMember(node)) {

@@ -117,8 +117,11 @@ VarType Generator::inferMemberType(const GetExpression& get) const {
         return VarType::Any;
     }
     const auto known = varTypes_.find(object->name);
-    const bool isTime = known != varTypes_.end() && known->second == VarType::Time;
-    return isTime && isTimePart(get.member.value) ? VarType::Integer : VarType::Any;
+    if (known == varTypes_.end() || known->second != VarType::Time) {
+        return VarType::Any;
+    }
+    const language::Builtin* part = language::findMember(BuiltinForm::TimePart, get.member.value);
+    return part == nullptr ? VarType::Any : part->result;
 }
 
 /// The order of the rules matters to programs: a comparison of two whole numbers counts as a whole number.
