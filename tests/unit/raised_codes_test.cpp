@@ -26,7 +26,7 @@ void collectCodes(const std::string& text, std::set<std::string>& codes) {
 
 std::set<std::string> codesNamedInSources() {
     std::set<std::string> codes;
-    for (const char* stage : {"scanner", "parser", "generator"}) {
+    for (const char* stage : {"scanner", "parser", "analysis", "generator"}) {
         for (const auto& entry : fs::recursive_directory_iterator(fs::path(POZHIL_SOURCE_DIRECTORY) / "src" / stage)) {
             if (entry.is_regular_file()) {
                 std::ifstream file(entry.path());

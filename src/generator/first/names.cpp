@@ -40,10 +40,6 @@ const std::set<std::string, std::less<>>& runtimeFunctionNames() {
 
 } // namespace
 
-bool isSelfName(std::string_view name) {
-    return name == "தான்" || name == "self";
-}
-
 std::string anyTypes(std::size_t count) {
     std::string types;
     for (std::size_t index = 0; index < count; ++index) {

@@ -6,9 +6,6 @@
 
 namespace pozhil {
 
-/// Whether \p name is the object itself inside its methods: தான் or self.
-bool isSelfName(std::string_view name);
-
 /// "std::any, std::any" with so many parts.
 std::string anyTypes(std::size_t count);
 

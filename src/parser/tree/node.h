@@ -31,7 +31,7 @@ using StatementList = std::vector<StatementPtr>;
 /// \p node as a \p Node if it is exactly that, null otherwise and for null. For classes that nothing derives from: the
 /// generator asks this of every node many times over, and a general cast costs several times as much.
 template <class Node, class Root> const Node* nodeCast(const Root* node) {
-    return node != nullptr && typeid(*node) == typeid(Node) ? static_cast<const Node*>(node) : nullptr;
+    return node != nullptr && &typeid(*node) == &typeid(Node) ? static_cast<const Node*>(node) : nullptr;
 }
 
 } // namespace pozhil

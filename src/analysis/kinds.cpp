@@ -1,5 +1,5 @@
-#include "generator/first/generator.h"
-#include "generator/first/names.h"
+#include "analysis/kinds.h"
+
 #include "language/builtins.h"
 #include "language/operators.h"
 
@@ -23,9 +23,16 @@ template <class Node> bool isA(const Expression* expression) {
 
 } // namespace
 
-/// The best guess at a value's type before the program runs; Any is the usual answer. Operators ask for their operands'
-/// types again and again on the way down, so answers are remembered until a name changes its type.
-VarType Generator::inferExpressionType(const Expression* expression) {
+bool isContainer(VarType kind) {
+    return kind == VarType::List || kind == VarType::Map || kind == VarType::Object;
+}
+
+bool isNumber(VarType kind) {
+    return kind == VarType::Integer || kind == VarType::Double;
+}
+
+/// Operators ask for their operands' kinds again and again on the way down, so answers are remembered until a name changes its kind.
+VarType Kinds::of(const Expression* expression) {
     if (isA<NumberLiteral>(expression)) {
         return VarType::Integer;
     }
@@ -48,24 +55,24 @@ VarType Generator::inferExpressionType(const Expression* expression) {
         return VarType::Object;
     }
     if (const auto* call = nodeCast<CallExpression>(expression)) {
-        return inferCallType(*call);
+        return ofCall(*call);
     }
     if (const auto* name = nodeCast<VariableAccess>(expression)) {
-        return inferNameType(*name);
+        return ofName(*name);
     }
     if (const auto* get = nodeCast<GetExpression>(expression)) {
-        return inferMemberType(*get);
+        return ofMember(*get);
     }
     if (const auto* binary = nodeCast<BinaryExpression>(expression)) {
-        return inferBinaryType(*binary);
+        return ofBinary(*binary);
     }
     if (const auto* ternary = nodeCast<TernaryExpression>(expression)) {
-        return inferExpressionType(ternary->thenBranch.get());
+        return of(ternary->thenBranch.get());
     }
     return VarType::Any;
 }
 
-VarType Generator::inferCallType(const CallExpression& call) {
+VarType Kinds::ofCall(const CallExpression& call) {
     if (const auto* get = nodeCast<GetExpression>(call.callee.get())) {
         const std::string& member = get->member.value;
         const auto* object = nodeCast<VariableAccess>(get->object.get());
@@ -86,52 +93,42 @@ VarType Generator::inferCallType(const CallExpression& call) {
     const language::Builtin* builtin = language::findBuiltin(callee->name);
     const ResultRule rule = builtin == nullptr ? ResultRule::Unknown : builtin->resultRule;
     if (rule == ResultRule::OfArgument) {
-        return call.arguments.empty() ? VarType::Any : inferExpressionType(call.arguments.front().get());
+        return call.arguments.empty() ? VarType::Any : of(call.arguments.front().get());
     }
     if (rule == ResultRule::Firm) {
         return builtin->result;
     }
-    if (knownStructs_.count(callee->name) != 0) {
+    if (structures_.isDefined(callee->name)) {
         return VarType::Object;
     }
     return rule == ResultRule::UnlessStruct ? builtin->result : VarType::Any;
 }
 
-VarType Generator::inferNameType(const VariableAccess& name) const {
+VarType Kinds::ofName(const VariableAccess& name) const {
     if (isSelfName(name.name)) {
-        if (currentStruct_.empty()) {
-            பிழை("பொழி-325", name.line, "");
+        if (!isInStructure_) {
+            faults_.raise("பொழி-325", name.line);
         }
         return VarType::Object;
     }
-    if (localVars_.count(name.name) != 0) {
-        return VarType::Any;
-    }
-    const auto known = varTypes_.find(name.name);
-    return known == varTypes_.end() ? VarType::Any : known->second;
+    return scope_.isNative(name.name) ? VarType::Any : scope_.kindOf(name.name);
 }
 
-VarType Generator::inferMemberType(const GetExpression& get) const {
+VarType Kinds::ofMember(const GetExpression& get) const {
     const auto* object = nodeCast<VariableAccess>(get.object.get());
-    if (object == nullptr) {
-        return VarType::Any;
-    }
-    const auto known = varTypes_.find(object->name);
-    if (known == varTypes_.end() || known->second != VarType::Time) {
-        return VarType::Any;
-    }
-    const language::Builtin* part = language::findMember(BuiltinForm::TimePart, get.member.value);
-    return part == nullptr ? VarType::Any : part->result;
+    const bool isTime = object != nullptr && scope_.kindOf(object->name) == VarType::Time;
+    return isTime && language::findMember(BuiltinForm::TimePart, get.member.value) != nullptr ? VarType::Integer
+                                                                                              : VarType::Any;
 }
 
 /// The order of the rules matters to programs: a comparison of two whole numbers counts as a whole number.
-VarType Generator::inferBinaryType(const BinaryExpression& binary) {
-    const auto remembered = inferredTypes_.find(&binary);
-    if (remembered != inferredTypes_.end() && remembered->second.epoch == typeEpoch_) {
-        return remembered->second.type;
+VarType Kinds::ofBinary(const BinaryExpression& binary) {
+    const auto remembered = remembered_.find(&binary);
+    if (remembered != remembered_.end() && remembered->second.epoch == scope_.epoch()) {
+        return remembered->second.kind;
     }
-    const VarType left = inferExpressionType(binary.left.get());
-    const VarType right = inferExpressionType(binary.right.get());
+    const VarType left = of(binary.left.get());
+    const VarType right = of(binary.right.get());
     const auto either = [&](VarType type) { return left == type || right == type; };
     const std::string& word = binary.op.value;
     VarType type = VarType::Any;
@@ -144,29 +141,8 @@ VarType Generator::inferBinaryType(const BinaryExpression& binary) {
     } else if (yieldsTruth(word)) {
         type = VarType::Boolean;
     }
-    inferredTypes_[&binary] = {typeEpoch_, type};
+    remembered_[&binary] = {scope_.epoch(), type};
     return type;
-}
-
-void Generator::setVarType(const std::string& name, VarType type) {
-    varTypes_[name] = type;
-    ++typeEpoch_;
-}
-
-void Generator::setLocal(const std::string& name) {
-    if (localVars_.insert(name).second) {
-        localsLog_.push_back(name);
-    }
-    ++typeEpoch_;
-}
-
-/// Only the first \p count names that entered are native variables from here on. A scope is left so in time that goes
-/// with its own names, however many stand outside.
-void Generator::dropLocalsBehind(std::size_t count) {
-    for (; localsLog_.size() > count; localsLog_.pop_back()) {
-        localVars_.erase(localsLog_.back());
-    }
-    ++typeEpoch_;
 }
 
 } // namespace pozhil

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "diagnostics/fault.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace pozhil {
+
+/// The source that analysis names in its faults: always the program's own file, also for code that it imports.
+class FaultSite {
+public:
+    /// \param path the source path as the user gave it
+    /// \param text its text, which outlives the site
+    FaultSite(std::string path, std::string_view text);
+
+    const std::string& path() const { return path_; }
+
+    /// Raises a fault in \p line; \p details may be empty.
+    [[noreturn]] void raise(const std::string& code, std::int32_t line, const std::string& details = {}) const;
+
+    /// Raises a fault that is told without its place.
+    [[noreturn]] void raisePlaceless(const std::string& code, std::int32_t line, const std::string& details) const;
+
+    /// A fault that is told without its place, to be thrown.
+    Fault placeless(const std::string& code, std::int32_t line, const std::string& details) const;
+
+private:
+    Fault fault(const std::string& code, std::int32_t line, const std::string& details) const;
+
+    std::string path_;
+    std::string_view text_;
+};
+
+} // namespace pozhil
