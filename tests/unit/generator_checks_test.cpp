@@ -2,7 +2,7 @@
 
 #include "support/generating.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 using namespace pozhil::test;
 
@@ -187,6 +187,56 @@ TEST(ContainerLoop, StandsInTwelveOthersAtMost) {
     };
     EXPECT_EQ(fault(12), "none");
     EXPECT_EQ(fault(13), "பொழி-291 வரி 13");
+}
+
+/// So many objects inside each other, each the argument of the next.
+std::string nestedObjects(int depth) {
+    std::string value;
+    for (int level = 0; level < depth; ++level) {
+        value += "கணு(" + std::to_string(level) + ", ";
+    }
+    return "கட்டமைப்பு கணு:\n    செயல் துவக்கம்(தான், மதிப்பு, அடுத்து):\n        தான்.மதிப்பு = மதிப்பு\n"
+           "        தான்.அடுத்து = அடுத்து\nவேர் = " +
+           value + "0" + std::string(static_cast<std::size_t>(depth), ')') + "\n";
+}
+
+/// So many structures whose fields each construct the next.
+std::string chainedStructures(int count) {
+    std::string source;
+    for (int index = count; index > 0; --index) {
+        const std::string next = index == count ? "1" : "க" + std::to_string(index + 1) + "()";
+        source += "கட்டமைப்பு க" + std::to_string(index) + ":\n    புலம் = " + next + "\n";
+    }
+    return source + "வேர் = க1()\n";
+}
+
+TEST(Construction, MayStandInAsManyOthersAsOneLikes) {
+    for (const int depth : {12, 13, 200}) {
+        EXPECT_EQ(generatorFault(nestedObjects(depth)), "none") << depth;
+        EXPECT_EQ(generatorFault(chainedStructures(depth)), "none") << depth;
+    }
+}
+
+TEST(Construction, TakesTextInLineWithItsDepth) {
+    const auto length = [](int depth) { return pozhil::test::generatedText(nestedObjects(depth)).size(); };
+    const std::size_t once = length(200) - length(100);
+    EXPECT_EQ(length(300) - length(200), once);
+}
+
+TEST(Construction, OfFieldsThatLeadBackNeverEnds) {
+    EXPECT_EQ(generatorFault("கட்டமைப்பு அ:\n    ஒன்று = ஆ()\nகட்டமைப்பு ஆ:\n    இரண்டு = அ()\nவேர் = அ()\n"),
+              "பொழி-291 வரி 4");
+    EXPECT_EQ(generatorFault("கட்டமைப்பு தாய்:\n    செல்வம் = சேய்()\nகட்டமைப்பு சேய்(தாய்):\n    பெயர் = 1\nவேர் = சேய்()\n"),
+              "பொழி-291 வரி 2");
+}
+
+TEST(Construction, OfFieldsThatDoubleAtEachStepIsRefusedInTime) {
+    std::string source = "கட்டமைப்பு க40:\n    புலம் = 1\n";
+    for (int index = 39; index > 0; --index) {
+        const std::string next = "க" + std::to_string(index + 1) + "()";
+        source += "கட்டமைப்பு க" + std::to_string(index) + ":\n    புலம் = " + next + "\n    மறுபுலம் = " + next + "\n";
+    }
+    EXPECT_THAT(generatorFault(source + "வேர் = க1()\n"), testing::StartsWith("பொழி-291"));
 }
 
 /// The diagnostic for a function \p name that returns \p value in line 4.
