@@ -24,6 +24,14 @@ def test_program_of_the_real_toolchain_runs(real_place):
     assert behind_animation(result.out, "நிரல்.பொழில்") == "வணக்கம்\nபொழில்\n"
 
 
+def test_names_typed_in_two_halves_bring_no_warning(real_place):
+    vowel = "\u0bc6\u0bbe"
+    source = f"செயல் க{vowel}டி(ப{vowel}ருள்):\n    திரும்பு ப{vowel}ருள் கூட்டு 1\nஅச்சிடு(க{vowel}டி(2))\n"
+    result = real_place.compile(source)
+    assert (result.status, result.err) == (0, "")
+    assert behind_animation(result.out, "நிரல்.பொழில்") == "3\n"
+
+
 def test_link_call(installed_place, installation, tools):
     installed_place.run(SOURCE)
     assert tools.calls() == [installation.link_call(installed_place)]

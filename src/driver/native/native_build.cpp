@@ -1,6 +1,7 @@
 #include "driver/native/native_build.h"
 
 #include "driver/console/console_style.h"
+#include "driver/native/toolchain_output.h"
 #include "driver/settings.h"
 #include "platform/paths.h"
 
@@ -45,7 +46,7 @@ platform::Command compilerCommand(std::vector<std::string> arguments) {
 
 void show(const platform::CommandResult& result) {
     std::cout << result.output << std::flush;
-    std::cerr << result.errors << std::flush;
+    std::cerr << withoutSpellingWarnings(result.errors) << std::flush;
 }
 
 } // namespace
