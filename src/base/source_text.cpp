@@ -1,10 +1,13 @@
 #include "base/source_text.h"
 
+#include "base/text.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <system_error>
+#include <utility>
 
 namespace pozhil {
 namespace {
@@ -23,6 +26,10 @@ std::ifstream openSource(const std::string& path) {
 
 } // namespace
 
+SourcePtr makeSource(std::string path, std::string text) {
+    return std::make_shared<const SourceText>(SourceText{std::move(path), std::move(text)});
+}
+
 bool canReadSource(const std::string& path) {
     return openSource(path).is_open();
 }
@@ -34,7 +41,7 @@ std::optional<std::string> readSourceText(const std::string& path) {
     }
     std::string text((std::istreambuf_iterator<char>(stream)), std::istreambuf_iterator<char>());
     text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
-    if (text.rfind(BYTE_ORDER_MARK, 0) == 0) {
+    if (startsWith(text, BYTE_ORDER_MARK)) {
         text.erase(0, 3);
     }
     return text;

@@ -1,11 +1,25 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace pozhil {
+
+/// One source file as it was read. It never changes, and all stages share it.
+struct SourceText {
+    /// The path that diagnostics show, in UTF-8
+    std::string path;
+    /// The whole text, without carriage returns and byte order mark
+    std::string text;
+};
+
+using SourcePtr = std::shared_ptr<const SourceText>;
+
+/// A source of this path and text, to be shared.
+SourcePtr makeSource(std::string path, std::string text);
 
 /// Whether a source file can be opened for reading.
 /// \param path the file's path in UTF-8

@@ -1,5 +1,6 @@
 #include "scanner/lexer.h"
 
+#include "base/text.h"
 #include "base/utf8.h"
 #include "diagnostics/fault.h"
 
@@ -13,10 +14,6 @@ namespace {
 constexpr std::size_t TAB_WIDTH = 4;
 constexpr std::string_view COMMENT = "ஃ";
 constexpr std::string_view BLOCK_COMMENT = "ஃஃ";
-
-bool startsWith(std::string_view text, std::string_view beginning) {
-    return text.substr(0, beginning.size()) == beginning;
-}
 
 } // namespace
 
@@ -40,7 +37,7 @@ bool Lexer::startLine() {
     lineStart_ = position_;
     checkBlanksAreUniform();
     const std::size_t width = getCurrentIndent();
-    // The width is a measure, not a count of bytes: behind a tab this lands further on than the blanks reach.
+    // The width is a measure, not a count of bytes: after a tab this lands further on than the blanks reach.
     position_ += width;
     if (position_ > source_.size()) {
         throw std::out_of_range("indentation reaches past the end of the text");

@@ -25,7 +25,7 @@ bool isDelimiter(char c) {
     return DELIMITERS.find(c) != std::string_view::npos;
 }
 
-/// Whether \p c, the byte behind a number or a run of word characters, ends it; 0 is the end of the text.
+/// Whether \p c, the byte after a number or a run of word characters, ends it; 0 is the end of the text.
 bool endsRun(char c) {
     return c == 0 || isSpace(c) || isDelimiter(c);
 }
@@ -251,7 +251,7 @@ const Lexer::WordFacts& Lexer::factsOf(std::string_view word) {
     return known->second;
 }
 
-/// The word behind the cursor on the same line, empty if none; no longer than it takes to tell that it can't complete
+/// The word after the cursor on the same line, empty if none; no longer than it takes to tell that it can't complete
 /// a keyword.
 std::string_view Lexer::followingWord() const {
     std::string_view text = rest();

@@ -22,7 +22,7 @@ Letters splitLetters(std::string_view word) {
     return letters;
 }
 
-/// Whether the Levenshtein distance of two words is exactly 1: behind their common beginning, one of them skips
+/// Whether the Levenshtein distance of two words is exactly 1: after their common beginning, one of them skips
 /// one letter (or both do), and the rest is equal.
 bool differByOneLetter(const Letters& a, const Letters& b) {
     const Letters& shorter = a.size() <= b.size() ? a : b;

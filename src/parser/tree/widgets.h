@@ -59,7 +59,7 @@ struct WidgetNode : Statement {
     std::unique_ptr<AnimationNode> animation;
 };
 
-/// A widget that stands where a value is expected, such as behind "=".
+/// A widget that stands where a value is expected, such as after "=".
 struct WidgetExpression : Expression {
     explicit WidgetExpression(std::unique_ptr<WidgetNode> theWidget) : widget(std::move(theWidget)) {}
 

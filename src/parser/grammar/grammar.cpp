@@ -1,0 +1,32 @@
+#include "parser/grammar/grammar.h"
+
+#include "parser/file_parse.h"
+
+namespace pozhil {
+
+Grammar::Grammar(FileParse& parse)
+    : parse_(parse), cursor_(parse.cursor), nesting_(parse.nesting), declarations_(parse.declarations) {}
+
+ExpressionPtr Grammar::parseExpression() {
+    return parse_.expressions.parseExpression();
+}
+
+StatementPtr Grammar::parseStatement(bool inStruct) {
+    return parse_.statements.parseStatement(inStruct);
+}
+
+WidgetPtr Grammar::parseWidget() {
+    return parse_.widgets.parseWidget();
+}
+
+ExpressionPtr Grammar::parsePropertyValue() {
+    cursor_.consume(TokenType::COLON, "பொழி-202");
+    return parseExpression();
+}
+
+void Grammar::parseProperty(PropertyMap& properties, const std::string& name) {
+    cursor_.advance();
+    properties.insert_or_assign(name, parsePropertyValue());
+}
+
+} // namespace pozhil

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "parser/declarations.h"
+#include "parser/nesting_limit.h"
+#include "parser/syntax_tree.h"
+#include "parser/token_cursor.h"
+
+#include <memory>
+
+namespace pozhil {
+
+struct FileParse;
+
+using WidgetPtr = std::unique_ptr<WidgetNode>;
+
+/// One family of the grammar's rules. The families of a file share its cursor and tables, and reach each other through
+/// the parse they belong to.
+class Grammar {
+public:
+    /// \param parse outlives the grammar, which is a part of it
+    explicit Grammar(FileParse& parse);
+
+    Grammar(const Grammar&) = delete;
+    Grammar& operator=(const Grammar&) = delete;
+
+protected:
+    using SideBySide = NestingLimit::SideBySide;
+
+    ~Grammar() = default;
+
+    // What every family needs of the others.
+    ExpressionPtr parseExpression();
+    StatementPtr parseStatement(bool inStruct);
+    WidgetPtr parseWidget();
+
+    /// The colon and value after a key.
+    ExpressionPtr parsePropertyValue();
+
+    /// The key at the cursor, its colon and value, kept under \p name.
+    void parseProperty(PropertyMap& properties, const std::string& name);
+
+    /// Takes the items of a list whose bracket is open, and the closing bracket.
+    /// \param level of the line that opened the list
+    /// \param parseItem takes one item
+    /// \param line where a missing bracket is reported, -1 being the current line
+    template <class Item> void parseItems(int level, const Item& parseItem, std::int32_t line = -1) {
+        SideBySide siblings(nesting_);
+        while (cursor_.nextListItem(level)) {
+            siblings.next();
+            parseItem();
+        }
+        cursor_.consume(TokenType::RPAREN, "பொழி-204", line);
+    }
+
+    FileParse& parse_;
+    TokenCursor& cursor_;
+    NestingLimit& nesting_;
+    Declarations& declarations_;
+};
+
+} // namespace pozhil
