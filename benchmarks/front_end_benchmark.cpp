@@ -1,4 +1,4 @@
-#include "driver/front_end.h"
+#include "driver/translation.h"
 #include "generator/first/generator.h"
 #include "scanner/lexer.h"
 
@@ -63,11 +63,7 @@ void scan(benchmark::State& state, MakeSource makeSource) {
 void wholeFrontEnd(benchmark::State& state, MakeSource makeSource) {
     const std::string text = makeSource(state.range(0));
     for (auto _ : state) {
-        SourceFile source;
-        source.path = "அளவு.பொழில்";
-        source.text = text;
-        parseSource(source, {});
-        benchmark::DoNotOptimize(generateText(source));
+        benchmark::DoNotOptimize(generateText(parseSource(makeSource("அளவு.பொழில்", text), {})));
     }
     state.SetComplexityN(state.range(0));
 }

@@ -1,21 +1,23 @@
-#include "base/source_text.h"
 #include "driver/command_line.h"
 #include "driver/console/banner.h"
 #include "driver/console/fault_report.h"
-#include "driver/front_end.h"
+#include "driver/console/stage_report.h"
 #include "driver/native/native_build.h"
 #include "driver/native/native_watch.h"
 #include "driver/output_stage.h"
 #include "driver/settings.h"
+#include "driver/translation.h"
 #include "driver/web/emscripten_environment.h"
 #include "driver/web/web_messages.h"
 #include "driver/web/web_mode.h"
+#include "front_end/front_end.h"
 #include "platform/console.h"
 #include "platform/paths.h"
 
 #include <exception>
 #include <iostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -23,18 +25,19 @@ namespace {
 using namespace pozhil;
 
 /// Scans and parses the source. The web flag goes on by itself for a program that declares an application.
-void analyse(SourceFile& source, bool& web, const std::vector<std::string>& moduleDirectories) {
+ParsedSource analyse(SourcePtr source, bool& web, const FrontEndOptions& options) {
     if (web) {
         printWebStart();
     }
-    parseSource(source, moduleDirectories);
-    if (!web && isWebProgram(source.program)) {
+    ParsedSource parsed = parseSource(std::move(source), options);
+    if (!web && isWebProgram(parsed.program)) {
         web = true;
         printWebStart();
     }
     if (web) {
         printWebGeneration();
     }
+    return parsed;
 }
 
 /// Empties the places that the output text and what becomes of it go to.
@@ -48,48 +51,45 @@ bool prepareOutput(const std::filesystem::path& output, bool web) {
     return createOutput(output);
 }
 
-void runNative(const Invocation& invocation, const std::vector<std::string>& moduleDirectories,
-               const std::filesystem::path& output, NativeBuild& build) {
+void runNative(const Invocation& invocation, const FrontEndOptions& options, const std::filesystem::path& output,
+               NativeBuild& build) {
     if (!invocation.watch) {
         build.start();
     }
     printBanner();
     animateCompilation(invocation.sourcePath);
     if (invocation.watch) {
-        watchNative(invocation.sourcePath, moduleDirectories, output, build);
+        watchNative(invocation.sourcePath, options, output, build);
     }
     build.finish();
 }
 
 int compile(const Invocation& invocation) {
-    SourceFile source;
-    source.path = invocation.sourcePath;
-    auto text = readSourceText(source.path);
-    if (!text) {
-        std::cerr << "பிழை: '" << source.path << "' என்ற கோப்பை திறக்க முடியவில்லை!" << std::endl;
+    const std::filesystem::path appDirectory = platform::executableDirectory();
+    FrontEndOptions options;
+    options.moduleDirectories = settings::moduleDirectories(appDirectory.u8string());
+    SourcePtr source = loadSource(invocation.sourcePath, options);
+    if (source == nullptr) {
+        std::cerr << "பிழை: '" << invocation.sourcePath << "' என்ற கோப்பை திறக்க முடியவில்லை!" << std::endl;
         return 1;
     }
-    source.text = std::move(*text);
-
-    const std::filesystem::path appDirectory = platform::executableDirectory();
-    const std::vector<std::string> moduleDirectories = settings::moduleDirectories(appDirectory.u8string());
     bool web = invocation.web;
-    analyse(source, web, moduleDirectories);
+    const ParsedSource parsed = analyse(std::move(source), web, options);
 
     const std::filesystem::path temporaryDirectory = prepareTemporaryDirectory();
     const std::filesystem::path output = outputPath(temporaryDirectory);
-    const OutputText generated = generateText(source);
+    const OutputText generated = generateText(parsed);
     if (!prepareOutput(output, web)) {
         return 1;
     }
     if (web) {
-        runWeb(source, generated, moduleDirectories, appDirectory, temporaryDirectory);
+        runWeb(parsed, generated, options, appDirectory, temporaryDirectory);
     }
     if (!writeOutput(output, generated.text)) {
         return 1;
     }
     NativeBuild build(appDirectory, output, temporaryDirectory);
-    runNative(invocation, moduleDirectories, output, build);
+    runNative(invocation, options, output, build);
     return 0;
 }
 

@@ -1,24 +1,24 @@
 #include "driver/source_watch.h"
 
-#include "base/source_text.h"
 #include "driver/console/fault_report.h"
 
 #include <chrono>
 #include <filesystem>
 #include <iostream>
 #include <thread>
+#include <utility>
 
 namespace pozhil {
 namespace {
 
-void rebuild(const std::string& sourcePath, const std::vector<std::string>& moduleDirectories,
-             const WatchSteps& steps) {
+void rebuild(const std::string& sourcePath, const FrontEndOptions& options, const WatchSteps& steps) {
     try {
-        SourceFile source;
-        source.path = sourcePath;
-        source.text = readSourceText(sourcePath).value_or("");
-        parseSource(source, moduleDirectories);
-        steps.build(source, generateText(source));
+        SourcePtr source = loadSource(sourcePath, options);
+        if (source == nullptr) {
+            source = makeSource(sourcePath, ""); // an editor may be about to put it back
+        }
+        const ParsedSource parsed = parseSource(std::move(source), options);
+        steps.build(parsed, generateText(parsed));
     } catch (const Fault& fault) {
         reportFault(fault);
     } catch (const StageFailure& failure) {
@@ -28,8 +28,7 @@ void rebuild(const std::string& sourcePath, const std::vector<std::string>& modu
 
 } // namespace
 
-void watchSource(const std::string& sourcePath, const std::vector<std::string>& moduleDirectories,
-                 const WatchSteps& steps) {
+void watchSource(const std::string& sourcePath, const FrontEndOptions& options, const WatchSteps& steps) {
     constexpr std::chrono::milliseconds PAUSE{500};
     const std::filesystem::path file = std::filesystem::u8path(sourcePath);
     auto last = std::filesystem::last_write_time(file);
@@ -38,7 +37,7 @@ void watchSource(const std::string& sourcePath, const std::vector<std::string>& 
         if (now != last) {
             last = now;
             std::cout << steps.changeNote << std::endl;
-            rebuild(sourcePath, moduleDirectories, steps);
+            rebuild(sourcePath, options, steps);
         }
         std::this_thread::sleep_for(PAUSE);
     }

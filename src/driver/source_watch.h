@@ -1,6 +1,6 @@
 #pragma once
 
-#include "driver/front_end.h"
+#include "driver/translation.h"
 
 #include <functional>
 #include <string>
@@ -13,7 +13,7 @@ struct WatchSteps {
     /// Told to the user at once
     const char* changeNote;
     /// Takes the changed source, parsed, and its output text
-    std::function<void(const SourceFile&, const OutputText&)> build;
+    std::function<void(const ParsedSource&, const OutputText&)> build;
     /// Takes the failure of a stage in place of the build
     std::function<void(const StageFailure&)> reportFailure;
 };
@@ -21,7 +21,6 @@ struct WatchSteps {
 /// Compiles a source file anew whenever it changes, each time on objects of its own. Never returns; a fault
 /// with a box ends the process.
 /// \throws std::filesystem::filesystem_error if the source file vanishes
-[[noreturn]] void watchSource(const std::string& sourcePath, const std::vector<std::string>& moduleDirectories,
-                              const WatchSteps& steps);
+[[noreturn]] void watchSource(const std::string& sourcePath, const FrontEndOptions& options, const WatchSteps& steps);
 
 } // namespace pozhil

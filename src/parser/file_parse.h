@@ -20,31 +20,42 @@
 #include "parser/grammar/widgets.h"
 #include "parser/import_loader.h"
 #include "parser/nesting_limit.h"
+#include "parser/node_places.h"
+#include "parser/recovery.h"
 #include "parser/token_cursor.h"
 
-#include <string>
+#include <cstdint>
 #include <utility>
-#include <vector>
 
 namespace pozhil {
 
 /// What the parses of a file and of all that it imports have in common.
 struct ParseSession {
     ImportLoader importLoader;
+    NodePlaces places{};
+    /// Takes the faults that are gone on after; null if the first one ends the parse.
+    FaultLog* faults = nullptr;
 };
 
 /// The parse of one file: where it stands, what it has found, and the families of the grammar that go on with it.
 struct FileParse {
+    /// \param shownSource the source whose path and lines faults show
     /// \param nestingHeight that the tree has reached where the file is imported
-    FileParse(ParseSession& theSession, std::vector<Token> tokens, SourcePtr shownSource, int nestingHeight = 0)
-        : session(theSession), cursor(std::move(tokens), std::move(shownSource)), nesting(cursor, nestingHeight) {}
+    FileParse(ParseSession& theSession, ScannedSource theScanned, SourcePtr shownSource, int nestingHeight = 0)
+        : session(theSession), scanned(std::move(theScanned)), sourceNumber(session.places.addSource(scanned.source)),
+          cursor(scanned, std::move(shownSource)), nesting(cursor, nestingHeight),
+          recovery(cursor, scanned, session.faults) {}
 
     FileParse(const FileParse&) = delete;
     FileParse& operator=(const FileParse&) = delete;
 
     ParseSession& session;
+    const ScannedSource scanned;
+    /// Of the source among the places of nodes.
+    const std::uint32_t sourceNumber;
     TokenCursor cursor;
     NestingLimit nesting;
+    Recovery recovery;
     Declarations declarations;
 
     StatementGrammar statements{*this};

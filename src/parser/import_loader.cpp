@@ -13,8 +13,8 @@ constexpr std::string_view WEB_MODULE_PATH = "தொகுப்புகள்/
 
 } // namespace
 
-ImportLoader::ImportLoader(std::vector<std::string> moduleDirectories)
-    : moduleDirectories_(std::move(moduleDirectories)) {}
+ImportLoader::ImportLoader(const SourceLoader& loader, std::vector<std::string> moduleDirectories)
+    : loader_(loader), moduleDirectories_(std::move(moduleDirectories)) {}
 
 std::string ImportLoader::modulePath(std::string_view written) {
     std::string path(written == WEB_MODULE ? WEB_MODULE_PATH : written);
@@ -29,13 +29,12 @@ bool ImportLoader::isFirstImport(const std::string& path) {
 }
 
 SourcePtr ImportLoader::load(const std::string& path) const {
-    std::vector<std::string> candidates = {path};
-    for (const std::string& directory : moduleDirectories_) {
-        candidates.push_back(directory + "/" + path);
+    if (SourcePtr source = loader_.load(path)) {
+        return source;
     }
-    for (const std::string& candidate : candidates) {
-        if (auto text = readSourceText(candidate)) {
-            return makeSource(candidate, std::move(*text));
+    for (const std::string& directory : moduleDirectories_) {
+        if (SourcePtr source = loader_.load(directory + "/" + path)) {
+            return source;
         }
     }
     return nullptr;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/source_text.h"
+#include "base/source_loader.h"
 
 #include <set>
 #include <string>
@@ -12,8 +12,9 @@ namespace pozhil {
 /// Finds and reads what a program imports, each file once.
 class ImportLoader {
 public:
+    /// \param loader reads the files and outlives the import loader
     /// \param moduleDirectories where imports are looked for after the working directory, in order
-    explicit ImportLoader(std::vector<std::string> moduleDirectories);
+    ImportLoader(const SourceLoader& loader, std::vector<std::string> moduleDirectories);
 
     /// The path that an import names, with the ending that it may leave out.
     static std::string modulePath(std::string_view written);
@@ -27,6 +28,7 @@ public:
     SourcePtr load(const std::string& path) const;
 
 private:
+    const SourceLoader& loader_;
     std::vector<std::string> moduleDirectories_;
     std::set<std::string> importedPaths_;
 };

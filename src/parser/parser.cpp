@@ -5,12 +5,26 @@
 #include <utility>
 
 namespace pozhil {
+namespace {
+
+const SourceLoader& fileLoader() {
+    static const FileLoader loader;
+    return loader;
+}
+
+} // namespace
+
+Parser::Parser(ScannedSource scanned, ParseOptions options)
+    : session_(std::make_unique<ParseSession>(
+          ParseSession{ImportLoader(options.loader, std::move(options.moduleDirectories)), {}, options.faults})) {
+    const SourcePtr source = scanned.source;
+    file_ = std::make_unique<FileParse>(*session_, std::move(scanned), source);
+}
 
 Parser::Parser(std::vector<Token> tokens, std::string source, std::string filename,
                std::vector<std::string> moduleDirectories)
-    : session_(std::make_unique<ParseSession>(ParseSession{ImportLoader(std::move(moduleDirectories))})),
-      file_(std::make_unique<FileParse>(*session_, std::move(tokens),
-                                        makeSource(std::move(filename), std::move(source)))) {}
+    : Parser({makeSource(std::move(filename), std::move(source)), std::move(tokens), {}, {}},
+             {fileLoader(), std::move(moduleDirectories)}) {}
 
 Parser::~Parser() = default;
 
@@ -32,6 +46,14 @@ const StructTable& Parser::structs() const {
 
 const AbstractStructTable& Parser::abstractStructs() const {
     return file_->declarations.abstractStructs;
+}
+
+const ScannedSource& Parser::scanned() const {
+    return file_->scanned;
+}
+
+const NodePlaces& Parser::places() const {
+    return session_->places;
 }
 
 } // namespace pozhil

@@ -7,9 +7,24 @@
 #include <utility>
 
 namespace pozhil {
+namespace {
 
-TokenCursor::TokenCursor(std::vector<Token> tokens, SourcePtr shownSource)
-    : tokens_(std::move(tokens)), shownSource_(std::move(shownSource)) {}
+bool isLayout(TokenType type) {
+    return type == TokenType::NEWLINE || type == TokenType::INDENT || type == TokenType::DEDENT;
+}
+
+bool isOpeningBracket(TokenType type) {
+    return type == TokenType::LPAREN || type == TokenType::LBRACKET || type == TokenType::LBRACE;
+}
+
+bool isClosingBracket(TokenType type) {
+    return type == TokenType::RPAREN || type == TokenType::RBRACKET || type == TokenType::RBRACE;
+}
+
+} // namespace
+
+TokenCursor::TokenCursor(const ScannedSource& scanned, SourcePtr shownSource)
+    : tokens_(scanned.tokens), places_(scanned.places), shownSource_(std::move(shownSource)) {}
 
 const Token& TokenCursor::peek() const {
     return tokens_[current_];
@@ -48,7 +63,7 @@ bool TokenCursor::checkWord(TokenType type, std::string_view text) const {
 }
 
 bool TokenCursor::checkLayout() const {
-    return check(TokenType::NEWLINE) || check(TokenType::INDENT) || check(TokenType::DEDENT);
+    return isLayout(peek().type);
 }
 
 bool TokenCursor::isKeyAhead(TokenKinds kinds) const {
@@ -164,6 +179,41 @@ bool TokenCursor::nextListItem(int level) {
         }
     }
     return false;
+}
+
+ByteRange TokenCursor::rangeFrom(std::size_t first) const {
+    if (places_.empty()) {
+        return {};
+    }
+    std::size_t last = current_;
+    while (last > first + 1 && isLayout(tokens_[last - 1].type)) {
+        --last;
+    }
+    return {places_[first].begin, last > first ? places_[last - 1].end : places_[first].begin};
+}
+
+ByteRange TokenCursor::rangeOnLine(std::int32_t line) const {
+    if (places_.empty()) {
+        return {};
+    }
+    std::size_t index = current_;
+    while (index > 0 && tokens_[index].line > line) {
+        --index;
+    }
+    return places_[index];
+}
+
+int TokenCursor::openBrackets(std::size_t first) const {
+    int open = 0;
+    for (std::size_t index = first; index < current_; ++index) {
+        open += isOpeningBracket(tokens_[index].type) ? 1 : 0;
+        open -= isClosingBracket(tokens_[index].type) ? 1 : 0;
+    }
+    return open;
+}
+
+bool TokenCursor::checkClosingBracket() const {
+    return isClosingBracket(peek().type);
 }
 
 std::string TokenCursor::getLineText(std::int32_t line) const {

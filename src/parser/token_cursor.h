@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/source_text.h"
-#include "scanner/token.h"
+#include "scanner/scanned_source.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -17,9 +17,9 @@ using TokenKinds = std::initializer_list<TokenType>;
 /// Walks the tokens of one file, keeps count of the indentation, and raises the faults of the grammar.
 class TokenCursor {
 public:
-    /// \param tokens all tokens of the file, ending in END_OF_FILE
+    /// \param scanned the file's tokens, ending in END_OF_FILE; outlives the cursor
     /// \param shownSource the source whose path and lines faults show
-    TokenCursor(std::vector<Token> tokens, SourcePtr shownSource);
+    TokenCursor(const ScannedSource& scanned, SourcePtr shownSource);
 
     TokenCursor(const TokenCursor&) = delete;
     TokenCursor& operator=(const TokenCursor&) = delete;
@@ -43,6 +43,7 @@ public:
     /// Whether a token of this type stands here, or the word where it arrives as a plain name.
     bool checkWord(TokenType type, std::string_view text) const;
     bool checkLayout() const;
+    bool checkClosingBracket() const;
     /// Whether a key of one of these types stands here with its colon.
     bool isKeyAhead(TokenKinds kinds) const;
     /// Whether a section of an application begins here: inside a widget that means that its bracket was left open.
@@ -75,6 +76,13 @@ public:
     /// The same for a list whose commas may stand or be left out.
     bool nextListItem(int level);
 
+    /// The text from token \p first up to the cursor, without layout at its end; nothing if tokens have no places.
+    ByteRange rangeFrom(std::size_t first) const;
+    /// The last token of a line up to the cursor, where a fault of that line is best shown.
+    ByteRange rangeOnLine(std::int32_t line) const;
+    /// How many brackets more are opened than closed from token \p first up to the cursor.
+    int openBrackets(std::size_t first) const;
+
     /// Raises a fault of the grammar.
     [[noreturn]] void பிழை(const std::string& code, std::int32_t line) const;
 
@@ -82,7 +90,8 @@ private:
     void handleIndentation(int level);
     std::string getLineText(std::int32_t line) const;
 
-    std::vector<Token> tokens_;
+    const std::vector<Token>& tokens_;
+    const std::vector<ByteRange>& places_;
     SourcePtr shownSource_;
     std::size_t current_ = 0;
     int indentation_ = 0;

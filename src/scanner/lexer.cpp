@@ -17,19 +17,49 @@ constexpr std::string_view BLOCK_COMMENT = "ஃஃ";
 
 } // namespace
 
-Lexer::Lexer(std::string source, std::string fileName) : source_(std::move(source)), fileName_(std::move(fileName)) {}
+Lexer::Lexer(SourcePtr source) : source_(std::move(source)), text_(source_->text) {
+    scanned_.source = source_;
+}
 
-std::vector<Token> Lexer::tokenize() {
+Lexer::Lexer(std::string source, std::string fileName) : Lexer(makeSource(std::move(fileName), std::move(source))) {}
+
+ScannedSource Lexer::scan(std::size_t maxFaults) {
     while (peek() != 0) {
-        if (atLineStart_ && !startLine()) {
+        if (maxFaults == 0) {
+            scanStep();
             continue;
         }
-        Token token = getNextToken();
-        atLineStart_ = token.type == TokenType::NEWLINE;
-        tokens_.push_back(std::move(token));
+        try {
+            scanStep();
+        } catch (const Fault& fault) {
+            resumeAfter(fault);
+            if (scanned_.faults.size() == maxFaults) {
+                break;
+            }
+        }
     }
     closeIndents();
-    return std::move(tokens_);
+    return std::move(scanned_);
+}
+
+std::vector<Token> Lexer::tokenize() {
+    return scan().tokens;
+}
+
+void Lexer::scanStep() {
+    tokenStart_ = position_;
+    if (atLineStart_ && !startLine()) {
+        return;
+    }
+    Token token = getNextToken();
+    atLineStart_ = token.type == TokenType::NEWLINE;
+    push(std::move(token));
+}
+
+/// Adds a token that reaches from where it began to the cursor.
+void Lexer::push(Token token) {
+    scanned_.tokens.push_back(std::move(token));
+    scanned_.places.push_back({static_cast<std::uint32_t>(tokenStart_), static_cast<std::uint32_t>(position_)});
 }
 
 /// The steps at the start of a line. False if they used the line up: it was blank or held only a comment.
@@ -39,7 +69,7 @@ bool Lexer::startLine() {
     const std::size_t width = getCurrentIndent();
     // The width is a measure, not a count of bytes: after a tab this lands further on than the blanks reach.
     position_ += width;
-    if (position_ > source_.size()) {
+    if (position_ > text_.size()) {
         throw std::out_of_range("indentation reaches past the end of the text");
     }
     if (peek() == '\n') {
@@ -68,7 +98,7 @@ void Lexer::checkBlanksAreUniform() const {
 
 std::size_t Lexer::getCurrentIndent() const {
     std::size_t width = 0;
-    for (const char blank : std::string_view(source_).substr(lineStart_)) {
+    for (const char blank : text_.substr(lineStart_)) {
         if (blank == ' ') {
             ++width;
         } else if (blank == '\t') {
@@ -81,13 +111,14 @@ std::size_t Lexer::getCurrentIndent() const {
 }
 
 void Lexer::changeIndent(std::size_t width) {
+    tokenStart_ = position_;
     if (width > indents_.back()) {
         indents_.push_back(width);
-        tokens_.push_back(makeToken(TokenType::INDENT, std::to_string(width)));
+        push(makeToken(TokenType::INDENT, std::to_string(width)));
     }
     while (width < indents_.back()) {
         indents_.pop_back();
-        tokens_.push_back(makeToken(TokenType::DEDENT, std::to_string(indents_.back())));
+        push(makeToken(TokenType::DEDENT, std::to_string(indents_.back())));
         if (indents_.back() < width) {
             பிழை("பொழி-111");
         }
@@ -95,29 +126,30 @@ void Lexer::changeIndent(std::size_t width) {
 }
 
 void Lexer::closeIndents() {
+    tokenStart_ = position_;
     while (indents_.back() > 0) {
         indents_.pop_back();
-        tokens_.push_back(makeToken(TokenType::DEDENT, "0"));
+        push(makeToken(TokenType::DEDENT, "0"));
     }
-    tokens_.push_back(makeToken(TokenType::END_OF_FILE, ""));
+    push(makeToken(TokenType::END_OF_FILE, ""));
 }
 
 /// The byte at the cursor; 0 at the end, so that a NUL byte reads as the end of the text.
 char Lexer::peek() const {
-    return position_ < source_.size() ? source_[position_] : '\0';
+    return position_ < text_.size() ? text_[position_] : '\0';
 }
 
 /// Takes one whole UTF-8 character, or what the end of the text leaves of it, and returns its first byte.
 char Lexer::advance() {
     const char lead = peek();
     if (lead != 0) {
-        position_ = std::min(position_ + getUTF8SequenceLength(lead), source_.size());
+        position_ = std::min(position_ + getUTF8SequenceLength(lead), text_.size());
     }
     return lead;
 }
 
 std::string_view Lexer::rest() const {
-    return std::string_view(source_).substr(position_);
+    return text_.substr(position_);
 }
 
 std::string_view Lexer::character() const {
@@ -126,7 +158,7 @@ std::string_view Lexer::character() const {
 }
 
 std::string_view Lexer::textSince(std::size_t start) const {
-    return std::string_view(source_).substr(start, position_ - start);
+    return text_.substr(start, position_ - start);
 }
 
 void Lexer::skipWhitespace() {
@@ -155,19 +187,19 @@ void Lexer::skipComments() {
 
 void Lexer::skipBlockComment() {
     const std::size_t opening = position_ + BLOCK_COMMENT.size();
-    const std::size_t closing = source_.find(BLOCK_COMMENT, opening);
-    if (closing == std::string::npos) {
+    const std::size_t closing = text_.find(BLOCK_COMMENT, opening);
+    if (closing == std::string_view::npos) {
         பிழை("பொழி-118");
     }
-    const std::string_view comment = std::string_view(source_).substr(opening, closing - opening);
+    const std::string_view comment = text_.substr(opening, closing - opening);
     line_ += static_cast<std::int32_t>(std::count(comment.begin(), comment.end(), '\n'));
     position_ = closing + BLOCK_COMMENT.size();
 }
 
 void Lexer::பிழை(const std::string& code) const {
-    const std::string_view fromLineStart = std::string_view(source_).substr(lineStart_);
+    const std::string_view fromLineStart = text_.substr(lineStart_);
     std::string lineText(fromLineStart.substr(0, fromLineStart.find('\n')));
-    throw Fault{பிழைவகை::சொல்_பிழை, code, fileName_, line_, "", std::move(lineText)};
+    throw Fault{பிழைவகை::சொல்_பிழை, code, source_->path, line_, "", std::move(lineText)};
 }
 
 } // namespace pozhil

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "scanner/token.h"
+#include "scanner/scanned_source.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -12,9 +13,11 @@ namespace pozhil {
 
 /// Turns the text of one source file into tokens. Indentation becomes INDENT and DEDENT, line ends become NEWLINE.
 ///
-/// The first fault in the text ends the scan; nothing is repaired.
+/// The first fault in the text ends the scan, unless somebody asks for more of them.
 class Lexer {
 public:
+    explicit Lexer(SourcePtr source);
+
     /// \param source the whole text, without carriage returns
     /// \param fileName the path that diagnostics show
     Lexer(std::string source, std::string fileName);
@@ -24,8 +27,14 @@ public:
 
     /// Scans the whole text. The last token is END_OF_FILE; so is the one before the closing DEDENTs if blanks end
     /// the text.
+    /// \param maxFaults how many faults to keep and to go on after, the last one ending the scan; 0 to throw the first
     /// \throws Fault
     /// \throws std::out_of_range if a line's tabs measure wider than the text that is left
+    ScannedSource scan(std::size_t maxFaults = 0);
+
+    /// The tokens alone.
+    /// \throws Fault
+    /// \throws std::out_of_range like scan
     std::vector<Token> tokenize();
 
 private:
@@ -44,6 +53,13 @@ private:
     void skipWhitespace();
     void skipToLineEnd();
     [[noreturn]] void பிழை(const std::string& code) const;
+
+    // What the scan is made of, and what it goes on with after a fault (lexer.cpp, lexer_recovery.cpp).
+    void scanStep();
+    void push(Token token);
+    void resumeAfter(Fault fault);
+    bool resumeLine(const std::string& code);
+    void skipFaultyText(const std::string& code);
 
     // Line starts (lexer.cpp).
     bool startLine();
@@ -70,14 +86,17 @@ private:
     std::string_view followingWord() const;
     bool isSplitKeyword(std::string_view word) const;
 
-    std::string source_;
-    std::string fileName_;
+    SourcePtr source_;
+    /// The text of the source.
+    std::string_view text_;
     std::size_t position_ = 0;
+    /// Where the token under construction begins.
+    std::size_t tokenStart_ = 0;
     std::int32_t line_ = 1;
     std::size_t lineStart_ = 0;
     std::vector<std::size_t> indents_{0};
     bool atLineStart_ = true;
-    std::vector<Token> tokens_;
+    ScannedSource scanned_;
     std::unordered_map<std::string_view, WordFacts> words_;
 };
 

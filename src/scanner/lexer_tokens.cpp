@@ -66,6 +66,7 @@ TokenType symbolType(char c) {
 
 Token Lexer::getNextToken() {
     skipComments();
+    tokenStart_ = position_;
     const char next = peek();
     if (next == '\n') {
         return scanNewline();

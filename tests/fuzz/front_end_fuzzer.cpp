@@ -6,7 +6,7 @@
 /// A failing input is kept beside the current directory as failure-<number>.பொழில்.
 
 #include "base/source_text.h"
-#include "driver/front_end.h"
+#include "driver/translation.h"
 #include "mutator.h"
 
 #include <algorithm>
@@ -48,12 +48,8 @@ std::vector<std::string> readCorpus(const std::vector<std::string>& folders) {
     alarm(SECONDS_PER_INPUT);
     const int nowhere = open("/dev/null", O_WRONLY);
     dup2(nowhere, STDOUT_FILENO);
-    pozhil::SourceFile source;
-    source.path = "சோதனை.பொழில்";
-    source.text = text;
     try {
-        pozhil::parseSource(source, {});
-        pozhil::generateText(source);
+        pozhil::generateText(pozhil::parseSource(pozhil::makeSource("சோதனை.பொழில்", text), {}));
     } catch (const pozhil::StageFailure&) {
         std::exit(1);
     }

@@ -1,4 +1,5 @@
-#include "driver/front_end.h"
+#include "driver/console/stage_report.h"
+#include "front_end/front_end.h"
 #include "support/generating.h"
 
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "driver/front_end.h"
+#include "driver/translation.h"
 #include "driver/web/emscripten_environment.h"
 #include "driver/web/precompiled_runtime.h"
 #include "platform/process.h"

@@ -1,5 +1,6 @@
 #include "driver/web/web_mode.h"
 
+#include "driver/console/stage_report.h"
 #include "driver/server/local_server.h"
 #include "driver/source_watch.h"
 #include "driver/web/web_build.h"
@@ -11,7 +12,7 @@
 
 namespace pozhil {
 
-void runWeb(const SourceFile& source, const OutputText& output, const std::vector<std::string>& moduleDirectories,
+void runWeb(const ParsedSource& source, const OutputText& output, const FrontEndOptions& options,
             const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory) {
     const std::string address = "http://127.0.0.1:" + std::to_string(LOCAL_SERVER_PORT);
     WebBuild build(appDirectory, temporaryDirectory);
@@ -26,13 +27,13 @@ void runWeb(const SourceFile& source, const OutputText& output, const std::vecto
 
     WatchSteps steps;
     steps.changeNote = "\n🔄 மாற்றம் கண்டறியப்பட்டது! வலைத்தளம் புதுப்பிக்கப்படுகிறது...";
-    steps.build = [&](const SourceFile& changed, const OutputText& changedOutput) {
+    steps.build = [&](const ParsedSource& changed, const OutputText& changedOutput) {
         if (build.run(changed.program, changedOutput)) {
             std::cout << "✅ தளம் புதுப்பிக்கப்பட்டது! பிரவுசரில் பார்க்கவும்." << std::endl;
         }
     };
     steps.reportFailure = reportWebWatchFailure;
-    watchSource(source.path, moduleDirectories, steps);
+    watchSource(source.source->path, options, steps);
 }
 
 } // namespace pozhil

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "driver/front_end.h"
+#include "driver/translation.h"
 
 #include <filesystem>
 #include <string>
@@ -14,8 +14,7 @@ namespace pozhil {
 /// \param appDirectory the installation
 /// \param temporaryDirectory where the output text is written for em++
 /// \throws std::filesystem::filesystem_error if the source file vanishes
-[[noreturn]] void runWeb(const SourceFile& source, const OutputText& output,
-                         const std::vector<std::string>& moduleDirectories, const std::filesystem::path& appDirectory,
-                         const std::filesystem::path& temporaryDirectory);
+[[noreturn]] void runWeb(const ParsedSource& source, const OutputText& output, const FrontEndOptions& options,
+                         const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory);
 
 } // namespace pozhil

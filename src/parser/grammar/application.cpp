@@ -76,11 +76,12 @@ StatementPtr ApplicationGrammar::parseWebApp() {
 
 /// தலைமை ( properties )
 StatementPtr ApplicationGrammar::parseHeader() {
+    const std::size_t first = cursor_.position();
     cursor_.consume(TokenType::HEADER, "பொழி-243");
     cursor_.consume(TokenType::LPAREN, "பொழி-203");
     PropertyMap properties;
     parseItems(cursor_.indentation(), [&] { parseHeaderItem(properties); });
-    return std::make_unique<HeaderNode>("தலைமை", std::move(properties), StatementList(), ScreenConfig());
+    return placed(first, std::make_unique<HeaderNode>("தலைமை", std::move(properties), StatementList(), ScreenConfig()));
 }
 
 void ApplicationGrammar::parseHeaderItem(PropertyMap& properties) {
@@ -115,6 +116,7 @@ StatementPtr ApplicationGrammar::parseUIBody() {
 
 /// வரையறை ( statements ). What leaves no node, such as an enumeration, leaves a null entry.
 StatementPtr ApplicationGrammar::parseDefinition() {
+    const std::size_t first = cursor_.position();
     cursor_.consume(TokenType::DEFINITION, "பொழி-244");
     cursor_.consume(TokenType::LPAREN, "பொழி-203");
     auto block = std::make_unique<BlockStatement>();
@@ -122,15 +124,19 @@ StatementPtr ApplicationGrammar::parseDefinition() {
     SideBySide siblings(nesting_);
     while (cursor_.atListItem(level)) {
         siblings.next();
-        block->statements.push_back(parseStatement(false));
-        cursor_.accept(TokenType::COMMA);
+        const auto parseEntry = [&] {
+            block->statements.push_back(parseStatement(false));
+            cursor_.accept(TokenType::COMMA);
+        };
+        recovery_.attemptStatement(parseEntry, Recovery::Enclosure::Brackets);
     }
     cursor_.consume(TokenType::RPAREN, "பொழி-204");
-    return std::make_unique<LogicBlockNode>(std::move(block));
+    return placed(first, std::make_unique<LogicBlockNode>(placed(first, std::move(block))));
 }
 
 /// தரவுத்தளமேலாண்மை ( [ configuration ] )
 StatementPtr ApplicationGrammar::parseDatabaseManager() {
+    const std::size_t first = cursor_.position();
     cursor_.consume(TokenType::DATABASE_MANAGER, "பொழி-241");
     cursor_.consume(TokenType::LPAREN, "பொழி-203");
     StatementPtr configuration;
@@ -141,11 +147,12 @@ StatementPtr ApplicationGrammar::parseDatabaseManager() {
             cursor_.advance();
         }
     });
-    return std::make_unique<DatabaseManagerNode>(std::move(configuration));
+    return placed(first, std::make_unique<DatabaseManagerNode>(std::move(configuration)));
 }
 
 /// பயர்பேசு_அமைப்பு ( properties )
 StatementPtr ApplicationGrammar::parseFirebaseConfig() {
+    const std::size_t first = cursor_.position();
     cursor_.consume(TokenType::FIREBASE_CONFIG, "பொழி-241");
     cursor_.consume(TokenType::LPAREN, "பொழி-203");
     PropertyMap properties;
@@ -156,7 +163,7 @@ StatementPtr ApplicationGrammar::parseFirebaseConfig() {
             cursor_.advance();
         }
     });
-    return std::make_unique<FirebaseConfigNode>(std::move(properties));
+    return placed(first, std::make_unique<FirebaseConfigNode>(std::move(properties)));
 }
 
 } // namespace pozhil

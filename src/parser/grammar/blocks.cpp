@@ -10,19 +10,22 @@ std::unique_ptr<BlockStatement> BlockGrammar::parseBlockStatement(bool inStruct)
     cursor_.consume(TokenType::NEWLINE, "பொழி-202");
     cursor_.skipNewlines();
     cursor_.consume(TokenType::INDENT, "பொழி-202");
+    const std::size_t first = cursor_.position();
     auto block = std::make_unique<BlockStatement>();
     SideBySide siblings(nesting_);
     while (!cursor_.check(TokenType::DEDENT) && !cursor_.isAtEnd()) {
         siblings.next();
-        StatementPtr statement = parseStatement(inStruct);
-        const bool isNull = statement == nullptr;
-        if (!isNull) {
-            block->statements.push_back(std::move(statement));
-        }
-        endStatementInBlock(isNull);
+        recovery_.attemptStatement([&] {
+            StatementPtr statement = parseStatement(inStruct);
+            const bool isNull = statement == nullptr;
+            if (!isNull) {
+                block->statements.push_back(std::move(statement));
+            }
+            endStatementInBlock(isNull);
+        });
     }
     cursor_.consume(TokenType::DEDENT, "பொழி-292");
-    return block;
+    return placed(first, std::move(block));
 }
 
 void BlockGrammar::endStatementInBlock(bool isNull) {

@@ -38,7 +38,8 @@ StatementPtr ControlFlowGrammar::parseIfStatement() {
     parts.next();
     if (cursor_.checkKeyword("இல்லைஎனில்")) {
         nesting_.enter();
-        elseBranch = parseIfStatement();
+        const std::size_t first = cursor_.position();
+        elseBranch = placed(first, parseIfStatement());
     } else if (cursor_.checkKeyword("இல்லை")) {
         cursor_.advance();
         elseBranch = parse_.blocks.parseColonAndBlock();

@@ -25,30 +25,30 @@ ExpressionPtr DatabaseGrammar::parseDatabasePath(std::int32_t line) {
 
 /// word ( path ) { entries }
 template <class Node> ExpressionPtr DatabaseGrammar::parseRTDBWrite() {
+    const std::size_t first = cursor_.position();
     const std::int32_t line = cursor_.advance().line;
     SideBySide parts(nesting_);
     ExpressionPtr path = parseDatabasePath(line);
     cursor_.skipNewlines();
     cursor_.consume(TokenType::LBRACE, "பொழி-206");
     parts.next();
+    const std::size_t brace = cursor_.position() - 1;
     auto data = std::make_unique<MapLiteral>();
     data->line = line;
     parse_.primaries.parseMapEntries(*data, PrimaryGrammar::KeyLayout::Skipped);
     cursor_.consume(TokenType::RBRACE, "பொழி-206");
-    auto node = std::make_unique<Node>(std::move(path), std::move(data));
-    node->line = line;
-    return node;
+    return makeNode<Node>(first, line, std::move(path), placed(brace, std::move(data)));
 }
 
 /// நிகழ்நேர.தரவுஅழி ( path )
 ExpressionPtr DatabaseGrammar::parseRTDBDeleteExpression() {
+    const std::size_t first = cursor_.position();
     const std::int32_t line = cursor_.advance().line;
-    auto node = std::make_unique<RTDBDeleteExpression>(parseDatabasePath(line));
-    node->line = line;
-    return node;
+    return makeNode<RTDBDeleteExpression>(first, line, parseDatabasePath(line));
 }
 
 StatementPtr DatabaseGrammar::parseRTDBReadStatement() {
+    const std::size_t first = cursor_.position();
     const std::int32_t line = cursor_.advance().line;
     SideBySide parts(nesting_);
     ExpressionPtr path = parseDatabasePath(line);
@@ -57,14 +57,15 @@ StatementPtr DatabaseGrammar::parseRTDBReadStatement() {
     StatementList body;
     for (cursor_.skipLayout(); !cursor_.check(TokenType::RBRACE) && !cursor_.isAtEnd(); cursor_.skipLayout()) {
         parts.next();
-        if (StatementPtr statement = parseStatement(false)) {
-            body.push_back(std::move(statement));
-        }
+        const auto parseEntry = [&] {
+            if (StatementPtr statement = parseStatement(false)) {
+                body.push_back(std::move(statement));
+            }
+        };
+        recovery_.attemptStatement(parseEntry, Recovery::Enclosure::Brackets);
     }
     cursor_.consume(TokenType::RBRACE, "பொழி-206");
-    auto node = std::make_unique<RTDBReadStatement>(std::move(path), std::move(body));
-    node->line = line;
-    return node;
+    return makeNode<RTDBReadStatement>(first, line, std::move(path), std::move(body));
 }
 
 } // namespace pozhil

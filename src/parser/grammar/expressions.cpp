@@ -26,12 +26,6 @@ bool isAssignmentOperator(TokenType type) {
            type == TokenType::INCREMENT || type == TokenType::DECREMENT;
 }
 
-template <class Node, class... Arguments> ExpressionPtr makeNode(std::int32_t line, Arguments&&... arguments) {
-    auto node = std::make_unique<Node>(std::forward<Arguments>(arguments)...);
-    node->line = line;
-    return node;
-}
-
 template <class Node> Node* as(const ExpressionPtr& expression) {
     return dynamic_cast<Node*>(expression.get());
 }
@@ -47,6 +41,7 @@ ExpressionPtr ExpressionGrammar::parseAssignment() {
     if (isArrowFunctionAhead()) {
         return parseArrowFunction();
     }
+    const std::size_t first = cursor_.position();
     ExpressionPtr left = parseTernary();
     if (cursor_.check(TokenType::COLON)) {
         auto* get = as<GetExpression>(left);
@@ -56,16 +51,16 @@ ExpressionPtr ExpressionGrammar::parseAssignment() {
             nesting_.enter();
             const std::int32_t line = cursor_.advance().line;
             ExpressionPtr value = parseAssignment();
-            return makeNode<SetMemberExpression>(line, std::move(get->object), std::move(get->member),
+            return makeNode<SetMemberExpression>(first, line, std::move(get->object), std::move(get->member),
                                                  std::move(value));
         }
     }
-    return isAssignmentOperator(cursor_.peek().type) ? parseAssignedValue(std::move(left)) : std::move(left);
+    return isAssignmentOperator(cursor_.peek().type) ? parseAssignedValue(std::move(left), first) : std::move(left);
 }
 
 /// The operator and value after an assignment's target. An element and a member are simply set: only a name keeps its
 /// compound operator.
-ExpressionPtr ExpressionGrammar::parseAssignedValue(ExpressionPtr left) {
+ExpressionPtr ExpressionGrammar::parseAssignedValue(ExpressionPtr left, std::size_t first) {
     nesting_.enter();
     Token op = cursor_.advance();
     const std::int32_t line = op.line;
@@ -75,14 +70,15 @@ ExpressionPtr ExpressionGrammar::parseAssignedValue(ExpressionPtr left) {
         arguments.push_back(std::move(element->object));
         arguments.push_back(std::move(element->index));
         arguments.push_back(std::move(value));
-        return makeNode<CallExpression>(line, std::make_unique<VariableAccess>("_set_index_internal"),
-                                        std::move(arguments));
+        return makeNode<CallExpression>(
+            first, line, placed(first, std::make_unique<VariableAccess>("_set_index_internal")), std::move(arguments));
     }
     if (auto* get = as<GetExpression>(left)) {
-        return makeNode<SetMemberExpression>(line, std::move(get->object), std::move(get->member), std::move(value));
+        return makeNode<SetMemberExpression>(first, line, std::move(get->object), std::move(get->member),
+                                             std::move(value));
     }
     if (auto* variable = as<VariableAccess>(left)) {
-        return makeNode<AssignmentExpression>(line, std::move(variable->name), std::move(op), std::move(value));
+        return makeNode<AssignmentExpression>(first, line, std::move(variable->name), std::move(op), std::move(value));
     }
     cursor_.பிழை("பொழி-211", line);
 }
@@ -112,6 +108,7 @@ bool ExpressionGrammar::isArrowFunctionAhead() {
 
 /// name => expr, or ( names ) => expr
 ExpressionPtr ExpressionGrammar::parseArrowFunction() {
+    const std::size_t first = cursor_.position();
     const std::int32_t line = cursor_.peek().line;
     std::vector<Token> parameters;
     if (cursor_.accept(TokenType::LPAREN)) {
@@ -130,11 +127,12 @@ ExpressionPtr ExpressionGrammar::parseArrowFunction() {
     if (!isOneToken) {
         cursor_.advance();
     }
-    return makeNode<LambdaExpression>(line, std::move(parameters), parseExpression());
+    return makeNode<LambdaExpression>(first, line, std::move(parameters), parseExpression());
 }
 
 /// condition எனில் a இல்லைஎனில் b, or condition ? a : b
 ExpressionPtr ExpressionGrammar::parseTernary() {
+    const std::size_t first = cursor_.position();
     SideBySide parts(nesting_);
     ExpressionPtr condition = parseBinary(LOOSEST_LEVEL);
     if (!cursor_.checkKeyword("எனில்") && !cursor_.check(TokenType::QUESTION)) {
@@ -149,11 +147,12 @@ ExpressionPtr ExpressionGrammar::parseTernary() {
     cursor_.advance();
     parts.next();
     ExpressionPtr elseBranch = parseTernary();
-    return makeNode<TernaryExpression>(line, std::move(condition), std::move(thenBranch), std::move(elseBranch));
+    return makeNode<TernaryExpression>(first, line, std::move(condition), std::move(thenBranch), std::move(elseBranch));
 }
 
 /// Operands joined by operators of this level or tighter ones; equal levels group to the left.
 ExpressionPtr ExpressionGrammar::parseBinary(int loosestLevel) {
+    const std::size_t first = cursor_.position();
     SideBySide operands(nesting_);
     ExpressionPtr left = parseUnary();
     while (true) {
@@ -165,9 +164,11 @@ ExpressionPtr ExpressionGrammar::parseBinary(int loosestLevel) {
         Token op = cursor_.advance();
         const std::int32_t line = op.line;
         ExpressionPtr right = parseBinary(level + 1);
-        left = level <= LAST_LOGICAL_LEVEL
-                   ? makeNode<LogicalExpression>(line, std::move(left), std::move(op), std::move(right))
-                   : makeNode<BinaryExpression>(line, std::move(left), std::move(op), std::move(right));
+        if (level <= LAST_LOGICAL_LEVEL) {
+            left = makeNode<LogicalExpression>(first, line, std::move(left), std::move(op), std::move(right));
+        } else {
+            left = makeNode<BinaryExpression>(first, line, std::move(left), std::move(op), std::move(right));
+        }
     }
 }
 
@@ -180,26 +181,29 @@ ExpressionPtr ExpressionGrammar::parseUnary() {
         return parseCall();
     }
     nesting_.enter();
+    const std::size_t first = cursor_.position();
     Token op = cursor_.advance();
     const std::int32_t line = op.line;
-    return makeNode<UnaryExpression>(line, std::move(op), parseUnary());
+    return makeNode<UnaryExpression>(first, line, std::move(op), parseUnary());
 }
 
 /// A primary with any number of calls, members and indices after it.
 ExpressionPtr ExpressionGrammar::parseCall() {
+    const std::size_t first = cursor_.position();
     SideBySide links(nesting_);
     ExpressionPtr left = parse_.primaries.parsePrimary();
     while (true) {
         const std::int32_t line = cursor_.peek().line;
         if (cursor_.accept(TokenType::LPAREN)) {
             links.wrap();
-            left = makeNode<CallExpression>(line, std::move(left), parseArguments(line));
+            left = makeNode<CallExpression>(first, line, std::move(left), parseArguments(line));
         } else if (cursor_.accept(TokenType::DOT) || cursor_.accept(TokenType::ARROW)) {
             links.wrap();
-            left = parseMember(std::move(left));
+            left = parseMember(std::move(left), first);
         } else if (cursor_.accept(TokenType::LBRACKET)) {
             links.wrap();
-            left = parseIndexExpression(std::move(left), line);
+            ExpressionPtr index = parseIndex(line);
+            left = makeNode<IndexExpression>(first, line, std::move(left), std::move(index));
         } else {
             return left;
         }
@@ -207,19 +211,19 @@ ExpressionPtr ExpressionGrammar::parseCall() {
 }
 
 /// The name after a dot. A member of an enumeration becomes its number at once.
-ExpressionPtr ExpressionGrammar::parseMember(ExpressionPtr object) {
+ExpressionPtr ExpressionGrammar::parseMember(ExpressionPtr object, std::size_t first) {
     Token member = cursor_.consumeName("பொழி-210");
     if (const auto* variable = as<VariableAccess>(object)) {
         const auto enumeration = declarations_.enums.find(variable->name);
         if (enumeration != declarations_.enums.end()) {
             const auto ordinal = enumeration->second.find(member.value);
             if (ordinal != enumeration->second.end()) {
-                return std::make_unique<NumberLiteral>(std::to_string(ordinal->second));
+                return placed(first, std::make_unique<NumberLiteral>(std::to_string(ordinal->second)));
             }
         }
     }
     const std::int32_t line = member.line;
-    return makeNode<GetExpression>(line, std::move(object), std::move(member));
+    return makeNode<GetExpression>(first, line, std::move(object), std::move(member));
 }
 
 ExpressionList ExpressionGrammar::parseArguments(std::int32_t line) {
@@ -235,13 +239,15 @@ ExpressionList ExpressionGrammar::parseArguments(std::int32_t line) {
     return arguments;
 }
 
-ExpressionPtr ExpressionGrammar::parseIndexExpression(ExpressionPtr object, std::int32_t line) {
+/// expr ], the bracket already taken.
+ExpressionPtr ExpressionGrammar::parseIndex(std::int32_t line) {
     ExpressionPtr index = parseExpression();
     cursor_.consume(TokenType::RBRACKET, "பொழி-205", line);
-    return makeNode<IndexExpression>(line, std::move(object), std::move(index));
+    return index;
 }
 
 ExpressionPtr ExpressionGrammar::parseLambdaExpression() {
+    const std::size_t first = cursor_.position();
     const std::int32_t line = cursor_.advance().line;
     const bool hasParenthesis = cursor_.accept(TokenType::LPAREN);
     std::vector<Token> parameters;
@@ -259,9 +265,7 @@ ExpressionPtr ExpressionGrammar::parseLambdaExpression() {
         cursor_.consume(TokenType::RPAREN, "பொழி-204");
     }
     cursor_.consume(TokenType::COLON, "பொழி-202");
-    auto lambda = std::make_unique<LambdaExpression>(std::move(parameters), parseExpression());
-    lambda->line = line;
-    return lambda;
+    return makeNode<LambdaExpression>(first, line, std::move(parameters), parseExpression());
 }
 
 } // namespace pozhil

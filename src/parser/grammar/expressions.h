@@ -16,7 +16,7 @@ public:
 
 private:
     ExpressionPtr parseAssignment();
-    ExpressionPtr parseAssignedValue(ExpressionPtr left);
+    ExpressionPtr parseAssignedValue(ExpressionPtr left, std::size_t first);
     bool isArrowAt(std::size_t offset) const;
     bool isArrowFunctionAhead();
     ExpressionPtr parseArrowFunction();
@@ -24,9 +24,9 @@ private:
     ExpressionPtr parseBinary(int loosestLevel);
     ExpressionPtr parseUnary();
     ExpressionPtr parseCall();
-    ExpressionPtr parseMember(ExpressionPtr object);
+    ExpressionPtr parseMember(ExpressionPtr object, std::size_t first);
     ExpressionList parseArguments(std::int32_t line);
-    ExpressionPtr parseIndexExpression(ExpressionPtr object, std::int32_t line);
+    ExpressionPtr parseIndex(std::int32_t line);
 };
 
 } // namespace pozhil

@@ -30,11 +30,14 @@ StatementPtr FunctionGrammar::parseFunctionDefinitionStatement(bool inStruct) {
 
 /// It may do without தான், unlike a method after a visibility word.
 std::unique_ptr<FunctionDefinitionStatement> FunctionGrammar::parseMethod() {
+    const std::size_t first = cursor_.position();
     cursor_.advance();
     Token name = cursor_.consumeName("பொழி-231");
     std::vector<Param> params = parseParameters(name.line, false);
     cursor_.consume(TokenType::COLON, "பொழி-202");
-    return std::make_unique<FunctionDefinitionStatement>(std::move(name), std::move(params), parseFunctionBody());
+    auto body = parseFunctionBody();
+    return placed(first,
+                  std::make_unique<FunctionDefinitionStatement>(std::move(name), std::move(params), std::move(body)));
 }
 
 /// ( [ [மாற்று] name { , [மாற்று] name } ] ); faults of the brackets are reported at \p line.

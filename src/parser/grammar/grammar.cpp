@@ -5,7 +5,8 @@
 namespace pozhil {
 
 Grammar::Grammar(FileParse& parse)
-    : parse_(parse), cursor_(parse.cursor), nesting_(parse.nesting), declarations_(parse.declarations) {}
+    : parse_(parse), cursor_(parse.cursor), nesting_(parse.nesting), recovery_(parse.recovery),
+      declarations_(parse.declarations) {}
 
 ExpressionPtr Grammar::parseExpression() {
     return parse_.expressions.parseExpression();
@@ -27,6 +28,12 @@ ExpressionPtr Grammar::parsePropertyValue() {
 void Grammar::parseProperty(PropertyMap& properties, const std::string& name) {
     cursor_.advance();
     properties.insert_or_assign(name, parsePropertyValue());
+}
+
+void Grammar::notePlace(const void* node, std::size_t first) {
+    if (!parse_.scanned.places.empty()) {
+        parse_.session.places.add(node, parse_.sourceNumber, cursor_.rangeFrom(first));
+    }
 }
 
 } // namespace pozhil

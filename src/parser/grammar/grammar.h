@@ -2,10 +2,14 @@
 
 #include "parser/declarations.h"
 #include "parser/nesting_limit.h"
+#include "parser/recovery.h"
 #include "parser/syntax_tree.h"
 #include "parser/token_cursor.h"
 
+#include <cstddef>
 #include <memory>
+#include <string>
+#include <utility>
 
 namespace pozhil {
 
@@ -47,15 +51,36 @@ protected:
         SideBySide siblings(nesting_);
         while (cursor_.nextListItem(level)) {
             siblings.next();
-            parseItem();
+            recovery_.attemptItem(level, parseItem);
         }
         cursor_.consume(TokenType::RPAREN, "பொழி-204", line);
+    }
+
+    /// \p node, whose place is noted as the text from token \p first up to the cursor. Null has no place.
+    template <class Pointer> Pointer placed(std::size_t first, Pointer node) {
+        if (node != nullptr) {
+            notePlace(node.get(), first);
+        }
+        return node;
+    }
+
+    /// A node of this line, whose place is noted as the text from token \p first up to the cursor.
+    template <class Node, class... Arguments>
+    std::unique_ptr<Node> makeNode(std::size_t first, std::int32_t line, Arguments&&... arguments) {
+        auto node = std::make_unique<Node>(std::forward<Arguments>(arguments)...);
+        node->line = line;
+        notePlace(node.get(), first);
+        return node;
     }
 
     FileParse& parse_;
     TokenCursor& cursor_;
     NestingLimit& nesting_;
+    Recovery& recovery_;
     Declarations& declarations_;
+
+private:
+    void notePlace(const void* node, std::size_t first);
 };
 
 } // namespace pozhil

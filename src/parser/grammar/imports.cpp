@@ -18,6 +18,7 @@ StatementPtr ImportGrammar::parseImportStatement() {
     if (source == nullptr) {
         cursor_.பிழை("பொழி-281", line);
     }
+    recovery_.noteScanFaults();
     parseImportedFile(source);
     return nullptr;
 }
@@ -25,8 +26,9 @@ StatementPtr ImportGrammar::parseImportStatement() {
 /// Faults of the grammar in it name no file: the importing file isn't to blame, and a name without its source line would
 /// mislead.
 void ImportGrammar::parseImportedFile(const SourcePtr& source) {
-    FileParse imported(parse_.session, Lexer(source->text, source->path).tokenize(), makeSource("", ""),
-                       nesting_.height());
+    const FaultLog* faults = parse_.session.faults;
+    ScannedSource scanned = Lexer(source).scan(faults == nullptr ? 0 : faults->limit());
+    FileParse imported(parse_.session, std::move(scanned), makeSource("", ""), nesting_.height());
     Program program = imported.statements.parseProgram();
     declarations_.merge(std::move(imported.declarations));
     statements_.insert(statements_.end(), std::make_move_iterator(program.statements.begin()),

@@ -6,24 +6,6 @@
 #include <utility>
 
 namespace pozhil {
-namespace {
-
-template <class Node> ExpressionPtr literal(const Token& token) {
-    auto node = std::make_unique<Node>(token.value);
-    node->line = token.line;
-    return node;
-}
-
-ExpressionPtr colorOrText(const Token& token) {
-    if (token.value.empty() || token.value.front() != '#') {
-        return literal<StringLiteral>(token);
-    }
-    auto node = std::make_unique<ColorExpression>(token.value, true);
-    node->line = token.line;
-    return node;
-}
-
-} // namespace
 
 /// The innermost part of an expression: a literal, a name, or something in brackets.
 ExpressionPtr PrimaryGrammar::parsePrimary() {
@@ -47,33 +29,48 @@ ExpressionPtr PrimaryGrammar::parsePrimary() {
 
 /// An expression in parentheses, the last that may stand here.
 ExpressionPtr PrimaryGrammar::parseGrouping() {
+    const std::size_t first = cursor_.position();
     const std::int32_t line = cursor_.peek().line;
     if (!cursor_.accept(TokenType::LPAREN)) {
         cursor_.பிழை("பொழி-201", line);
     }
     ExpressionPtr inner = parseExpression();
     cursor_.consume(TokenType::RPAREN, "பொழி-204", line);
-    auto node = std::make_unique<GroupingExpression>(std::move(inner));
-    node->line = line;
-    return node;
+    return makeNode<GroupingExpression>(first, line, std::move(inner));
+}
+
+/// The token at the cursor as a node of its own.
+template <class Node> ExpressionPtr PrimaryGrammar::makeLeaf() {
+    const std::size_t first = cursor_.position();
+    const Token& token = cursor_.advance();
+    return makeNode<Node>(first, token.line, token.value);
 }
 
 /// A literal, null if none begins here. A text that starts with "#" is a colour wherever it stands.
 ExpressionPtr PrimaryGrammar::parseLiteral() {
     switch (cursor_.peek().type) {
-    case TokenType::STRING: return colorOrText(cursor_.advance());
-    case TokenType::BOOLEAN: return literal<BooleanLiteral>(cursor_.advance());
-    case TokenType::CHAR: return literal<CharLiteral>(cursor_.advance());
-    case TokenType::PERCENT: return literal<PercentageLiteral>(cursor_.advance());
+    case TokenType::STRING: return parseText();
+    case TokenType::BOOLEAN: return makeLeaf<BooleanLiteral>();
+    case TokenType::CHAR: return makeLeaf<CharLiteral>();
+    case TokenType::PERCENT: return makeLeaf<PercentageLiteral>();
     case TokenType::NUMBER: {
-        const Token& number = cursor_.advance();
-        const bool hasPoint = number.value.find('.') != std::string::npos;
-        return hasPoint ? literal<DoubleLiteral>(number) : literal<NumberLiteral>(number);
+        const bool hasPoint = cursor_.peek().value.find('.') != std::string::npos;
+        return hasPoint ? makeLeaf<DoubleLiteral>() : makeLeaf<NumberLiteral>();
     }
-    case TokenType::LBRACKET: return parseListLiteral(cursor_.advance().line);
-    case TokenType::LBRACE: return parseMapLiteral(cursor_.advance().line);
+    case TokenType::LBRACKET: return parseListLiteral();
+    case TokenType::LBRACE: return parseMapLiteral();
     default: return nullptr;
     }
+}
+
+ExpressionPtr PrimaryGrammar::parseText() {
+    const std::string& text = cursor_.peek().value;
+    if (text.empty() || text.front() != '#') {
+        return makeLeaf<StringLiteral>();
+    }
+    const std::size_t first = cursor_.position();
+    const Token& token = cursor_.advance();
+    return makeNode<ColorExpression>(first, token.line, token.value, true);
 }
 
 /// A name that is read, null if none begins here. Most words of the vocabulary can be names too; a statement's own word
@@ -83,25 +80,31 @@ ExpressionPtr PrimaryGrammar::parseName() {
     case TokenType::KEYWORD:
     case TokenType::NAVIGATE:
     case TokenType::PAGE:
-    case TokenType::DEFINITION: return std::make_unique<VariableAccess>(cursor_.advance().value);
+    case TokenType::DEFINITION: {
+        ExpressionPtr name = makeLeaf<VariableAccess>();
+        name->line = 0;
+        return name;
+    }
     case TokenType::IDENTIFIER:
     case TokenType::HEADER:
     case TokenType::UI_BODY:
     case TokenType::STYLE:
     case TokenType::ON_PRESS:
     case TokenType::WIDTH:
-    case TokenType::HEIGHT: return literal<VariableAccess>(cursor_.advance());
+    case TokenType::HEIGHT: return makeLeaf<VariableAccess>();
     case TokenType::BACKGROUND: {
         // The colours are read as members of this one word: நிறம்.சிவப்பு
         const bool isColorWord = cursor_.peek().value == "நிறம்" && cursor_.peekAhead(1).type == TokenType::DOT;
-        return isColorWord ? literal<VariableAccess>(cursor_.advance()) : nullptr;
+        return isColorWord ? makeLeaf<VariableAccess>() : nullptr;
     }
-    default: return isWidgetToken(cursor_.peek()) ? literal<VariableAccess>(cursor_.advance()) : nullptr;
+    default: return isWidgetToken(cursor_.peek()) ? makeLeaf<VariableAccess>() : nullptr;
     }
 }
 
-/// Elements on one line, the bracket already taken. A comma may stand after the last.
-ExpressionPtr PrimaryGrammar::parseListLiteral(std::int32_t line) {
+/// Elements on one line. A comma may stand after the last.
+ExpressionPtr PrimaryGrammar::parseListLiteral() {
+    const std::size_t first = cursor_.position();
+    const std::int32_t line = cursor_.advance().line;
     auto list = std::make_unique<ListLiteral>();
     list->line = line;
     SideBySide siblings(nesting_);
@@ -116,16 +119,18 @@ ExpressionPtr PrimaryGrammar::parseListLiteral(std::int32_t line) {
         }
     }
     cursor_.consume(TokenType::RBRACKET, "பொழி-205", line);
-    return list;
+    return placed(first, std::move(list));
 }
 
-/// Entries over as many lines as they need, the brace already taken.
-std::unique_ptr<MapLiteral> PrimaryGrammar::parseMapLiteral(std::int32_t line) {
+/// Entries over as many lines as they need.
+ExpressionPtr PrimaryGrammar::parseMapLiteral() {
+    const std::size_t first = cursor_.position();
+    const std::int32_t line = cursor_.advance().line;
     auto map = std::make_unique<MapLiteral>();
     map->line = line;
     parseMapEntries(*map, KeyLayout::Kept);
     cursor_.consume(TokenType::RBRACE, "பொழி-206", line);
-    return map;
+    return placed(first, std::move(map));
 }
 
 void PrimaryGrammar::parseMapEntries(MapLiteral& map, KeyLayout afterKey) {

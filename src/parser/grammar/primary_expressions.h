@@ -21,8 +21,10 @@ private:
     ExpressionPtr parseGrouping();
     ExpressionPtr parseLiteral();
     ExpressionPtr parseName();
-    ExpressionPtr parseListLiteral(std::int32_t line);
-    std::unique_ptr<MapLiteral> parseMapLiteral(std::int32_t line);
+    template <class Node> ExpressionPtr makeLeaf();
+    ExpressionPtr parseText();
+    ExpressionPtr parseListLiteral();
+    ExpressionPtr parseMapLiteral();
 };
 
 } // namespace pozhil

@@ -79,24 +79,34 @@ Program StatementGrammar::parseProgram() {
             cursor_.பிழை("பொழி-291", cursor_.peek().line);
         }
         siblings.next();
-        const std::size_t start = cursor_.position();
-        StatementPtr statement = parseStatement(false);
-        if (statement != nullptr) {
-            program.statements.push_back(std::move(statement));
-        } else if (cursor_.check(TokenType::NEWLINE) || cursor_.check(TokenType::DEDENT) ||
-                   cursor_.position() == start) {
-            cursor_.advance();
-        }
-        cursor_.skipNewlines();
+        recovery_.attemptStatement([&] { parseTopLevelStatement(program); });
     }
+    recovery_.noteScanFaults();
     StatementList imported = parse_.imports.takeStatements();
     program.statements.insert(program.statements.begin(), std::make_move_iterator(imported.begin()),
                               std::make_move_iterator(imported.end()));
     return program;
 }
 
+void StatementGrammar::parseTopLevelStatement(Program& program) {
+    const std::size_t start = cursor_.position();
+    StatementPtr statement = parseStatement(false);
+    if (statement != nullptr) {
+        program.statements.push_back(std::move(statement));
+    } else if (cursor_.check(TokenType::NEWLINE) || cursor_.check(TokenType::DEDENT) || cursor_.position() == start) {
+        cursor_.advance();
+    }
+    cursor_.skipNewlines();
+}
+
 StatementPtr StatementGrammar::parseStatement(bool inStruct) {
     nesting_.enter();
+    const std::size_t first = cursor_.position();
+    return placed(first, chooseStatement(inStruct));
+}
+
+/// Most statements are told by their first token alone.
+StatementPtr StatementGrammar::chooseStatement(bool inStruct) {
     if (const StatementRule rule = statementRule(cursor_.peek())) {
         return rule(parse_);
     }

@@ -19,6 +19,8 @@ public:
     StatementPtr parseStatement(bool inStruct);
 
 private:
+    void parseTopLevelStatement(Program& program);
+    StatementPtr chooseStatement(bool inStruct);
     void checkStatementStart();
     StatementPtr parseStatementFromExpression(bool inStruct);
     StatementPtr parseExpressionStatement(ExpressionPtr expression);

@@ -37,8 +37,10 @@ StatementPtr StructureGrammar::parseStructDefinitionStatement() {
     SideBySide siblings(nesting_);
     while (!cursor_.check(TokenType::DEDENT) && !cursor_.isAtEnd()) {
         siblings.next();
-        parseStructMember(*structure);
-        cursor_.skipNewlines();
+        recovery_.attemptStatement([&] {
+            parseStructMember(*structure);
+            cursor_.skipNewlines();
+        });
     }
     cursor_.consume(TokenType::DEDENT, "பொழி-292");
     if (hasParent) {
@@ -73,10 +75,13 @@ void StructureGrammar::parseVisibilityGroup(StructDefinitionStatement& structure
     cursor_.skipLayout();
     while (!cursor_.check(TokenType::RPAREN) && !cursor_.isAtEnd()) {
         siblings.next();
-        if (cursor_.checkKeyword("பொது")) {
-            cursor_.பிழை("பொழி-210", cursor_.peek().line);
-        }
-        addMember(structure, parseStatement(true), isPrivate);
+        const auto parseMember = [&] {
+            if (cursor_.checkKeyword("பொது")) {
+                cursor_.பிழை("பொழி-210", cursor_.peek().line);
+            }
+            addMember(structure, parseStatement(true), isPrivate);
+        };
+        recovery_.attemptStatement(parseMember, Recovery::Enclosure::Brackets);
         cursor_.skipLayout();
     }
     cursor_.consume(TokenType::RPAREN, "பொழி-204", line);
@@ -84,7 +89,8 @@ void StructureGrammar::parseVisibilityGroup(StructDefinitionStatement& structure
 
 void StructureGrammar::parseSingleMember(StructDefinitionStatement& structure, bool isPrivate) {
     if (cursor_.check(TokenType::IDENTIFIER) && cursor_.peekAhead(1).type == TokenType::ASSIGN) {
-        addMember(structure, parseFieldDeclaration(), isPrivate);
+        const std::size_t first = cursor_.position();
+        addMember(structure, placed(first, parseFieldDeclaration()), isPrivate);
         cursor_.consume(TokenType::NEWLINE, "பொழி-202");
         return;
     }

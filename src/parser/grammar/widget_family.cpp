@@ -95,9 +95,12 @@ void WidgetFamily::parsePressHandler(WidgetNode& widget, PressForm form) {
     SideBySide siblings(nesting_);
     while (isStatement && cursor_.atListItem(level)) {
         siblings.next();
-        if (StatementPtr statement = parseStatement(false)) {
-            widget.eventStatements.push_back(std::move(statement));
-        }
+        const auto parseEntry = [&] {
+            if (StatementPtr statement = parseStatement(false)) {
+                widget.eventStatements.push_back(std::move(statement));
+            }
+        };
+        recovery_.attemptStatement(parseEntry, Recovery::Enclosure::Brackets);
     }
     cursor_.consume(TokenType::RPAREN, "பொழி-204");
 }

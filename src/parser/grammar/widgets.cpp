@@ -57,10 +57,11 @@ WidgetRule widgetRule(const Token& word) {
 
 WidgetPtr WidgetGrammar::parseWidget() {
     nesting_.enter();
+    const std::size_t first = cursor_.position();
     const Token& word = cursor_.advance();
     WidgetPtr widget = widgetRule(word)(parse_, word);
     widget->line = word.line;
-    return widget;
+    return placed(first, std::move(widget));
 }
 
 bool WidgetGrammar::isWidgetAhead() const {
@@ -78,10 +79,9 @@ bool WidgetGrammar::isWidgetAhead() const {
 }
 
 ExpressionPtr WidgetGrammar::parseWidgetExpression() {
+    const std::size_t first = cursor_.position();
     const std::int32_t line = cursor_.peek().line;
-    auto slot = std::make_unique<WidgetExpression>(parseWidget());
-    slot->line = line;
-    return slot;
+    return makeNode<WidgetExpression>(first, line, parseWidget());
 }
 
 } // namespace pozhil

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "front_end/front_end.h"
+
+#include <cstddef>
+#include <string>
+
+namespace pozhil {
+
+/// The output text of a program.
+struct OutputText {
+    std::string text;
+    /// How many bytes at its head are the runtime
+    std::size_t runtimeLength = 0;
+};
+
+/// Translates a parsed source into the output text.
+/// \throws Fault
+/// \throws StageFailure
+OutputText generateText(const ParsedSource& parsed);
+
+} // namespace pozhil
