@@ -42,7 +42,8 @@ struct FileParse {
     /// \param shownSource the source whose path and lines faults show
     /// \param nestingHeight that the tree has reached where the file is imported
     FileParse(ParseSession& theSession, ScannedSource theScanned, SourcePtr shownSource, int nestingHeight = 0)
-        : session(theSession), scanned(std::move(theScanned)), sourceNumber(session.places.addSource(scanned.source)),
+        : session(theSession), scanned(std::move(theScanned)),
+          sourceNumber(session.places.addSource(scanned.source, scanned.places.size())),
           cursor(scanned, std::move(shownSource)), nesting(cursor, nestingHeight),
           recovery(cursor, scanned, session.faults) {}
 
@@ -57,6 +58,7 @@ struct FileParse {
     NestingLimit nesting;
     Recovery recovery;
     Declarations declarations;
+    bool isInList = false;
 
     StatementGrammar statements{*this};
     BlockGrammar blocks{*this};

@@ -2,6 +2,8 @@
 
 #include "parser/token_cursor.h"
 
+#include <algorithm>
+
 namespace pozhil {
 
 /// Keeps trees from growing higher than the native stack bears: whatever walks a tree does so by recursion.
@@ -18,12 +20,21 @@ public:
 
     /// Counts one more level of the tree.
     /// \throws Fault if that is one too many
-    void enter();
+    void enter() {
+        if (++height_ > MAX_HEIGHT) {
+            raise();
+        }
+    }
 
     /// Height that the tree under construction has reached at most.
     int height() const { return height_; }
 
 private:
+    /// This many levels fit on the stack of every system; nobody writes that much by hand.
+    static constexpr int MAX_HEIGHT = 1000;
+
+    [[noreturn]] void raise() const;
+
     TokenCursor& cursor_;
     int height_;
 };
@@ -32,13 +43,20 @@ private:
 /// them, not as all of them together.
 class NestingLimit::SideBySide {
 public:
-    explicit SideBySide(NestingLimit& limit);
-    ~SideBySide();
+    explicit SideBySide(NestingLimit& limit)
+        : limit_(limit), base_(limit.height_), start_(limit.height_), highest_(limit.height_) {}
+    ~SideBySide() {
+        next();
+        limit_.height_ = highest_;
+    }
     SideBySide(const SideBySide&) = delete;
     SideBySide& operator=(const SideBySide&) = delete;
 
     /// Begins the next part.
-    void next();
+    void next() {
+        highest_ = std::max(highest_, limit_.height_);
+        limit_.height_ = start_;
+    }
 
     /// Begins the next part, which becomes the sibling of one node that holds all before it, as in a chain of operators.
     /// \throws Fault if that node is one level too many

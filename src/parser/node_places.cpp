@@ -7,7 +7,10 @@
 
 namespace pozhil {
 
-std::uint32_t NodePlaces::addSource(SourcePtr source) {
+std::uint32_t NodePlaces::addSource(SourcePtr source, std::size_t nodes) {
+    if (entries_.empty()) {
+        entries_.reserve(nodes);
+    }
     sources_.push_back(std::move(source));
     return static_cast<std::uint32_t>(sources_.size() - 1);
 }

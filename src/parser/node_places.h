@@ -14,8 +14,9 @@ namespace pozhil {
 class NodePlaces {
 public:
     /// Makes a source known.
+    /// \param nodes how many of its nodes are to be expected at most
     /// \return the number that add takes for it
-    std::uint32_t addSource(SourcePtr source);
+    std::uint32_t addSource(SourcePtr source, std::size_t nodes);
 
     /// Notes where a node stands. A node that takes the memory of one that is gone takes its place too.
     void add(const void* node, std::uint32_t source, ByteRange range) { entries_.push_back({node, source, range}); }

@@ -111,8 +111,8 @@ bool TokenCursor::restOfLineHolds(TokenType type, std::string_view afterText, st
 
 const Token& TokenCursor::advance() {
     if (!isAtEnd()) {
-        indentation_ += check(TokenType::INDENT) ? 1 : 0;
-        indentation_ -= check(TokenType::DEDENT) ? 1 : 0;
+        openIndents_ += check(TokenType::INDENT) ? 1 : 0;
+        openIndents_ -= check(TokenType::DEDENT) ? 1 : 0;
         ++current_;
     }
     return previous();
@@ -156,7 +156,7 @@ void TokenCursor::skipLayout() {
 /// opened the list, which stands at \p level.
 void TokenCursor::handleIndentation(int level) {
     while (check(TokenType::INDENT) || check(TokenType::DEDENT)) {
-        if (check(TokenType::DEDENT) && indentation_ <= level) {
+        if (check(TokenType::DEDENT) && indentation() <= level) {
             const std::int32_t line = peek().line;
             பிழை("பொழி-204", line < 2 ? line : line - 1);
         }

@@ -3,6 +3,7 @@
 #include "base/source_text.h"
 #include "scanner/scanned_source.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
@@ -17,6 +18,8 @@ using TokenKinds = std::initializer_list<TokenType>;
 /// Walks the tokens of one file, keeps count of the indentation, and raises the faults of the grammar.
 class TokenCursor {
 public:
+    class FreeLayout;
+
     /// \param scanned the file's tokens, ending in END_OF_FILE; outlives the cursor
     /// \param shownSource the source whose path and lines faults show
     TokenCursor(const ScannedSource& scanned, SourcePtr shownSource);
@@ -68,8 +71,8 @@ public:
     void skipNewlines();
     /// Inside brackets that may span lines: line ends and indentation mean nothing.
     void skipLayout();
-    /// Indents that are open at the cursor.
-    int indentation() const { return indentation_; }
+    /// Indents that are open at the cursor, those that a FreeLayout closed beyond its beginning not counted.
+    int indentation() const { return openIndents_ + uncounted_; }
     /// Goes to the next item of a bracketed list; false at its closing bracket and at the end of the file.
     /// \param level of the line that opened the list
     bool atListItem(int level);
@@ -94,10 +97,28 @@ private:
     const std::vector<ByteRange>& places_;
     SourcePtr shownSource_;
     std::size_t current_ = 0;
-    int indentation_ = 0;
+    int openIndents_ = 0;
+    /// How many closed indents aren't counted.
+    int uncounted_ = 0;
     /// Where the search for a closing bracket that began at bracketSearchStart_ ended.
     std::size_t bracketSearchStart_ = 1;
     std::size_t bracketSearchEnd_ = 0;
+};
+
+/// A part that may be laid out as one likes: where it ends further left than \p level, that doesn't count for the lists
+/// around it.
+class TokenCursor::FreeLayout {
+public:
+    FreeLayout(TokenCursor& cursor, int level) : cursor_(cursor), level_(level), before_(cursor.uncounted_) {}
+    explicit FreeLayout(TokenCursor& cursor) : FreeLayout(cursor, cursor.indentation()) {}
+    ~FreeLayout() { cursor_.uncounted_ = std::max(before_, level_ - cursor_.openIndents_); }
+    FreeLayout(const FreeLayout&) = delete;
+    FreeLayout& operator=(const FreeLayout&) = delete;
+
+private:
+    TokenCursor& cursor_;
+    const int level_;
+    const int before_;
 };
 
 } // namespace pozhil

@@ -209,6 +209,12 @@ TEST(AbstractStructure, EndsBehindAMethodWithAnIndentedBody) {
               "(If ஈ (Block (AbstractStructDefinition அ (ஆ தான்))) null) (Pass)");
 }
 
+TEST(AbstractStructure, MissingBracketOfAMethodIsToldWhereTheNextTokenStands) {
+    EXPECT_EQ(fault("வடிவமைப்பு அ:\n    செயல் ஆ(\n\n    தான் இ)\n"), "பொழி-204 வரி 4");
+    EXPECT_EQ(fault("வடிவமைப்பு அ:\n    செயல் ஆ(\n    தான்\n    )\n"), "பொழி-204 வரி 3");
+    EXPECT_EQ(fault("வடிவமைப்பு அ:\n    செயல் ஆ\n"), "பொழி-203 வரி 2");
+}
+
 TEST(AbstractStructure, NeedsAPlainName) {
     for (const std::string name : {"", "5", "சுற்று", "உரை", "\"அ\""}) {
         EXPECT_EQ(fault("வடிவமைப்பு " + name + ":\n    செயல் ஆ(தான்)\n"), "பொழி-210 வரி 1") << name;

@@ -79,6 +79,60 @@ TEST(WidgetBrackets, MayHoldLinesOfAnyIndentation) {
     }
 }
 
+/// An interface whose root, a box of other widgets, begins in the third column of indentation.
+std::string indented(const std::string& items) {
+    return "வலைதளம் (\n    தலைமை()\n    குமரி(\n        பெட்டி(\n" + items + "    வரையறை()\n)\n";
+}
+
+TEST(WidgetBrackets, OfABoxesPressHandlerMayCloseFurtherOut) {
+    EXPECT_EQ(fault(indented("            அழுத்தினால்(அ()\n    ))\n    )\n")), "none");
+    EXPECT_EQ(fault(indented("            அழுத்தினால்(அ()\n    ),\n        அகலம்: 5\n    ))\n")), "none");
+    // The lines after it are counted from there on, so that one step further out is too far again.
+    EXPECT_EQ(fault(indented("            அழுத்தினால்(அ()\n    ),\n  அகலம்: 5\n))\n")), "பொழி-111 வரி 7");
+    EXPECT_EQ(fault(indented("            அழுத்தினால்(அ()\n    ),\nஅகலம்: 5\n))\n")), "none");
+}
+
+TEST(WidgetBrackets, OfOtherPressHandlersMayNot) {
+    EXPECT_EQ(fault(indented("            உரைபொத்தான்(அழுத்தினால்(அ()\n    ))\n    ))\n")), "பொழி-204 வரி 5");
+    EXPECT_EQ(fault(indented("            பொத்தான்(அழுத்தினால்(அ()\n    ))\n    ))\n")), "பொழி-204 வரி 5");
+}
+
+TEST(WidgetBrackets, LinesAfterALayoutsFirstListMayStandFurtherOut) {
+    for (const std::string layout : {"நெடுவரிசை", "கிடைவரிசை", "அடுக்கி", "மடிப்பு", "பட்டியல்_காட்சி"}) {
+        EXPECT_EQ(fault(indented("            " + layout + "(அகலம்: 5)\n    )\n    )\n")), "none") << layout;
+        EXPECT_EQ(fault(indented("            " + layout + "(அகலம்: 5)\n    உரை(\"அ\"))\n    )\n")), "none") << layout;
+        EXPECT_EQ(fault(indented("            " + layout + "(உரை())\n    )\n    )\n")), "பொழி-204 வரி 5") << layout;
+    }
+    EXPECT_EQ(fault(indented("            எச்சரிக்கை(அகலம்: 5)\n    )\n    )\n")), "none");
+    EXPECT_EQ(fault(indented("            உரை(\"அ\")\n    )\n    )\n")), "பொழி-204 வரி 5");
+}
+
+TEST(WidgetBrackets, LinesAfterALayoutThatIsAStatementsValueBelongToTheBlock) {
+    const std::string tail = "அ = நெடுவரிசை(அகலம்: 5)\n";
+    EXPECT_EQ(fault("எனில் ஆ:\n    " + tail + "    விடு\n"), "none");
+    EXPECT_EQ(fault("எனில் ஆ:\n    " + tail + "விடு\n"), "none");
+    EXPECT_EQ(fault("வலைதளம் (தலைமை() குமரி()\n    வரையறை(\n        செயல் ஆ():\n            " + tail +
+                    "        விடு\n    )\n)\n"),
+              "none");
+}
+
+TEST(WidgetBrackets, OfAnAnimationMayStandFurtherOut) {
+    const std::string animation = "            அசைவூட்டம்(\n    காலம்: 5\n    )\n";
+    EXPECT_EQ(fault(indented(animation + "        அகலம்: 5\n    ))\n")), "none");
+    EXPECT_EQ(fault(indented(animation + "        உரை(\n            அகலம்: 5\n        )\n    ))\n")), "none");
+    EXPECT_EQ(fault(indented("            அசைவூட்டம்(\n                காலம்: 5),\n            அகலம்: 5\n        ))\n")),
+              "none");
+}
+
+TEST(WidgetBrackets, OfDataMayStandFurtherOut) {
+    const std::string data = "            அ: {\n    \"ஆ\": 5\n    }\n";
+    EXPECT_EQ(fault(indented(data + "        அகலம்: 5\n    ))\n")), "none");
+    const std::string press = "            பொத்தான்(அழுத்தினால்(நிகழ்நேர.தரவுசேர்(\"அ\") {\n    \"ஆ\": 5\n    }";
+    EXPECT_EQ(fault(indented(press + "\n        அச்சிடு(1)\n    )))\n")), "none");
+    const std::string read = "            பொத்தான்(அழுத்தினால்(நிகழ்நேர.தரவுபடி(\"அ\") {\n    அச்சிடு(1)\n    }";
+    EXPECT_EQ(fault(indented(read + "\n        அச்சிடு(1)\n    )))\n")), "none");
+}
+
 TEST(WidgetBrackets, NoLineInsideStandsFurtherOutThanTheFirst) {
     for (const OpenList& list : lists) {
         const std::string before = "எனில் அ:\n    வலைதளம் (குமரி(" + list.opening;

@@ -43,6 +43,7 @@ bool isWordOrText(const Token& token) {
 std::unique_ptr<AnimationNode> AnimationGrammar::parseAnimation() {
     const std::int32_t line = cursor_.peek().line;
     cursor_.consume(TokenType::LPAREN, "பொழி-203");
+    const TokenCursor::FreeLayout block(cursor_);
     auto animation = std::make_unique<AnimationNode>();
     for (cursor_.skipLayout(); !cursor_.check(TokenType::RPAREN) && !cursor_.isAtEnd(); cursor_.skipLayout()) {
         parseAnimationItem(*animation);

@@ -104,6 +104,7 @@ StatementPtr ApplicationGrammar::parseUIBody() {
     cursor_.consume(TokenType::LPAREN, "பொழி-203");
     StatementPtr root;
     if (cursor_.atListItem(cursor_.indentation())) {
+        const ScopedValue<bool> inList(isInList_, true);
         root = parseWidget();
     }
     cursor_.skipNewlines();

@@ -48,7 +48,7 @@ void BoxGrammar::parseContainerItem(ContainerNode& container) {
     } else if (tryParseAnimation(container)) {
         return;
     } else if (cursor_.checkWord(TokenType::ON_PRESS, "அழுத்தினால்")) {
-        parsePressHandler(container, PressForm::Value);
+        parsePressHandler(container, PressForm::ValueFreelyClosed);
     } else if (cursor_.isKeyAhead({TokenType::BOX_BACKGROUND})) {
         parseProperty(container.properties, "பின்னணி");
     } else if (cursor_.isKeyAhead(CONTAINER_KEYS)) {

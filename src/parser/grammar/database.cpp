@@ -54,6 +54,7 @@ StatementPtr DatabaseGrammar::parseRTDBReadStatement() {
     ExpressionPtr path = parseDatabasePath(line);
     cursor_.skipNewlines();
     cursor_.consume(TokenType::LBRACE, "பொழி-206");
+    const TokenCursor::FreeLayout statements(cursor_);
     StatementList body;
     for (cursor_.skipLayout(); !cursor_.check(TokenType::RBRACE) && !cursor_.isAtEnd(); cursor_.skipLayout()) {
         parts.next();

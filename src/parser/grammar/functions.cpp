@@ -17,7 +17,7 @@ bool isSelf(const Token& token) {
 StatementPtr FunctionGrammar::parseFunctionDefinitionStatement(bool inStruct) {
     cursor_.advance();
     Token name = cursor_.consumeName("பொழி-231");
-    std::vector<Param> params = parseParameters(name.line, true);
+    std::vector<Param> params = parseParameters(name.line, name.line, true);
     cursor_.consume(TokenType::COLON, "பொழி-202");
     if (inStruct && (params.empty() || !isSelf(params.front().name))) {
         cursor_.பிழை("பொழி-271", name.line);
@@ -33,17 +33,18 @@ std::unique_ptr<FunctionDefinitionStatement> FunctionGrammar::parseMethod() {
     const std::size_t first = cursor_.position();
     cursor_.advance();
     Token name = cursor_.consumeName("பொழி-231");
-    std::vector<Param> params = parseParameters(name.line, false);
+    std::vector<Param> params = parseParameters(name.line, name.line, false);
     cursor_.consume(TokenType::COLON, "பொழி-202");
     auto body = parseFunctionBody();
     return placed(first,
                   std::make_unique<FunctionDefinitionStatement>(std::move(name), std::move(params), std::move(body)));
 }
 
-/// ( [ [மாற்று] name { , [மாற்று] name } ] ); faults of the brackets are reported at \p line.
+/// ( [ [மாற்று] name { , [மாற்று] name } ] ); faults of the brackets are raised at their own lines, -1 being the current.
 /// \param mutableMayBeName whether மாற்று also counts when it arrives as a plain name
-std::vector<Param> FunctionGrammar::parseParameters(std::int32_t line, bool mutableMayBeName) {
-    cursor_.consume(TokenType::LPAREN, "பொழி-203", line);
+std::vector<Param> FunctionGrammar::parseParameters(std::int32_t openingLine, std::int32_t closingLine,
+                                                    bool mutableMayBeName) {
+    cursor_.consume(TokenType::LPAREN, "பொழி-203", openingLine);
     std::vector<Param> params;
     if (!cursor_.check(TokenType::RPAREN)) {
         do {
@@ -59,7 +60,7 @@ std::vector<Param> FunctionGrammar::parseParameters(std::int32_t line, bool muta
             params.push_back(std::move(param));
         } while (cursor_.accept(TokenType::COMMA));
     }
-    cursor_.consume(TokenType::RPAREN, "பொழி-204", line);
+    cursor_.consume(TokenType::RPAREN, "பொழி-204", closingLine);
     return params;
 }
 
@@ -108,7 +109,7 @@ AbstractMethod FunctionGrammar::parseAbstractMethod() {
     cursor_.advance();
     AbstractMethod method;
     method.name = cursor_.consume(TokenType::IDENTIFIER, "பொழி-231");
-    method.params = parseParameters(method.name.line, true);
+    method.params = parseParameters(method.name.line, -1, true);
     if (method.params.empty() || !isSelf(method.params.front().name)) {
         cursor_.பிழை("பொழி-271", method.name.line);
     }

@@ -26,7 +26,7 @@ public:
     bool isInsideFunction() const { return depth_ > 0; }
 
 private:
-    std::vector<Param> parseParameters(std::int32_t line, bool mutableMayBeName);
+    std::vector<Param> parseParameters(std::int32_t openingLine, std::int32_t closingLine, bool mutableMayBeName);
     std::unique_ptr<BlockStatement> parseFunctionBody();
     AbstractMethod parseAbstractMethod();
 

@@ -6,7 +6,7 @@ namespace pozhil {
 
 Grammar::Grammar(FileParse& parse)
     : parse_(parse), cursor_(parse.cursor), nesting_(parse.nesting), recovery_(parse.recovery),
-      declarations_(parse.declarations) {}
+      declarations_(parse.declarations), isInList_(parse.isInList) {}
 
 ExpressionPtr Grammar::parseExpression() {
     return parse_.expressions.parseExpression();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/scoped_value.h"
 #include "parser/declarations.h"
 #include "parser/nesting_limit.h"
 #include "parser/recovery.h"
@@ -48,6 +49,8 @@ protected:
     /// \param parseItem takes one item
     /// \param line where a missing bracket is reported, -1 being the current line
     template <class Item> void parseItems(int level, const Item& parseItem, std::int32_t line = -1) {
+        const ScopedValue<bool> inList(isInList_, true);
+        const TokenCursor::FreeLayout list(cursor_, level);
         SideBySide siblings(nesting_);
         while (cursor_.nextListItem(level)) {
             siblings.next();
@@ -78,6 +81,8 @@ protected:
     NestingLimit& nesting_;
     Recovery& recovery_;
     Declarations& declarations_;
+    /// Whether the next line belongs to a bracketed list rather than to the next statement.
+    bool& isInList_;
 
 private:
     void notePlace(const void* node, std::size_t first);

@@ -75,6 +75,8 @@ void LayoutGrammar::parseLayout(WidgetNode& widget, const Token& word) {
     if (openFurtherBracket()) {
         lists.next();
         parseChildren(widget, word.line, cursor_.indentation());
+    } else {
+        skipLinesAfterList();
     }
 }
 
@@ -220,6 +222,7 @@ WidgetPtr LayoutGrammar::parsePadding(const Token& word) {
         lists.next();
         const int level = cursor_.indentation();
         cursor_.atListItem(level);
+        const ScopedValue<bool> inList(isInList_, true);
         padding->children.push_back(parseWidget());
         cursor_.atListItem(level);
         cursor_.consume(TokenType::RPAREN, "பொழி-204");

@@ -16,6 +16,8 @@ WidgetPtr MessageGrammar::parseAlert(const Token& /*word*/) {
     if (openFurtherBracket()) {
         lists.next();
         parseAlertItems(*alert);
+    } else {
+        skipLinesAfterList();
     }
     return alert;
 }

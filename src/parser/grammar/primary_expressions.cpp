@@ -134,6 +134,7 @@ ExpressionPtr PrimaryGrammar::parseMapLiteral() {
 }
 
 void PrimaryGrammar::parseMapEntries(MapLiteral& map, KeyLayout afterKey) {
+    const TokenCursor::FreeLayout entries(cursor_);
     SideBySide siblings(nesting_);
     do {
         siblings.next();

@@ -101,6 +101,7 @@ void StatementGrammar::parseTopLevelStatement(Program& program) {
 
 StatementPtr StatementGrammar::parseStatement(bool inStruct) {
     nesting_.enter();
+    const ScopedValue<bool> ownLines(isInList_, false);
     const std::size_t first = cursor_.position();
     return placed(first, chooseStatement(inStruct));
 }

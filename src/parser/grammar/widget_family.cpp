@@ -41,10 +41,16 @@ bool WidgetFamily::openFurtherBracket() {
     if (cursor_.peekAhead(offset).type != TokenType::LPAREN) {
         return false;
     }
-    for (; offset > 0; --offset) {
-        cursor_.advance();
-    }
+    const TokenCursor::FreeLayout lines(cursor_);
+    cursor_.skipLayout();
     return cursor_.accept(TokenType::LPAREN);
+}
+
+void WidgetFamily::skipLinesAfterList() {
+    if (isInList_) {
+        const TokenCursor::FreeLayout lines(cursor_);
+        cursor_.skipLayout();
+    }
 }
 
 void WidgetFamily::parseAlignment(WidgetNode& widget) {
@@ -84,13 +90,14 @@ void WidgetFamily::parsePressHandler(WidgetNode& widget, PressForm form) {
         return;
     }
     const int level = cursor_.indentation();
+    const TokenCursor::FreeLayout handler(cursor_);
     cursor_.atListItem(level);
     const bool isStatement = form == PressForm::ValueOrStatements &&
                              cursor_.checkOneOf({TokenType::KEYWORD, TokenType::RTDB_INSERT, TokenType::RTDB_UPDATE,
                                                  TokenType::RTDB_READ, TokenType::RTDB_DELETE});
     if (!isStatement) {
         widget.properties.insert_or_assign("அழுத்தினால்", parseExpression());
-        cursor_.atListItem(level);
+        form == PressForm::ValueFreelyClosed ? cursor_.skipLayout() : static_cast<void>(cursor_.atListItem(level));
     }
     SideBySide siblings(nesting_);
     while (isStatement && cursor_.atListItem(level)) {

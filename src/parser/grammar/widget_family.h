@@ -11,7 +11,11 @@ public:
 
 protected:
     /// How a press handler may be written.
-    enum class PressForm { Value, ValueOrStatements };
+    enum class PressForm {
+        Value,
+        ValueFreelyClosed, ///< a value whose closing bracket may stand further left than the widget
+        ValueOrStatements
+    };
 
     ~WidgetFamily() = default;
 
@@ -21,6 +25,10 @@ protected:
     /// Takes the bracket of a further list of the same widget if it stands here or on a later line. If it doesn't, the
     /// lines in between are left to whatever the widget stands in.
     bool openFurtherBracket();
+
+    /// Where no further list of the same widget follows: the lines up to the next item or bracket of the list around it,
+    /// whose indentation means nothing here. Lines of the next statement are left alone.
+    void skipLinesAfterList();
 
     /// சீரமைப்பு : word. Any other value leaves the alignment as it was.
     void parseAlignment(WidgetNode& widget);
