@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/place.h"
+#include "base/source_place.h"
 #include "diagnostics/fault.h"
 
 #include <cstddef>
@@ -12,7 +12,7 @@ namespace pozhil {
 /// A fault and the part of the source that it was found at.
 struct FoundFault {
     Fault fault;
-    Place place;
+    SourcePlace place;
 };
 
 /// Keeps the faults that stages go on after, in the order in which they stand in the text.

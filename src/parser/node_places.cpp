@@ -16,7 +16,7 @@ std::uint32_t NodePlaces::addSource(SourcePtr source, std::size_t nodes) {
 }
 
 /// Compiling asks for no place at all, so noting one must cost next to nothing; the first question pays.
-std::optional<Place> NodePlaces::find(const void* node) const {
+std::optional<SourcePlace> NodePlaces::find(const void* node) const {
     const std::less<> before;
     if (sorted_ != entries_.size()) {
         std::stable_sort(entries_.begin(), entries_.end(),
@@ -31,7 +31,7 @@ std::optional<Place> NodePlaces::find(const void* node) const {
         return std::nullopt;
     }
     const Entry& entry = *std::prev(end);
-    return Place{sources_[entry.source], entry.range};
+    return SourcePlace{sources_[entry.source], entry.range};
 }
 
 } // namespace pozhil

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/place.h"
+#include "base/source_place.h"
 #include "parser/tree/node.h"
 
 #include <cstddef>
@@ -23,8 +23,8 @@ public:
 
     /// Where the text of a node stands, nothing for a node that no source has. A name that the parser adds of its own
     /// has the place of what it stands for.
-    std::optional<Place> of(const Expression& node) const { return find(&node); }
-    std::optional<Place> of(const Statement& node) const { return find(&node); }
+    std::optional<SourcePlace> of(const Expression& node) const { return find(&node); }
+    std::optional<SourcePlace> of(const Statement& node) const { return find(&node); }
 
 private:
     struct Entry {
@@ -33,7 +33,7 @@ private:
         ByteRange range;
     };
 
-    std::optional<Place> find(const void* node) const;
+    std::optional<SourcePlace> find(const void* node) const;
 
     std::vector<SourcePtr> sources_;
     /// In the order of the parse up to the first question, by node from then on.

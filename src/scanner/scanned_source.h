@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/place.h"
+#include "base/source_place.h"
 #include "diagnostics/fault_log.h"
 #include "scanner/token.h"
 

@@ -14,7 +14,7 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-std::string textOf(const Place& place) {
+std::string textOf(const SourcePlace& place) {
     return place.source->text.substr(place.range.begin, place.range.end - place.range.begin);
 }
 

@@ -13,7 +13,7 @@ struct ByteRange {
 };
 
 /// A part of a source.
-struct Place {
+struct SourcePlace {
     SourcePtr source;
     ByteRange range;
 };
