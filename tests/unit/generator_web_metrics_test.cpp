@@ -1,6 +1,7 @@
 // Sizes of widgets before the page runs: every kind, and every rule that a kind's size follows.
 
 #include "generator/web/measure/metrics.h"
+#include "generator/web/page/widget_table.h"
 #include "parser/parser.h"
 #include "scanner/lexer.h"
 #include "support/generating.h"
@@ -19,7 +20,7 @@ using Size = std::pair<float, float>;
 using Children = StatementList;
 
 Size sizeOf(const WidgetNode& widget) {
-    WidgetMetrics metrics;
+    WidgetMetrics metrics(findWidgetKind);
     return {metrics.calculateWidgetWidth(&widget), metrics.calculateWidgetHeight(&widget)};
 }
 
@@ -360,7 +361,7 @@ TEST(SourceMetrics, SeeWhatIsWritten) {
 }
 
 TEST(Metrics, AreZeroForWhatIsNoWidget) {
-    WidgetMetrics metrics;
+    WidgetMetrics metrics(findWidgetKind);
     EXPECT_FLOAT_EQ(metrics.calculateWidgetWidth(nullptr), 0);
     const PrintStatement statement({});
     EXPECT_FLOAT_EQ(metrics.calculateWidgetWidth(&statement), 0);

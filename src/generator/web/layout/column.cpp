@@ -1,5 +1,5 @@
-#include "generator/web/layout/layout.h"
 #include "generator/web/layout/layout_children.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
@@ -111,8 +111,7 @@ void emitChild(WidgetWriter& column, const WidgetNode& child) {
     }
 }
 
-} // namespace
-
+/// நெடுவரிசை: children one below the other.
 void emitColumn(WidgetWriter& column) {
     const LayoutChildren children(column);
     const float contentHeight = children.heightSum + children.gaps;
@@ -144,5 +143,9 @@ void emitColumn(WidgetWriter& column) {
     }
     column.block(column.isAtTop() ? "}\n" : "    $y = currentY;\n}\n");
 }
+
+} // namespace
+
+extern const WidgetKind COLUMN = {"நெடுவரிசை", emitColumn, largestChild, lineOfChildren};
 
 } // namespace pozhil

@@ -1,5 +1,5 @@
 #include "generator/web/layout/layout_children.h"
-#include "generator/web/layout/lists.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/widget_writer.h"
 
 namespace pozhil {
@@ -37,8 +37,7 @@ void emitScrollBar(WidgetWriter& list) {
 )");
 }
 
-} // namespace
-
+/// பட்டியல்_காட்சி: a scrolling list as large as the window.
 void emitListView(WidgetWriter& list) {
     const auto children = childWidgets(list.widget());
     if (const Expression* id = findProperty(list.widget(), {"ID", "id", "அடையாளம்"})) {
@@ -76,5 +75,9 @@ void emitListView(WidgetWriter& list) {
     emitClipEnd(list);
     emitScrollBar(list);
 }
+
+} // namespace
+
+extern const WidgetKind LIST_VIEW = {"பட்டியல்_காட்சி", emitListView};
 
 } // namespace pozhil

@@ -1,5 +1,5 @@
-#include "generator/web/layout/layout.h"
 #include "generator/web/layout/layout_children.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
 
@@ -100,8 +100,7 @@ void emitChild(WidgetWriter& row, const WidgetNode& child) {
     row.block("    currentX += $width + spacing;\n", {{"width", isOneShare ? "unitFlexW" : "current_wW"}});
 }
 
-} // namespace
-
+/// கிடைவரிசை: children side by side.
 void emitRow(WidgetWriter& row) {
     const LayoutChildren children(row);
     const float contentWidth = children.widthSum + children.gaps;
@@ -129,5 +128,9 @@ void emitRow(WidgetWriter& row) {
     }
     row.block("}\n");
 }
+
+} // namespace
+
+extern const WidgetKind ROW = {"கிடைவரிசை", emitRow, lineOfChildren, largestChild};
 
 } // namespace pozhil

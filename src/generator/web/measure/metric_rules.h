@@ -1,8 +1,11 @@
 #pragma once
 
 #include "generator/web/measure/metrics.h"
+#include "generator/web/measure/widget_kind.h"
 
+#include <cstddef>
 #include <optional>
+#include <string>
 
 namespace pozhil {
 
@@ -21,9 +24,6 @@ struct Measure {
 
     float of(const Statement* child) const { return (metrics.*axis.measure)(child); }
 };
-
-/// The size of a widget along the axis of \p measure.
-using MetricRule = float (*)(const Measure& measure);
 
 /// A size that the source gives. A percentage is resolved in the running page and counts as nothing here.
 std::optional<float> fixedSize(const Expression* expression);
@@ -55,26 +55,13 @@ float firstChild(const Measure& measure);
 /// Children in a line, with gaps between them.
 float lineOfChildren(const Measure& measure);
 
-/// மடிப்பு: three lines are assumed, since nobody knows the window yet.
-float wrapHeight(const Measure& measure);
+/// How wide a button's label of the given size in pixels is, by a rough width per code point.
+float labelWidth(const WidgetNode& widget, float size);
 
-float textButtonWidth(const Measure& measure);
-float buttonWidth(const Measure& measure);
-float textWidth(const Measure& measure);
-float textHeight(const Measure& measure);
-float paddingSize(const Measure& measure);
-float checkBoxWidth(const Measure& measure);
-float checkBoxHeight(const Measure& measure);
+/// Letters of a text, roughly: a Tamil letter may have several code points.
+std::size_t countCodePoints(const std::string& text);
 
-/// பெட்டி: from the style record among its children first.
-float boxSize(const Measure& measure);
-
-float cardWidth(const Measure& measure);
-float cardHeight(const Measure& measure);
-float spinnerSize(const Measure& measure);
-float tileHeight(const Measure& measure);
-
-float gridWidth(const Measure& measure);
-float gridHeight(const Measure& measure);
+/// The size of a text whose source says none, in pixels.
+constexpr float USUAL_TEXT_SIZE = 16.0F;
 
 } // namespace pozhil

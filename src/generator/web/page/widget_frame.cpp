@@ -3,7 +3,7 @@
 #include "generator/web/page/widget_frame.h"
 
 #include "generator/web/page/widget_table.h"
-#include "generator/web/widgets/overlay.h"
+#include "generator/web/widgets/snack_bar.h"
 #include "generator/web/write/widget_writer.h"
 
 namespace pozhil {
@@ -53,6 +53,8 @@ if (global_vars.find("$name") == global_vars.end() || (global_vars["$name"].type
 
 } // namespace
 
+WidgetFrame::WidgetFrame(CodeWriter& out, Edition& edition) : WidgetContext(out, edition), metrics_(findWidgetKind) {}
+
 void WidgetFrame::writeWidget(const WidgetNode& widget, const std::string& x, const std::string& y) {
     WidgetWriter writer(*this, widget, x, y, nextNumber());
     emitPosition(writer);
@@ -60,10 +62,11 @@ void WidgetFrame::writeWidget(const WidgetNode& widget, const std::string& x, co
     if (!name.empty()) {
         emitVisibilityCheck(writer, name);
     }
-    if (const WidgetEmitter emit = findWidgetEmitter(widget.kind)) {
+    const WidgetKind* kind = findWidgetKind(widget.kind);
+    if (kind != nullptr && kind->block != nullptr) {
         // A function of its own: WebAssembly takes no function with as many locals as a large page would need.
         writer.block("[&] { // $kind\n", {{"kind", widget.kind}});
-        emit(writer);
+        kind->block(writer);
         writer.block("}();\n");
     }
     if (!name.empty()) {

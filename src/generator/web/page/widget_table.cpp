@@ -1,75 +1,99 @@
 #include "generator/web/page/widget_table.h"
 
-#include "generator/web/layout/layout.h"
-#include "generator/web/layout/lists.h"
-#include "generator/web/page/nested_page.h"
-#include "generator/web/widgets/box.h"
-#include "generator/web/widgets/button.h"
-#include "generator/web/widgets/controls.h"
-#include "generator/web/widgets/indicators.h"
-#include "generator/web/widgets/input.h"
-#include "generator/web/widgets/media.h"
-#include "generator/web/widgets/navigation.h"
-#include "generator/web/widgets/overlay.h"
-#include "generator/web/widgets/text.h"
-
 #include <algorithm>
 #include <iterator>
 
 namespace pozhil {
+
+// Every widget: its row ends its file.
+extern const WidgetKind TEXT;
+extern const WidgetKind EXPANDED;
+extern const WidgetKind FLEXIBLE;
+extern const WidgetKind FREE_SPACE;
+extern const WidgetKind BUTTON;
+extern const WidgetKind CHECKBOX;
+extern const WidgetKind RADIO;
+extern const WidgetKind SWITCH;
+extern const WidgetKind SLIDER;
+extern const WidgetKind DROPDOWN;
+extern const WidgetKind IMAGE;
+extern const WidgetKind AVATAR;
+extern const WidgetKind DIVIDER;
+extern const WidgetKind CARD;
+extern const WidgetKind SPINNER;
+extern const WidgetKind PROGRESS_BAR;
+extern const WidgetKind INFO_PILL;
+extern const WidgetKind DIALOG;
+extern const WidgetKind BOTTOM_NAVIGATION;
+extern const WidgetKind TAB_BAR;
+extern const WidgetKind NESTED_PAGE;
+extern const WidgetKind GAP;
+extern const WidgetKind STACK;
+extern const WidgetKind COLUMN;
+extern const WidgetKind ROW;
+extern const WidgetKind SEARCH_BAR;
+extern const WidgetKind SEARCH_FIELD;
+extern const WidgetKind WRAP;
+extern const WidgetKind CONTAINER;
+extern const WidgetKind LIST_VIEW;
+extern const WidgetKind GRID_VIEW;
+extern const WidgetKind PADDING;
+extern const WidgetKind PADDING_RECORD;
+extern const WidgetKind TEXT_BUTTON;
+extern const WidgetKind TEXT_FIELD;
+extern const WidgetKind LIST_TILE;
+extern const WidgetKind HTML_INPUT;
+extern const WidgetKind SNACK_BAR;
+
 namespace {
 
-struct WidgetKind {
-    std::string_view kind;
-    WidgetEmitter emit;
-};
-
-constexpr WidgetKind WIDGET_KINDS[] = {
-    {"உரை", emitText},
-    {"விரிவாக்கம்", emitFlexWrapper},
-    {"நெகிழ்வு", emitFlexWrapper},
-    {"வெற்றிடம்", emitFlexSpacer},
-    {"பொத்தான்", emitButton},
-    {"தேர்வுபெட்டி", emitCheckbox},
-    {"வட்டத்தேர்வு", emitRadio},
-    {"மாற்றி", emitSwitch},
-    {"அளவி", emitSlider},
-    {"கீழ்வரி", emitDropdown},
-    {"படம்", emitImage},
-    {"வட்டபடம்", emitAvatar},
-    {"பிரிப்பான்", emitDivider},
-    {"அட்டை", emitCard},
-    {"சுழல்_காட்டி", emitSpinner},
-    {"முன்னேற்றவரி", emitProgressBar},
-    {"தகவல்பட்டை", emitInfoPill},
-    {"எச்சரிக்கை", emitDialog},
-    {"அடிப்பகுதி", emitBottomNavigation},
-    {"தத்தல்", emitTabBar},
-    {"பக்கம்", emitNestedPage},
-    {"இவெ", emitGap},
-    {"அடுக்கி", emitStack},
-    {"நெடுவரிசை", emitColumn},
-    {"கிடைவரிசை", emitRow},
-    {"தேடல்_பட்டை", emitSearchBar},
-    {"தேடுபொறி", emitSearchBar},
-    {"மடிப்பு", emitWrap},
-    {"பெட்டி", emitContainer},
-    {"பட்டியல்_காட்சி", emitListView},
-    {"கட்டம்_காட்சி", emitGridView},
-    {"உள்_இவெ", emitPadding},
-    {"உரைபொத்தான்", emitTextButton},
-    {"உரைபெட்டி", emitTextField},
-    {"பட்டியல்_உருப்படி", emitListTile},
-    {"கடவுமறை", emitHtmlInput},
-    {"அறிவிப்பு_பட்டை", emitSnackBar},
+constexpr const WidgetKind* WIDGETS[] = {
+    &TEXT,
+    &EXPANDED,
+    &FLEXIBLE,
+    &FREE_SPACE,
+    &BUTTON,
+    &CHECKBOX,
+    &RADIO,
+    &SWITCH,
+    &SLIDER,
+    &DROPDOWN,
+    &IMAGE,
+    &AVATAR,
+    &DIVIDER,
+    &CARD,
+    &SPINNER,
+    &PROGRESS_BAR,
+    &INFO_PILL,
+    &DIALOG,
+    &BOTTOM_NAVIGATION,
+    &TAB_BAR,
+    &NESTED_PAGE,
+    &GAP,
+    &STACK,
+    &COLUMN,
+    &ROW,
+    &SEARCH_BAR,
+    &SEARCH_FIELD,
+    &WRAP,
+    &CONTAINER,
+    &LIST_VIEW,
+    &GRID_VIEW,
+    &PADDING,
+    &PADDING_RECORD,
+    &TEXT_BUTTON,
+    &TEXT_FIELD,
+    &LIST_TILE,
+    &HTML_INPUT,
+    &SNACK_BAR,
 };
 
 } // namespace
 
-WidgetEmitter findWidgetEmitter(std::string_view kind) {
-    const auto* found = std::find_if(std::begin(WIDGET_KINDS), std::end(WIDGET_KINDS),
-                                     [&](const WidgetKind& entry) { return entry.kind == kind; });
-    return found == std::end(WIDGET_KINDS) ? nullptr : found->emit;
+const WidgetKind* findWidgetKind(std::string_view word) {
+    const auto* const* found = std::find_if(std::begin(WIDGETS), std::end(WIDGETS),
+                                            [&](const WidgetKind* kind) { return kind->word == word; });
+    return found == std::end(WIDGETS) ? nullptr : *found;
 }
 
 } // namespace pozhil

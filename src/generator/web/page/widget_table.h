@@ -1,15 +1,10 @@
 #pragma once
 
-#include <string_view>
+#include "generator/web/measure/widget_kind.h"
 
 namespace pozhil {
 
-class WidgetWriter;
-
-/// Writes the block of one widget.
-using WidgetEmitter = void (*)(WidgetWriter&);
-
-/// The emitter of the widgets that the source calls \p kind; null for a word that draws nothing.
-WidgetEmitter findWidgetEmitter(std::string_view kind);
+/// The row of the widgets that the source calls \p word; null for a word that is no widget.
+const WidgetKind* findWidgetKind(std::string_view word);
 
 } // namespace pozhil

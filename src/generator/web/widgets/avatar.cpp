@@ -1,4 +1,4 @@
-#include "generator/web/widgets/media.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
@@ -83,8 +83,7 @@ void emitInitials(WidgetWriter& avatar, const WidgetNode& text) {
                  {{"text", textArgument(avatar, findProperty(text, {"உரை"}))}});
 }
 
-} // namespace
-
+/// வட்டபடம்: a round picture, or initials on a round background.
 void emitAvatar(WidgetWriter& avatar) {
     const auto children = childWidgets(avatar.widget());
     const WidgetNode* content = children.empty() ? nullptr : children.front();
@@ -97,5 +96,9 @@ void emitAvatar(WidgetWriter& avatar) {
     }
     avatar.block("}\n");
 }
+
+} // namespace
+
+extern const WidgetKind AVATAR = {"வட்டபடம்", emitAvatar, sized<48>, sized<48>};
 
 } // namespace pozhil

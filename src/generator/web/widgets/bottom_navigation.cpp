@@ -1,4 +1,4 @@
-#include "generator/web/widgets/navigation.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/press_handler.h"
@@ -92,8 +92,7 @@ void emitItem(WidgetWriter& bar, const WidgetNode& item, std::size_t index) {
                {"label", textArgument(bar, findProperty(label == nullptr ? item : *label, {"உரை"}))}});
 }
 
-} // namespace
-
+/// அடிப்பகுதி: a bar at the bottom of the window whose items have icons and labels.
 void emitBottomNavigation(WidgetWriter& bar) {
     const auto items = childrenOfKind(bar.widget(), "அடி_உருப்படி");
     emitBar(bar);
@@ -103,5 +102,9 @@ void emitBottomNavigation(WidgetWriter& bar) {
     }
     bar.block("}\n");
 }
+
+} // namespace
+
+extern const WidgetKind BOTTOM_NAVIGATION = {"அடிப்பகுதி", emitBottomNavigation};
 
 } // namespace pozhil

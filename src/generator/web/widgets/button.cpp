@@ -1,5 +1,4 @@
-#include "generator/web/widgets/button.h"
-
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/widgets/button_label.h"
 #include "generator/web/write/animation.h"
 #include "generator/web/write/colours.h"
@@ -174,8 +173,7 @@ void emitLabel(WidgetWriter& button, const ButtonLabel& label) {
                  {{"weight", weightOf(label.style)}, {"font", label.style.font}});
 }
 
-} // namespace
-
+/// பொத்தான்: a filled button with centred text.
 void emitButton(WidgetWriter& button) {
     constexpr float USUAL_RADIUS = 8.0F;
     const WidgetNode& widget = button.widget();
@@ -198,5 +196,14 @@ void emitButton(WidgetWriter& button) {
     emitBody(button);
     emitLabel(button, label);
 }
+
+float buttonWidth(const Measure& measure) {
+    const std::optional<float> given = givenSize(measure);
+    return given ? *given : labelWidth(measure.widget, USUAL_TEXT_SIZE);
+}
+
+} // namespace
+
+extern const WidgetKind BUTTON = {"பொத்தான்", emitButton, buttonWidth, sized<40>};
 
 } // namespace pozhil

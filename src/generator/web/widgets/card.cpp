@@ -1,5 +1,5 @@
 #include "generator/web/layout/layout_children.h"
-#include "generator/web/widgets/box.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
@@ -76,8 +76,7 @@ void emitChildren(WidgetWriter& card) {
     card.block("    forcedW = savedForcedW; forcedH = savedForcedH;\n");
 }
 
-} // namespace
-
+/// அட்டை: a raised card with its children one below the other.
 void emitCard(WidgetWriter& card) {
     emitRectangle(card);
     emitBody(card);
@@ -90,5 +89,28 @@ void emitCard(WidgetWriter& card) {
     emitClipEnd(card);
     card.block("}\n");
 }
+
+/// A card is as large as its first child with the space around it.
+float cardSize(const Measure& measure, float usual) {
+    constexpr float BOTH_SIDES = 20.0F;
+    if (const std::optional<float> given = givenSize(measure)) {
+        return *given;
+    }
+    return childWidgets(measure.widget).empty() ? usual : firstChild(measure) + BOTH_SIDES;
+}
+
+float cardWidth(const Measure& measure) {
+    constexpr float USUAL = 350.0F;
+    return cardSize(measure, USUAL);
+}
+
+float cardHeight(const Measure& measure) {
+    constexpr float USUAL = 200.0F;
+    return cardSize(measure, USUAL);
+}
+
+} // namespace
+
+extern const WidgetKind CARD = {"அட்டை", emitCard, cardWidth, cardHeight};
 
 } // namespace pozhil

@@ -1,4 +1,4 @@
-#include "generator/web/widgets/controls.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/press_handler.h"
@@ -120,8 +120,7 @@ void emitError(WidgetWriter& box, const std::string& id) {
               {{"id", id}});
 }
 
-} // namespace
-
+/// தேர்வுபெட்டி: a box to tick, with a label beside it.
 void emitCheckbox(WidgetWriter& box) {
     const std::string id = textOf(findProperty(box.widget(), {"அடையாளம்"}));
     emitBoxAndLabelSize(box);
@@ -133,5 +132,24 @@ void emitCheckbox(WidgetWriter& box) {
     }
     box.block("}\n");
 }
+
+constexpr float CHECK_BOX = 24.0F;
+
+float checkBoxWidth(const Measure& measure) {
+    constexpr float GAP = 12.0F;
+    if (const std::optional<float> given = givenSize(measure)) {
+        return *given;
+    }
+    return childWidgets(measure.widget).empty() ? CHECK_BOX : CHECK_BOX + GAP + firstChild(measure);
+}
+
+float checkBoxHeight(const Measure& measure) {
+    const std::optional<float> given = givenSize(measure);
+    return given ? *given : std::max(CHECK_BOX, firstChild(measure));
+}
+
+} // namespace
+
+extern const WidgetKind CHECKBOX = {"தேர்வுபெட்டி", emitCheckbox, checkBoxWidth, checkBoxHeight};
 
 } // namespace pozhil

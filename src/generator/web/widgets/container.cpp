@@ -1,5 +1,5 @@
 #include "generator/web/layout/layout_children.h"
-#include "generator/web/widgets/box.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/widgets/container_body.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
@@ -71,8 +71,7 @@ void emitChild(WidgetWriter& box, const WidgetNode& child) {
               {{"child", box.blocks([&] { box.child(child, "childX", "childY"); })}});
 }
 
-} // namespace
-
+/// பெட்டி: a decorated box that clips its children and places each of them by its own alignment.
 void emitContainer(WidgetWriter& box) {
     emitContainerBody(box);
     box.block(R"(
@@ -91,5 +90,22 @@ void emitContainer(WidgetWriter& box) {
     emitClipEnd(box);
     box.block("}\n");
 }
+
+float boxSize(const Measure& measure) {
+    constexpr float USUAL = 100.0F;
+    for (const WidgetNode* child : childWidgets(measure.widget)) {
+        if (child->kind == "பெட்டி_பாணி") {
+            const std::optional<float> size = plainSize({measure.metrics, *child, measure.axis});
+            if (size) {
+                return *size;
+            }
+        }
+    }
+    return givenSize(measure).value_or(USUAL);
+}
+
+} // namespace
+
+extern const WidgetKind CONTAINER = {"பெட்டி", emitContainer, boxSize, boxSize};
 
 } // namespace pozhil

@@ -1,5 +1,5 @@
 #include "generator/web/layout/layout_children.h"
-#include "generator/web/widgets/overlay.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
@@ -51,8 +51,6 @@ void emitBody(WidgetWriter& dialog) {
         {{"r", std::to_string(fill.red)}, {"g", std::to_string(fill.green)}, {"b", std::to_string(fill.blue)}});
 }
 
-} // namespace
-
 /// The dialog is drawn when the page is done. Its closure has its own copies of what the frame knows by now.
 void emitDialog(WidgetWriter& dialog) {
     emitRectangle(dialog);
@@ -72,5 +70,9 @@ void emitDialog(WidgetWriter& dialog) {
     emitClipEnd(dialog);
     dialog.block("});\n");
 }
+
+} // namespace
+
+extern const WidgetKind DIALOG = {"எச்சரிக்கை", emitDialog, sized<400>, sized<280>};
 
 } // namespace pozhil

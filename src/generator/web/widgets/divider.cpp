@@ -1,11 +1,13 @@
-#include "generator/web/widgets/indicators.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
 
 namespace pozhil {
+namespace {
 
+/// பிரிப்பான்: a line across.
 void emitDivider(WidgetWriter& divider) {
     divider.block(R"(
 {
@@ -27,5 +29,9 @@ void emitDivider(WidgetWriter& divider) {
                   {{"colour", byteColourText(colourProperty(divider.widget(), {"style_நிறம்", "நிறம்"}, "#9E9E9E"))},
                    {"thickness", numberConstant(divider.widget(), {"style_தடிமன்", "தடிமன்"}, 1.0F)}});
 }
+
+} // namespace
+
+extern const WidgetKind DIVIDER = {"பிரிப்பான்", emitDivider, sized<300>, sized<20>};
 
 } // namespace pozhil

@@ -1,4 +1,4 @@
-#include "generator/web/widgets/controls.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/press_handler.h"
 #include "generator/web/write/sizes.h"
@@ -107,8 +107,7 @@ void emitMenu(WidgetWriter& dropdown) {
                    {{"handler", changeHandler(dropdown)}});
 }
 
-} // namespace
-
+/// கீழ்வரி: a box that opens a menu to choose from.
 void emitDropdown(WidgetWriter& dropdown) {
     emitState(dropdown);
     emitBox(dropdown);
@@ -117,5 +116,9 @@ void emitDropdown(WidgetWriter& dropdown) {
     }
     dropdown.block("}\n");
 }
+
+} // namespace
+
+extern const WidgetKind DROPDOWN = {"கீழ்வரி", emitDropdown, plainSized<200>, fixed<40>};
 
 } // namespace pozhil

@@ -1,10 +1,12 @@
-#include "generator/web/widgets/input.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_writer.h"
 
 namespace pozhil {
+namespace {
 
+/// கடவுமறை: a field that looks like one of the browser's own.
 void emitHtmlInput(WidgetWriter& input) {
     constexpr float WIDTH = 320.0F;
     constexpr float HEIGHT = 60.0F;
@@ -35,5 +37,9 @@ void emitHtmlInput(WidgetWriter& input) {
                  {"colour", cssColour(textColour)}});
     input.block(input.isAtTop() ? "}\n" : "    $y += th;\n}\n");
 }
+
+} // namespace
+
+extern const WidgetKind HTML_INPUT = {"கடவுமறை", emitHtmlInput};
 
 } // namespace pozhil

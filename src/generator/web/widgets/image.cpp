@@ -1,4 +1,4 @@
-#include "generator/web/widgets/media.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
@@ -27,8 +27,7 @@ void emitRectangle(WidgetWriter& image) {
                  {"path", path == nullptr ? "logo.png" : path->value}});
 }
 
-} // namespace
-
+/// படம்: a picture from a file, stretched to its box; an animated one is played by the browser.
 void emitImage(WidgetWriter& image) {
     emitRectangle(image);
     image.block(R"(
@@ -62,5 +61,9 @@ void emitImage(WidgetWriter& image) {
 }
 )");
 }
+
+} // namespace
+
+extern const WidgetKind IMAGE = {"படம்", emitImage, sized<100>, sized<100>};
 
 } // namespace pozhil

@@ -1,4 +1,4 @@
-#include "generator/web/widgets/indicators.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
@@ -6,7 +6,9 @@
 #include "generator/web/write/widget_writer.h"
 
 namespace pozhil {
+namespace {
 
+/// தகவல்பட்டை: a message that stays where it is.
 void emitInfoPill(WidgetWriter& pill) {
     const WidgetNode& widget = pill.widget();
     pill.block(R"(
@@ -34,5 +36,9 @@ void emitInfoPill(WidgetWriter& pill) {
                {{"message", textValue(pill, findProperty(widget, {"செய்தி"}), "std::string(u8\"தகவல்\")")},
                 {"fill", floatColour(colourProperty(widget, {"style_பின்னணி", "பின்னணி"}, "#323232E6"))}});
 }
+
+} // namespace
+
+extern const WidgetKind INFO_PILL = {"தகவல்பட்டை", emitInfoPill, sized<300>, sized<40>};
 
 } // namespace pozhil

@@ -1,4 +1,4 @@
-#include "generator/web/layout/lists.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/press_handler.h"
@@ -117,8 +117,7 @@ void emitTrailing(WidgetWriter& tile) {
     }
 }
 
-} // namespace
-
+/// பட்டியல்_உருப்படி: a row with a leading and a trailing widget and up to two lines between.
 void emitListTile(WidgetWriter& tile) {
     emitBody(tile);
     emitLeading(tile);
@@ -126,5 +125,16 @@ void emitListTile(WidgetWriter& tile) {
     emitTrailing(tile);
     tile.block("}\n");
 }
+
+float tileHeight(const Measure& measure) {
+    constexpr float ONE_LINE = 56.0F;
+    constexpr float TWO_LINES = 72.0F;
+    const bool hasSubtitle = findProperty(measure.widget, {"துணைத்_தலைப்பு"}) != nullptr;
+    return plainSize(measure).value_or(hasSubtitle ? TWO_LINES : ONE_LINE);
+}
+
+} // namespace
+
+extern const WidgetKind LIST_TILE = {"பட்டியல்_உருப்படி", emitListTile, plainSized<200>, tileHeight};
 
 } // namespace pozhil

@@ -1,4 +1,4 @@
-#include "generator/web/widgets/indicators.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
@@ -48,8 +48,7 @@ void emitPart(WidgetWriter& bar, const Expression* value) {
 )");
 }
 
-} // namespace
-
+/// முன்னேற்றவரி: how much of something is done, or that it goes on.
 void emitProgressBar(WidgetWriter& bar) {
     emitTrack(bar);
     emitPart(bar, findProperty(bar.widget(), {"style_மதிப்பு", "மதிப்பு"}));
@@ -60,5 +59,9 @@ void emitProgressBar(WidgetWriter& bar) {
 )",
               {{"colour", byteColourText(colourProperty(bar.widget(), {"style_நிறம்", "நிறம்"}, "#2196F3"))}});
 }
+
+} // namespace
+
+extern const WidgetKind PROGRESS_BAR = {"முன்னேற்றவரி", emitProgressBar, sized<200>, sized<6>};
 
 } // namespace pozhil

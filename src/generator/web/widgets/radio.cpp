@@ -1,4 +1,4 @@
-#include "generator/web/widgets/controls.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/press_handler.h"
@@ -58,8 +58,7 @@ void emitRing(WidgetWriter& radio, const Filling& label) {
                  {"label", label}});
 }
 
-} // namespace
-
+/// வட்டத்தேர்வு: one of a group of which one is selected.
 void emitRadio(WidgetWriter& radio) {
     const WidgetNode& widget = radio.widget();
     const Expression* group = findProperty(widget, {"குழு_மதிப்பு"});
@@ -70,5 +69,9 @@ void emitRadio(WidgetWriter& radio) {
     }
     emitRing(radio, label);
 }
+
+} // namespace
+
+extern const WidgetKind RADIO = {"வட்டத்தேர்வு", emitRadio, fixed<250>, fixed<30>};
 
 } // namespace pozhil

@@ -1,4 +1,4 @@
-#include "generator/web/widgets/input.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
@@ -95,8 +95,7 @@ void emitClear(WidgetWriter& bar) {
                 })}});
 }
 
-} // namespace
-
+/// தேடல்_பட்டை, தேடுபொறி: a search field with its icons.
 void emitSearchBar(WidgetWriter& bar) {
     emitBox(bar);
     emitLens(bar);
@@ -108,5 +107,10 @@ void emitSearchBar(WidgetWriter& bar) {
               {{"hint", hint.empty() ? "Search..." : hint}});
     emitClear(bar);
 }
+
+} // namespace
+
+extern const WidgetKind SEARCH_BAR = {"தேடல்_பட்டை", emitSearchBar, sized<350>, sized<50>};
+extern const WidgetKind SEARCH_FIELD = {"தேடுபொறி", emitSearchBar, plainSized<350>, sized<50>};
 
 } // namespace pozhil

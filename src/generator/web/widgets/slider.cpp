@@ -1,4 +1,4 @@
-#include "generator/web/widgets/controls.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/press_handler.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/text_value.h"
@@ -97,8 +97,7 @@ void emitTrackAndThumb(WidgetWriter& slider) {
 )");
 }
 
-} // namespace
-
+/// அளவி: a thumb to drag along a track.
 void emitSlider(WidgetWriter& slider) {
     const bool isEnabled = !isDisabled(slider.widget());
     emitRangeAndSize(slider);
@@ -118,5 +117,9 @@ void emitSlider(WidgetWriter& slider) {
 }
 )");
 }
+
+} // namespace
+
+extern const WidgetKind SLIDER = {"அளவி", emitSlider, sized<200>, sized<28>};
 
 } // namespace pozhil

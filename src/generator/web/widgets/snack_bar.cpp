@@ -1,4 +1,5 @@
-#include "generator/web/widgets/overlay.h"
+#include "generator/web/widgets/snack_bar.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/widget_writer.h"
 
@@ -25,9 +26,10 @@ Filling messageOf(WidgetWriter& bar) {
                             : textIn(bar, *children.front(), "std::string(u8\"தகவல்\")");
 }
 
-} // namespace
-
+/// அறிவிப்பு_பட்டை where a widget stands: nothing.
 void emitSnackBar(WidgetWriter&) {}
+
+} // namespace
 
 void emitSnackBarFunction(WidgetWriter& bar) {
     constexpr ByteColour USUAL = {50, 50, 50, 255};
@@ -50,5 +52,7 @@ std::function<std::any()>([=]() mutable -> std::any {
                {"g", std::to_string(colour.green)},
                {"b", std::to_string(colour.blue)}});
 }
+
+extern const WidgetKind SNACK_BAR = {"அறிவிப்பு_பட்டை", emitSnackBar};
 
 } // namespace pozhil

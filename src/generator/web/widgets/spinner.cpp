@@ -1,10 +1,12 @@
-#include "generator/web/widgets/indicators.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_writer.h"
 
 namespace pozhil {
+namespace {
 
+/// சுழல்_காட்டி: three quarters of a circle, turning.
 void emitSpinner(WidgetWriter& spinner) {
     constexpr float SIZE = 40.0F;
     constexpr float THICKNESS = 4.0F;
@@ -32,5 +34,14 @@ void emitSpinner(WidgetWriter& spinner) {
                    {"colour", byteColourText(colourProperty(widget, {"style_நிறம்"}, "#2196F3"))},
                    {"thickness", numberConstant(widget, {"style_தடிமன்"}, THICKNESS)}});
 }
+
+float spinnerSize(const Measure& measure) {
+    constexpr float USUAL = 40.0F;
+    return numberProperty(measure.widget, "style_அளவு", USUAL);
+}
+
+} // namespace
+
+extern const WidgetKind SPINNER = {"சுழல்_காட்டி", emitSpinner, spinnerSize, spinnerSize};
 
 } // namespace pozhil

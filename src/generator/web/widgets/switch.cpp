@@ -1,4 +1,4 @@
-#include "generator/web/widgets/controls.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/press_handler.h"
@@ -43,8 +43,7 @@ void emitThumb(WidgetWriter& widget) {
 )");
 }
 
-} // namespace
-
+/// மாற்றி: a switch between on and off.
 void emitSwitch(WidgetWriter& widget) {
     widget.block(R"(
 {
@@ -62,5 +61,9 @@ void emitSwitch(WidgetWriter& widget) {
     emitTrack(widget);
     emitThumb(widget);
 }
+
+} // namespace
+
+extern const WidgetKind SWITCH = {"மாற்றி", emitSwitch, fixed<48>, fixed<28>};
 
 } // namespace pozhil

@@ -1,4 +1,4 @@
-#include "generator/web/widgets/navigation.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/press_handler.h"
@@ -78,8 +78,7 @@ void emitTab(WidgetWriter& bar, const WidgetNode& tab, std::size_t index) {
                {"label", textArgument(bar, own == nullptr && label != nullptr ? findProperty(*label, {"உரை"}) : own)}});
 }
 
-} // namespace
-
+/// தத்தல்: a bar of tabs across the window.
 void emitTabBar(WidgetWriter& bar) {
     const auto tabs = childrenOfKind(bar.widget(), "தத்தல்_உருப்படி");
     emitBar(bar);
@@ -89,5 +88,9 @@ void emitTabBar(WidgetWriter& bar) {
     }
     bar.block(bar.isAtTop() ? "}\n" : "    $y += tbH;\n}\n");
 }
+
+} // namespace
+
+extern const WidgetKind TAB_BAR = {"தத்தல்", emitTabBar, fixed<0>, fixed<50>};
 
 } // namespace pozhil

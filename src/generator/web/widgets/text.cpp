@@ -1,5 +1,4 @@
-#include "generator/web/widgets/text.h"
-
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
@@ -36,8 +35,7 @@ void emitTextAnimation(WidgetWriter& text) {
     }
 }
 
-} // namespace
-
+/// உரை: a line of text, which gets smaller until it fits.
 void emitText(WidgetWriter& text) {
     const TextStyle& style = text.widget().style;
     text.block(R"(
@@ -72,5 +70,29 @@ void emitText(WidgetWriter& text) {
                 {"underline", style.underline ? "true" : "false"},
                 {"font", style.font}});
 }
+
+float textWidth(const Measure& measure) {
+    constexpr std::size_t UNKNOWN_LENGTH = 10;
+    constexpr float PER_CODE_POINT = 0.65F;
+    const float styleSize = measure.widget.style.size;
+    const float size = styleSize > 0 ? styleSize : numberProperty(measure.widget, "style_அளவு", USUAL_TEXT_SIZE);
+    std::size_t count = UNKNOWN_LENGTH;
+    for (const auto& property : measure.widget.properties) {
+        if (const auto* text = nodeCast<StringLiteral>(property.second.get())) {
+            count = countCodePoints(text->value);
+            break;
+        }
+    }
+    return static_cast<float>(count) * PER_CODE_POINT * size;
+}
+
+float textHeight(const Measure& measure) {
+    constexpr float USUAL_HEIGHT = 20.0F;
+    return measure.widget.style.size > 0 ? measure.widget.style.size : USUAL_HEIGHT;
+}
+
+} // namespace
+
+extern const WidgetKind TEXT = {"உரை", emitText, textWidth, textHeight};
 
 } // namespace pozhil

@@ -1,4 +1,4 @@
-#include "generator/web/widgets/button.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/press_handler.h"
@@ -41,8 +41,7 @@ void emitPress(WidgetWriter& button) {
     }
 }
 
-} // namespace
-
+/// உரைபொத்தான்: a text that can be pressed, without background or border.
 void emitTextButton(WidgetWriter& button) {
     constexpr float USUAL_SIZE = 16.0F;
     const WidgetNode& widget = button.widget();
@@ -70,5 +69,13 @@ void emitTextButton(WidgetWriter& button) {
         {{"hover", cssColour(colourProperty(widget, {"style_மேம்படுத்தப்பட்ட_நிறம்"}, "#3AAD68"))},
          {"colour", cssColour(colourProperty(widget, {"style_நிறம்"}, "#ffffff"))}});
 }
+
+float textButtonWidth(const Measure& measure) {
+    return labelWidth(measure.widget, numberProperty(measure.widget, "style_அளவு", USUAL_TEXT_SIZE));
+}
+
+} // namespace
+
+extern const WidgetKind TEXT_BUTTON = {"உரைபொத்தான்", emitTextButton, textButtonWidth, fixed<40>};
 
 } // namespace pozhil

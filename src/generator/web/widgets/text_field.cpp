@@ -1,4 +1,4 @@
-#include "generator/web/widgets/input.h"
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_writer.h"
@@ -104,8 +104,7 @@ void emitOverlay(WidgetWriter& field, const std::string& id) {
          {"colour", cssColour(colourProperty(field.widget(), {"style_எழுத்து_நிறம்", "எழுத்து_நிறம்"}, "#333333"))}});
 }
 
-} // namespace
-
+/// உரைபெட்டி: a box with a field of the browser over it, of one line or several.
 void emitTextField(WidgetWriter& field) {
     const std::string given = textOf(findProperty(field.widget(), {"அடையாளம்"}));
     const std::string id = given.empty() ? NO_ID : given;
@@ -114,5 +113,9 @@ void emitTextField(WidgetWriter& field) {
     emitPrefix(field);
     emitOverlay(field, id);
 }
+
+} // namespace
+
+extern const WidgetKind TEXT_FIELD = {"உரைபெட்டி", emitTextField, sized<320>, sized<60>};
 
 } // namespace pozhil

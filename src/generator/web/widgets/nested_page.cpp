@@ -1,9 +1,10 @@
-#include "generator/web/page/nested_page.h"
-
+#include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/widget_writer.h"
 
 namespace pozhil {
+namespace {
 
+/// பக்கம் inside a page: drawn while it is the page being shown.
 void emitNestedPage(WidgetWriter& page) {
     const auto* name = nodeCast<StringLiteral>(findProperty(page.widget(), {"பக்கம்"}));
     const Filling children = page.blocks([&] {
@@ -22,5 +23,9 @@ if (g_currentPage == "$name") {
 )",
                {{"name", name == nullptr ? "home" : name->value}, {"children", children}});
 }
+
+} // namespace
+
+extern const WidgetKind NESTED_PAGE = {"பக்கம்", emitNestedPage};
 
 } // namespace pozhil

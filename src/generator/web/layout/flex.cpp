@@ -1,0 +1,24 @@
+#include "generator/web/measure/metric_rules.h"
+#include "generator/web/write/widget_writer.h"
+
+namespace pozhil {
+namespace {
+
+/// விரிவாக்கம், நெகிழ்வு: the child alone; its share of the space is the parent's doing.
+void emitFlexWrapper(WidgetWriter& wrapper) {
+    const auto children = childWidgets(wrapper.widget());
+    if (!children.empty()) {
+        wrapper.child(*children.front(), wrapper.x(), wrapper.y());
+    }
+}
+
+/// வெற்றிடம்: nothing; its share of the space is the parent's doing.
+void emitFlexSpacer(WidgetWriter&) {}
+
+} // namespace
+
+extern const WidgetKind EXPANDED = {"விரிவாக்கம்", emitFlexWrapper, firstChild, firstChild};
+extern const WidgetKind FLEXIBLE = {"நெகிழ்வு", emitFlexWrapper, firstChild, firstChild};
+extern const WidgetKind FREE_SPACE = {"வெற்றிடம்", emitFlexSpacer, fixed<0>, plainSized<0>};
+
+} // namespace pozhil

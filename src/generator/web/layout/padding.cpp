@@ -1,0 +1,39 @@
+#include "generator/web/measure/metric_rules.h"
+#include "generator/web/write/literals.h"
+#include "generator/web/write/widget_writer.h"
+
+namespace pozhil {
+namespace {
+
+/// உள்_இவெ: space around its children.
+void emitPadding(WidgetWriter& padding) {
+    const float inset = numberOf(findProperty(padding.widget(), {"அளவு"})).value_or(0.0F);
+    // A parent that places it by variables of the same names is read before they are hidden.
+    const bool isInChild = padding.x() == "childX" || padding.y() == "childY";
+    padding.block(isInChild ? "{\n    float outerX = $x; float outerY = $y;\n" : "{\n");
+    padding.block(R"(
+    float childX = $left + $inset; float childY = $top + $inset;
+    $children
+}
+)",
+                  {{"left", isInChild ? "outerX" : padding.x()},
+                   {"top", isInChild ? "outerY" : padding.y()},
+                   {"inset", floatConstant(inset)},
+                   {"children", padding.blocks([&] {
+                        padding.eachChild(childWidgets(padding.widget()),
+                                          [&](const WidgetNode& child) { padding.child(child, "childX", "childY"); });
+                    })}});
+}
+
+float paddingSize(const Measure& measure) {
+    constexpr float BOTH_SIDES = 20.0F;
+    const auto* padding = dynamic_cast<const PaddingNode*>(&measure.widget);
+    return firstChild(measure) + (padding == nullptr ? BOTH_SIDES : 2 * padding->padding);
+}
+
+} // namespace
+
+extern const WidgetKind PADDING = {"உள்_இவெ", emitPadding, paddingSize, paddingSize};
+extern const WidgetKind PADDING_RECORD = {"உள்_இவே", nullptr, paddingSize, paddingSize};
+
+} // namespace pozhil
