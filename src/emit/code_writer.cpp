@@ -15,12 +15,16 @@ void CodeWriter::indent() {
     out_ << std::string(indentation(), ' ');
 }
 
-void CodeWriter::block(std::string_view text, const Holes& holes) {
-    writeBlock(out_, text, holes, indentation());
+void CodeWriter::block(const Block& block, const Holes& holes, const Holes& standing) {
+    writeBlock(out_, block, holes, indentation(), standing);
 }
 
-void CodeWriter::blockAtMargin(std::string_view text, const Holes& holes) {
-    writeBlock(out_, text, holes);
+void CodeWriter::blockAtMargin(const Block& block, const Holes& holes) {
+    writeBlock(out_, block, holes);
+}
+
+void CodeWriter::pattern(const Block& pattern, const Holes& holes, const Holes& standing) {
+    writeInline(out_, pattern, holes, standing);
 }
 
 } // namespace pozhil

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <sstream>
 #include <string>
-#include <string_view>
 
 namespace pozhil {
 
@@ -27,11 +26,14 @@ public:
     void indent();
     std::size_t indentation() const;
 
-    /// Writes a block with holes at the present level (emitted_block.h).
-    void block(std::string_view text, const Holes& holes = {});
+    /// Writes a block with holes at the present level (writeBlock in emitted_block.h).
+    void block(const Block& block, const Holes& holes = {}, const Holes& standing = {});
 
     /// Writes a block with holes that isn't indented, whatever the present level.
-    void blockAtMargin(std::string_view text, const Holes& holes = {});
+    void blockAtMargin(const Block& block, const Holes& holes = {});
+
+    /// Goes on with a pattern with holes where the text ends (writeInline in emitted_block.h).
+    void pattern(const Block& pattern, const Holes& holes = {}, const Holes& standing = {});
 
     /// How many bytes have been written.
     std::size_t length() { return static_cast<std::size_t>(out_.tellp()); }

@@ -9,71 +9,60 @@
 namespace pozhil {
 namespace {
 
-bool isLetter(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+const Filling* findFilling(std::string_view name, const Holes& holes) {
+    const auto hole = std::find_if(holes.begin(), holes.end(), [&](const Hole& one) { return one.first == name; });
+    return hole == holes.end() ? nullptr : &hole->second;
 }
 
-bool isNameCharacter(char c) {
-    return isLetter(c) || (c >= '0' && c <= '9') || c == '_';
-}
+/// What stands in the holes of a block.
+struct Fillings {
+    const Holes& own;
+    const Holes& standing;
 
-/// A hole found in a line: where it stands, with its dollar sign and braces, and its name.
-struct FoundHole {
-    std::size_t begin;
-    std::size_t end;
-    std::string_view name;
+    void write(std::ostream& out, std::string_view name) const {
+        const Filling* filling = findFilling(name, own);
+        filling = filling == nullptr ? findFilling(name, standing) : filling;
+        if (filling == nullptr) {
+            throw std::logic_error("no filling for the hole " + std::string(name));
+        }
+        filling->writeTo(out);
+    }
 };
 
-/// The first hole of \p line at or behind \p from; begin is npos when there is none.
-FoundHole findHole(std::string_view line, std::size_t from) {
-    for (std::size_t dollar = line.find('$', from); dollar != std::string_view::npos;
-         dollar = line.find('$', dollar + 1)) {
-        const std::size_t next = dollar + 1;
-        if (next < line.size() && line[next] == '{') {
-            const std::size_t close = line.find('}', next);
-            return {dollar, close + 1, line.substr(next + 1, close - next - 1)};
-        }
-        if (next < line.size() && isLetter(line[next])) {
-            const auto stop = std::find_if_not(line.begin() + next, line.end(), isNameCharacter);
-            const auto end = static_cast<std::size_t>(stop - line.begin());
-            return {dollar, end, line.substr(next, end - next)};
+void refuseUnused(const Block& block, const Holes& holes) {
+    for (const Hole& hole : holes) {
+        if (!block.has(hole.first)) {
+            throw std::logic_error("no hole for the filling " + std::string(hole.first));
         }
     }
-    return {std::string_view::npos, 0, {}};
 }
 
-const Filling& fillingOf(std::string_view name, const Holes& holes) {
-    const auto hole = std::find_if(holes.begin(), holes.end(), [&](const Hole& one) { return one.first == name; });
-    if (hole == holes.end()) {
-        throw std::logic_error("no filling for the hole " + std::string(name));
+/// Whether \p hole is all that \p line has, blanks apart.
+bool isAlone(const Block::Found& hole, std::string_view line) {
+    return hole.begin != Block::NOWHERE && hole.begin == line.find_first_not_of(' ') && hole.end == line.size();
+}
+
+void writePiece(std::ostream& out, std::string_view piece, const Fillings& fillings) {
+    std::size_t written = 0;
+    for (Block::Found hole = Block::find(piece, 0); hole.begin != Block::NOWHERE; hole = Block::find(piece, hole.end)) {
+        out << piece.substr(written, hole.begin - written);
+        fillings.write(out, hole.name);
+        written = hole.end;
     }
-    return hole->second;
+    out << piece.substr(written);
 }
 
-/// The hole that \p line consists of, blanks apart; begin is npos for any other line.
-FoundHole onlyHole(std::string_view line) {
-    const std::size_t start = line.find_first_not_of(' ');
-    const FoundHole hole = findHole(line, 0);
-    const bool isAlone = hole.begin != std::string_view::npos && hole.begin == start && hole.end == line.size();
-    return isAlone ? hole : FoundHole{std::string_view::npos, 0, {}};
-}
-
-void writeLine(std::ostream& out, std::string_view line, const Holes& holes, std::size_t indent) {
-    const FoundHole alone = onlyHole(line);
-    if (alone.begin != std::string_view::npos) {
-        fillingOf(alone.name, holes).writeTo(out);
+void writeLine(std::ostream& out, std::string_view line, const Fillings& fillings, std::size_t indent) {
+    const Block::Found first = Block::find(line, 0);
+    if (isAlone(first, line)) {
+        fillings.write(out, first.name);
         return;
     }
     if (!line.empty()) {
         out << std::string(indent, ' ');
     }
-    std::size_t written = 0;
-    for (FoundHole hole = findHole(line, 0); hole.begin != std::string_view::npos; hole = findHole(line, hole.end)) {
-        out << line.substr(written, hole.begin - written);
-        fillingOf(hole.name, holes).writeTo(out);
-        written = hole.end;
-    }
-    out << line.substr(written) << "\n";
+    writePiece(out, line, fillings);
+    out << "\n";
 }
 
 } // namespace
@@ -90,15 +79,22 @@ void Filling::writeTo(std::ostream& out) const {
     }
 }
 
-void writeBlock(std::ostream& out, std::string_view block, const Holes& holes, std::size_t indent) {
-    if (!block.empty() && block.front() == '\n') {
-        block.remove_prefix(1);
+void writeBlock(std::ostream& out, const Block& block, const Holes& holes, std::size_t indent, const Holes& standing) {
+    refuseUnused(block, holes);
+    std::string_view text = block.text();
+    if (!text.empty() && text.front() == '\n') {
+        text.remove_prefix(1);
     }
-    while (!block.empty()) {
-        const std::size_t end = std::min(block.find('\n'), block.size());
-        writeLine(out, block.substr(0, end), holes, indent);
-        block.remove_prefix(std::min(end + 1, block.size()));
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        writeLine(out, text.substr(0, end), {holes, standing}, indent);
+        text.remove_prefix(std::min(end + 1, text.size()));
     }
+}
+
+void writeInline(std::ostream& out, const Block& pattern, const Holes& holes, const Holes& standing) {
+    refuseUnused(pattern, holes);
+    writePiece(out, pattern.text(), {holes, standing});
 }
 
 std::string floatConstant(float value) {

@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::string_view LIBRARY_HOST = "https://www.gstatic.com";
 
-constexpr std::string_view LOADER = R"block(
+constexpr Block LOADER = R"block(
 #ifdef __EMSCRIPTEN__
     pozhil_run_script(R"script(
         if (!window.firebaseInitialized) {
@@ -41,7 +41,7 @@ constexpr std::string_view LOADER = R"block(
 #endif
 )block";
 
-constexpr std::string_view INSERT = R"block(
+constexpr Block INSERT = R"block(
     std::string script = "try { if (typeof window.db === 'undefined') throw Error('Firebase Database இணைக்கப்படவில்லை!');"
         " var data = JSON.parse('" + json_data + "');"
         " window.db.ref('" + path_str + "').set(data)"
@@ -51,7 +51,7 @@ constexpr std::string_view INSERT = R"block(
     pozhil_run_script(script);
 )block";
 
-constexpr std::string_view UPDATE = R"block(
+constexpr Block UPDATE = R"block(
     std::string script = "try { var data = JSON.parse('" + json_data + "');"
         " window.db.ref('" + path_str + "').update(data)"
         ".then(() => { console.log('✅ தரவு வெற்றிகரமாக மாற்றப்பட்டது!'); })"
@@ -60,14 +60,14 @@ constexpr std::string_view UPDATE = R"block(
     pozhil_run_script(script);
 )block";
 
-constexpr std::string_view DELETE = R"block(
+constexpr Block DELETE = R"block(
     std::string script = "window.db.ref('" + path_str + "').remove()"
         ".then(() => { console.log('✅ தரவு வெற்றிகரமாக அழிக்கப்பட்டது!'); })"
         ".catch((error) => { console.error('❌ ஃபயர்பேஸ் பிழை:', error); });";
     pozhil_run_script(script);
 )block";
 
-constexpr std::string_view READ = R"block(
+constexpr Block READ = R"block(
 {
 #ifdef __EMSCRIPTEN__
     std::string path_str = fn_any_to_string($path);
@@ -101,7 +101,7 @@ std::string configured(const FirebaseConfigNode& config, const char* key) {
 /// An operation as an expression without a value: \p script stands after the path and the data, if there are any.
 template <class WriteData>
 void emitOperation(CodeWriter& out, Edition& edition, const Expression* path, WriteData writeData,
-                   std::string_view script) {
+                   const Block& script) {
     out << "[&]() -> std::any {\n#ifdef __EMSCRIPTEN__\n    std::string path_str = fn_any_to_string(";
     edition.writeExpression(path);
     out << ");\n";

@@ -11,7 +11,7 @@ namespace {
 
 struct Target {
     std::string_view name;
-    std::string_view block;
+    Block block;
 };
 
 // A scaled widget grows about its centre.
@@ -61,16 +61,16 @@ void emitAnimationTargets(WidgetWriter& widget, const AnimatedBox& box) {
     if (animation == nullptr) {
         return;
     }
+    const Holes known = {
+        {"boxX", box.x}, {"boxY", box.y}, {"width", box.width}, {"height", box.height}, {"radius", box.radius}};
     for (const auto& [name, value] : animation->numericTargets) {
         const auto* target = std::find_if(std::begin(TARGETS), std::end(TARGETS),
                                           [&name = name](const Target& one) { return one.name == name; });
         if (target != std::end(TARGETS)) {
-            widget.block(target->block, {{"boxX", box.x},
-                                         {"boxY", box.y},
-                                         {"width", box.width},
-                                         {"height", box.height},
-                                         {"radius", box.radius},
-                                         {"v", floatConstant(value)}});
+            Holes holes = {{"v", floatConstant(value)}};
+            std::copy_if(known.begin(), known.end(), std::back_inserter(holes),
+                         [&](const Hole& hole) { return target->block.has(hole.first); });
+            widget.block(target->block, holes);
         }
     }
 }

@@ -32,9 +32,8 @@ bool WidgetWriter::isAtTop() const {
     return isZeroText(y_);
 }
 
-void WidgetWriter::block(std::string_view text, Holes holes) {
-    holes.insert(holes.end(), {{"x", x_}, {"y", y_}, {"n", number()}});
-    context_.out().block(text, holes);
+void WidgetWriter::block(const Block& block, const Holes& holes) {
+    context_.out().block(block, holes, {{"x", x_}, {"y", y_}, {"n", number()}});
 }
 
 float WidgetWriter::widthOf(const WidgetNode& widget) const {

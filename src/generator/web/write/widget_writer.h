@@ -39,7 +39,7 @@ public:
     float heightOf(const WidgetNode& widget) const;
 
     /// Writes a block of the emitted text. Besides \p holes it may have `$x`, `$y` (the position) and `$n` (the number).
-    void block(std::string_view text, Holes holes = {});
+    void block(const Block& block, const Holes& holes = {});
 
     /// A user's expression.
     Filling expression(const Expression* expression);

@@ -7,6 +7,7 @@
 #include <sstream>
 #include <stdexcept>
 
+using pozhil::Block;
 using pozhil::Filling;
 using pozhil::floatConstant;
 using pozhil::Holes;
@@ -15,7 +16,7 @@ namespace {
 
 std::string block(const std::string& text, const Holes& holes = {}, std::size_t indent = 0) {
     std::ostringstream out;
-    pozhil::writeBlock(out, text, holes, indent);
+    pozhil::writeBlock(out, std::string_view(text), holes, indent);
     return out.str();
 }
 
@@ -39,8 +40,53 @@ TEST(Blocks, DontLookForHolesInAFilling) {
     EXPECT_EQ(block("f($x)", {{"x", "$y"}}), "f($y)\n");
 }
 
-TEST(Blocks, RefuseAnUnknownHole) {
-    EXPECT_THROW(block("f($x)", {{"y", "1"}}), std::logic_error);
+TEST(Blocks, RefuseAHoleWithoutFilling) {
+    EXPECT_THROW(block("f($x)"), std::logic_error);
+    EXPECT_THROW(block("f($x, $xx)", {{"x", "1"}}), std::logic_error);
+}
+
+TEST(Blocks, RefuseAFillingWithoutHole) {
+    EXPECT_THROW(block("f($x)", {{"x", "1"}, {"y", "2"}}), std::logic_error);
+    EXPECT_THROW(block("f($xx)", {{"xx", "1"}, {"x", "2"}}), std::logic_error);
+}
+
+TEST(Blocks, MayLeaveStandingFillingsUnused) {
+    std::ostringstream out;
+    pozhil::writeBlock(out, "f($x);", {{"x", "1"}}, 0, {{"y", "2"}});
+    pozhil::writeBlock(out, "f($x, $y);", {{"x", "1"}}, 0, {{"y", "2"}, {"x", "3"}});
+    EXPECT_EQ(out.str(), "f(1);\nf(1, 2);\n");
+}
+
+TEST(Blocks, RefuseMalformedHoles) {
+    for (const char* text : {"${", "f(${x", "f(${x y})", "${}", "${1}", "a\n${x\n}"}) {
+        EXPECT_THROW(Block{text}, std::logic_error) << text;
+    }
+}
+
+TEST(Blocks, AreCheckedWhenTheyAreConstants) {
+    constexpr Block CONSTANT = "f($x, ${y}ULL, $0)";
+    static_assert(CONSTANT.has("x") && CONSTANT.has("y") && !CONSTANT.has("z") && !CONSTANT.has("0"));
+    EXPECT_EQ(block(std::string(CONSTANT.text()), {{"x", "1"}, {"y", "2"}}), "f(1, 2ULL, $0)\n");
+}
+
+TEST(Patterns, AreWrittenWithinALine) {
+    std::ostringstream out;
+    out << "a = ";
+    pozhil::writeInline(out, "f($A, \"$file\", $line)", {{"A", "1"}}, {{"file", "x"}, {"line", "3"}, {"B", "2"}});
+    out << ";";
+    EXPECT_EQ(out.str(), "a = f(1, \"x\", 3);");
+}
+
+TEST(Patterns, KeepTheirLineEndsAndLoneHoles) {
+    std::ostringstream out;
+    pozhil::writeInline(out, "\n  $A\n", {{"A", "1"}});
+    EXPECT_EQ(out.str(), "\n  1\n");
+}
+
+TEST(Patterns, RefuseWhatBlocksRefuse) {
+    std::ostringstream out;
+    EXPECT_THROW(pozhil::writeInline(out, "f($A)", {}), std::logic_error);
+    EXPECT_THROW(pozhil::writeInline(out, "f()", {{"A", "1"}}), std::logic_error);
 }
 
 TEST(Blocks, AreIndentedButForEmptyLines) {
