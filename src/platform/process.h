@@ -38,6 +38,10 @@ CommandResult captureCommand(const Command& command);
 /// \return its exit status as above
 int runSilently(const Command& command);
 
+/// Lets programs that are started from now on nest their calls far deeper than usual, as compilers do for source that is
+/// deeply nested. Where the system doesn't allow it, nothing changes.
+void allowDeepStacks();
+
 /// Starts a program in the background, apart from this process's console, and doesn't wait for it. If it can't be
 /// started, nothing happens.
 void startInBackground(const Command& command);

@@ -338,7 +338,7 @@ std::string texts(std::size_t count) {
 
 std::size_t functionsIn(const std::string& text) {
     std::size_t count = 0;
-    for (std::size_t at = 0; (at = text.find("[&] {\n", at)) != std::string::npos; ++at) {
+    for (std::size_t at = 0; (at = text.find(" [&] {\n", at)) != std::string::npos; ++at) {
         ++count;
     }
     return count;

@@ -94,7 +94,7 @@ TEST(Grid, TakesTheLastOfItsGaps) {
 TEST(Grid, NeitherCutsOffNorScrollsNorMovesItsParentOn) {
     const std::string text = frameOf("நெடுவரிசை(கட்டம்_காட்சி(cols: 2)(வட்டபடம்()))");
     const std::size_t begin = text.find("int cols = 2;");
-    const std::string grid = text.substr(begin, text.find("}();", text.find("maxRowH = 0.0f;", begin)) - begin);
+    const std::string grid = text.substr(begin, text.find("});", text.find("maxRowH = 0.0f;", begin)) - begin);
     for (const std::string other :
          {"nvgScissor", "nvgIntersectScissor", "pozhil_take_wheel", "currentY +=", "currentY ="}) {
         EXPECT_THAT(grid, Not(HasSubstr(other)));

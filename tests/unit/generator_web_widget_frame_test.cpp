@@ -40,7 +40,8 @@ TEST(WidgetKinds, AreDrawnEachByItsOwnBlock) {
           "இவெ",        "அடுக்கி",       "நெடுவரிசை",  "கிடைவரிசை", "தேடல்_பட்டை", "தேடுபொறி",   "மடிப்பு",
           "பெட்டி",      "பட்டியல்_காட்சி", "கட்டம்_காட்சி", "உள்_இவெ",    "உரைபொத்தான்", "உரைபெட்டி",   "பட்டியல்_உருப்படி",
           "கடவுமறை",    "அறிவிப்பு_பட்டை"}) {
-        EXPECT_THAT(drawingOf(plainWidget(kind)), HasSubstr("[&] { // " + std::string(kind) + "\n")) << kind;
+        EXPECT_THAT(drawingOf(plainWidget(kind)), HasSubstr("pozhil_draw([&] { // " + std::string(kind) + "\n"))
+            << kind;
     }
 }
 
@@ -133,7 +134,7 @@ TEST(PressHandler, MayBeStatementsWhichMayFail) {
 
 TEST(PressHandler, MayBeAWidgetThatIsDrawnForThatFrame) {
     const std::string drawing = frameOf("பொத்தான்(உரை: \"அ\", அழுத்தினால்: படம்(பாதை: \"அ.png\"))");
-    expectInOrder(drawing, {"if (g_mouseClicked) {", "[&] { // படம்\n"});
+    expectInOrder(drawing, {"if (g_mouseClicked) {", "pozhil_draw([&] { // படம்\n"});
     EXPECT_THAT(drawing, Not(HasSubstr("std::any callback")));
 }
 

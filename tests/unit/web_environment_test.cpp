@@ -82,6 +82,7 @@ TEST_F(EmscriptenEnvironment, UsersOwnFlagsStandInFront) {
     setenv("EMCC_CFLAGS", "-O1", 1);
     EXPECT_EQ(ofChild("EMCC_CFLAGS"), "-O1 " + own);
     EXPECT_THAT(own, testing::HasSubstr("exceptions"));
+    EXPECT_THAT(own, testing::HasSubstr("-fbracket-depth="));
 }
 
 TEST_F(EmscriptenEnvironment, PrecompiledHeadersAreOneWordOfTheFlags) {

@@ -91,3 +91,42 @@ webTest('an exception in a press leaves the page running', faulty, async page =>
     assert.deepEqual(page.errors, []);
     assert.equal((await page.element('#pozhil-status', 'display')).display, 'none');
 });
+
+const consoleFaults = page => page.console.filter(line => line.includes('சுழியத்தால் (0) வகுக்க முடியாது!'));
+
+webTest('a widget that can\'t be drawn is left out, and the page goes on', application(`
+        நெடுவரிசை(
+            பொத்தான்(உரை: "சுழி", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்: () => வை_எண்(0)),
+            உரை(10 வகு வகுஎண்),
+            பெட்டி(பெட்டி_பாணி(அகலம்: 100, உயரம்: 30, பின்னணி: "#FF0000"), உரை(20 வகு வகுஎண்)),
+            பொத்தான்(உரை: "ஐந்து", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்: () => வை_எண்(5)),
+            உரை("கடைசி")
+        )`, { logic: `
+        வகுஎண் = 2
+        செயல் வை_எண்(அ):
+            வகுஎண் = அ` }), async page => {
+    await page.text('5');
+    const [last, box] = [await page.text('கடைசி'), await page.area([255, 0, 0])];
+
+    await page.click(100, 20);
+    const texts = (await page.texts()).map(({ text }) => text);
+    assert.deepEqual(texts, ['சுழி', 'ஐந்து', 'கடைசி']);
+    assert.equal((await page.text('கடைசி')).y, last.y);
+    assert.deepEqual(await page.area([255, 0, 0]), box);
+    assert.equal(consoleFaults(page).length, 1, page.console.join('\n'));
+    assert.equal((await page.element('#pozhil-status', 'display')).display, 'none');
+
+    await page.click(100, (await page.text('ஐந்து')).y);
+    await page.text('2');
+    await page.text('4');
+    assert.equal(consoleFaults(page).length, 1);
+    assert.deepEqual(page.errors, []);
+});
+
+webTest('a place that can\'t be named leaves the page running', application(`
+        உரை("அ", அடையாளம்: 10 வகு வகுஎண்)`, { logic: `
+        வகுஎண் = 0` }), async page => {
+    await page.frames(3);
+    assert.equal(consoleFaults(page).length, 1, page.console.join('\n'));
+    assert.deepEqual(page.errors, []);
+});

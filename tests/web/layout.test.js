@@ -203,3 +203,10 @@ webTest('a column takes more children than a function of WebAssembly could', app
     near((await page.text(`வரி ${MANY - 1}`)).y, (MANY - 1) * 16);
     assert.deepEqual(page.errors, []);
 });
+
+const DEEP = 200;
+
+webTest('columns may stand far inside each other', application(`
+        ${'நெடுவரிசை('.repeat(DEEP)}உரை("அடியில்")${')'.repeat(DEEP)}`), async page => {
+    await page.text('அடியில்');
+});

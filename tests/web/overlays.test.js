@@ -132,3 +132,62 @@ webTest('a second snack bar begins anew', bar, async page => {
     await page.click(60, 120);
     assert.notEqual(await message(page, 'நலமா'), undefined);
 });
+
+// The opening button lies where the dialog's own button comes to stand.
+const underPointer = application(`
+        அடுக்கி(சீரமைப்பு: மேல்_இடது)(
+            நெடுவரிசை(
+                இவெ(உயரம்: 120)
+                பொத்தான்(உரை: "திற", பொ_பாணி(அகலம்: 250, உயரம்: 60), அழுத்தினால்: () => திற())
+            )
+            எச்சரிக்கை(காட்சி_பெயர்: "உறுதி", எச்சரிக்கை_பாணி(அகலம்: 300, உயரம்: 160))(
+                நெடுவரிசை(
+                    பொத்தான்(உரை: "மூடு", பொ_பாணி(அகலம்: 100, உயரம்: 40), அழுத்தினால்: () => மூடு())
+                    உரை(மூடியவை)
+                )
+            )
+        )`, { logic: `
+        உறுதி = பொய்
+        மூடியவை = 0
+        செயல் திற():
+            உறுதி = மெய்
+        செயல் மூடு():
+            உறுதி = பொய்
+            மூடியவை = மூடியவை கூட்டு 1` });
+
+webTest('the click that opens a dialog does nothing in it', underPointer, async page => {
+    await page.click(150, 140);
+    assert.equal(await isOpen(page), true);
+    await page.text('0');
+    await page.click(150, 140);
+    assert.equal(await isOpen(page), false);
+    await page.click(150, 140);
+    assert.equal(await isOpen(page), true);
+    await page.text('1');
+});
+
+// A dialog's button opens another dialog, whose own button lies in the same place.
+webTest('the click that opens a dialog from a dialog does nothing in the second', application(`
+        அடுக்கி(சீரமைப்பு: மேல்_இடது)(
+            எச்சரிக்கை(காட்சி_பெயர்: "முதல்", எச்சரிக்கை_பாணி(அகலம்: 300, உயரம்: 160))(
+                அடுக்கி(சீரமைப்பு: மேல்_இடது)(
+                    பொத்தான்(உரை: "அடுத்தது", பொ_பாணி(அகலம்: 100, உயரம்: 40), அழுத்தினால்: () => அடுத்ததைத்_திற())
+                    எச்சரிக்கை(காட்சி_பெயர்: "இரண்டாவது", எச்சரிக்கை_பாணி(அகலம்: 300, உயரம்: 160))(
+                        பொத்தான்(உரை: "மூடு", பொ_பாணி(அகலம்: 100, உயரம்: 40), அழுத்தினால்: () => மூடு())
+                    )
+                )
+            )
+        )`, { logic: `
+        முதல் = மெய்
+        இரண்டாவது = பொய்
+        செயல் அடுத்ததைத்_திற():
+            இரண்டாவது = மெய்
+        செயல் மூடு():
+            இரண்டாவது = பொய்
+            முதல் = பொய்` }), async page => {
+    await page.text('அடுத்தது');
+    await page.click(150, 140);
+    assert.equal(await isOpen(page), true);
+    await page.click(150, 140);
+    assert.equal(await isOpen(page), false);
+});

@@ -264,3 +264,14 @@ webTest('உரைபொத்தான் is its text alone, with another colou
     await page.moveTo(34, 71);
     assert.equal((await page.text('முகப்பு')).colour, '#112233');
 });
+
+webTest('a weight in Tamil digits counts as in others', application(`
+        நெடுவரிசை(
+            உரை("உரை", உரைபாணி(அளவு: 20, தடிமன்: ௭௦௦)),
+            பொத்தான்(உரை("பொத்தான்", உரைபாணி(தடிமன்: ௬௦௦)))
+        )`), async page => {
+    const [text, label] = await page.texts();
+    assert.ok(['700', 'bold'].includes(text.weight), text.weight);
+    near(text.size, 20 * 0.65);
+    assert.equal(label.weight, '600');
+});

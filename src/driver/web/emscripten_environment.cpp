@@ -13,7 +13,9 @@ namespace fs = std::filesystem;
 constexpr const char* PATH_SEPARATOR = ":";
 /// Generated programs catch exceptions, which em++ leaves out unless told otherwise. The objects of the installation are
 /// compiled with the same (cmake/WebProgramFiles.cmake).
-constexpr const char* COMPILER_FLAGS = "-fwasm-exceptions";
+///
+/// Widgets inside each other become brackets inside each other, several for each: far more than em++ takes by itself.
+constexpr const char* COMPILER_FLAGS = "-fwasm-exceptions -fbracket-depth=16384";
 /// Where Debian keeps the modules that its Emscripten asks for; a Node from elsewhere doesn't look there.
 constexpr const char* DEBIAN_NODE_MODULES = "/usr/share/nodejs";
 

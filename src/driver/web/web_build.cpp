@@ -42,7 +42,9 @@ WebBuild::WebBuild(const fs::path& appDirectory, const fs::path& temporaryDirect
       source_(temporaryDirectory / "வலை_வெளியீடு.cpp"), objects_{appDirectory / "திரட்டு" / "error_handler_web.o",
                                                                 appDirectory / "திரட்டு" / "nanovg_web.o"},
       outputDirectory_(webDirectory()), headers_(precompiledHeaders(appDirectory, compiler_)),
-      runtime_(temporaryDirectory) {}
+      runtime_(temporaryDirectory) {
+    platform::allowDeepStacks(); // for widgets inside each other
+}
 
 bool WebBuild::run(const Program& program, const OutputText& output) {
     if (!writeOutput(source_, output.text)) {

@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -158,6 +159,15 @@ int runSilently(const Command& command) {
     actions.discard(STDOUT_FILENO);
     actions.discard(STDERR_FILENO);
     return spawnAndWait(command, actions);
+}
+
+void allowDeepStacks() {
+    constexpr rlim_t DEEP = rlim_t(512) * 1024 * 1024;
+    rlimit limit{};
+    if (getrlimit(RLIMIT_STACK, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY && limit.rlim_cur < DEEP) {
+        limit.rlim_cur = limit.rlim_max == RLIM_INFINITY ? DEEP : std::min(limit.rlim_max, DEEP);
+        setrlimit(RLIMIT_STACK, &limit);
+    }
 }
 
 void startInBackground(const Command& command) {

@@ -66,9 +66,11 @@ void emitChildWidth(WidgetWriter& column, const WidgetNode& child) {
     const Expression* text = findProperty(child, {"உரை"});
     if (child.kind == "உரை" && text != nullptr) {
         column.block(R"(
+    pozhil_draw([&] {
     std::string _uTxt = fn_any_to_string($text);
     float _uRespSize = responsiveTextSize($size, winWidth);
     childW = getTextWidth(_uTxt.c_str(), _uRespSize);
+    });
 )",
                      {{"text", textValue(column, text, "")}, {"size", floatConstant(fontSizeOf(child.style))}});
     }

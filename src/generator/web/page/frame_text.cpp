@@ -15,20 +15,42 @@ float responsiveTextSize(float baseSize, float winWidth) {
     return baseSize * scale;
 }
 
+// இப்போது மெய்யாக உள்ள காட்சிப்பெயர்கள்
+std::set<std::string> pozhil_open_alerts() {
+    std::set<std::string> open;
+    for (const std::string& alert_name : g_alert_names) {
+        const auto shown = global_vars.find(alert_name);
+        if (shown != global_vars.end() && shown->second.type() == typeid(bool) && std::any_cast<bool>(shown->second)) {
+            open.insert(alert_name);
+        }
+    }
+    return open;
+}
+
+// வரையும்போது பிழை எழுந்தால் அந்த விட்ஜெட் மட்டும் அச்சட்டத்தில் விடுபடும்; ஒவ்வொரு பிழையும் ஒருமுறையே பணியகத்துக்குச் செல்லும்
+void pozhil_report_drawing_fault(const std::string& fault) {
+    static std::set<std::string> reported;
+    if (reported.insert(fault).second) {
+        EM_ASM({ console.error('🔥 பொழில் இயக்கநேரப் பிழை (WASM):', UTF8ToString($0)); }, fault.c_str());
+    }
+}
+
+template <class Draw> void pozhil_draw(Draw draw) {
+    try {
+        draw();
+    } catch (const std::exception& fault) {
+        pozhil_report_drawing_fault(fault.what());
+    }
+}
+
 void render_frame() {
     float winWidth = (float)EM_ASM_DOUBLE({ return window.innerWidth; });
     float winHeight = (float)EM_ASM_DOUBLE({ return window.innerHeight; });
     int fbWidth = 0, fbHeight = 0;
     float pxRatio = 1.0f;
 
-    g_block_background_clicks = false;
-    for (const std::string& alert_name : g_alert_names) {
-        const auto shown = global_vars.find(alert_name);
-        if (shown != global_vars.end() && shown->second.type() == typeid(bool) && std::any_cast<bool>(shown->second)) {
-            g_block_background_clicks = true;
-            break;
-        }
-    }
+    const std::set<std::string> masking_alerts = pozhil_open_alerts();
+    g_block_background_clicks = !masking_alerts.empty();
     EM_ASM({
         window.modalActive = $0 !== 0;
         if (window.modalActive) {
@@ -62,6 +84,7 @@ void render_frame() {
 )";
 
 const std::string_view frame_text::TAIL = R"(
+    });
     EM_ASM({
         if (window.modalActive) {
             window.mouseX = window.savedMouseX;
@@ -75,8 +98,14 @@ const std::string_view frame_text::TAIL = R"(
     }
     g_inside_overlay = true;
     for (std::size_t next = 0; next < g_overlays.size(); ++next) {
+        // எச்சரிக்கையைத் திறந்த சொடுக்கு அதற்குள்ளும் செயல்படக் கூடாது
+        for (const std::string& alert_name : pozhil_open_alerts()) {
+            if (masking_alerts.count(alert_name) == 0) {
+                g_mouseClicked = false;
+            }
+        }
         std::function<void()> draw_overlay = g_overlays[next]; // வரையும்போதே இன்னொன்று சேரலாம்
-        draw_overlay();
+        pozhil_draw(draw_overlay);
     }
     g_overlays.clear();
     g_inside_overlay = false;

@@ -43,7 +43,8 @@ void WebEmitter::writeProgram() {
 /// What a parent imposes on a widget passes through the two forced sizes.
 void WebEmitter::writeFrameHead() {
     out_.block(frame_text::HEAD);
-    out_ << "    float forcedW = -1.0f; float forcedH = -1.0f; float maxW = -1.0f; float maxH = -1.0f;\n";
+    out_ << "    float forcedW = -1.0f; float forcedH = -1.0f; float maxW = -1.0f; float maxH = -1.0f;\n"
+         << "    pozhil_draw([&] {\n";
 }
 
 void WebEmitter::writeMain() {

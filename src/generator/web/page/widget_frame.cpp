@@ -65,9 +65,9 @@ void WidgetFrame::writeWidget(const WidgetNode& widget, const std::string& x, co
     const WidgetKind* kind = findWidgetKind(widget.kind);
     if (kind != nullptr && kind->block != nullptr) {
         // A function of its own: WebAssembly takes no function with as many locals as a large page would need.
-        writer.block("[&] { // $kind\n", {{"kind", widget.kind}});
+        writer.block("pozhil_draw([&] { // $kind\n", {{"kind", widget.kind}});
         kind->block(writer);
-        writer.block("}();\n");
+        writer.block("});\n");
     }
     if (!name.empty()) {
         writer.block("} // End Visibility Check for $name\n", {{"name", name}});

@@ -1,5 +1,6 @@
 #include "generator/web/write/text_value.h"
 
+#include "base/number_text.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_writer.h"
 
@@ -61,7 +62,7 @@ float fontSizeOf(const TextStyle& style) {
 }
 
 std::string weightOf(const TextStyle& style) {
-    return style.weight.empty() ? "400" : style.weight;
+    return style.weight.empty() ? "400" : toAsciiDigits(style.weight);
 }
 
 } // namespace pozhil
