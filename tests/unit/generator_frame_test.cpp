@@ -1,7 +1,7 @@
 // The frame of the emitted text: its sections in their order, the start page, and what a program adds to it.
 
 #include "generator/first/runtime_text.h"
-#include "generator/web/page/start_page.h"
+#include "generator/web/page/application.h"
 #include "support/generating.h"
 
 #include <gtest/gtest.h>
@@ -118,7 +118,7 @@ StatementPtr page(ExpressionPtr name, ExpressionPtr wish = nullptr) {
 template <class... Pages> std::string startOf(Pages... pages) {
     Program program;
     program.statements = listOf(std::move(pages)...);
-    return findStartPage(program);
+    return readApplication(program).startPage;
 }
 
 TEST(StartPage, IsTheFirstWithAName) {

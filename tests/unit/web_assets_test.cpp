@@ -46,20 +46,22 @@ template <class... Statements> Program programOf(Statements&&... statements) {
     return program;
 }
 
-std::set<std::string> pathsOf(const Statement* statement) {
-    std::set<std::string> paths;
-    collectImagePaths(statement, paths);
-    return paths;
+std::string titleOf(const Program& program) {
+    return readApplication(program).title;
 }
 
 std::string headerValue(ExpressionPtr value) {
-    return extractHeaderProperty(programOf(application(header(property("சாவி", std::move(value))))), "சாவி");
+    return titleOf(programOf(application(header(property("இணைய_தலைப்பு", std::move(value))))));
+}
+
+template <class... Statements> std::set<std::string> pathsOf(Statements&&... statements) {
+    return readApplication(programOf(std::forward<Statements>(statements)...)).files;
 }
 
 /// The arguments for an application that shows these images.
 template <class... Paths> std::vector<std::string> packed(const Paths&... paths) {
     auto body = make<ColumnNode>(listOf(StatementPtr(image(paths))...), சீரமைப்பு_வகை::மையம்);
-    return packingArguments(programOf(application(header({}), std::move(body))));
+    return packingArguments(readApplication(programOf(application(header({}), std::move(body)))));
 }
 
 TEST(HeaderProperty, IsTheTextOfAStringOrAColour) {
@@ -75,63 +77,80 @@ TEST(HeaderProperty, OfAnyOtherKindIsNone) {
 }
 
 TEST(HeaderProperty, IsThatOfTheFirstApplicationThatHasOne) {
-    const auto with = [](const std::string& value) { return application(header(property("சாவி", text(value)))); };
+    const auto with = [](const std::string& value) {
+        return application(header(property("இணைய_தலைப்பு", text(value))));
+    };
     const Program program =
         programOf(assignment("அ", number("1")), StatementPtr(), application(nullptr), application(header({})),
-                  application(header(property("சாவி", number("5")))), with("முதல்"), with("இரண்டு"));
-    EXPECT_EQ(extractHeaderProperty(program, "சாவி"), "முதல்");
-    EXPECT_EQ(extractHeaderProperty(program, "வேறு"), "");
-    EXPECT_EQ(extractHeaderProperty({}, "சாவி"), "");
+                  application(header(property("இணைய_தலைப்பு", number("5")))), with("முதல்"), with("இரண்டு"));
+    EXPECT_EQ(titleOf(program), "முதல்");
+    EXPECT_EQ(readApplication(program).icon, "");
+    EXPECT_EQ(titleOf({}), "");
 }
 
 TEST(HeaderProperty, EmptyStringIsAValue) {
-    const Program program = programOf(application(header(property("சாவி", text("")))),
-                                      application(header(property("சாவி", text("இரண்டு")))));
-    EXPECT_EQ(extractHeaderProperty(program, "சாவி"), "");
+    const Program program = programOf(application(header(property("இணைய_தலைப்பு", text("")))),
+                                      application(header(property("இணைய_தலைப்பு", text("இரண்டு")))));
+    EXPECT_EQ(titleOf(program), "");
+}
+
+TEST(HeaderProperty, EachIsReadFromItsOwnWord) {
+    PropertyMap all = property("இணைய_தலைப்பு", text("தலைப்பு"));
+    all["சின்னம்"] = text("அ.svg");
+    all["பின்னணி"] = make<ColorExpression>("#123456", true);
+    all["பின்னணிகாணொளி"] = text("அ.mp4");
+    const Program program = programOf(application(header(std::move(all))));
+    const Application read = readApplication(program);
+    EXPECT_EQ(read.title, "தலைப்பு");
+    EXPECT_EQ(read.icon, "அ.svg");
+    EXPECT_EQ(read.background, "#123456");
+    EXPECT_EQ(read.video, "அ.mp4");
+    EXPECT_EQ(read.windowName, "செயலி");
+    EXPECT_EQ(read.pages.size(), 1U);
 }
 
 TEST(HeaderProperty, HeaderMustBeAWidget) {
-    EXPECT_EQ(extractHeaderProperty(programOf(application(make<PassStatement>())), "சாவி"), "");
+    EXPECT_EQ(titleOf(programOf(application(make<PassStatement>()))), "");
 }
 
 TEST(ImagePaths, AreThoseOfImagesIconsAndFonts) {
     auto label = widget("உரை", property("சின்னம்", text("சின்னம்.svg")));
     label->style.font = "எழுத்து.ttf";
-    const auto column =
+    auto column =
         make<ColumnNode>(listOf(StatementPtr(image("படம்.png")), StatementPtr(std::move(label))), சீரமைப்பு_வகை::மையம்);
-    EXPECT_THAT(pathsOf(column.get()), ElementsAre("எழுத்து.ttf", "சின்னம்.svg", "படம்.png"));
+    EXPECT_THAT(pathsOf(std::move(column)), ElementsAre("எழுத்து.ttf", "சின்னம்.svg", "படம்.png"));
 }
 
 TEST(ImagePaths, OnlyAnImageHasAPath) {
-    EXPECT_THAT(pathsOf(widget("உரை", property("பாதை", text("படம்.png"))).get()), IsEmpty());
-    EXPECT_THAT(pathsOf(widget("படம்", property("பாதை", variable("பெயர்"))).get()), IsEmpty());
-    EXPECT_THAT(pathsOf(widget("உரை", property("சின்னம்", variable("பெயர்"))).get()), IsEmpty());
+    EXPECT_THAT(pathsOf(widget("உரை", property("பாதை", text("படம்.png")))), IsEmpty());
+    EXPECT_THAT(pathsOf(widget("படம்", property("பாதை", variable("பெயர்")))), IsEmpty());
+    EXPECT_THAT(pathsOf(widget("உரை", property("சின்னம்", variable("பெயர்")))), IsEmpty());
 }
 
 TEST(ImagePaths, AreFoundInHeaderAndBodyAtAnyDepth) {
     auto inner = make<RowNode>(listOf(StatementPtr(image("உள்.png"))), சீரமைப்பு_வகை::மையம்);
     auto outer = make<ColumnNode>(listOf(StatementPtr(), StatementPtr(std::move(inner))), சீரமைப்பு_வகை::மையம்);
-    const auto node = application(header(property("சின்னம்", text("தலை.svg"))), std::move(outer));
-    EXPECT_THAT(pathsOf(node.get()), UnorderedElementsAre("தலை.svg", "உள்.png"));
+    auto node = application(header(property("சின்னம்", text("தலை.svg"))), std::move(outer));
+    EXPECT_THAT(pathsOf(std::move(node)), UnorderedElementsAre("தலை.svg", "உள்.png"));
 }
 
 TEST(ImagePaths, RepeatedOnesCountOnce) {
-    const auto row =
-        make<RowNode>(listOf(StatementPtr(image("a.png")), StatementPtr(image("a.png"))), சீரமைப்பு_வகை::மையம்);
-    EXPECT_THAT(pathsOf(row.get()), ElementsAre("a.png"));
+    auto row = make<RowNode>(listOf(StatementPtr(image("a.png")), StatementPtr(image("a.png"))), சீரமைப்பு_வகை::மையம்);
+    EXPECT_THAT(pathsOf(std::move(row)), ElementsAre("a.png"));
 }
 
 TEST(ImagePaths, LogicIsNotSearched) {
     auto block = make<BlockStatement>();
     block->statements.push_back(image("a.png"));
-    EXPECT_THAT(pathsOf(nullptr), IsEmpty());
-    EXPECT_THAT(pathsOf(block.get()), IsEmpty());
-    const WebAppNode node("செயலி", nullptr, nullptr, nullptr, std::move(block));
-    EXPECT_THAT(pathsOf(&node), IsEmpty());
+    EXPECT_THAT(pathsOf(StatementPtr()), IsEmpty());
+    EXPECT_THAT(pathsOf(std::move(block)), IsEmpty());
+    auto logic = make<BlockStatement>();
+    logic->statements.push_back(image("a.png"));
+    EXPECT_THAT(pathsOf(make<WebAppNode>("செயலி", nullptr, nullptr, nullptr, std::move(logic))), IsEmpty());
 }
 
 TEST_F(PackingArguments, AreNoneWithoutFiles) {
-    EXPECT_THAT(packingArguments({}), IsEmpty());
+    EXPECT_THAT(packingArguments(Application()), IsEmpty());
     EXPECT_THAT(packed("இல்லை.png"), IsEmpty());
 }
 
@@ -174,14 +193,15 @@ TEST_F(PackingArguments, VideoComesLastWhateverItsNameAndPlace) {
     write("z.png", "");
     const Program program =
         programOf(application(header(property("பின்னணிகாணொளி", text("assets/காணொளி.webm"))), image("z.png")));
-    EXPECT_THAT(packingArguments(program), ElementsAre("--preload-file", "assets", "--preload-file", "z.png",
-                                                       "--preload-file", "assets/காணொளி.webm"));
+    EXPECT_THAT(
+        packingArguments(readApplication(program)),
+        ElementsAre("--preload-file", "assets", "--preload-file", "z.png", "--preload-file", "assets/காணொளி.webm"));
 }
 
 TEST_F(PackingArguments, MissingVideoIsTold) {
     const Program program = programOf(application(header(property("பின்னணிகாணொளி", text("இல்லை.mp4")))));
     testing::internal::CaptureStderr();
-    EXPECT_THAT(packingArguments(program), IsEmpty());
+    EXPECT_THAT(packingArguments(readApplication(program)), IsEmpty());
     EXPECT_EQ(
         testing::internal::GetCapturedStderr(),
         "\n⚠️ எச்சரிக்கை: இல்லை.mp4 என்ற கோப்பு காணப்படவில்லை! \n");

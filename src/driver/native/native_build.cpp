@@ -15,8 +15,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* OBJECT_NAME = "error_handler_native_windows.o";
-/// Where Debian's mold package keeps a linker under the plain name ld.
-constexpr const char* FAST_LINKER_DIRECTORY = "/usr/libexec/mold";
 
 /// The cached reporter object: in the installation, or in the user's cache if the installation can't be written.
 fs::path objectPath(const fs::path& appDirectory) {
@@ -37,9 +35,9 @@ fs::path objectPath(const fs::path& appDirectory) {
 platform::Command compilerCommand(std::vector<std::string> arguments) {
     platform::Command command;
     command.arguments = std::move(arguments);
-    std::error_code ignored;
-    if (fs::exists(fs::path(FAST_LINKER_DIRECTORY) / "ld", ignored)) {
-        command.environment.emplace_back("COMPILER_PATH", FAST_LINKER_DIRECTORY);
+    const fs::path linkers = platform::fastLinkerDirectory();
+    if (!linkers.empty()) {
+        command.environment.emplace_back("COMPILER_PATH", linkers.u8string());
     }
     return command;
 }
@@ -62,7 +60,7 @@ void NativeBuild::start() {
     toolchain_ = std::async(std::launch::async, [this] { return runToolchain(); });
 }
 
-bool NativeBuild::finish() {
+void NativeBuild::finish() {
     if (objectIsMissing_) {
         std::cout
             << "⚙️ சிஸ்டம் ஆப்ஜெக்ட் ஃபைல் புதிதாக உருவாக்கப்படுகிறது...\n"
@@ -76,9 +74,9 @@ bool NativeBuild::finish() {
     }
     if (result.link.status != 0) {
         std::cerr << style::RED << "பிழை: தொகுப்பதில் சிக்கல்! உன்னோட கோடை ஒருவாட்டி பாரு மச்சி." << style::RESET << std::endl;
-        return false;
+        return;
     }
-    return runProgram();
+    runProgram();
 }
 
 /// The object of the diagnostics once per installation, then always the program. A failed object shows as a failed
@@ -119,12 +117,11 @@ platform::Command NativeBuild::linkCommand() const {
 }
 
 /// The detour over a fresh file means that a failed link leaves the previous program untouched.
-bool NativeBuild::runProgram() const {
+void NativeBuild::runProgram() const {
     std::error_code ignored;
     fs::remove(program_, ignored);
     fs::rename(freshProgram_, program_, ignored);
     platform::run_command({{program_.u8string()}, {}});
-    return true;
 }
 
 } // namespace pozhil

@@ -24,8 +24,8 @@ public:
     void start();
 
     /// Waits for the toolchain, shows its output, and runs the program.
-    /// \return whether the link succeeded; how the program ended counts for nothing
-    bool finish();
+    /// If the link failed, there is no program to run; how the program ended counts for nothing.
+    void finish();
 
 private:
     struct ToolchainResult {
@@ -36,7 +36,7 @@ private:
     ToolchainResult runToolchain() const;
     platform::Command objectCommand() const;
     platform::Command linkCommand() const;
-    bool runProgram() const;
+    void runProgram() const;
 
     std::filesystem::path appDirectory_;
     std::filesystem::path generatedSource_;

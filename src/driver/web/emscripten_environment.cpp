@@ -1,6 +1,7 @@
 #include "driver/web/emscripten_environment.h"
 
 #include "platform/environment.h"
+#include "platform/paths.h"
 #include "platform/process.h"
 
 #include <system_error>
@@ -10,14 +11,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* PATH_SEPARATOR = ":";
 /// Generated programs catch exceptions, which em++ leaves out unless told otherwise. The objects of the installation are
 /// compiled with the same (cmake/WebProgramFiles.cmake).
 ///
 /// Widgets inside each other become brackets inside each other, several for each: far more than em++ takes by itself.
 constexpr const char* COMPILER_FLAGS = "-fwasm-exceptions -fbracket-depth=16384";
-/// Where Debian keeps the modules that its Emscripten asks for; a Node from elsewhere doesn't look there.
-constexpr const char* DEBIAN_NODE_MODULES = "/usr/share/nodejs";
 
 bool pathExists(const fs::path& path) {
     std::error_code ignored;
@@ -68,15 +66,15 @@ void injectEmscriptenEnvironment(const fs::path& appDirectory) {
     }
     const fs::path node = findTool(sdk / "node", "node");
     const fs::path python = findTool(sdk / "python", "python3");
-    std::string path = (sdk / "upstream" / "emscripten").u8string() + PATH_SEPARATOR + sdk.u8string();
+    std::string path = (sdk / "upstream" / "emscripten").u8string() + platform::PATH_LIST_SEPARATOR + sdk.u8string();
     for (const fs::path& directory : {python, node}) {
         if (!directory.empty()) {
-            path += PATH_SEPARATOR + directory.u8string();
+            path += platform::PATH_LIST_SEPARATOR + directory.u8string();
         }
     }
     // An empty entry would stand for the current directory.
     const std::string own = platform::environmentVariable("PATH").value_or("");
-    platform::setEnvironmentVariable("PATH", own.empty() ? path : path + PATH_SEPARATOR + own);
+    platform::setEnvironmentVariable("PATH", own.empty() ? path : path + platform::PATH_LIST_SEPARATOR + own);
     platform::setEnvironmentVariable("EMSDK", sdk.u8string());
     platform::setEnvironmentVariable("EMSDK_PYTHON", toolPath(python, "python3"));
     platform::setEnvironmentVariable("EMSDK_NODE", toolPath(node, "node"));
@@ -109,8 +107,10 @@ std::vector<std::pair<std::string, std::string>> emscriptenVariables(const Preco
         flags += " -Xclang -preamble-bytes=" + std::to_string(headers.sourceLength) + ",1";
     }
     std::vector<std::pair<std::string, std::string>> variables = {{"EMCC_CFLAGS", extended("EMCC_CFLAGS", " ", flags)}};
-    if (pathExists(DEBIAN_NODE_MODULES)) {
-        variables.emplace_back("NODE_PATH", extended("NODE_PATH", PATH_SEPARATOR, DEBIAN_NODE_MODULES));
+    // A packaged Emscripten asks for modules there; a Node from elsewhere doesn't look.
+    const fs::path modules = platform::nodeModulesDirectory();
+    if (!modules.empty()) {
+        variables.emplace_back("NODE_PATH", extended("NODE_PATH", platform::PATH_LIST_SEPARATOR, modules.u8string()));
     }
     return variables;
 }

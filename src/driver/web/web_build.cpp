@@ -51,10 +51,11 @@ bool WebBuild::run(const Program& program, const OutputText& output) {
         return false;
     }
     const int version = g_appVersion + 1;
-    if (!makePage(program, version)) {
+    const Application application = readApplication(program);
+    if (!makePage(application, version)) {
         return false;
     }
-    const std::vector<std::string> packing = packingArguments(program);
+    const std::vector<std::string> packing = packingArguments(application);
     clearOutput(outputDirectory_);
     if (!compile(output, packing)) {
         explainFailure();
@@ -67,17 +68,16 @@ bool WebBuild::run(const Program& program, const OutputText& output) {
 }
 
 /// Makes the page for the server, which hands it out from now on, also if em++ then fails.
-bool WebBuild::makePage(const Program& program, int version) const {
+bool WebBuild::makePage(const Application& application, int version) const {
     const auto page = readTemplate(appDirectory_);
     if (!page) {
-        std::cerr << "பிழை: template.html கோப்பு கிடைக்கவில்லை! '" << appDirectory_.u8string()
-                  << "/உள்ளடக்கம்/template.html' உள்ளதா எனச் சரிபார்க்கவும்.\n";
+        printMissingTemplate(appDirectory_.u8string() + "/உள்ளடக்கம்/template.html");
         return false;
     }
     PageValues values;
-    values.title = extractHeaderProperty(program, "இணைய_தலைப்பு");
-    values.icon = extractHeaderProperty(program, "சின்னம்");
-    values.background = extractHeaderProperty(program, "பின்னணி");
+    values.title = application.title;
+    values.icon = application.icon;
+    values.background = application.background;
     values.version = version;
     g_web_html.store(fillTemplate(*page, values));
     return true;

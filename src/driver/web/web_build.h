@@ -3,6 +3,7 @@
 #include "driver/translation.h"
 #include "driver/web/emscripten_environment.h"
 #include "driver/web/precompiled_runtime.h"
+#include "generator/web/page/application.h"
 #include "platform/process.h"
 
 #include <array>
@@ -25,7 +26,7 @@ public:
     bool run(const Program& program, const OutputText& output);
 
 private:
-    bool makePage(const Program& program, int version) const;
+    bool makePage(const Application& application, int version) const;
     PrecompiledHeaders headersFor(const OutputText& output);
     void prepareRuntime(const OutputText& output);
     bool compile(const OutputText& output, const std::vector<std::string>& packing);

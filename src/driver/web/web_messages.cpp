@@ -49,6 +49,18 @@ void printWebFailure() {
     std::cout << RED << "தோல்வி! குறியீட்டில் உள்ள பிழைகளைச் சரிசெய்யவும்." << RESET << std::endl;
 }
 
+void printWebUpdated() {
+    std::cout << "✅ தளம் புதுப்பிக்கப்பட்டது! பிரவுசரில் பார்க்கவும்." << std::endl;
+}
+
+void printMissingTemplate(const std::string& path) {
+    std::cerr << "பிழை: template.html கோப்பு கிடைக்கவில்லை! '" << path << "' உள்ளதா எனச் சரிபார்க்கவும்.\n";
+}
+
+void printMissingVideo(const std::string& path) {
+    std::cerr << "\n⚠️ எச்சரிக்கை: " << path << " என்ற கோப்பு காணப்படவில்லை! \n";
+}
+
 void printCompilationFailure() {
     std::cout << RED << "\n🚨 (பொழி-404): நிரலைத் தொகுப்பதில் (Compilation) சிக்கல்!" << RESET << "\n"
               << GOLD << "💡 குறிப்பு: உமது தமிழ் நிரலின் கட்டமைப்பை (Syntax) ஒருமுறை சரிபார்க்கவும்." << RESET << std::endl;

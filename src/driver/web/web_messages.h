@@ -22,6 +22,15 @@ void printWebSuccess(const std::string& address);
 /// Tells that the first build failed.
 void printWebFailure();
 
+/// Tells that a later version of the application is served.
+void printWebUpdated();
+
+/// Tells that the template of the page is missing.
+void printMissingTemplate(const std::string& path);
+
+/// Tells that the video behind a page is missing.
+void printMissingVideo(const std::string& path);
+
 /// Tells that em++ failed.
 void printCompilationFailure();
 

@@ -29,7 +29,7 @@ void runWeb(const ParsedSource& source, const OutputText& output, const FrontEnd
     steps.changeNote = "\n🔄 மாற்றம் கண்டறியப்பட்டது! வலைத்தளம் புதுப்பிக்கப்படுகிறது...";
     steps.build = [&](const ParsedSource& changed, const OutputText& changedOutput) {
         if (build.run(changed.program, changedOutput)) {
-            std::cout << "✅ தளம் புதுப்பிக்கப்பட்டது! பிரவுசரில் பார்க்கவும்." << std::endl;
+            printWebUpdated();
         }
     };
     steps.reportFailure = reportWebWatchFailure;

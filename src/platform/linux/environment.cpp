@@ -4,6 +4,8 @@
 
 namespace pozhil::platform {
 
+const char* const PATH_LIST_SEPARATOR = ":";
+
 std::optional<std::string> environmentVariable(const std::string& name) {
     const char* value = std::getenv(name.c_str());
     if (value == nullptr) {

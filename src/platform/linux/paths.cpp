@@ -4,6 +4,8 @@
 
 #include <unistd.h>
 
+#include <system_error>
+
 namespace pozhil::platform {
 
 std::filesystem::path executableDirectory() {
@@ -17,6 +19,19 @@ std::filesystem::path userCacheDirectory() {
     }
     const auto home = environmentVariable("HOME");
     return home && !home->empty() ? std::filesystem::path(*home) / ".cache" : std::filesystem::path();
+}
+
+std::filesystem::path fastLinkerDirectory() {
+    // Debian's mold package keeps a linker there under the plain name ld.
+    const std::filesystem::path mold = "/usr/libexec/mold";
+    std::error_code ignored;
+    return std::filesystem::exists(mold / "ld", ignored) ? mold : std::filesystem::path();
+}
+
+std::filesystem::path nodeModulesDirectory() {
+    const std::filesystem::path modules = "/usr/share/nodejs";
+    std::error_code ignored;
+    return std::filesystem::exists(modules, ignored) ? modules : std::filesystem::path();
 }
 
 bool isWritableDirectory(const std::filesystem::path& directory) {

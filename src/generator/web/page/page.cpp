@@ -1,6 +1,6 @@
 #include "generator/web/page/page.h"
 
-#include "generator/web/page/start_page.h"
+#include "generator/web/page/application.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/widget_context.h"
 #include "generator/web/write/widget_writer.h"

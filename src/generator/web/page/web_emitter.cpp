@@ -3,27 +3,16 @@
 #include "generator/web/page/database.h"
 #include "generator/web/page/frame_text.h"
 #include "generator/web/page/page.h"
-#include "generator/web/page/start_page.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/widget_properties.h"
 
 namespace pozhil {
 
 WebEmitter::WebEmitter(CodeWriter& out, Edition& edition, const Program& program)
-    : out_(out), edition_(edition), program_(program), widgets_(out, edition) {
-    for (const StatementPtr& statement : program.statements) {
-        if (const auto* app = nodeCast<WebAppNode>(statement.get())) {
-            applications_.push_back(app);
-        }
-    }
-}
-
-std::string WebEmitter::startPage() const {
-    return findStartPage(program_);
-}
+    : out_(out), edition_(edition), application_(readApplication(program)), widgets_(out, edition) {}
 
 void WebEmitter::writeDatabaseSetup() {
-    for (const WebAppNode* app : applications_) {
+    for (const WebAppNode* app : application_.pages) {
         emitDatabaseSetup(out_, *app);
     }
 }
@@ -32,7 +21,7 @@ void WebEmitter::writeProgram() {
     writeFrameHead();
     {
         const CodeWriter::Indented inFrame(out_);
-        for (const WebAppNode* app : applications_) {
+        for (const WebAppNode* app : application_.pages) {
             emitPage(widgets_, *app);
         }
     }
@@ -50,12 +39,10 @@ void WebEmitter::writeFrameHead() {
 void WebEmitter::writeMain() {
     constexpr float DEFAULT_WIDTH = 1280.0F;
     constexpr float DEFAULT_HEIGHT = 720.0F;
-    const WebAppNode& first = *applications_.front();
-    const auto* header = nodeCast<HeaderNode>(first.header.get());
-    const ScreenConfig screen = header == nullptr ? ScreenConfig() : header->screen;
+    const ScreenConfig& screen = application_.screen;
     out_.block(frame_text::MAIN, {{"width", floatConstant(screen.useDefault ? DEFAULT_WIDTH : screen.width)},
                                   {"height", floatConstant(screen.useDefault ? DEFAULT_HEIGHT : screen.height)},
-                                  {"title", first.name},
+                                  {"title", application_.windowName},
                                   {"fontHost", POZHIL_WEB_FONT_HOST}});
 }
 

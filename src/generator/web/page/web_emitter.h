@@ -1,6 +1,7 @@
 #pragma once
 
 #include "emit/code_writer.h"
+#include "generator/web/page/application.h"
 #include "generator/web/page/widget_frame.h"
 #include "generator/web/write/edition.h"
 #include "parser/syntax_tree.h"
@@ -18,10 +19,10 @@ public:
     WebEmitter(CodeWriter& out, Edition& edition, const Program& program);
 
     /// The applications of the program, one page each, in order. A console program has none.
-    const std::vector<const WebAppNode*>& applications() const { return applications_; }
+    const std::vector<const WebAppNode*>& applications() const { return application_.pages; }
 
     /// Name of the page that is shown first.
-    std::string startPage() const;
+    const std::string& startPage() const { return application_.startPage; }
 
     /// What makes the databases of the applications ready, for the set-up before the first frame.
     void writeDatabaseSetup();
@@ -43,8 +44,7 @@ private:
 
     CodeWriter& out_;
     Edition& edition_;
-    const Program& program_;
-    std::vector<const WebAppNode*> applications_;
+    const Application application_;
     WidgetFrame widgets_;
 };
 

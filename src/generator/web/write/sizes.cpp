@@ -110,11 +110,4 @@ std::pair<float, float> getAlignmentCoords(சீரமைப்பு_வகை
     return {static_cast<float>(column), static_cast<float>(line)};
 }
 
-void calculateAlign(சீரமைப்பு_வகை alignment, float parentW, float parentH, float childW, float childH, float& outX,
-                    float& outY) {
-    const auto [x, y] = getAlignmentCoords(alignment);
-    outX = (1 + x) * (parentW - childW) / 2;
-    outY = (1 + y) * (parentH - childH) / 2;
-}
-
 } // namespace pozhil

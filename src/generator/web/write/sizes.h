@@ -32,10 +32,4 @@ void emitOwnWidth(WidgetWriter& widget, const char* width);
 /// Where an alignment puts content in the free space: x and y, each from -1 (left, top) over 0 (centre) to 1.
 std::pair<float, float> getAlignmentCoords(சீரமைப்பு_வகை alignment);
 
-/// Where a child's corner stands in a parent of known size, as the emitted layouts compute it.
-///
-/// \param outX, outY from the parent's corner; negative where the child is larger
-void calculateAlign(சீரமைப்பு_வகை alignment, float parentW, float parentH, float childW, float childH, float& outX,
-                    float& outY);
-
 } // namespace pozhil
