@@ -3,6 +3,7 @@
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -64,7 +65,7 @@ void emitScrollBar(WidgetWriter& column) {
 void emitChildWidth(WidgetWriter& column, const WidgetNode& child) {
     column.block("    float childW = $width;\n", {{"width", floatConstant(column.widthOf(child))}});
     const Expression* text = findProperty(child, {"உரை"});
-    if (child.kind == "உரை" && text != nullptr) {
+    if (child.kind == language::widget::TEXT && text != nullptr) {
         column.block(R"(
     pozhil_draw([&] {
     std::string _uTxt = fn_any_to_string($text);
@@ -86,7 +87,7 @@ void emitFreeChild(WidgetWriter& column, const WidgetNode& child) {
     forcedW = savedForcedW; forcedH = savedForcedH;
 )",
                  {{"child", column.blocks([&] {
-                       if (child.kind != "வெற்றிடம்") {
+                       if (child.kind != language::widget::SPACER) {
                            column.child(child, "childX", "currentY");
                        }
                    })}});
@@ -95,11 +96,12 @@ void emitFreeChild(WidgetWriter& column, const WidgetNode& child) {
 void emitChild(WidgetWriter& column, const WidgetNode& child) {
     emitChildWidth(column, child);
     if (const std::optional<float> share = flexShare(child)) {
-        const std::string height = child.kind == "நெகிழ்வு" ? "unitFlexH * " + floatConstant(*share) : "unitFlexH";
+        const std::string height =
+            child.kind == language::widget::FLEXIBLE ? "unitFlexH * " + floatConstant(*share) : "unitFlexH";
         column.block("    forcedH = $height;\n", {{"height", height}});
         emitFreeChild(column, child);
         column.block("    currentY += $height + spacing;\n", {{"height", height}});
-    } else if (child.kind == "இவெ") {
+    } else if (child.kind == language::widget::GAP) {
         column.block("    float current_hH = 0.0f;\n");
         emitSize(column, findProperty(child, {AXIS.gapProperty}), "current_hH",
                  "(forcedH > 0.0f ? forcedH : containerH)");
@@ -148,6 +150,6 @@ void emitColumn(WidgetWriter& column) {
 
 } // namespace
 
-extern const WidgetKind COLUMN = {"நெடுவரிசை", emitColumn, largestChild, lineOfChildren};
+extern const WidgetKind COLUMN = {language::widget::COLUMN, emitColumn, largestChild, lineOfChildren};
 
 } // namespace pozhil

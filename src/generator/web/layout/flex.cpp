@@ -1,5 +1,6 @@
 #include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -17,8 +18,8 @@ void emitFlexSpacer(WidgetWriter&) {}
 
 } // namespace
 
-extern const WidgetKind EXPANDED = {"விரிவாக்கம்", emitFlexWrapper, firstChild, firstChild};
-extern const WidgetKind FLEXIBLE = {"நெகிழ்வு", emitFlexWrapper, firstChild, firstChild};
-extern const WidgetKind FREE_SPACE = {"வெற்றிடம்", emitFlexSpacer, fixed<0>, plainSized<0>};
+extern const WidgetKind EXPANDED = {language::widget::EXPANDED, emitFlexWrapper, firstChild, firstChild};
+extern const WidgetKind FLEXIBLE = {language::widget::FLEXIBLE, emitFlexWrapper, firstChild, firstChild};
+extern const WidgetKind FREE_SPACE = {language::widget::SPACER, emitFlexSpacer, fixed<0>, plainSized<0>};
 
 } // namespace pozhil

@@ -1,5 +1,6 @@
 #include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -11,6 +12,6 @@ void emitGap(WidgetWriter& gap) {
 
 } // namespace
 
-extern const WidgetKind GAP = {"இவெ", emitGap, plainSized<0>, plainSized<0>};
+extern const WidgetKind GAP = {language::widget::GAP, emitGap, plainSized<0>, plainSized<0>};
 
 } // namespace pozhil

@@ -1,6 +1,7 @@
 #include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 #include <algorithm>
 
@@ -20,7 +21,7 @@ std::string gapOf(const WidgetNode& grid, const char* spacerSize, std::initializ
     float gap = USUAL;
     for (const auto& property : grid.properties) {
         const WidgetNode* spacer = asWidget(property.second.get());
-        if (spacer != nullptr && spacer->kind == "இவெ") {
+        if (spacer != nullptr && spacer->kind == language::widget::GAP) {
             gap = constantOf(findProperty(*spacer, {spacerSize})).value_or(gap);
         }
     }
@@ -92,7 +93,7 @@ float gridGap(const Measure& measure, std::optional<float> otherwise) {
     constexpr float USUAL = 10.0F;
     for (const auto& property : measure.widget.properties) {
         const WidgetNode* spacer = asWidget(property.second.get());
-        if (spacer != nullptr && spacer->kind == "இவெ") {
+        if (spacer != nullptr && spacer->kind == language::widget::GAP) {
             const std::optional<float> size = numberOf(findProperty(*spacer, {measure.axis.name}));
             if (size) {
                 return *size;
@@ -127,6 +128,6 @@ float gridHeight(const Measure& measure) {
 
 } // namespace
 
-extern const WidgetKind GRID_VIEW = {"கட்டம்_காட்சி", emitGridView, gridWidth, gridHeight};
+extern const WidgetKind GRID_VIEW = {language::widget::GRID_VIEW, emitGridView, gridWidth, gridHeight};
 
 } // namespace pozhil

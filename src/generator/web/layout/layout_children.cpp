@@ -3,6 +3,7 @@
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 #include <algorithm>
 
@@ -22,11 +23,11 @@ LayoutChildren::LayoutChildren(WidgetWriter& layout)
 }
 
 std::optional<float> flexShare(const WidgetNode& child) {
-    if (child.kind == "நெகிழ்வு") {
+    if (child.kind == language::widget::FLEXIBLE) {
         const auto* flexible = dynamic_cast<const FlexibleNode*>(&child);
         return flexible == nullptr ? 1.0F : static_cast<float>(flexible->flex);
     }
-    const bool isFlex = child.kind == "விரிவாக்கம்" || child.kind == "வெற்றிடம்";
+    const bool isFlex = child.kind == language::widget::EXPANDED || child.kind == language::widget::SPACER;
     return isFlex ? std::optional(1.0F) : std::nullopt;
 }
 
@@ -60,7 +61,7 @@ void emitShares(WidgetWriter& layout, const LayoutChildren& children, const Layo
             return;
         }
         std::string size = floatConstant((layout.*axis.sizeOf)(child));
-        if (child.kind == "இவெ") {
+        if (child.kind == language::widget::GAP) {
             size = processPercentage(findProperty(child, {axis.gapProperty}), axis.gapBase);
         }
         layout.block("    $sum += $size + spacing;\n",

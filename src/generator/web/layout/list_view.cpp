@@ -1,6 +1,7 @@
 #include "generator/web/layout/layout_children.h"
 #include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -78,6 +79,6 @@ void emitListView(WidgetWriter& list) {
 
 } // namespace
 
-extern const WidgetKind LIST_VIEW = {"பட்டியல்_காட்சி", emitListView};
+extern const WidgetKind LIST_VIEW = {language::widget::LIST_VIEW, emitListView};
 
 } // namespace pozhil

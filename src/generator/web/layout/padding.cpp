@@ -1,6 +1,7 @@
 #include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -33,7 +34,7 @@ float paddingSize(const Measure& measure) {
 
 } // namespace
 
-extern const WidgetKind PADDING = {"உள்_இவெ", emitPadding, paddingSize, paddingSize};
-extern const WidgetKind PADDING_RECORD = {"உள்_இவே", nullptr, paddingSize, paddingSize};
+extern const WidgetKind PADDING = {language::widget::PADDING, emitPadding, paddingSize, paddingSize};
+extern const WidgetKind PADDING_RECORD = {language::widget::PADDING_MISSPELT, nullptr, paddingSize, paddingSize};
 
 } // namespace pozhil

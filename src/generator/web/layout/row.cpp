@@ -2,6 +2,7 @@
 #include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -69,7 +70,7 @@ void emitChildTop(WidgetWriter& row, const WidgetNode& child) {
 
 /// Draws the child with \p width imposed on it; -1.0f leaves it free. A flexible spacer draws nothing.
 void emitPlacedChild(WidgetWriter& row, const WidgetNode& child, const char* width) {
-    if (child.kind == "வெற்றிடம்") {
+    if (child.kind == language::widget::SPACER) {
         return;
     }
     emitChildTop(row, child);
@@ -84,13 +85,13 @@ void emitPlacedChild(WidgetWriter& row, const WidgetNode& child, const char* wid
 
 void emitChild(WidgetWriter& row, const WidgetNode& child) {
     const std::optional<float> share = flexShare(child);
-    const bool isOneShare = share && child.kind != "நெகிழ்வு";
+    const bool isOneShare = share && child.kind != language::widget::FLEXIBLE;
     if (isOneShare) {
         emitPlacedChild(row, child, "unitFlexW");
     } else if (share) {
         row.block("    float current_wW = unitFlexW * $share;\n", {{"share", floatConstant(*share)}});
         emitPlacedChild(row, child, "current_wW");
-    } else if (child.kind == "இவெ") {
+    } else if (child.kind == language::widget::GAP) {
         row.block("    float current_wW = 0.0f;\n");
         emitSize(row, findProperty(child, {AXIS.gapProperty}), "current_wW", "(forcedW > 0.0f ? forcedW : containerW)");
     } else {
@@ -131,6 +132,6 @@ void emitRow(WidgetWriter& row) {
 
 } // namespace
 
-extern const WidgetKind ROW = {"கிடைவரிசை", emitRow, lineOfChildren, largestChild};
+extern const WidgetKind ROW = {language::widget::ROW, emitRow, lineOfChildren, largestChild};
 
 } // namespace pozhil

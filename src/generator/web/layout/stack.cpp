@@ -3,6 +3,7 @@
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -46,6 +47,6 @@ void emitStack(WidgetWriter& stack) {
 
 } // namespace
 
-extern const WidgetKind STACK = {"அடுக்கி", emitStack, largestChild, largestChild};
+extern const WidgetKind STACK = {language::widget::STACK, emitStack, largestChild, largestChild};
 
 } // namespace pozhil

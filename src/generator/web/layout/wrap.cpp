@@ -1,6 +1,7 @@
 #include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -49,6 +50,6 @@ float wrapHeight(const Measure& measure) {
 
 } // namespace
 
-extern const WidgetKind WRAP = {"மடிப்பு", emitWrap, fixed<0>, wrapHeight};
+extern const WidgetKind WRAP = {language::widget::WRAP, emitWrap, fixed<0>, wrapHeight};
 
 } // namespace pozhil

@@ -1,6 +1,7 @@
 #include "generator/web/page/application.h"
 
 #include "generator/web/write/widget_properties.h"
+#include "language/widget_words.h"
 
 #include <optional>
 
@@ -68,7 +69,8 @@ void collectFiles(const Statement* statement, std::set<std::string>& files) {
     if (widget == nullptr) {
         return;
     }
-    const auto* image = widget->kind == "படம்" ? literalProperty<StringLiteral>(*widget, "பாதை") : nullptr;
+    const auto* image =
+        widget->kind == language::widget::IMAGE ? literalProperty<StringLiteral>(*widget, "பாதை") : nullptr;
     for (const StringLiteral* path : {image, literalProperty<StringLiteral>(*widget, "சின்னம்")}) {
         if (path != nullptr) {
             files.insert(path->value);

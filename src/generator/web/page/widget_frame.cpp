@@ -5,6 +5,7 @@
 #include "generator/web/page/widget_table.h"
 #include "generator/web/widgets/snack_bar.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -38,7 +39,7 @@ void emitVisibilityCheck(WidgetWriter& writer, const std::string& name) {
 g_alert_names.insert("$name");
 )",
                  {{"name", name}});
-    if (writer.widget().kind == "எச்சரிக்கை") {
+    if (writer.widget().kind == language::widget::DIALOG) {
         writer.block(R"(
 if (global_vars.count("$name") && global_vars["$name"].type() == typeid(bool) && std::any_cast<bool>(global_vars["$name"]) == true) {
 )",
@@ -75,7 +76,7 @@ void WidgetFrame::writeWidget(const WidgetNode& widget, const std::string& x, co
 }
 
 void WidgetFrame::writeWidgetStatement(const WidgetNode& widget) {
-    if (widget.kind == "உரை") {
+    if (widget.kind == language::widget::TEXT) {
         WidgetWriter writer(*this, widget, "50", "50", 0);
         const Expression* text = findProperty(widget, {"உரை"});
         const Filling content = text == nullptr ? Filling("std::string()") : writer.expression(text);
@@ -83,7 +84,7 @@ void WidgetFrame::writeWidgetStatement(const WidgetNode& widget) {
         writer.block("drawFixedText($x, $y, fn_any_to_string($text), \"black\", 20.0, \"left\");\n",
                      {{"text", content}});
         out() << "#endif\n";
-    } else if (widget.kind == "நெடுவரிசை") {
+    } else if (widget.kind == language::widget::COLUMN) {
         for (const StatementPtr& child : widget.children) {
             edition().writeStatement(child.get());
         }

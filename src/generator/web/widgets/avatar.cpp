@@ -4,6 +4,7 @@
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -87,11 +88,11 @@ void emitInitials(WidgetWriter& avatar, const WidgetNode& text) {
 void emitAvatar(WidgetWriter& avatar) {
     const auto children = childWidgets(avatar.widget());
     const WidgetNode* content = children.empty() ? nullptr : children.front();
-    const bool hasImage = content != nullptr && content->kind == "படம்";
+    const bool hasImage = content != nullptr && content->kind == language::widget::IMAGE;
     emitDiameter(avatar);
     emitDisc(avatar, hasImage ? textOf(findProperty(*content, {"பாதை"})) : "");
     emitBorder(avatar);
-    if (content != nullptr && content->kind == "உரை") {
+    if (content != nullptr && content->kind == language::widget::TEXT) {
         emitInitials(avatar, *content);
     }
     avatar.block("}\n");
@@ -99,6 +100,6 @@ void emitAvatar(WidgetWriter& avatar) {
 
 } // namespace
 
-extern const WidgetKind AVATAR = {"வட்டபடம்", emitAvatar, sized<48>, sized<48>};
+extern const WidgetKind AVATAR = {language::widget::AVATAR, emitAvatar, sized<48>, sized<48>};
 
 } // namespace pozhil

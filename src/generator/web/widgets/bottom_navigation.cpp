@@ -4,6 +4,7 @@
 #include "generator/web/write/press_handler.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -52,7 +53,7 @@ void emitPress(WidgetWriter& bar, std::size_t itemCount) {
 
 /// A picture that is loaded when the item is first drawn, paler while it isn't selected.
 void emitIcon(WidgetWriter& bar, const WidgetNode& item) {
-    const WidgetNode* icon = childOfKind(item, "படம்");
+    const WidgetNode* icon = childOfKind(item, language::widget::IMAGE);
     const std::string path = icon == nullptr ? "" : textOf(findProperty(*icon, {"பாதை"}));
     if (path.empty()) {
         return;
@@ -76,7 +77,7 @@ void emitIcon(WidgetWriter& bar, const WidgetNode& item) {
 }
 
 void emitItem(WidgetWriter& bar, const WidgetNode& item, std::size_t index) {
-    const WidgetNode* label = childOfKind(item, "உரை");
+    const WidgetNode* label = childOfKind(item, language::widget::TEXT);
     bar.block(R"(
     {
         float iX = $i * itemW; float cX = iX + itemW / 2;
@@ -94,7 +95,7 @@ void emitItem(WidgetWriter& bar, const WidgetNode& item, std::size_t index) {
 
 /// அடிப்பகுதி: a bar at the bottom of the window whose items have icons and labels.
 void emitBottomNavigation(WidgetWriter& bar) {
-    const auto items = childrenOfKind(bar.widget(), "அடி_உருப்படி");
+    const auto items = childrenOfKind(bar.widget(), language::widget::BOTTOM_NAVIGATION_ITEM);
     emitBar(bar);
     emitPress(bar, items.size());
     for (std::size_t i = 0; i < items.size(); ++i) {
@@ -105,6 +106,6 @@ void emitBottomNavigation(WidgetWriter& bar) {
 
 } // namespace
 
-extern const WidgetKind BOTTOM_NAVIGATION = {"அடிப்பகுதி", emitBottomNavigation};
+extern const WidgetKind BOTTOM_NAVIGATION = {language::widget::BOTTOM_NAVIGATION, emitBottomNavigation};
 
 } // namespace pozhil

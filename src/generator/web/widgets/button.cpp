@@ -7,6 +7,7 @@
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -204,6 +205,6 @@ float buttonWidth(const Measure& measure) {
 
 } // namespace
 
-extern const WidgetKind BUTTON = {"பொத்தான்", emitButton, buttonWidth, sized<40>};
+extern const WidgetKind BUTTON = {language::widget::BUTTON, emitButton, buttonWidth, sized<40>};
 
 } // namespace pozhil

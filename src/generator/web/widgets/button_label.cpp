@@ -3,6 +3,7 @@
 #include "generator/web/write/literals.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 #include <algorithm>
 #include <array>
@@ -42,7 +43,7 @@ void applyStyleRecord(const WidgetNode& label, TextStyle& style, Colour& colour)
 
 ButtonLabel buttonLabel(const WidgetNode& button) {
     constexpr Colour WHITE = {1.0F, 1.0F, 1.0F, 1.0F};
-    if (const WidgetNode* text = childOfKind(button, "உரை")) {
+    if (const WidgetNode* text = childOfKind(button, language::widget::TEXT)) {
         ButtonLabel label = {findProperty(*text, {"உரை"}), text->style, styleColour(text->style.color)};
         applyStyleRecord(*text, label.style, label.colour);
         return label;

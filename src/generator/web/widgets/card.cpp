@@ -4,6 +4,7 @@
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -111,6 +112,6 @@ float cardHeight(const Measure& measure) {
 
 } // namespace
 
-extern const WidgetKind CARD = {"அட்டை", emitCard, cardWidth, cardHeight};
+extern const WidgetKind CARD = {language::widget::CARD, emitCard, cardWidth, cardHeight};
 
 } // namespace pozhil

@@ -5,6 +5,7 @@
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -22,7 +23,7 @@ void emitBoxAndLabelSize(WidgetWriter& box) {
 )");
     emitOwnSize(box, "cb_w", "cb_h");
     const WidgetNode* label = labelOf(box.widget());
-    if (label == nullptr || label->kind != "உரை") {
+    if (label == nullptr || label->kind != language::widget::TEXT) {
         box.block("    float _txtW = 0.0f;\n");
         return;
     }
@@ -150,6 +151,6 @@ float checkBoxHeight(const Measure& measure) {
 
 } // namespace
 
-extern const WidgetKind CHECKBOX = {"தேர்வுபெட்டி", emitCheckbox, checkBoxWidth, checkBoxHeight};
+extern const WidgetKind CHECKBOX = {language::widget::CHECKBOX, emitCheckbox, checkBoxWidth, checkBoxHeight};
 
 } // namespace pozhil

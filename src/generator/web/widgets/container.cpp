@@ -5,6 +5,7 @@
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 #include <algorithm>
 
@@ -36,7 +37,7 @@ std::pair<float, float> alignmentOf(const WidgetNode& child) {
 void emitChildSize(WidgetWriter& box, const WidgetNode& child) {
     box.block("        float childW = $width; float childH = $height;\n",
               {{"width", floatConstant(box.widthOf(child))}, {"height", floatConstant(box.heightOf(child))}});
-    if (child.kind == "உரை") {
+    if (child.kind == language::widget::TEXT) {
         box.block(R"block(
         if (std::string(u8"உரை") == "$kind") {
             pozhil_draw([&] { childW = pozhil_text_width(fn_any_to_string($text).c_str(), $size, "$weight"); });
@@ -58,7 +59,7 @@ void emitChild(WidgetWriter& box, const WidgetNode& child) {
         float childY = boxY + (boxH - childH) * (1.0f + $alignY) / 2.0f;
 )",
               {{"alignX", floatConstant(alignX)}, {"alignY", floatConstant(alignY)}});
-    if (child.kind == "உரை") {
+    if (child.kind == language::widget::TEXT) {
         box.block("        childY += 2.0f;\n");
     }
     box.block(R"(
@@ -82,7 +83,7 @@ void emitContainer(WidgetWriter& box) {
     emitClipRectangle(box, "boxX", "boxY", "boxW", "boxH");
     box.block("    float oldForcedW_container = forcedW; float oldForcedH_container = forcedH;\n");
     box.eachChild(childWidgets(box.widget()), [&](const WidgetNode& child) {
-        if (child.kind != BOX_STYLE_KIND) {
+        if (child.kind != language::widget::BOX_STYLE) {
             emitChild(box, child);
         }
     });
@@ -94,7 +95,7 @@ void emitContainer(WidgetWriter& box) {
 float boxSize(const Measure& measure) {
     constexpr float USUAL = 100.0F;
     for (const WidgetNode* child : childWidgets(measure.widget)) {
-        if (child->kind == "பெட்டி_பாணி") {
+        if (child->kind == language::widget::BOX_STYLE) {
             const std::optional<float> size = plainSize({measure.metrics, *child, measure.axis});
             if (size) {
                 return *size;
@@ -106,6 +107,6 @@ float boxSize(const Measure& measure) {
 
 } // namespace
 
-extern const WidgetKind CONTAINER = {"பெட்டி", emitContainer, boxSize, boxSize};
+extern const WidgetKind CONTAINER = {language::widget::CONTAINER, emitContainer, boxSize, boxSize};
 
 } // namespace pozhil

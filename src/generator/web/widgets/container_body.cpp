@@ -7,6 +7,7 @@
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -15,7 +16,7 @@ constexpr Colour WHITE = {1.0F, 1.0F, 1.0F, 1.0F};
 
 /// A property of the style record among the box's children.
 const Expression* styleProperty(const WidgetNode& box, std::initializer_list<const char*> names) {
-    const WidgetNode* style = childOfKind(box, BOX_STYLE_KIND);
+    const WidgetNode* style = childOfKind(box, language::widget::BOX_STYLE);
     return style == nullptr ? nullptr : findProperty(*style, names);
 }
 

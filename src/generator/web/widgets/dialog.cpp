@@ -4,6 +4,7 @@
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -73,6 +74,6 @@ void emitDialog(WidgetWriter& dialog) {
 
 } // namespace
 
-extern const WidgetKind DIALOG = {"எச்சரிக்கை", emitDialog, sized<400>, sized<280>};
+extern const WidgetKind DIALOG = {language::widget::DIALOG, emitDialog, sized<400>, sized<280>};
 
 } // namespace pozhil

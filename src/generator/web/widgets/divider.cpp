@@ -3,6 +3,7 @@
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -32,6 +33,6 @@ void emitDivider(WidgetWriter& divider) {
 
 } // namespace
 
-extern const WidgetKind DIVIDER = {"பிரிப்பான்", emitDivider, sized<300>, sized<20>};
+extern const WidgetKind DIVIDER = {language::widget::DIVIDER, emitDivider, sized<300>, sized<20>};
 
 } // namespace pozhil

@@ -3,6 +3,7 @@
 #include "generator/web/write/press_handler.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -119,6 +120,6 @@ void emitDropdown(WidgetWriter& dropdown) {
 
 } // namespace
 
-extern const WidgetKind DROPDOWN = {"கீழ்வரி", emitDropdown, plainSized<200>, fixed<40>};
+extern const WidgetKind DROPDOWN = {language::widget::DROPDOWN, emitDropdown, plainSized<200>, fixed<40>};
 
 } // namespace pozhil

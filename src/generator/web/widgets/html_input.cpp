@@ -2,6 +2,7 @@
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -40,6 +41,6 @@ void emitHtmlInput(WidgetWriter& input) {
 
 } // namespace
 
-extern const WidgetKind HTML_INPUT = {"கடவுமறை", emitHtmlInput};
+extern const WidgetKind HTML_INPUT = {language::widget::PASSWORD_FIELD, emitHtmlInput};
 
 } // namespace pozhil

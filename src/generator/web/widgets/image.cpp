@@ -2,6 +2,7 @@
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -64,6 +65,6 @@ void emitImage(WidgetWriter& image) {
 
 } // namespace
 
-extern const WidgetKind IMAGE = {"படம்", emitImage, sized<100>, sized<100>};
+extern const WidgetKind IMAGE = {language::widget::IMAGE, emitImage, sized<100>, sized<100>};
 
 } // namespace pozhil

@@ -4,6 +4,7 @@
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -39,6 +40,6 @@ void emitInfoPill(WidgetWriter& pill) {
 
 } // namespace
 
-extern const WidgetKind INFO_PILL = {"தகவல்பட்டை", emitInfoPill, sized<300>, sized<40>};
+extern const WidgetKind INFO_PILL = {language::widget::INFO_PILL, emitInfoPill, sized<300>, sized<40>};
 
 } // namespace pozhil

@@ -4,6 +4,7 @@
 #include "generator/web/write/press_handler.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -135,6 +136,6 @@ float tileHeight(const Measure& measure) {
 
 } // namespace
 
-extern const WidgetKind LIST_TILE = {"பட்டியல்_உருப்படி", emitListTile, plainSized<200>, tileHeight};
+extern const WidgetKind LIST_TILE = {language::widget::LIST_TILE, emitListTile, plainSized<200>, tileHeight};
 
 } // namespace pozhil

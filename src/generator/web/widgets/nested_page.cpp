@@ -1,5 +1,6 @@
 #include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -26,6 +27,6 @@ if (g_currentPage == "$name") {
 
 } // namespace
 
-extern const WidgetKind NESTED_PAGE = {"பக்கம்", emitNestedPage};
+extern const WidgetKind NESTED_PAGE = {language::widget::PAGE, emitNestedPage};
 
 } // namespace pozhil

@@ -4,6 +4,7 @@
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -62,6 +63,6 @@ void emitProgressBar(WidgetWriter& bar) {
 
 } // namespace
 
-extern const WidgetKind PROGRESS_BAR = {"முன்னேற்றவரி", emitProgressBar, sized<200>, sized<6>};
+extern const WidgetKind PROGRESS_BAR = {language::widget::PROGRESS_BAR, emitProgressBar, sized<200>, sized<6>};
 
 } // namespace pozhil

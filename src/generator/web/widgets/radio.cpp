@@ -4,6 +4,7 @@
 #include "generator/web/write/press_handler.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -72,6 +73,6 @@ void emitRadio(WidgetWriter& radio) {
 
 } // namespace
 
-extern const WidgetKind RADIO = {"வட்டத்தேர்வு", emitRadio, fixed<250>, fixed<30>};
+extern const WidgetKind RADIO = {language::widget::RADIO, emitRadio, fixed<250>, fixed<30>};
 
 } // namespace pozhil

@@ -3,6 +3,7 @@
 #include "generator/web/write/literals.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -110,7 +111,7 @@ void emitSearchBar(WidgetWriter& bar) {
 
 } // namespace
 
-extern const WidgetKind SEARCH_BAR = {"தேடல்_பட்டை", emitSearchBar, sized<350>, sized<50>};
-extern const WidgetKind SEARCH_FIELD = {"தேடுபொறி", emitSearchBar, plainSized<350>, sized<50>};
+extern const WidgetKind SEARCH_BAR = {language::widget::SEARCH_BAR, emitSearchBar, sized<350>, sized<50>};
+extern const WidgetKind SEARCH_FIELD = {language::widget::SEARCH_FIELD, emitSearchBar, plainSized<350>, sized<50>};
 
 } // namespace pozhil

@@ -3,6 +3,7 @@
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -120,6 +121,6 @@ void emitSlider(WidgetWriter& slider) {
 
 } // namespace
 
-extern const WidgetKind SLIDER = {"அளவி", emitSlider, sized<200>, sized<28>};
+extern const WidgetKind SLIDER = {language::widget::SLIDER, emitSlider, sized<200>, sized<28>};
 
 } // namespace pozhil

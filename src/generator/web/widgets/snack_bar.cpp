@@ -2,6 +2,7 @@
 #include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -53,6 +54,6 @@ std::function<std::any()>([=]() mutable -> std::any {
                {"b", std::to_string(colour.blue)}});
 }
 
-extern const WidgetKind SNACK_BAR = {"அறிவிப்பு_பட்டை", emitSnackBar};
+extern const WidgetKind SNACK_BAR = {language::widget::SNACK_BAR, emitSnackBar};
 
 } // namespace pozhil

@@ -2,6 +2,7 @@
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -42,6 +43,6 @@ float spinnerSize(const Measure& measure) {
 
 } // namespace
 
-extern const WidgetKind SPINNER = {"சுழல்_காட்டி", emitSpinner, spinnerSize, spinnerSize};
+extern const WidgetKind SPINNER = {language::widget::SPINNER, emitSpinner, spinnerSize, spinnerSize};
 
 } // namespace pozhil

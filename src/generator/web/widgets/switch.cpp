@@ -4,6 +4,7 @@
 #include "generator/web/write/press_handler.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -64,6 +65,6 @@ void emitSwitch(WidgetWriter& widget) {
 
 } // namespace
 
-extern const WidgetKind SWITCH = {"மாற்றி", emitSwitch, fixed<48>, fixed<28>};
+extern const WidgetKind SWITCH = {language::widget::SWITCH, emitSwitch, fixed<48>, fixed<28>};
 
 } // namespace pozhil

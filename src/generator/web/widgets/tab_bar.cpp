@@ -4,6 +4,7 @@
 #include "generator/web/write/press_handler.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -64,7 +65,7 @@ void emitPress(WidgetWriter& bar, std::size_t tabCount) {
 
 void emitTab(WidgetWriter& bar, const WidgetNode& tab, std::size_t index) {
     const Expression* own = findProperty(tab, {"உரை"});
-    const WidgetNode* label = childOfKind(tab, "உரை");
+    const WidgetNode* label = childOfKind(tab, language::widget::TEXT);
     bar.block(R"(
     {
         float tx = tbX + $i * tabW + tabW / 2; float ty = tbY + tbH / 2;
@@ -80,7 +81,7 @@ void emitTab(WidgetWriter& bar, const WidgetNode& tab, std::size_t index) {
 
 /// தத்தல்: a bar of tabs across the window.
 void emitTabBar(WidgetWriter& bar) {
-    const auto tabs = childrenOfKind(bar.widget(), "தத்தல்_உருப்படி");
+    const auto tabs = childrenOfKind(bar.widget(), language::widget::TAB_ITEM);
     emitBar(bar);
     emitPress(bar, tabs.size());
     for (std::size_t i = 0; i < tabs.size(); ++i) {
@@ -91,6 +92,6 @@ void emitTabBar(WidgetWriter& bar) {
 
 } // namespace
 
-extern const WidgetKind TAB_BAR = {"தத்தல்", emitTabBar, fixed<0>, fixed<50>};
+extern const WidgetKind TAB_BAR = {language::widget::TAB_BAR, emitTabBar, fixed<0>, fixed<50>};
 
 } // namespace pozhil

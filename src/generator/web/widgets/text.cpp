@@ -2,6 +2,7 @@
 #include "generator/web/write/colours.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -93,6 +94,6 @@ float textHeight(const Measure& measure) {
 
 } // namespace
 
-extern const WidgetKind TEXT = {"உரை", emitText, textWidth, textHeight};
+extern const WidgetKind TEXT = {language::widget::TEXT, emitText, textWidth, textHeight};
 
 } // namespace pozhil

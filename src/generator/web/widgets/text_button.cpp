@@ -3,6 +3,7 @@
 #include "generator/web/write/literals.h"
 #include "generator/web/write/press_handler.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 namespace pozhil {
 namespace {
@@ -76,6 +77,6 @@ float textButtonWidth(const Measure& measure) {
 
 } // namespace
 
-extern const WidgetKind TEXT_BUTTON = {"உரைபொத்தான்", emitTextButton, textButtonWidth, fixed<40>};
+extern const WidgetKind TEXT_BUTTON = {language::widget::TEXT_BUTTON, emitTextButton, textButtonWidth, fixed<40>};
 
 } // namespace pozhil

@@ -2,6 +2,7 @@
 #include "generator/web/write/colours.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/widget_words.h"
 
 #include <array>
 
@@ -116,6 +117,6 @@ void emitTextField(WidgetWriter& field) {
 
 } // namespace
 
-extern const WidgetKind TEXT_FIELD = {"உரைபெட்டி", emitTextField, sized<320>, sized<60>};
+extern const WidgetKind TEXT_FIELD = {language::widget::TEXT_FIELD, emitTextField, sized<320>, sized<60>};
 
 } // namespace pozhil
