@@ -1,8 +1,11 @@
 #include "driver/web/page_template.h"
 
+#include "driver/web/driver_text.h"
+
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <string_view>
 #include <system_error>
 
@@ -46,22 +49,12 @@ void insertBeforeEndOfBody(std::string& page, const std::string& text) {
 }
 
 std::string reloadScript(int version) {
-    return R"(
-        <script>
-            let currentVersion = )" +
-           std::to_string(version) + R"(;
-            setInterval(() => {
-                fetch('/version')
-                    .then(response => response.text())
-                    .then(text => {
-                        if (parseInt(text) > currentVersion) {
-                            location.reload();
-                        }
-                    })
-                    .catch(() => {});
-            }, 500);
-        </script>
-            )";
+    constexpr std::size_t INDENTATION = 12;
+    std::ostringstream script;
+    script << "\n        <script>\n";
+    writeBlock(script, driver_text::reload, {{"version", std::to_string(version)}}, INDENTATION);
+    script << "        </script>\n            ";
+    return script.str();
 }
 
 std::string imageType(const std::string& path) {

@@ -1,8 +1,8 @@
 #include "generator/web/page/web_emitter.h"
 
 #include "generator/web/page/database.h"
-#include "generator/web/page/frame_text.h"
 #include "generator/web/page/page.h"
+#include "generator/web/page/page_text.h"
 #include "generator/web/write/colours.h"
 #include "generator/web/write/widget_properties.h"
 
@@ -25,13 +25,13 @@ void WebEmitter::writeProgram() {
             emitPage(widgets_, *app);
         }
     }
-    out_.block(frame_text::TAIL);
+    out_.block(page_text::frame_tail);
     writeMain();
 }
 
 /// What a parent imposes on a widget passes through the two forced sizes.
 void WebEmitter::writeFrameHead() {
-    out_.block(frame_text::HEAD);
+    out_.block(page_text::frame_head);
     out_ << "    float forcedW = -1.0f; float forcedH = -1.0f; float maxW = -1.0f; float maxH = -1.0f;\n"
          << "    pozhil_draw([&] {\n";
 }
@@ -40,10 +40,10 @@ void WebEmitter::writeMain() {
     constexpr float DEFAULT_WIDTH = 1280.0F;
     constexpr float DEFAULT_HEIGHT = 720.0F;
     const ScreenConfig& screen = application_.screen;
-    out_.block(frame_text::MAIN, {{"width", floatConstant(screen.useDefault ? DEFAULT_WIDTH : screen.width)},
-                                  {"height", floatConstant(screen.useDefault ? DEFAULT_HEIGHT : screen.height)},
-                                  {"title", application_.windowName},
-                                  {"fontHost", POZHIL_WEB_FONT_HOST}});
+    out_.block(page_text::main, {{"width", floatConstant(screen.useDefault ? DEFAULT_WIDTH : screen.width)},
+                                 {"height", floatConstant(screen.useDefault ? DEFAULT_HEIGHT : screen.height)},
+                                 {"title", application_.windowName},
+                                 {"fontHost", POZHIL_WEB_FONT_HOST}});
 }
 
 bool WebEmitter::writeStatement(const Statement* statement) {

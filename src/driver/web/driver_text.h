@@ -1,0 +1,11 @@
+#pragma once
+
+#include "emit/emitted_block.h"
+
+/// Fixed texts of served pages, each the file of its name in text/, embedded by the build.
+namespace pozhil::driver_text {
+
+/// The script that reloads the page when the server tells of a newer build. Hole: the version of this page.
+extern const Block reload;
+
+} // namespace pozhil::driver_text
