@@ -74,7 +74,7 @@ TEST(Page, RefusesAVideoThatIsNoText) {
 }
 
 TEST(Page, IsItsBackgroundWithoutAWidget) {
-    const std::string page = "        nvgFill(vg);\n    }\n    EM_ASM({\n";
+    const std::string page = "        nvgFill(vg);\n    }\n    });\n    EM_ASM({\n";
     EXPECT_THAT(webText(app("", "")), HasSubstr(page));
     const std::string withoutHeader =
         ownPart(generatedText("", listOf(make<WebAppNode>("கடை", nullptr, nullptr, nullptr, nullptr))));
