@@ -10,7 +10,6 @@ constexpr std::size_t ELEMENT_WRITE_ARGUMENTS = 3;
 /// What the parser calls to write an element.
 constexpr std::string_view INDEX_ASSIGNMENT = "_set_index_internal";
 constexpr std::string_view ELEMENT_WRITE = "வை";
-constexpr std::string_view ARGUMENT_HOLES = "ABD";
 
 std::string expectedCount(const std::string& name, std::size_t expected, std::size_t given) {
     return "'" + name + "' " + std::to_string(expected) + " உள்ளீடுகளை ஏற்கும், ஆனால் " + std::to_string(given) +
@@ -64,11 +63,11 @@ bool CallAnalysis::analysedInputMethod(const CallExpression& call) {
 
 /// The arguments that \p text has holes for, in the order of its holes.
 void CallAnalysis::analyseArguments(const CallExpression& call, std::string_view text) {
+    constexpr std::string_view LETTERS = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
     for (std::size_t hole = text.find('$'); hole != std::string_view::npos; hole = text.find('$', hole + 1)) {
-        const std::size_t argument =
-            hole + 1 < text.size() ? ARGUMENT_HOLES.find(text[hole + 1]) : std::string_view::npos;
-        if (argument != std::string_view::npos) {
-            expressions_.analyse(call.arguments[argument].get());
+        const std::string_view name = text.substr(hole + 1);
+        if (const auto argument = language::argumentOf(name.substr(0, name.find_first_not_of(LETTERS)))) {
+            expressions_.analyse(call.arguments[argument->index].get());
         }
     }
 }
@@ -108,7 +107,7 @@ void CallAnalysis::analyseTimeMethod(const CallExpression& call, const GetExpres
         if (!call.arguments.empty()) {
             walk_.faults.raisePlaceless("பொழி-331", call.line, "'நேரம்.வினாடிகள்()' arguments எதையும் ஏற்காது.");
         }
-        note(call, CallKind::Clock);
+        note(call, CallKind::Clock, language::findMember(language::BuiltinForm::Clock, method));
     } else if (language::findMember(language::BuiltinForm::TimeMethod, method) != nullptr) {
         note(call, CallKind::TimeText);
         expressions_.analyse(callee.object.get());
@@ -230,7 +229,7 @@ void CallAnalysis::analyseElementWrite(const CallExpression& call) {
         walk_.faults.raise("பொழி-313", call.line,
                            "('வை' செயலின் முதல் மதிப்பு ஒரு மாறி, பட்டியல் உறுப்பு அல்லது பொருள் பண்பாக இருக்க வேண்டும்.)");
     }
-    note(call, CallKind::ElementWrite);
+    note(call, CallKind::ElementWrite, language::findBuiltin(ELEMENT_WRITE));
     expressions_.analyse(call.arguments);
 }
 

@@ -63,7 +63,7 @@ enum class CallKind {
 
 struct CallFact {
     CallKind kind;
-    /// The form of the built-in function, null for other kinds.
+    /// The row of the built-in function or member, null for other kinds.
     const language::Builtin* builtin = nullptr;
 };
 

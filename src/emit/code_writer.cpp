@@ -23,8 +23,8 @@ void CodeWriter::blockAtMargin(const Block& block, const Holes& holes) {
     writeBlock(out_, block, holes);
 }
 
-void CodeWriter::pattern(const Block& pattern, const Holes& holes, const Holes& standing) {
-    writeInline(out_, pattern, holes, standing);
+void CodeWriter::pattern(const Block& pattern, const WriteHole& writeHole) {
+    writeInline(out_, pattern, writeHole);
 }
 
 } // namespace pozhil

@@ -33,7 +33,7 @@ public:
     void blockAtMargin(const Block& block, const Holes& holes = {});
 
     /// Goes on with a pattern with holes where the text ends (writeInline in emitted_block.h).
-    void pattern(const Block& pattern, const Holes& holes = {}, const Holes& standing = {});
+    void pattern(const Block& pattern, const WriteHole& writeHole);
 
     /// How many bytes have been written.
     std::size_t length() { return static_cast<std::size_t>(out_.tellp()); }

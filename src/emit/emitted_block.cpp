@@ -19,13 +19,13 @@ struct Fillings {
     const Holes& own;
     const Holes& standing;
 
-    void write(std::ostream& out, std::string_view name) const {
+    bool write(std::ostream& out, std::string_view name) const {
         const Filling* filling = findFilling(name, own);
         filling = filling == nullptr ? findFilling(name, standing) : filling;
-        if (filling == nullptr) {
-            throw std::logic_error("no filling for the hole " + std::string(name));
+        if (filling != nullptr) {
+            filling->writeTo(out);
         }
-        filling->writeTo(out);
+        return filling != nullptr;
     }
 };
 
@@ -42,11 +42,17 @@ bool isAlone(const Block::Found& hole, std::string_view line) {
     return hole.begin != Block::NOWHERE && hole.begin == line.find_first_not_of(' ') && hole.end == line.size();
 }
 
-void writePiece(std::ostream& out, std::string_view piece, const Fillings& fillings) {
+void refuseUnknown(bool isKnown, std::string_view hole) {
+    if (!isKnown) {
+        throw std::logic_error("no filling for the hole " + std::string(hole));
+    }
+}
+
+template <class Write> void writePiece(std::ostream& out, std::string_view piece, const Write& writeHole) {
     std::size_t written = 0;
     for (Block::Found hole = Block::find(piece, 0); hole.begin != Block::NOWHERE; hole = Block::find(piece, hole.end)) {
         out << piece.substr(written, hole.begin - written);
-        fillings.write(out, hole.name);
+        refuseUnknown(writeHole(hole.name), hole.name);
         written = hole.end;
     }
     out << piece.substr(written);
@@ -55,13 +61,13 @@ void writePiece(std::ostream& out, std::string_view piece, const Fillings& filli
 void writeLine(std::ostream& out, std::string_view line, const Fillings& fillings, std::size_t indent) {
     const Block::Found first = Block::find(line, 0);
     if (isAlone(first, line)) {
-        fillings.write(out, first.name);
+        refuseUnknown(fillings.write(out, first.name), first.name);
         return;
     }
     if (!line.empty()) {
         out << std::string(indent, ' ');
     }
-    writePiece(out, line, fillings);
+    writePiece(out, line, [&](std::string_view name) { return fillings.write(out, name); });
     out << "\n";
 }
 
@@ -92,9 +98,8 @@ void writeBlock(std::ostream& out, const Block& block, const Holes& holes, std::
     }
 }
 
-void writeInline(std::ostream& out, const Block& pattern, const Holes& holes, const Holes& standing) {
-    refuseUnused(pattern, holes);
-    writePiece(out, pattern.text(), {holes, standing});
+void writeInline(std::ostream& out, const Block& pattern, const WriteHole& writeHole) {
+    writePiece(out, pattern.text(), writeHole);
 }
 
 std::string floatConstant(float value) {

@@ -112,9 +112,12 @@ using Holes = std::vector<Hole>;
 void writeBlock(std::ostream& out, const Block& block, const Holes& holes, std::size_t indent = 0,
                 const Holes& standing = {});
 
+/// Writes what stands in a hole; false if it knows no such hole.
+using WriteHole = std::function<bool(std::string_view name)>;
+
 /// Writes \p pattern as a part of a line: as it stands, without indentation, and without a line end of its own.
-/// \throws std::logic_error as writeBlock does
-void writeInline(std::ostream& out, const Block& pattern, const Holes& holes, const Holes& standing = {});
+/// \throws std::logic_error for a hole that \p writeHole doesn't know
+void writeInline(std::ostream& out, const Block& pattern, const WriteHole& writeHole);
 
 /// \p value as a float constant of the emitted text: 78.0f, 62.4f. What no float can hold becomes the nearest one.
 std::string floatConstant(float value);

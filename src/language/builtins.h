@@ -4,6 +4,8 @@
 #include "language/var_type.h"
 
 #include <array>
+#include <cstddef>
+#include <optional>
 #include <string_view>
 
 namespace pozhil::language {
@@ -39,8 +41,9 @@ constexpr int ANY_COUNT = -1;
 
 /// One form of a built-in: its name, how many arguments it takes, what a call becomes, and what a user is told of it.
 ///
-/// In the text, $A, $B and $D stand for the arguments, $file for the source path, $line for the line of the call and
-/// $id for what stands before the dot. An argument directly after ">(" is written as the operand of a cast.
+/// In the text, $A, $B and $D stand for the arguments, $place for source path and line of the call, $line
+/// for the line alone and $id for what stands before the dot. $castA and so on are arguments that stand as the operand
+/// of a cast.
 struct Builtin {
     std::string_view name;
     BuiltinForm form;
@@ -71,6 +74,15 @@ const Builtin* findBuiltin(std::string_view name, int argumentCount, const Built
 
 /// The built-in called as \p name ( ... ), whatever its number of arguments; null if there is none.
 const Builtin* findBuiltin(std::string_view name);
+
+/// What stands in a hole of an argument.
+struct ArgumentHole {
+    std::size_t index;
+    bool isCastOperand;
+};
+
+/// The argument that the hole called \p name stands for, such as "A" or "castB"; nothing for any other hole.
+std::optional<ArgumentHole> argumentOf(std::string_view name);
 
 /// The member of this name and form, null if there is none.
 const Builtin* findMember(BuiltinForm form, std::string_view name);

@@ -5,8 +5,6 @@
 #include "language/builtins.h"
 
 #include <algorithm>
-#include <optional>
-#include <stdexcept>
 
 namespace pozhil {
 namespace {
@@ -14,12 +12,7 @@ namespace {
 using language::Builtin;
 using language::BuiltinForm;
 
-constexpr std::string_view ELEMENT_WRITE = "(fn_index_ref($A, std::any($B), \"$file\", $line) = std::any($D))";
-constexpr std::string_view INDEX_ASSIGNMENT_END = ", std::any($B), \"$file\", $line) = std::any($D))";
-
-bool endsWith(std::string_view text, std::string_view ending) {
-    return text.size() >= ending.size() && text.substr(text.size() - ending.size()) == ending;
-}
+constexpr std::string_view INDEX_ASSIGNMENT_END = ", std::any($B), $place) = std::any($D))";
 
 /// The structure or function that is called by name.
 const std::string& calledName(const CallExpression& call) {
@@ -39,14 +32,13 @@ void CallWriter::write(const CallExpression& call) {
     case CallKind::FunctionValue: writeFunctionValueCall(call); break;
     case CallKind::Guarded: writeGuarded(call); break;
     case CallKind::Append: writeAppend(call); break;
-    case CallKind::Clock:
-        writeArguments(language::findMember(BuiltinForm::Clock, calledMember(call).member.value)->text, call);
-        break;
     case CallKind::TimeText: writeTimeText(calledMember(call)); break;
     case CallKind::UserFunction: writeUserFunctionCall(call); break;
     case CallKind::Construction: writeConstruction(call); break;
-    case CallKind::ElementWrite: writeArguments(ELEMENT_WRITE, call); break;
+
     case CallKind::IndexAssignment: writeIndexAssignment(call); break;
+    case CallKind::Clock:
+    case CallKind::ElementWrite:
     case CallKind::Builtin: writeArguments(fact.builtin->text, call); break;
     }
 }
@@ -78,38 +70,23 @@ void CallWriter::writeArguments(std::string_view text, const CallExpression& cal
     });
 }
 
-/// Writes \p text with the source path, the line, \p id and the arguments in place of its holes.
+/// Writes \p text with the place, the line, \p id and the arguments in its holes.
 void CallWriter::fill(std::string_view text, std::int32_t line, const std::string& id,
                       const WriteArgument& writeArgument) {
-    CodeWriter& out = emission_.out;
-    while (!text.empty()) {
-        const std::string_view before = text.substr(0, text.find('$'));
-        out << before;
-        text.remove_prefix(before.size());
-        const auto takes = [&](std::string_view hole) {
-            const bool stands = text.substr(0, hole.size()) == hole;
-            text.remove_prefix(stands ? hole.size() : 0);
-            return stands;
-        };
-        if (text.empty()) {
-            return;
-        }
-        if (takes("$file")) {
-            out << emission_.path;
-        } else if (takes("$line")) {
-            out << line;
-        } else if (takes("$id")) {
-            out << id;
-        } else if (takes("$A")) {
-            writeArgument(0, endsWith(before, ">("));
-        } else if (takes("$B")) {
-            writeArgument(1, endsWith(before, ">("));
-        } else if (takes("$D")) {
-            writeArgument(2, endsWith(before, ">("));
+    emission_.out.pattern(text, [&](std::string_view hole) {
+        if (const auto argument = language::argumentOf(hole)) {
+            writeArgument(argument->index, argument->isCastOperand);
+        } else if (hole == "place") {
+            emission_.out << emission_.placeArguments(line);
+        } else if (hole == "line") {
+            emission_.out << line;
+        } else if (hole == "id") {
+            emission_.out << id;
         } else {
-            throw std::logic_error("no filling for a hole of " + std::string(text));
+            return false;
         }
-    }
+        return true;
+    });
 }
 
 /// A call of a function value that stands there itself: the value is cast to its signature and called.
