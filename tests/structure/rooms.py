@@ -1,0 +1,92 @@
+"""Which room of the source may use which.
+
+A room is a folder; what lies in a folder below it without a line of its own belongs to it. Each room names the rooms whose
+headers it may include besides its own. It may only name rooms that stand above it here, so no arrow leads back up.
+"""
+
+FLOOR = ["src/base", "src/diagnostics", "src/language"]
+TREE = ["src/parser/tree", "src/parser"]
+SYSTEM = ["src/base", "src/diagnostics", "src/platform"]
+
+ROOMS = {
+    # What generated programs are compiled with. The compiler shares its catalogue and its report.
+    "உள்ளடக்கம்": [],
+    "src/base": [],
+    "src/platform": [],
+    "src/platform/linux": ["src/platform"],
+    "src/diagnostics": ["உள்ளடக்கம்"],
+    "src/language": ["src/base"],
+    "src/scanner": FLOOR,
+    "src/parser/tree": ["src/base", "src/language", "src/scanner"],
+    "src/parser": [*FLOOR, "src/scanner", "src/parser/tree"],
+    "src/front_end": [*FLOOR, "src/scanner", *TREE],
+    "src/analysis": [*FLOOR, *TREE],
+    "src/emit": ["src/base"],
+    # The text of a page, from its single values up to the whole.
+    "src/generator/web/write": [*FLOOR, *TREE, "src/emit"],
+    "src/generator/web/measure": [*FLOOR, *TREE, "src/generator/web/write"],
+    "src/generator/web/layout": [*FLOOR, *TREE, "src/emit", "src/generator/web/write", "src/generator/web/measure"],
+    "src/generator/web/widgets": [
+        *FLOOR,
+        *TREE,
+        "src/emit",
+        "src/generator/web/write",
+        "src/generator/web/measure",
+        "src/generator/web/layout",
+    ],
+    "src/generator/web/page": [
+        *FLOOR,
+        *TREE,
+        "src/emit",
+        "src/generator/web/write",
+        "src/generator/web/measure",
+        "src/generator/web/layout",
+        "src/generator/web/widgets",
+    ],
+    # It is emitted, so it gets by with what an installation has.
+    "src/generator/first/runtime": ["உள்ளடக்கம்"],
+    "src/generator/first": [
+        *FLOOR,
+        *TREE,
+        "src/analysis",
+        "src/emit",
+        "src/generator/web/write",
+        "src/generator/web/measure",
+        "src/generator/web/page",
+    ],
+    "src/installation": ["உள்ளடக்கம்", "src/generator/first/runtime"],
+    "src/driver/console": ["உள்ளடக்கம்", *SYSTEM],
+    "src/driver": [
+        *SYSTEM,
+        "src/scanner",
+        *TREE,
+        "src/front_end",
+        "src/analysis",
+        "src/generator/first",
+        "src/driver/console",
+    ],
+    "src/driver/native": [*SYSTEM, "src/front_end", "src/driver/console", "src/driver"],
+    "src/driver/server": ["src/base", "src/platform"],
+    "src/driver/web": [*SYSTEM, *TREE, "src/front_end", "src/driver/console", "src/driver", "src/driver/server"],
+    # main.cpp alone: the order of the stages.
+    "src": [*SYSTEM, "src/front_end", "src/driver/console", "src/driver", "src/driver/native", "src/driver/web"],
+}
+
+# Who may know more than the C++ library: the operating system, the browser.
+ROOMS_WITH_SYSTEM_HEADERS = {"src/platform/linux", "src/generator/first/runtime", "src/installation"}
+
+# Drawing of pages, which comes from outside.
+DRAWING_HEADERS = {"nanovg.c", "nanovg.h", "nanovg_gl.h", "nanosvg.h", "nanosvgrast.h"}
+ROOMS_THAT_DRAW = {"src/generator/first/runtime", "src/installation"}
+
+# Arrows that still lead upward, (file, what it includes). One that is gone must be struck out here.
+EXCEPTIONS = {
+    ("src/driver/console/banner.cpp", "driver/settings.h"),
+    ("src/driver/output_stage.cpp", "driver/web/web_messages.h"),
+    ("src/generator/web/page/database.cpp", "generator/first/generator.h"),
+    ("src/generator/web/page/page.cpp", "generator/first/generator.h"),
+    ("src/generator/web/page/web_program.cpp", "generator/first/generator.h"),
+    ("src/generator/web/page/widget_frame.cpp", "generator/first/generator.h"),
+    ("src/generator/web/write/colours.cpp", "generator/first/generator.h"),
+    ("src/generator/web/write/widget_writer.cpp", "generator/first/generator.h"),
+}
