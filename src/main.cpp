@@ -8,6 +8,7 @@
 #include "driver/settings.h"
 #include "driver/translation.h"
 #include "driver/web/emscripten_environment.h"
+#include "driver/web/web_directory.h"
 #include "driver/web/web_messages.h"
 #include "driver/web/web_mode.h"
 #include "front_end/front_end.h"
@@ -57,7 +58,7 @@ void runNative(const Invocation& invocation, const FrontEndOptions& options, con
         build.start();
     }
     printBanner();
-    animateCompilation(invocation.sourcePath);
+    animateCompilation(invocation.sourcePath, settings::animationDelay());
     if (invocation.watch) {
         watchNative(invocation.sourcePath, options, output, build);
     }

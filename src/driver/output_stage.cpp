@@ -1,7 +1,5 @@
 #include "driver/output_stage.h"
 
-#include "driver/web/web_messages.h"
-
 #include <fstream>
 #include <iostream>
 
@@ -16,19 +14,6 @@ std::filesystem::path prepareTemporaryDirectory() {
 
 std::filesystem::path outputPath(const std::filesystem::path& temporaryDirectory) {
     return temporaryDirectory / "generated.cpp";
-}
-
-std::filesystem::path webDirectory() {
-    return std::filesystem::current_path() / "வெளியீடு";
-}
-
-bool createWebDirectory() {
-    std::error_code error;
-    std::filesystem::create_directory(webDirectory(), error);
-    if (error) {
-        printUnwritableDirectory(webDirectory().u8string());
-    }
-    return !error;
 }
 
 bool createOutput(const std::filesystem::path& path) {

@@ -11,12 +11,6 @@ std::filesystem::path prepareTemporaryDirectory();
 /// Where the output text goes.
 std::filesystem::path outputPath(const std::filesystem::path& temporaryDirectory);
 
-/// The directory below the current one that em++ writes an application to.
-std::filesystem::path webDirectory();
-
-/// Makes that directory if it is missing, or tells on standard error that it can't be made.
-bool createWebDirectory();
-
 /// Empties the file for the output text, or tells on standard error that it can't be made.
 bool createOutput(const std::filesystem::path& path);
 

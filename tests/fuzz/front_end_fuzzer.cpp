@@ -34,6 +34,7 @@ std::vector<std::string> readCorpus(const std::vector<std::string>& folders) {
     }
     std::sort(files.begin(), files.end());
     std::vector<std::string> corpus;
+    corpus.reserve(files.size());
     for (const auto& file : files) {
         corpus.push_back(pozhil::readSourceText(file.u8string()).value_or(""));
     }

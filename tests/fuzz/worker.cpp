@@ -115,10 +115,10 @@ std::optional<Failure> run(const Inputs& inputs, LeakCheck leakCheck) {
 std::optional<Failure> runInWorker(std::size_t first, std::size_t end, const std::function<void()>& work,
                                    unsigned secondsPerInput) {
     const Inputs inputs{first, end, work, secondsPerInput};
-    const std::optional<Failure> failure = run(inputs, LeakCheck::AtEnd);
+    std::optional<Failure> failure = run(inputs, LeakCheck::AtEnd);
     if (!failure || failure->input < end) {
         return failure;
     }
-    const std::optional<Failure> exactly = run(inputs, LeakCheck::AfterEachInput);
+    std::optional<Failure> exactly = run(inputs, LeakCheck::AfterEachInput);
     return exactly && exactly->input < end ? exactly : Failure{end - 1, failure->reason + ", or an input before"};
 }

@@ -109,7 +109,7 @@ TEST(Worker, NamesTheInputThatLeaks) {
         [] {
             // Of several, a copy of the last address may still lie somewhere, but not of all.
             for (int round = 0; round < 10; ++round) {
-                std::make_unique<std::vector<int>>(1000).release();
+                static_cast<void>(std::make_unique<std::vector<int>>(1000).release());
             }
         },
         "leak");

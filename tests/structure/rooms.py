@@ -80,13 +80,4 @@ DRAWING_HEADERS = {"nanovg.c", "nanovg.h", "nanovg_gl.h", "nanosvg.h", "nanosvgr
 ROOMS_THAT_DRAW = {"src/generator/first/runtime", "src/installation"}
 
 # Arrows that still lead upward, (file, what it includes). One that is gone must be struck out here.
-EXCEPTIONS = {
-    ("src/driver/console/banner.cpp", "driver/settings.h"),
-    ("src/driver/output_stage.cpp", "driver/web/web_messages.h"),
-    ("src/generator/web/page/database.cpp", "generator/first/generator.h"),
-    ("src/generator/web/page/page.cpp", "generator/first/generator.h"),
-    ("src/generator/web/page/web_program.cpp", "generator/first/generator.h"),
-    ("src/generator/web/page/widget_frame.cpp", "generator/first/generator.h"),
-    ("src/generator/web/write/colours.cpp", "generator/first/generator.h"),
-    ("src/generator/web/write/widget_writer.cpp", "generator/first/generator.h"),
-}
+EXCEPTIONS = set()

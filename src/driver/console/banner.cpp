@@ -1,7 +1,6 @@
 #include "driver/console/banner.h"
 
 #include "driver/console/console_style.h"
-#include "driver/settings.h"
 #include "error_handler.h"
 #include "platform/paths.h"
 
@@ -42,8 +41,7 @@ void printBanner() {
     std::cout << GREEN << "  பதிப்பு: 0.2-முதல்_பதிப்பு  |  உருவாக்கம்: பொழில் குழு" << RESET << "\n" << std::endl;
 }
 
-void animateCompilation(const std::string& file) {
-    const auto delay = settings::animationDelay();
+void animateCompilation(const std::string& file, std::chrono::milliseconds delay) {
     std::cout << CYAN;
     for (const char byte : "✨ பொழில் -> " + file + " தொகுக்கப்படுகிறது...") {
         std::cout << byte << std::flush;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <string>
 
 namespace pozhil {
@@ -7,8 +8,9 @@ namespace pozhil {
 /// Prints the banner of a native build.
 void printBanner();
 
-/// Prints the line that tells which file is compiled, byte by byte at the pace of the settings.
-void animateCompilation(const std::string& file);
+/// Prints the line that tells which file is compiled, byte by byte.
+/// \param delay pause after each byte
+void animateCompilation(const std::string& file, std::chrono::milliseconds delay);
 
 /// Prints the version screen.
 void printVersionScreen();

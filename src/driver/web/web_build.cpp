@@ -5,6 +5,7 @@
 #include "driver/settings.h"
 #include "driver/web/page_template.h"
 #include "driver/web/web_assets.h"
+#include "driver/web/web_directory.h"
 #include "driver/web/web_messages.h"
 #include "platform/paths.h"
 
