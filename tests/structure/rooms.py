@@ -57,7 +57,9 @@ ROOMS = {
     "src/installation": ["உள்ளடக்கம்", "src/generator/first/runtime"],
     "src/driver/console": ["உள்ளடக்கம்", *SYSTEM],
     "src/driver": [
+        "உள்ளடக்கம்",
         *SYSTEM,
+        "src/language",
         "src/scanner",
         *TREE,
         "src/front_end",
