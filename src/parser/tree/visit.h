@@ -1,6 +1,11 @@
 #pragma once
 
-#include "parser/syntax_tree.h"
+#include "parser/tree/application.h"
+#include "parser/tree/database.h"
+#include "parser/tree/definitions.h"
+#include "parser/tree/expressions.h"
+#include "parser/tree/statements.h"
+#include "parser/tree/widgets.h"
 
 namespace pozhil {
 
