@@ -14,7 +14,7 @@ ROOMS = {
     "src/base": [],
     "src/platform": [],
     "src/platform/linux": ["src/platform"],
-    "src/diagnostics": ["உள்ளடக்கம்"],
+    "src/diagnostics": ["உள்ளடக்கம்", "src/base"],
     "src/language": ["src/base"],
     "src/scanner": FLOOR,
     "src/parser/tree": ["src/base", "src/language", "src/scanner"],
@@ -55,7 +55,7 @@ ROOMS = {
         "src/generator/web/page",
     ],
     "src/installation": ["உள்ளடக்கம்", "src/generator/first/runtime"],
-    "src/driver/console": ["உள்ளடக்கம்", *SYSTEM],
+    "src/driver/console": ["உள்ளடக்கம்", *SYSTEM, "src/front_end"],
     "src/driver": [
         "உள்ளடக்கம்",
         *SYSTEM,
@@ -69,7 +69,16 @@ ROOMS = {
     ],
     "src/driver/native": [*SYSTEM, "src/front_end", "src/driver/console", "src/driver"],
     "src/driver/server": ["src/base", "src/platform"],
-    "src/driver/web": [*SYSTEM, *TREE, "src/front_end", "src/driver/console", "src/driver", "src/driver/server"],
+    "src/driver/web": [
+        *SYSTEM,
+        *TREE,
+        "src/front_end",
+        "src/emit",
+        "src/generator/web/page",
+        "src/driver/console",
+        "src/driver",
+        "src/driver/server",
+    ],
     # main.cpp alone: the order of the stages.
     "src": [*SYSTEM, "src/front_end", "src/driver/console", "src/driver", "src/driver/native", "src/driver/web"],
 }

@@ -16,7 +16,7 @@ float offsetOf(const WidgetNode& child, const char* name) {
 /// அடுக்கி: children one over the other.
 void emitStack(WidgetWriter& stack) {
     const LayoutChildren children(stack);
-    const auto [alignX, alignY] = getAlignmentCoords(stack.widget().alignment);
+    const std::pair<float, float> align = getAlignmentCoords(stack.widget().alignment);
     stack.block(R"(
 {
     float stackW = $width; float stackH = $height;
@@ -36,8 +36,8 @@ void emitStack(WidgetWriter& stack) {
 )",
                     {{"width", floatConstant(stack.widthOf(child))},
                      {"height", floatConstant(stack.heightOf(child))},
-                     {"alignX", floatConstant(alignX)},
-                     {"alignY", floatConstant(alignY)},
+                     {"alignX", floatConstant(align.first)},
+                     {"alignY", floatConstant(align.second)},
                      {"offsetX", floatConstant(offsetOf(child, "நகர்வு_X"))},
                      {"offsetY", floatConstant(offsetOf(child, "நகர்வு_Y"))},
                      {"child", stack.blocks([&] { stack.child(child, "childX", "childY"); })}});
