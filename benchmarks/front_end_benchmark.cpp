@@ -63,7 +63,7 @@ void scan(benchmark::State& state, MakeSource makeSource) {
 void wholeFrontEnd(benchmark::State& state, MakeSource makeSource) {
     const std::string text = makeSource(state.range(0));
     for (auto _ : state) {
-        benchmark::DoNotOptimize(generateText(parseSource(makeSource("அளவு.பொழில்", text), {})));
+        benchmark::DoNotOptimize(generateText(parseSource(pozhil::makeSource("அளவு.பொழில்", text), {})));
     }
     state.SetComplexityN(state.range(0));
 }

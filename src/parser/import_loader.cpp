@@ -33,7 +33,9 @@ SourcePtr ImportLoader::load(const std::string& path) const {
         return source;
     }
     for (const std::string& directory : moduleDirectories_) {
-        if (SourcePtr source = loader_.load(directory + "/" + path)) {
+        std::string candidate = directory;
+        candidate.append("/").append(path);
+        if (SourcePtr source = loader_.load(candidate)) {
             return source;
         }
     }
