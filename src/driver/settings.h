@@ -7,7 +7,7 @@
 /// What a user may set by environment variables. Without them everything stands as documented in the README.
 namespace pozhil::settings {
 
-/// Pause behind each byte of the compile line: POZHIL_ANIMATION_MS, 20 ms by default.
+/// Pause after each byte of the compile line: POZHIL_ANIMATION_MS, 20 ms by default.
 std::chrono::milliseconds animationDelay();
 
 /// Arguments added to the g++ command line: POZHIL_CXXFLAGS.
@@ -16,7 +16,7 @@ std::vector<std::string> cxxFlags();
 /// Arguments added to the em++ command line: POZHIL_EMFLAGS.
 std::vector<std::string> emFlags();
 
-/// Where imports are looked for behind the working directory, in order: POZHIL_MODULES or its default, then the
+/// Where imports are looked for after the working directory, in order: POZHIL_MODULES or its default, then the
 /// installation's own modules.
 /// \param appDirectory the installation
 std::vector<std::string> moduleDirectories(const std::string& appDirectory);

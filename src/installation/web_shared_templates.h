@@ -2,7 +2,7 @@
 /// anew, and generating their code, took half of the time in which a program is compiled.
 ///
 /// The native twin lists them by name (உள்ளடக்கம்/shared_templates.h). The library of em++ keeps nearly all members out
-/// of explicit instantiation, so here they are used instead; nothing runs these functions. The text stands behind that
+/// of explicit instantiation, so here they are used instead; nothing runs these functions. The text stands after that
 /// of error_record.h.
 ///
 /// Not to be instantiated here: `any_cast` of a decimal other than from a pointer, which the runtime specialises. What

@@ -22,10 +22,10 @@ std::string repeat(const std::string& text, int count) {
 
 /// \p text in the middle of so many columns.
 std::string centred(const std::string& text, int columns, const std::string& before = "",
-                    const std::string& behind = "") {
+                    const std::string& after = "") {
     const int free = columns - ErrorHandler::visualWidth(text);
     const int left = free / 2;
-    return repeat(" ", left) + before + text + behind + repeat(" ", free - left);
+    return repeat(" ", left) + before + text + after + repeat(" ", free - left);
 }
 
 } // namespace

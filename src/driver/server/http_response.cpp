@@ -85,11 +85,11 @@ std::string getMimeType(const std::string& path) {
 std::optional<std::string> requestedPath(std::string_view received) {
     const std::string_view text = received.substr(0, received.find('\0'));
     const std::size_t before = text.find(' ');
-    const std::size_t behind = before == std::string_view::npos ? before : text.find(' ', before + 1);
-    if (behind == std::string_view::npos) {
+    const std::size_t after = before == std::string_view::npos ? before : text.find(' ', before + 1);
+    if (after == std::string_view::npos) {
         return std::nullopt;
     }
-    return urlDecode(std::string(text.substr(before + 1, behind - before - 1)));
+    return urlDecode(std::string(text.substr(before + 1, after - before - 1)));
 }
 
 std::string servedFile(const std::string& path) {

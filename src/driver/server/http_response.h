@@ -11,7 +11,7 @@
 /// What the local server answers to what it has received, without any sockets.
 namespace pozhil {
 
-/// Decodes "+" and "%XX". A "%" without a number behind it stays as it is.
+/// Decodes "+" and "%XX". A "%" without a number after it stays as it is.
 std::string urlDecode(const std::string& text);
 
 /// The type of a file by the ending of its path, in which capital letters count.
@@ -32,7 +32,7 @@ public:
     /// \return nothing if the file is there but can't be read
     static std::optional<HttpResponse> to(const std::string& path);
 
-    /// The next bytes to send, valid until the next call. Empty behind the last, or where a file breaks off.
+    /// The next bytes to send, valid until the next call. Empty after the last, or where a file breaks off.
     std::string_view nextPiece();
 
 private:
@@ -41,7 +41,7 @@ private:
     static HttpResponse withVersion();
     static HttpResponse withPage();
     static std::optional<HttpResponse> withFile(const std::string& path);
-    /// Puts more of the file behind the piece. False if the file is shorter than it was.
+    /// Puts more of the file after the piece. False if the file is shorter than it was.
     bool appendFromFile();
 
     std::string piece_;

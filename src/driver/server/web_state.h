@@ -19,7 +19,7 @@ private:
     std::shared_ptr<const std::string> html_ = std::make_shared<const std::string>();
 };
 
-/// Number of the last good build plus one. Raised behind a good build, when all its files are in place: pages in the
+/// Number of the last good build plus one. Raised after a good build, when all its files are in place: pages in the
 /// browser that know a smaller number load themselves again.
 extern std::atomic<std::int32_t> g_appVersion;
 

@@ -103,7 +103,7 @@ std::vector<std::pair<std::string, std::string>> emscriptenVariables(const Preco
         flags += " -include-pch " + quoted(headers.file.u8string());
     }
     if (headers.sourceLength > 0) {
-        // The 1 tells that a line begins behind them.
+        // The 1 tells that a line begins after them.
         flags += " -Xclang -preamble-bytes=" + std::to_string(headers.sourceLength) + ",1";
     }
     std::vector<std::pair<std::string, std::string>> variables = {{"EMCC_CFLAGS", extended("EMCC_CFLAGS", " ", flags)}};

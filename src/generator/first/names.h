@@ -9,7 +9,7 @@ namespace pozhil {
 /// "std::any, std::any" with so many parts.
 std::string anyTypes(std::size_t count);
 
-/// fn_ and \p stem. A name that the runtime uses already gets an underscore behind it, so that a user's function takes
+/// fn_ and \p stem. A name that the runtime uses already gets an underscore after it, so that a user's function takes
 /// the place of the library's.
 std::string emittedFunctionName(const std::string& stem);
 

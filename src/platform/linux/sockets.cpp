@@ -27,7 +27,7 @@ sockaddr* commonForm(sockaddr_in& address) {
     throw ListenFailure(step, std::strerror(errno));
 }
 
-/// poll() that goes on behind a signal. The time may then become longer, but never endless: signals are rare.
+/// poll() that goes on after a signal. The time may then become longer, but never endless: signals are rare.
 int pollAgain(pollfd* entries, std::size_t count, std::chrono::milliseconds timeout) {
     const auto longest = static_cast<std::chrono::milliseconds::rep>(std::numeric_limits<int>::max());
     const int time = static_cast<int>(std::clamp<std::chrono::milliseconds::rep>(timeout.count(), 0, longest));

@@ -36,7 +36,7 @@ bool hasScrollBar(const WidgetNode& layout);
 void emitLayoutSize(WidgetWriter& layout, std::initializer_list<const char*> names, const char* variable,
                     const char* forced, const char* window);
 
-/// The clip rectangle of a scrolling layout; written before its children, and taken back behind them.
+/// The clip rectangle of a scrolling layout; written before its children, and taken back after them.
 void emitClip(WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height);
 /// What the widgets inside know of the clip rectangle, for a layout that sets the clip itself.
 void emitClipRectangle(WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height);
@@ -55,7 +55,7 @@ struct LayoutAxis {
 /// How the free space is shared out among the children.
 void emitShares(WidgetWriter& layout, const LayoutChildren& children, const LayoutAxis& axis);
 
-/// Keeps the offset of a scrolling layout within its content. `maxScroll` is known behind it.
+/// Keeps the offset of a scrolling layout within its content. `maxScroll` is known after it.
 ///
 /// \param content, visible names of the variables that hold the two sizes
 void emitScrollLimits(WidgetWriter& layout, const LayoutAxis& axis, const char* content, const char* visible);

@@ -25,7 +25,7 @@ void emitRectangle(WidgetWriter& row, const LayoutChildren& children, float cont
               {{"width", hasScrollBar(row.widget()) ? "winWidth" : "containerW"}});
 }
 
-/// A scrolling row leaves room behind its last child.
+/// A scrolling row leaves room after its last child.
 void emitScrolling(WidgetWriter& row, float contentWidth) {
     row.block(R"(
     float contentW = $contentW + 150.0f;

@@ -1,4 +1,4 @@
-/// What every widget gets before and behind its own block, and widgets that stand outside a page.
+/// What every widget gets before and after its own block, and widgets that stand outside a page.
 
 #include "generator/web/page/widget_frame.h"
 

@@ -27,7 +27,7 @@ void emitRangeAndSize(WidgetWriter& slider) {
 )");
 }
 
-/// The button itself is asked: a drag goes on behind the frame of the click.
+/// The button itself is asked: a drag goes on after the frame of the click.
 void emitButtonState(WidgetWriter& slider) {
     slider.block(R"(
     bool isMouseDown = glfwGetMouseButton(window, GLFW_MOUSE_BUTTON_LEFT) == GLFW_PRESS;
