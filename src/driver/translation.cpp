@@ -11,7 +11,7 @@ OutputText generateText(const ParsedSource& parsed) {
         Generator generator(parsed.program, parsed.parser->functions(), parsed.parser->structs(),
                             parsed.parser->abstractStructs(), parsed.source->text, parsed.source->path);
         std::string text = generator.generate();
-        return OutputText{std::move(text), generator.runtimeLength()};
+        return OutputText{std::move(text), generator.runtimeLength(), generator.origins()};
     });
 }
 

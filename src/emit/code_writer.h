@@ -1,6 +1,7 @@
 #pragma once
 
 #include "emit/emitted_block.h"
+#include "emit/origins.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -57,9 +58,24 @@ public:
         const std::int32_t outer_;
     };
 
+    /// Notes that what is written until the end of the scope is written for a node of the program.
+    class For {
+    public:
+        For(CodeWriter& writer, const void* node) : writer_(writer) { writer_.origins_.begin(writer_.length(), node); }
+        ~For() { writer_.origins_.end(writer_.length()); }
+        For(const For&) = delete;
+        For& operator=(const For&) = delete;
+
+    private:
+        CodeWriter& writer_;
+    };
+
+    const Origins& origins() const { return origins_; }
+
 private:
     std::ostringstream out_;
     std::int32_t level_ = 0;
+    Origins origins_;
 };
 
 } // namespace pozhil

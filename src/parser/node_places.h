@@ -25,6 +25,8 @@ public:
     /// has the place of what it stands for.
     std::optional<SourcePlace> of(const Expression& node) const { return find(&node); }
     std::optional<SourcePlace> of(const Statement& node) const { return find(&node); }
+    /// The same for a node of which only the address is known, nothing for null.
+    std::optional<SourcePlace> ofAddress(const void* node) const { return find(node); }
 
 private:
     struct Entry {

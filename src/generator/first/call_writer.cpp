@@ -188,6 +188,7 @@ void CallWriter::writeMembers(const std::string& structure, const std::string& o
     const Lineage line = emission_.structures.lineage(structure);
     for (auto one = line.rbegin(); one != line.rend(); ++one) {
         for (const auto& field : (*one)->fields) {
+            const CodeWriter::For origin(emission_.out, field.get());
             emission_.out.indent();
             emission_.out << object << "->properties[\"" << field->name << "\"] = ";
             expressions_.writeAny(field->initializer.get());

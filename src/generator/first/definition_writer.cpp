@@ -62,6 +62,7 @@ void StatementWriter::writeFunctionBody(const FunctionDefinitionStatement& node,
 ///
 /// The struct has no data members of its own: fields and methods live in the property map of the common base.
 void StatementWriter::writeStructure(const StructDefinitionStatement& structure) {
+    const CodeWriter::For origin(out_, &structure);
     const std::string& name = structure.name.value;
     out_ << "struct " << name << " : public " << emission_.structures.baseOf(structure) << " {\n";
     writeMemberNames(structure, true);
@@ -69,7 +70,7 @@ void StatementWriter::writeStructure(const StructDefinitionStatement& structure)
     out_ << "};\nusing T_" << name << " = std::shared_ptr<" << name << ">;\n";
     structure_ = name;
     for (const auto& method : structure.methods) {
-        visit(*method);
+        write(method.get());
     }
     structure_.clear();
 }

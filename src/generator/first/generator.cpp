@@ -37,6 +37,7 @@ std::string Generator::generate() {
     } else {
         edition.web().writeProgram();
     }
+    origins_ = edition.out().origins();
     return edition.out().text();
 }
 

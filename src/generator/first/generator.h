@@ -1,5 +1,6 @@
 #pragma once
 
+#include "emit/origins.h"
 #include "parser/parser.h"
 #include "parser/syntax_tree.h"
 
@@ -35,6 +36,9 @@ public:
     /// path only.
     std::size_t runtimeLength() const { return runtimeLength_; }
 
+    /// Which node of the program each part of the generated text was written for.
+    const Origins& origins() const { return origins_; }
+
 private:
     void writeRuntime(FirstEdition& edition) const;
     void writeDefinitions(FirstEdition& edition) const;
@@ -48,6 +52,7 @@ private:
     const std::string source_;
     const std::string path_;
     std::size_t runtimeLength_ = 0;
+    Origins origins_;
 };
 
 } // namespace pozhil

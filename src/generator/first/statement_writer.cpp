@@ -15,6 +15,7 @@ std::string_view symbolOf(std::string_view word) {
 } // namespace
 
 void StatementWriter::write(const Statement* statement) {
+    const CodeWriter::For origin(out_, statement);
     visitStatement(*this, statement);
 }
 
@@ -164,6 +165,7 @@ void StatementWriter::visit(const IfStatement& node) {
     out_ << "}";
     if (const auto* elseIf = nodeCast<IfStatement>(node.elseBranch.get())) {
         out_ << " else ";
+        const CodeWriter::For origin(out_, elseIf);
         visit(*elseIf);
     } else if (const auto* elseBlock = nodeCast<BlockStatement>(node.elseBranch.get())) {
         out_ << " else {\n";

@@ -57,6 +57,7 @@ if (global_vars.find("$name") == global_vars.end() || (global_vars["$name"].type
 WidgetFrame::WidgetFrame(CodeWriter& out, Edition& edition) : WidgetContext(out, edition), metrics_(findWidgetKind) {}
 
 void WidgetFrame::writeWidget(const WidgetNode& widget, const std::string& x, const std::string& y) {
+    const CodeWriter::For origin(out(), &widget);
     WidgetWriter writer(*this, widget, x, y, nextNumber());
     emitPosition(writer);
     const std::string name = visibilityName(widget);
