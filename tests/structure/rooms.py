@@ -64,6 +64,7 @@ ROOMS = {
         *TREE,
         "src/front_end",
         "src/analysis",
+        "src/emit",
         "src/generator/first",
         "src/driver/console",
     ],
