@@ -1,0 +1,49 @@
+// What JavaScript of the repository is held against: the tests of pages, and the scripts that pages are served with.
+
+const RULES = {
+    'no-undef': 'error',
+    'no-unused-vars': ['error', { caughtErrors: 'none' }],
+    'no-unreachable': 'error',
+    'no-redeclare': 'error',
+    'no-dupe-keys': 'error',
+    'no-dupe-args': 'error',
+    'no-fallthrough': 'error',
+    'no-self-assign': 'error',
+    'no-self-compare': 'error',
+    'no-cond-assign': 'error',
+    'no-constant-condition': ['error', { checkLoops: false }],
+    'no-unsafe-finally': 'error',
+    'no-unsafe-negation': 'error',
+    'no-empty': ['error', { allowEmptyCatch: true }],
+    'no-implicit-globals': 'error',
+    'array-callback-return': 'error',
+    'use-isnan': 'error',
+    'valid-typeof': 'error',
+    eqeqeq: 'error',
+};
+
+const readonly = names => Object.fromEntries(names.map(name => [name, 'readonly']));
+
+const NODE = readonly(['AbortController', 'Buffer', 'URL', 'clearInterval', 'clearTimeout', 'console', 'fetch',
+    'performance', 'process', 'setImmediate', 'setInterval', 'setTimeout']);
+// Functions that a test hands to its page run there.
+const PAGE = readonly(['CanvasRenderingContext2D', 'CustomEvent', 'Event', 'FS', 'FontFace', 'HTMLCanvasElement',
+    'HTMLElement', 'HTMLInputElement', 'Image', 'KeyboardEvent', 'Module', 'Node', 'OffscreenCanvas',
+    'WebGL2RenderingContext', 'WebGLRenderingContext', 'atob', 'createImageBitmap', 'devicePixelRatio', 'document',
+    'firebase', 'getComputedStyle', 'innerHeight', 'innerWidth', 'localStorage', 'location', 'navigator',
+    'requestAnimationFrame', 'structuredClone', 'window']);
+
+export default [
+    { ignores: ['build/**', 'third_party/**', '**/node_modules/**', '**/வெளியீடு/**'] },
+    {
+        files: ['tests/web/**/*.js', 'benchmarks/*.mjs', 'docs/**/*.mjs', 'scripts/*.mjs'],
+        languageOptions: { ecmaVersion: 2022, sourceType: 'module', globals: { ...NODE, ...PAGE } },
+        rules: RULES,
+    },
+    {
+        files: ['src/**/*.js'],
+        languageOptions: { ecmaVersion: 2022, sourceType: 'script', globals: { ...NODE, ...PAGE } },
+        // A hole looks like a name, and what stands in a <script> is global.
+        rules: { ...RULES, 'no-undef': 'off', 'no-implicit-globals': 'off' },
+    },
+];
