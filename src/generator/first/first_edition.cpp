@@ -29,10 +29,11 @@ void FirstEdition::writeStructure(const StructDefinitionStatement& structure) {
 }
 
 void FirstEdition::writeExpression(const Expression* expression) {
-    writeUnit([&] { analysis_.analyse(expression); }, [&] {
-        const CodeWriter::For origin(out_, expression);
-        expressions_.write(expression);
-    });
+    writeUnit([&] { analysis_.analyse(expression); },
+              [&] {
+                  const CodeWriter::For origin(out_, expression);
+                  expressions_.write(expression);
+              });
 }
 
 void FirstEdition::writeStatement(const Statement* statement) {
