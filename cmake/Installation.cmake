@@ -7,7 +7,11 @@ install(DIRECTORY உள்ளடக்கம்/ DESTINATION உள்ளடக
 install(FILES ${precompiled_headers} ${web_precompiled_headers} DESTINATION உள்ளடக்கம்)
 install(FILES ${web_headers} DESTINATION உள்ளடக்கம்/nanovg)
 install(FILES ${reporter_object} ${web_objects} DESTINATION திரட்டு)
-install(FILES src/diagnostics/error_handler.cpp DESTINATION src)
+# g++ compiles the report from these where its object is missing.
+set(reporter_source ${PROJECT_SOURCE_DIR}/src/diagnostics/error_handler.cpp)
+file(GLOB last_word_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/diagnostics/last_word/*.h)
+install(FILES ${reporter_source} DESTINATION src)
+install(FILES ${last_word_sources} DESTINATION src/last_word)
 install(DIRECTORY DESTINATION தொகுப்புகள்)
 install(DIRECTORY தொகுப்புகள்/ DESTINATION தொகுப்புகள் OPTIONAL)
 
@@ -15,14 +19,14 @@ install(DIRECTORY தொகுப்புகள்/ DESTINATION தொகுப
 set(stage ${PROJECT_BINARY_DIR}/பொழில்)
 file(GLOB_RECURSE installed_files CONFIGURE_DEPENDS உள்ளடக்கம்/* தொகுப்புகள்/*)
 # The list is a file of its own, so that a deleted header or module disappears from the folder too.
-file(CONFIGURE OUTPUT generated/installed_files.txt CONTENT "${installed_files};${web_objects};${web_headers}")
+file(CONFIGURE OUTPUT generated/installed_files.txt CONTENT "${installed_files};${last_word_sources};${web_objects};${web_headers}")
 
 add_custom_command(
     OUTPUT ${stage}/பொழி
-    COMMAND ${CMAKE_COMMAND} -E rm -rf ${stage}/உள்ளடக்கம் ${stage}/திரட்டு ${stage}/தொகுப்புகள்
+    COMMAND ${CMAKE_COMMAND} -E rm -rf ${stage}/உள்ளடக்கம் ${stage}/திரட்டு ${stage}/src ${stage}/தொகுப்புகள்
     COMMAND ${CMAKE_COMMAND} -E env --unset=DESTDIR ${CMAKE_COMMAND} --install ${PROJECT_BINARY_DIR} --prefix ${stage}
     COMMAND ${CMAKE_COMMAND} -E touch ${stage}/பொழி
-    DEPENDS pozhil ${precompiled_headers} ${reporter_object} ${PROJECT_SOURCE_DIR}/src/diagnostics/error_handler.cpp
+    DEPENDS pozhil ${precompiled_headers} ${reporter_object} ${reporter_source} ${last_word_sources}
             ${web_objects} ${web_headers} ${web_precompiled_headers}
             ${installed_files} ${PROJECT_BINARY_DIR}/generated/installed_files.txt
     COMMENT "Staging the installation"

@@ -89,7 +89,7 @@ int compile(const Invocation& invocation) {
     if (!writeOutput(output, generated.text)) {
         return 1;
     }
-    NativeBuild build(appDirectory, output, temporaryDirectory);
+    NativeBuild build(invocation.sourcePath, appDirectory, output, temporaryDirectory);
     runNative(invocation, options, output, build);
     return 0;
 }

@@ -1,6 +1,9 @@
 #include "error_handler.h"
 
 #include "error_codes.h"
+#ifdef __linux__
+#include "last_word/death_watch.h"
+#endif
 
 #include <cstdlib>
 #include <iostream>
@@ -28,6 +31,10 @@ const char* categoryWord(பிழைவகை category) {
     }
     return "பிழை";
 }
+
+#ifdef __linux__
+[[maybe_unused]] const bool isWatched = pozhil::last_word::watchProgram();
+#endif
 
 } // namespace
 

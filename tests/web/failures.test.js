@@ -130,3 +130,57 @@ webTest('a place that can\'t be named leaves the page running', application(`
     assert.equal(consoleFaults(page).length, 1, page.console.join('\n'));
     assert.deepEqual(page.errors, []);
 });
+
+const DIED = 'நிரல் இடையிலேயே நின்றுவிட்டது: ';
+const ZERO = 'ஒரு முழு எண்ணைச் சுழியத்தால் (0) வகுக்கவோ, மீதி காணவோ முயன்றது.';
+
+async function assertDeath(page, cause) {
+    const shown = await failureOf(page);
+    assert.ok(shown.startsWith(DIED + cause), shown);
+    assert.deepEqual(page.console.filter(line => line.includes(DIED)), [`🚨 ${shown}`]);
+}
+
+webTest('a remainder by zero in a press ends the page with a word', application(`
+        நெடுவரிசை(
+            பொத்தான்(உரை: "மீதி", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்: () => மீதி_காண்()),
+            உரை(எண்ணிக்கை)
+        )`, { logic: `
+        எண்ணிக்கை = 0
+        செயல் மீதி_காண்():
+            எண்ணிக்கை = 5 மீதி எண்ணிக்கை` }), async page => {
+    await page.page.mouse.click(100, 20);
+    await assertDeath(page, ZERO);
+});
+
+webTest('a remainder by zero before the first frame is told', application('        உரை("அ")', { logic: `
+        பூ = 0
+        அச்சிடு(5 மீதி பூ)` }), { open: false }, async page => {
+    await page.visit(page.address);
+    await assertDeath(page, ZERO);
+});
+
+webTest('an exception before the first frame is told', application('        உரை("அ")', { logic: `
+        அச்சிடு(வர்க்கமூலம்(16))` }), { open: false }, async page => {
+    await page.visit(page.address);
+    await assertDeath(page, 'யாரும் பிடிக்காத ஒரு பிழை நேர்ந்தது;');
+});
+
+webTest('a stack that overflows and a program that gives up are told', plain, async page => {
+    await page.page.evaluate(() => {
+        try {
+            Module.quit(1, new RangeError('Maximum call stack size exceeded'));
+        } catch {
+            // as the page's own code goes on
+        }
+        Module.onAbort('of what came before');
+    });
+    await assertDeath(page, 'ஒன்றுக்குள் ஒன்றாக நடந்தவை மிக ஆழமாகி, அடுக்கு நினைவகம் தீர்ந்துவிட்டது.');
+});
+
+webTest('a program that ends in a box is told apart', application('        உரை("அ")', { logic: `
+        ப = [1]
+        அச்சிடு(ப[3])` }), { open: false }, async page => {
+    await page.visit(page.address);
+    assert.match(await failureOf(page), /^நிரல் பிழையோடு முடிந்தது\./);
+    assert.deepEqual(page.console.filter(line => line.includes(DIED)), []);
+});

@@ -1,5 +1,6 @@
 #include "driver/native/native_build.h"
 
+#include "diagnostics/last_word/words.h"
 #include "driver/console/console_style.h"
 #include "driver/native/toolchain_output.h"
 #include "driver/settings.h"
@@ -49,9 +50,11 @@ void show(const platform::CommandResult& result) {
 
 } // namespace
 
-NativeBuild::NativeBuild(fs::path appDirectory, fs::path generatedSource, fs::path temporaryDirectory)
-    : appDirectory_(std::move(appDirectory)), generatedSource_(std::move(generatedSource)),
-      freshProgram_(temporaryDirectory / "pozhil_temp_app"), program_(temporaryDirectory / "பொழில்_செயலி") {}
+NativeBuild::NativeBuild(std::string sourcePath, fs::path appDirectory, fs::path generatedSource,
+                         fs::path temporaryDirectory)
+    : sourcePath_(std::move(sourcePath)), appDirectory_(std::move(appDirectory)),
+      generatedSource_(std::move(generatedSource)), freshProgram_(temporaryDirectory / "pozhil_temp_app"),
+      program_(temporaryDirectory / "பொழில்_செயலி") {}
 
 void NativeBuild::start() {
     object_ = objectPath(appDirectory_);
@@ -121,7 +124,7 @@ void NativeBuild::runProgram() const {
     std::error_code ignored;
     fs::remove(program_, ignored);
     fs::rename(freshProgram_, program_, ignored);
-    platform::run_command({{program_.u8string()}, {}});
+    platform::run_command({{program_.u8string()}, {{last_word::SOURCE_VARIABLE, sourcePath_}}});
 }
 
 } // namespace pozhil

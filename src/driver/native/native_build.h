@@ -14,10 +14,11 @@ namespace pozhil {
 /// wrote appears in finish().
 class NativeBuild {
 public:
+    /// \param sourcePath the program's source, which it names where it dies of a fault
     /// \param appDirectory the installation
     /// \param generatedSource the output text
     /// \param temporaryDirectory where the program is made
-    NativeBuild(std::filesystem::path appDirectory, std::filesystem::path generatedSource,
+    NativeBuild(std::string sourcePath, std::filesystem::path appDirectory, std::filesystem::path generatedSource,
                 std::filesystem::path temporaryDirectory);
 
     /// Starts the toolchain.
@@ -38,6 +39,7 @@ private:
     platform::Command linkCommand() const;
     void runProgram() const;
 
+    std::string sourcePath_;
     std::filesystem::path appDirectory_;
     std::filesystem::path generatedSource_;
     std::filesystem::path freshProgram_;
