@@ -5,6 +5,7 @@
 #include "language/widget_words.h"
 
 #include <string_view>
+#include <vector>
 
 namespace pozhil::language {
 
@@ -85,8 +86,8 @@ struct Widget {
     Bilingual description;
 };
 
-/// All words of widgets.
-Rows<Widget> widgets();
+/// All words of widgets, family by family.
+const std::vector<Widget>& widgets();
 
 /// The properties that every widget has besides its own.
 Rows<WidgetProperty> commonProperties();

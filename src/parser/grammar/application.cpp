@@ -1,11 +1,14 @@
 #include "parser/grammar/application.h"
 
+#include "language/property_words.h"
 #include "parser/file_parse.h"
 
 #include <utility>
 
 namespace pozhil {
 namespace {
+
+namespace property = language::property;
 
 bool isText(const Expression& value) {
     return nodeCast<StringLiteral>(&value) != nullptr;
@@ -21,25 +24,25 @@ bool isAnything(const Expression& /*value*/) {
 
 /// What a property of the header asks of its value.
 struct HeaderRule {
-    const char* key;
+    std::string_view key;
     bool (*accepts)(const Expression& value);
     const char* code;
 };
 
-/// The rule of the property that \p word opens; the key is null for a word that opens none. Every word for a background
+/// The rule of the property that \p word opens; the key is empty for a word that opens none. Every word for a background
 /// means the same property.
 HeaderRule headerRule(const Token& word) {
     switch (word.type) {
     case TokenType::BACKGROUND:
-    case TokenType::BOX_BACKGROUND: return {"பின்னணி", isBackground, "பொழி-362"};
-    case TokenType::BACKGROUND_IMAGE: return {"பின்னணிபடம்", isText, "பொழி-303"};
-    case TokenType::BACKGROUND_VIDEO: return {"பின்னணிகாணொளி", isText, "பொழி-303"};
-    case TokenType::PAGE: return {"பக்கம்", isAnything, nullptr};
+    case TokenType::BOX_BACKGROUND: return {property::BACKGROUND, isBackground, "பொழி-362"};
+    case TokenType::BACKGROUND_IMAGE: return {property::BACKGROUND_IMAGE, isText, "பொழி-303"};
+    case TokenType::BACKGROUND_VIDEO: return {property::BACKGROUND_VIDEO, isText, "பொழி-303"};
+    case TokenType::PAGE: return {property::PAGE, isAnything, nullptr};
     case TokenType::IDENTIFIER: {
         const bool isTextOnly = word.value == "இணைய_தலைப்பு" || word.value == "சின்னம்";
-        return {word.value.c_str(), isTextOnly ? isText : isAnything, "பொழி-402"};
+        return {word.value, isTextOnly ? isText : isAnything, "பொழி-402"};
     }
-    default: return {nullptr, isAnything, nullptr};
+    default: return {{}, isAnything, nullptr};
     }
 }
 
@@ -87,7 +90,7 @@ StatementPtr ApplicationGrammar::parseHeader() {
 void ApplicationGrammar::parseHeaderItem(PropertyMap& properties) {
     const Token& word = cursor_.advance();
     const HeaderRule rule = headerRule(word);
-    if (rule.key == nullptr) {
+    if (rule.key.empty()) {
         return;
     }
     cursor_.consume(TokenType::COLON, "பொழி-202");
@@ -95,7 +98,7 @@ void ApplicationGrammar::parseHeaderItem(PropertyMap& properties) {
     if (!rule.accepts(*value)) {
         cursor_.பிழை(rule.code, word.line);
     }
-    properties.insert_or_assign(rule.key, std::move(value));
+    properties.insert_or_assign(std::string(rule.key), std::move(value));
 }
 
 /// குமரி ( [ widget ] ). After the widget the closing bracket may stand further out, not further in.

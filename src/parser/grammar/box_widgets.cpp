@@ -1,5 +1,7 @@
 #include "parser/grammar/box_widgets.h"
 
+#include "language/property_words.h"
+#include "language/widget_words.h"
 #include "parser/file_parse.h"
 #include "parser/widget_tokens.h"
 
@@ -7,6 +9,8 @@
 
 namespace pozhil {
 namespace {
+
+namespace property = language::property;
 
 /// Types of the keys for the look of a box.
 constexpr std::initializer_list<TokenType> CARD_KEYS = {TokenType::IDENTIFIER, TokenType::WIDTH,      TokenType::HEIGHT,
@@ -26,7 +30,7 @@ WidgetPtr BoxGrammar::parseContainer(const Token& /*word*/) {
     openBracket();
     int level = cursor_.indentation();
     cursor_.atListItem(level);
-    if (cursor_.checkName("சீரமைப்பு")) {
+    if (cursor_.checkName(property::ALIGNMENT)) {
         parseAlignment(*container);
         cursor_.atListItem(level);
         cursor_.consume(TokenType::RPAREN, "பொழி-204");
@@ -43,14 +47,14 @@ WidgetPtr BoxGrammar::parseContainer(const Token& /*word*/) {
 void BoxGrammar::parseContainerItem(ContainerNode& container) {
     if (isWidgetToken(cursor_.peek()) || cursor_.check(TokenType::PAGE)) {
         container.children.push_back(parseWidget());
-    } else if (cursor_.checkWord(TokenType::ASPECT_RATIO, "விகிதம்")) {
+    } else if (cursor_.checkWord(TokenType::ASPECT_RATIO, property::ASPECT_RATIO)) {
         parseProperty(container.properties, "ratio");
     } else if (tryParseAnimation(container)) {
         return;
-    } else if (cursor_.checkWord(TokenType::ON_PRESS, "அழுத்தினால்")) {
+    } else if (cursor_.checkWord(TokenType::ON_PRESS, property::ON_PRESS)) {
         parsePressHandler(container, PressForm::ValueFreelyClosed);
     } else if (cursor_.isKeyAhead({TokenType::BOX_BACKGROUND})) {
-        parseProperty(container.properties, "பின்னணி");
+        parseProperty(container.properties, property::BACKGROUND);
     } else if (cursor_.isKeyAhead(CONTAINER_KEYS)) {
         parseProperty(container.properties, cursor_.peek().value);
     } else {
@@ -59,12 +63,13 @@ void BoxGrammar::parseContainerItem(ContainerNode& container) {
 }
 
 WidgetPtr BoxGrammar::parseCard(const Token& /*word*/) {
-    auto card = std::make_unique<WidgetNode>("அட்டை", PropertyMap(), StatementList(), சீரமைப்பு_வகை::மேல்_இடது);
+    auto card =
+        std::make_unique<WidgetNode>(language::widget::CARD, PropertyMap(), StatementList(), சீரமைப்பு_வகை::மேல்_இடது);
     openBracket();
     parseItems(cursor_.indentation(), [&] {
-        if (cursor_.checkWord(TokenType::CARD_STYLE, "அட்டை_பாணி")) {
+        if (cursor_.checkWord(TokenType::CARD_STYLE, language::widget::CARD_STYLE)) {
             parseStyleBlock(*card, CARD_KEYS);
-        } else if (cursor_.checkName("சீரமைப்பு")) {
+        } else if (cursor_.checkName(property::ALIGNMENT)) {
             parseAlignment(*card);
         } else if (cursor_.isKeyAhead(CARD_KEYS)) {
             parseProperty(card->properties, cursor_.peek().value);
@@ -81,7 +86,7 @@ WidgetPtr BoxGrammar::parseListTile(const Token& word) {
     auto tile = std::make_unique<WidgetNode>(word.value, PropertyMap(), StatementList(), சீரமைப்பு_வகை::மேல்_இடது);
     openBracket();
     parseItems(cursor_.indentation(), [&] {
-        if (cursor_.checkWord(TokenType::ON_PRESS, "அழுத்தினால்")) {
+        if (cursor_.checkWord(TokenType::ON_PRESS, property::ON_PRESS)) {
             parsePressHandler(*tile, PressForm::ValueOrStatements);
         } else if (cursor_.isKeyAhead(LIST_TILE_KEYS)) {
             parseProperty(tile->properties, cursor_.peek().value);
@@ -93,7 +98,8 @@ WidgetPtr BoxGrammar::parseListTile(const Token& word) {
 }
 
 WidgetPtr BoxGrammar::parseTextButton(const Token& /*word*/) {
-    auto button = std::make_unique<WidgetNode>("உரைபொத்தான்", PropertyMap(), StatementList(), சீரமைப்பு_வகை::மேல்_இடது);
+    auto button = std::make_unique<WidgetNode>(language::widget::TEXT_BUTTON, PropertyMap(), StatementList(),
+                                               சீரமைப்பு_வகை::மேல்_இடது);
     openBracket();
     parseItems(cursor_.indentation(), [&] { parseTextButtonItem(*button); });
     return button;
@@ -104,12 +110,12 @@ void BoxGrammar::parseTextButtonItem(WidgetNode& button) {
         cursor_.பிழை("பொழி-204", cursor_.peek().line);
     } else if (tryParseAnimation(button)) {
         return;
-    } else if (cursor_.checkWord(TokenType::ON_PRESS, "அழுத்தினால்")) {
+    } else if (cursor_.checkWord(TokenType::ON_PRESS, property::ON_PRESS)) {
         parsePressHandler(button, PressForm::Value);
-    } else if (cursor_.checkWord(TokenType::TEXT, "உரை")) {
-        button.properties.insert_or_assign("உரை", parseTextButtonText());
+    } else if (cursor_.checkWord(TokenType::TEXT, language::widget::TEXT)) {
+        button.properties.insert_or_assign(std::string(property::TEXT), parseTextButtonText());
     } else if (cursor_.check(TokenType::STRING)) {
-        button.properties.insert_or_assign("உரை", parseExpression());
+        button.properties.insert_or_assign(std::string(property::TEXT), parseExpression());
     } else if (isTextButtonStyleAhead()) {
         cursor_.advance();
         cursor_.advance();
@@ -141,7 +147,7 @@ bool BoxGrammar::isTextButtonStyleAhead() const {
     const Token& style = cursor_.peekAhead(2);
     return cursor_.isKeyAhead({TokenType::STYLE}) &&
            (style.type == TokenType::TEXT_BUTTON_STYLE ||
-            (style.type == TokenType::IDENTIFIER && style.value == "உரைபொ_பாணி"));
+            (style.type == TokenType::IDENTIFIER && style.value == property::TEXT_BUTTON_STYLE));
 }
 
 /// உரைபொ_பாணி ( properties ), whose keys are whatever stands before a colon.

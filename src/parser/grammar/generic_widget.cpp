@@ -1,5 +1,7 @@
 #include "parser/grammar/generic_widget.h"
 
+#include "language/property_words.h"
+#include "language/widget_words.h"
 #include "parser/file_parse.h"
 #include "parser/widget_tokens.h"
 
@@ -10,11 +12,19 @@
 namespace pozhil {
 namespace {
 
-/// The one word of பொ_பாணி that isn't kept under its own name.
-constexpr std::string_view BUTTON_BACKGROUND = "பொபின்னணி";
+namespace property = language::property;
 
+/// The words of பொ_பாணி. The first one isn't kept under its own name.
 constexpr std::array<std::string_view, 9> BUTTON_STYLE_WORDS = {
-    BUTTON_BACKGROUND, "எழுத்து_நிறம்", "வளைவு", "நிழல்", "அகலம்", "உயரம்", "மேம்படுத்தப்பட்ட_நிறம்", "கரை_நிறம்", "கரை_அளவு",
+    property::BUTTON_BACKGROUND,
+    property::TEXT_COLOUR,
+    property::RADIUS,
+    property::SHADOW,
+    property::WIDTH,
+    property::HEIGHT,
+    property::HOVER_COLOUR,
+    property::BORDER_COLOUR,
+    property::BORDER_SIZE,
 };
 
 /// Types of the keys that a widget of the general form has.
@@ -64,17 +74,17 @@ void GenericWidgetGrammar::parseGenericItem(WidgetNode& widget, int& positionals
     if (tryParseGenericStyle(widget) || tryParseAnimation(widget)) {
         return;
     }
-    if (cursor_.checkWord(TokenType::ON_PRESS, "அழுத்தினால்")) {
+    if (cursor_.checkWord(TokenType::ON_PRESS, property::ON_PRESS)) {
         parsePressHandler(widget, PressForm::ValueOrStatements);
-    } else if (cursor_.checkName("சீரமைப்பு")) {
+    } else if (cursor_.checkName(property::ALIGNMENT)) {
         parseAlignment(widget);
-    } else if (cursor_.isKeyAhead(GENERIC_KEYS) || cursor_.checkName("அடையாளம்")) {
+    } else if (cursor_.isKeyAhead(GENERIC_KEYS) || cursor_.checkName(property::ID)) {
         parseProperty(widget.properties, cursor_.peek().value);
     } else if (isWidgetToken(cursor_.peek()) ||
                cursor_.checkOneOf({TokenType::HEADER, TokenType::UI_BODY, TokenType::PAGE})) {
         widget.children.push_back(parseWidget());
     } else {
-        const std::string key = positionals == 0 ? "உரை" : "arg" + std::to_string(positionals);
+        const std::string key = positionals == 0 ? std::string(property::TEXT) : "arg" + std::to_string(positionals);
         ++positionals;
         widget.properties.insert_or_assign(key, parseExpression());
     }
@@ -82,14 +92,14 @@ void GenericWidgetGrammar::parseGenericItem(WidgetNode& widget, int& positionals
 
 /// Takes a style block if one stands here.
 bool GenericWidgetGrammar::tryParseGenericStyle(WidgetNode& widget) {
-    if (cursor_.checkWord(TokenType::STYLE, "உரைபாணி")) {
+    if (cursor_.checkWord(TokenType::STYLE, property::TEXT_STYLE)) {
         parseTextStyle(widget);
     } else if (cursor_.check(TokenType::BUTTON_STYLE)) {
         parseButtonStyle(widget);
-    } else if (cursor_.checkWord(TokenType::SEARCH_STYLE, "தேடல்_பாணி")) {
+    } else if (cursor_.checkWord(TokenType::SEARCH_STYLE, language::widget::SEARCH_STYLE)) {
         parseStyleBlock(widget, {TokenType::IDENTIFIER, TokenType::WIDTH, TokenType::HEIGHT,
                                  TokenType::FIELD_BACKGROUND, TokenType::FONT_SIZE, TokenType::RADIUS});
-    } else if (cursor_.checkWord(TokenType::ALERT_STYLE, "எச்சரிக்கை_பாணி")) {
+    } else if (cursor_.checkWord(TokenType::ALERT_STYLE, property::DIALOG_STYLE)) {
         parseStyleBlock(widget, {TokenType::IDENTIFIER, TokenType::WIDTH, TokenType::HEIGHT, TokenType::BACKGROUND,
                                  TokenType::RADIUS, TokenType::SHADOW});
     } else {
@@ -108,8 +118,8 @@ void GenericWidgetGrammar::parseButtonStyle(WidgetNode& widget) {
             word.type != TokenType::STRING &&
             std::find(BUTTON_STYLE_WORDS.begin(), BUTTON_STYLE_WORDS.end(), word.value) != BUTTON_STYLE_WORDS.end();
         if (isKey) {
-            const std::string name = word.value == BUTTON_BACKGROUND ? "பின்னணி" : word.value;
-            parseProperty(widget.properties, "style_" + name);
+            const std::string_view name = word.value == property::BUTTON_BACKGROUND ? property::BACKGROUND : word.value;
+            parseProperty(widget.properties, "style_" + std::string(name));
         } else {
             cursor_.advance();
         }

@@ -25,9 +25,9 @@ ExpressionPtr Grammar::parsePropertyValue() {
     return parseExpression();
 }
 
-void Grammar::parseProperty(PropertyMap& properties, const std::string& name) {
+void Grammar::parseProperty(PropertyMap& properties, std::string_view name) {
     cursor_.advance();
-    properties.insert_or_assign(name, parsePropertyValue());
+    properties.insert_or_assign(std::string(name), parsePropertyValue());
 }
 
 void Grammar::notePlace(const void* node, std::size_t first) {

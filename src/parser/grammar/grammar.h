@@ -10,6 +10,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace pozhil {
@@ -42,7 +43,7 @@ protected:
     ExpressionPtr parsePropertyValue();
 
     /// The key at the cursor, its colon and value, kept under \p name.
-    void parseProperty(PropertyMap& properties, const std::string& name);
+    void parseProperty(PropertyMap& properties, std::string_view name);
 
     /// Takes the items of a list whose bracket is open, and the closing bracket.
     /// \param level of the line that opened the list

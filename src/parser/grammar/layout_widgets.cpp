@@ -1,6 +1,8 @@
 #include "parser/grammar/layout_widgets.h"
 
 #include "base/number_text.h"
+#include "language/property_words.h"
+#include "language/widget_words.h"
 #include "parser/file_parse.h"
 #include "parser/widget_tokens.h"
 
@@ -8,6 +10,8 @@
 
 namespace pozhil {
 namespace {
+
+namespace property = language::property;
 
 constexpr std::initializer_list<TokenType> SIZED_KEYS = {TokenType::IDENTIFIER, TokenType::HEIGHT, TokenType::WIDTH};
 
@@ -57,8 +61,9 @@ void LayoutGrammar::parseLayout(WidgetNode& widget, const Token& word) {
     openBracket();
     const int level = cursor_.indentation();
     cursor_.atListItem(level);
-    const auto isAlignment = [&] { return !isListView(widget) && cursor_.checkName("சீரமைப்பு"); };
-    if (!isAlignment() && !cursor_.checkWord(TokenType::ANIMATION, "அசைவூட்டம்") && !cursor_.isKeyAhead(SIZED_KEYS)) {
+    const auto isAlignment = [&] { return !isListView(widget) && cursor_.checkName(property::ALIGNMENT); };
+    if (!isAlignment() && !cursor_.checkWord(TokenType::ANIMATION, property::ANIMATION) &&
+        !cursor_.isKeyAhead(SIZED_KEYS)) {
         parseChildren(widget, word.line, level);
         return;
     }
@@ -112,9 +117,9 @@ void LayoutGrammar::parseGridProperty(GridViewNode& grid) {
         parseProperty(grid.properties, "cols");
     } else if (cursor_.check(TokenType::PADDING)) {
         parseGridGaps(grid);
-    } else if (cursor_.checkWord(TokenType::WIDTH, "அகலம்")) {
+    } else if (cursor_.checkWord(TokenType::WIDTH, property::WIDTH)) {
         parseProperty(grid.properties, "width");
-    } else if (cursor_.checkWord(TokenType::HEIGHT, "உயரம்")) {
+    } else if (cursor_.checkWord(TokenType::HEIGHT, property::HEIGHT)) {
         parseProperty(grid.properties, "height");
     } else if (cursor_.checkName("cols") || cursor_.isKeyAhead({TokenType::IDENTIFIER})) {
         parseProperty(grid.properties, cursor_.peek().value);
@@ -128,9 +133,9 @@ void LayoutGrammar::parseGridGaps(GridViewNode& grid) {
     cursor_.advance();
     cursor_.consume(TokenType::LPAREN, "பொழி-203");
     parseItems(cursor_.indentation(), [&] {
-        if (cursor_.checkWord(TokenType::HEIGHT, "உயரம்")) {
+        if (cursor_.checkWord(TokenType::HEIGHT, property::HEIGHT)) {
             parseProperty(grid.properties, "v_gap");
-        } else if (cursor_.checkWord(TokenType::WIDTH, "அகலம்")) {
+        } else if (cursor_.checkWord(TokenType::WIDTH, property::WIDTH)) {
             parseProperty(grid.properties, "h_gap");
         } else {
             cursor_.advance();
@@ -141,7 +146,7 @@ void LayoutGrammar::parseGridGaps(GridViewNode& grid) {
 WidgetPtr LayoutGrammar::parseExpanded(const Token& /*word*/) {
     auto expanded = std::make_unique<ExpandedNode>(StatementList());
     parseFlexItems(*expanded, [&] {
-        const bool isShare = cursor_.checkWord(TokenType::FLEX_SHARE, "பங்கு");
+        const bool isShare = cursor_.checkWord(TokenType::FLEX_SHARE, language::widget::SHARE);
         if (isShare) {
             parseProperty(expanded->properties, "flex");
         }
@@ -153,8 +158,8 @@ WidgetPtr LayoutGrammar::parseExpanded(const Token& /*word*/) {
 WidgetPtr LayoutGrammar::parseFlexible(const Token& /*word*/) {
     auto flexible = std::make_unique<FlexibleNode>(1, StatementList());
     parseFlexItems(*flexible, [&] {
-        const bool isShare =
-            cursor_.checkWord(TokenType::FLEX_SHARE, "பங்கு") || cursor_.isKeyAhead({TokenType::ASPECT_RATIO});
+        const bool isShare = cursor_.checkWord(TokenType::FLEX_SHARE, language::widget::SHARE) ||
+                             cursor_.isKeyAhead({TokenType::ASPECT_RATIO});
         if (isShare) {
             cursor_.advance();
             setFlex(*flexible, *parsePropertyValue());
@@ -199,12 +204,12 @@ void LayoutGrammar::parseSpacerItem(WidgetNode& spacer, std::int32_t line) {
         cursor_.பிழை("பொழி-204", line);
     } else if (tryParseAnimation(spacer)) {
         return;
-    } else if (cursor_.checkWord(TokenType::FLEX_SHARE, "பங்கு")) {
+    } else if (cursor_.checkWord(TokenType::FLEX_SHARE, language::widget::SHARE)) {
         parseProperty(spacer.properties, "flex");
-    } else if (cursor_.checkWord(TokenType::HEIGHT, "உயரம்")) {
-        parseProperty(spacer.properties, "உயரம்");
-    } else if (cursor_.checkWord(TokenType::WIDTH, "அகலம்")) {
-        parseProperty(spacer.properties, "அகலம்");
+    } else if (cursor_.checkWord(TokenType::HEIGHT, property::HEIGHT)) {
+        parseProperty(spacer.properties, property::HEIGHT);
+    } else if (cursor_.checkWord(TokenType::WIDTH, property::WIDTH)) {
+        parseProperty(spacer.properties, property::WIDTH);
     } else if (cursor_.isKeyAhead({TokenType::IDENTIFIER})) {
         parseProperty(spacer.properties, cursor_.peek().value);
     } else {
@@ -232,7 +237,7 @@ WidgetPtr LayoutGrammar::parsePadding(const Token& word) {
 
 void LayoutGrammar::parsePaddingItem(PaddingNode& padding) {
     const std::string& key = cursor_.peek().value;
-    const bool isSize = cursor_.checkWord(TokenType::HEIGHT, "அளவு") && key == "அளவு";
+    const bool isSize = cursor_.checkWord(TokenType::HEIGHT, property::SIZE) && key == property::SIZE;
     if (!isSize && !cursor_.isKeyAhead({TokenType::IDENTIFIER})) {
         cursor_.பிழை("பொழி-204", cursor_.peek().line);
     }

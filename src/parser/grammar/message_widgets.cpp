@@ -1,15 +1,23 @@
 #include "parser/grammar/message_widgets.h"
 
 #include "base/number_text.h"
+#include "language/property_words.h"
+#include "language/widget_words.h"
 #include "parser/file_parse.h"
 #include "parser/widget_tokens.h"
 
 #include <utility>
 
 namespace pozhil {
+namespace {
+
+namespace property = language::property;
+
+} // namespace
 
 WidgetPtr MessageGrammar::parseAlert(const Token& /*word*/) {
-    auto alert = std::make_unique<WidgetNode>("எச்சரிக்கை", PropertyMap(), StatementList(), சீரமைப்பு_வகை::மையம்);
+    auto alert =
+        std::make_unique<WidgetNode>(language::widget::DIALOG, PropertyMap(), StatementList(), சீரமைப்பு_வகை::மையம்);
     openBracket();
     SideBySide lists(nesting_);
     parseAlertItems(*alert);
@@ -25,9 +33,9 @@ WidgetPtr MessageGrammar::parseAlert(const Token& /*word*/) {
 /// Properties, style and children in any order, up to the closing bracket.
 void MessageGrammar::parseAlertItems(WidgetNode& alert) {
     parseItems(cursor_.indentation(), [&] {
-        if (cursor_.checkName("சீரமைப்பு")) {
+        if (cursor_.checkName(property::ALIGNMENT)) {
             parseAlignment(alert);
-        } else if (cursor_.checkWord(TokenType::ALERT_STYLE, "எச்சரிக்கை_பாணி")) {
+        } else if (cursor_.checkWord(TokenType::ALERT_STYLE, property::DIALOG_STYLE)) {
             parseStyleBlock(alert, {TokenType::IDENTIFIER, TokenType::WIDTH, TokenType::HEIGHT, TokenType::BACKGROUND,
                                     TokenType::RADIUS, TokenType::SHADOW});
         } else if (cursor_.isKeyAhead(
@@ -67,7 +75,7 @@ void MessageGrammar::parseSnackBarItem(SnackBarNode& bar) {
 
 /// The value of a property. A widget as message becomes a child; what the bar itself needs to know is noted besides.
 void MessageGrammar::parseSnackBarValue(SnackBarNode& bar, const std::string& key) {
-    if (key == "செய்தி") {
+    if (key == property::MESSAGE) {
         if (cursor_.isSectionWord()) {
             cursor_.பிழை("பொழி-204", cursor_.peek().line);
         }
@@ -79,10 +87,10 @@ void MessageGrammar::parseSnackBarValue(SnackBarNode& bar, const std::string& ke
         }
     }
     ExpressionPtr value = parseExpression();
-    if (const auto* text = key == "பின்னணி" ? nodeCast<StringLiteral>(value.get()) : nullptr) {
+    if (const auto* text = key == property::BACKGROUND ? nodeCast<StringLiteral>(value.get()) : nullptr) {
         bar.background = text->value;
     }
-    if (const auto* number = key == "காலம்" ? nodeCast<NumberLiteral>(value.get()) : nullptr) {
+    if (const auto* number = key == property::DURATION ? nodeCast<NumberLiteral>(value.get()) : nullptr) {
         bar.durationMs = intOf(number->value);
     }
     bar.properties.insert_or_assign(key, std::move(value));

@@ -1,6 +1,7 @@
 #include "parser/grammar/generic_widget.h"
 
 #include "base/number_text.h"
+#include "language/property_words.h"
 #include "parser/file_parse.h"
 
 #include <algorithm>
@@ -10,8 +11,11 @@
 namespace pozhil {
 namespace {
 
+namespace property = language::property;
+
 /// Keys that describe the widget's box rather than its text.
-constexpr std::array<std::string_view, 5> BOX_KEYS = {"அகலம்", "உயரம்", "வளைவு", "பின்னணி", "நிழல்"};
+constexpr std::array<std::string_view, 5> BOX_KEYS = {property::WIDTH, property::HEIGHT, property::RADIUS,
+                                                      property::BACKGROUND, property::SHADOW};
 
 const std::string* textOf(const Expression& value) {
     const auto* text = nodeCast<StringLiteral>(&value);
@@ -74,13 +78,13 @@ struct StyleKey {
 };
 
 constexpr std::array<StyleKey, 7> STYLE_KEYS = {{
-    {"நிறம்", setColor},
-    {"அளவு", setSize},
-    {"தடிமன்", setWeight},
-    {"சீரமைப்பு", setAlignment},
-    {"உரைசீரமைப்பு", setAlignment},
-    {"எழுத்துரு", setFont},
-    {"அடிக்குறிப்பு", setUnderline},
+    {property::COLOUR, setColor},
+    {property::SIZE, setSize},
+    {property::WEIGHT, setWeight},
+    {property::ALIGNMENT, setAlignment},
+    {property::TEXT_ALIGNMENT, setAlignment},
+    {property::FONT, setFont},
+    {property::UNDERLINE, setUnderline},
 }};
 
 void storeStyle(WidgetNode& widget, const std::string& key, ExpressionPtr value) {

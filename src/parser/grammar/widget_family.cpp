@@ -1,19 +1,16 @@
 #include "parser/grammar/widget_family.h"
 
+#include "language/alignments.h"
+#include "language/property_words.h"
 #include "parser/file_parse.h"
 
-#include <algorithm>
-#include <array>
 #include <iterator>
 #include <utility>
 
 namespace pozhil {
 namespace {
 
-/// Words of the alignments in the order of their values.
-constexpr std::array<std::string_view, 9> ALIGNMENT_WORDS = {
-    "மேல்_இடது", "மேல்_மையம்", "மேல்_வலது", "மைய_இடது", "மையம்", "மைய_வலது", "கீழ்_இடது", "கீழ்_மையம்", "கீழ்_வலது",
-};
+namespace property = language::property;
 
 /// The word that an alignment is given by: a plain name, or the last of several joined by dots. A text is none.
 std::string_view alignmentWord(const Expression& value) {
@@ -56,14 +53,13 @@ void WidgetFamily::skipLinesAfterList() {
 void WidgetFamily::parseAlignment(WidgetNode& widget) {
     cursor_.advance();
     const ExpressionPtr value = parsePropertyValue();
-    const auto* found = std::find(ALIGNMENT_WORDS.begin(), ALIGNMENT_WORDS.end(), alignmentWord(*value));
-    if (found != ALIGNMENT_WORDS.end()) {
-        widget.alignment = static_cast<சீரமைப்பு_வகை>(std::distance(ALIGNMENT_WORDS.begin(), found));
+    if (const language::Alignment* alignment = language::findAlignment(alignmentWord(*value))) {
+        widget.alignment = static_cast<சீரமைப்பு_வகை>(std::distance(language::alignments().begin(), alignment));
     }
 }
 
 bool WidgetFamily::tryParseAnimation(WidgetNode& widget) {
-    if (!cursor_.checkWord(TokenType::ANIMATION, "அசைவூட்டம்")) {
+    if (!cursor_.checkWord(TokenType::ANIMATION, property::ANIMATION)) {
         return false;
     }
     cursor_.advance();
@@ -86,7 +82,7 @@ void WidgetFamily::parseStyleBlock(WidgetNode& widget, TokenKinds kinds) {
 void WidgetFamily::parsePressHandler(WidgetNode& widget, PressForm form) {
     cursor_.advance();
     if (!cursor_.accept(TokenType::LPAREN)) {
-        widget.properties.insert_or_assign("அழுத்தினால்", parsePropertyValue());
+        widget.properties.insert_or_assign(std::string(property::ON_PRESS), parsePropertyValue());
         return;
     }
     const int level = cursor_.indentation();
@@ -96,7 +92,7 @@ void WidgetFamily::parsePressHandler(WidgetNode& widget, PressForm form) {
                              cursor_.checkOneOf({TokenType::KEYWORD, TokenType::RTDB_INSERT, TokenType::RTDB_UPDATE,
                                                  TokenType::RTDB_READ, TokenType::RTDB_DELETE});
     if (!isStatement) {
-        widget.properties.insert_or_assign("அழுத்தினால்", parseExpression());
+        widget.properties.insert_or_assign(std::string(property::ON_PRESS), parseExpression());
         form == PressForm::ValueFreelyClosed ? cursor_.skipLayout() : static_cast<void>(cursor_.atListItem(level));
     }
     SideBySide siblings(nesting_);

@@ -3,15 +3,13 @@
 #include "parser/file_parse.h"
 #include "parser/widget_tokens.h"
 
-#include <algorithm>
-#include <array>
-#include <string_view>
 #include <utility>
 
 namespace pozhil {
 
 namespace {
 
+using language::WidgetForm;
 using WidgetRule = WidgetPtr (*)(FileParse& parse, const Token& word);
 
 /// A rule of a family, called on the parse that the family belongs to.
@@ -19,38 +17,31 @@ template <auto family, auto rule> WidgetPtr ruleOf(FileParse& parse, const Token
     return ((parse.*family).*rule)(word);
 }
 
-/// The rule for the widget that \p word begins.
-WidgetRule widgetRule(const Token& word) {
-    struct Row {
-        TokenType type;
-        std::string_view word;
-        WidgetRule rule;
-    };
-    static constexpr std::array<Row, 18> rows = {{
-        {TokenType::WRAP, "மடிப்பு", ruleOf<&FileParse::layouts, &LayoutGrammar::parsePlainLayout>},
-        {TokenType::EXPANDED, "விரிவாக்கம்", ruleOf<&FileParse::layouts, &LayoutGrammar::parseExpanded>},
-        {TokenType::FLEXIBLE, "நெகிழ்வு", ruleOf<&FileParse::layouts, &LayoutGrammar::parseFlexible>},
-        {TokenType::FLEX_SHARE, "பங்கு", ruleOf<&FileParse::layouts, &LayoutGrammar::parseFlexible>},
-        {TokenType::SPACER, "வெற்றிடம்", ruleOf<&FileParse::layouts, &LayoutGrammar::parseSpacer>},
-        {TokenType::LIST_VIEW, "பட்டியல்_காட்சி", ruleOf<&FileParse::layouts, &LayoutGrammar::parseListView>},
-        {TokenType::GRID_VIEW, "கட்டம்_காட்சி", ruleOf<&FileParse::layouts, &LayoutGrammar::parseGridView>},
-        {TokenType::CONTAINER, "பெட்டி", ruleOf<&FileParse::boxes, &BoxGrammar::parseContainer>},
-        {TokenType::INNER_PADDING, "உள்_இவெ", ruleOf<&FileParse::layouts, &LayoutGrammar::parsePadding>},
-        {TokenType::INNER_PADDING, "உள்_இவே", ruleOf<&FileParse::layouts, &LayoutGrammar::parsePadding>},
-        {TokenType::COLUMN, "நெடுவரிசை", ruleOf<&FileParse::layouts, &LayoutGrammar::parseColumn>},
-        {TokenType::ROW, "கிடைவரிசை", ruleOf<&FileParse::layouts, &LayoutGrammar::parseRow>},
-        {TokenType::STACK, "அடுக்கி", ruleOf<&FileParse::layouts, &LayoutGrammar::parsePlainLayout>},
-        {TokenType::TEXT_BUTTON, "உரைபொத்தான்", ruleOf<&FileParse::boxes, &BoxGrammar::parseTextButton>},
-        {TokenType::SNACKBAR, "அறிவிப்பு_பட்டை", ruleOf<&FileParse::messages, &MessageGrammar::parseSnackBar>},
-        {TokenType::CARD, "அட்டை", ruleOf<&FileParse::boxes, &BoxGrammar::parseCard>},
-        {TokenType::LIST_TILE, "பட்டியல்_உருப்படி", ruleOf<&FileParse::boxes, &BoxGrammar::parseListTile>},
-        {TokenType::ALERT, "எச்சரிக்கை", ruleOf<&FileParse::messages, &MessageGrammar::parseAlert>},
-    }};
-    const auto* found = std::find_if(rows.begin(), rows.end(), [&](const Row& row) {
-        return word.type == row.type || (word.type == TokenType::IDENTIFIER && word.value == row.word);
-    });
-    return found == rows.end() ? ruleOf<&FileParse::genericWidgets, &GenericWidgetGrammar::parseGenericWidget>
-                               : found->rule;
+constexpr auto LAYOUTS = &FileParse::layouts;
+constexpr auto BOXES = &FileParse::boxes;
+constexpr auto MESSAGES = &FileParse::messages;
+
+/// The rule for what stands between the brackets of a widget.
+WidgetRule widgetRule(WidgetForm form) {
+    switch (form) {
+    case WidgetForm::General: break;
+    case WidgetForm::Column: return ruleOf<LAYOUTS, &LayoutGrammar::parseColumn>;
+    case WidgetForm::Row: return ruleOf<LAYOUTS, &LayoutGrammar::parseRow>;
+    case WidgetForm::PlainLayout: return ruleOf<LAYOUTS, &LayoutGrammar::parsePlainLayout>;
+    case WidgetForm::ListView: return ruleOf<LAYOUTS, &LayoutGrammar::parseListView>;
+    case WidgetForm::GridView: return ruleOf<LAYOUTS, &LayoutGrammar::parseGridView>;
+    case WidgetForm::Expanded: return ruleOf<LAYOUTS, &LayoutGrammar::parseExpanded>;
+    case WidgetForm::Flexible: return ruleOf<LAYOUTS, &LayoutGrammar::parseFlexible>;
+    case WidgetForm::Spacer: return ruleOf<LAYOUTS, &LayoutGrammar::parseSpacer>;
+    case WidgetForm::Padding: return ruleOf<LAYOUTS, &LayoutGrammar::parsePadding>;
+    case WidgetForm::Container: return ruleOf<BOXES, &BoxGrammar::parseContainer>;
+    case WidgetForm::Card: return ruleOf<BOXES, &BoxGrammar::parseCard>;
+    case WidgetForm::ListTile: return ruleOf<BOXES, &BoxGrammar::parseListTile>;
+    case WidgetForm::TextButton: return ruleOf<BOXES, &BoxGrammar::parseTextButton>;
+    case WidgetForm::Dialog: return ruleOf<MESSAGES, &MessageGrammar::parseAlert>;
+    case WidgetForm::SnackBar: return ruleOf<MESSAGES, &MessageGrammar::parseSnackBar>;
+    }
+    return ruleOf<&FileParse::genericWidgets, &GenericWidgetGrammar::parseGenericWidget>;
 }
 
 } // namespace
@@ -59,7 +50,7 @@ WidgetPtr WidgetGrammar::parseWidget() {
     nesting_.enter();
     const std::size_t first = cursor_.position();
     const Token& word = cursor_.advance();
-    WidgetPtr widget = widgetRule(word)(parse_, word);
+    WidgetPtr widget = widgetRule(widgetForm(word))(parse_, word);
     widget->line = word.line;
     return placed(first, std::move(widget));
 }

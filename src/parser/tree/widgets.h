@@ -1,11 +1,13 @@
 #pragma once
 
+#include "language/widget_words.h"
 #include "parser/tree/animation.h"
 #include "parser/tree/application.h"
 
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace pozhil {
@@ -42,9 +44,9 @@ struct ScreenConfig {
 
 /// A widget. Kinds without a class of their own are told apart by kind, the source's word.
 struct WidgetNode : Statement {
-    WidgetNode(std::string theKind, PropertyMap theProperties, StatementList theChildren, சீரமைப்பு_வகை theAlignment,
+    WidgetNode(std::string_view theKind, PropertyMap theProperties, StatementList theChildren, சீரமைப்பு_வகை theAlignment,
                bool theFlag = false)
-        : kind(std::move(theKind)), properties(std::move(theProperties)), children(std::move(theChildren)),
+        : kind(theKind), properties(std::move(theProperties)), children(std::move(theChildren)),
           alignment(theAlignment), flag(theFlag) {}
 
     std::string kind;
@@ -69,25 +71,25 @@ struct WidgetExpression : Expression {
 /// நெடுவரிசை: children one below the other.
 struct ColumnNode : WidgetNode {
     ColumnNode(StatementList theChildren, சீரமைப்பு_வகை theAlignment)
-        : WidgetNode("நெடுவரிசை", {}, std::move(theChildren), theAlignment) {}
+        : WidgetNode(language::widget::COLUMN, {}, std::move(theChildren), theAlignment) {}
 };
 
 /// கிடைவரிசை: children side by side.
 struct RowNode : WidgetNode {
     RowNode(StatementList theChildren, சீரமைப்பு_வகை theAlignment)
-        : WidgetNode("கிடைவரிசை", {}, std::move(theChildren), theAlignment) {}
+        : WidgetNode(language::widget::ROW, {}, std::move(theChildren), theAlignment) {}
 };
 
 /// விரிவாக்கம்: takes the free space.
 struct ExpandedNode : WidgetNode {
     explicit ExpandedNode(StatementList theChildren)
-        : WidgetNode("விரிவாக்கம்", {}, std::move(theChildren), சீரமைப்பு_வகை::மேல்_இடது) {}
+        : WidgetNode(language::widget::EXPANDED, {}, std::move(theChildren), சீரமைப்பு_வகை::மேல்_இடது) {}
 };
 
 /// நெகிழ்வு: takes a share of the free space.
 struct FlexibleNode : WidgetNode {
     FlexibleNode(int theFlex, StatementList theChildren)
-        : WidgetNode("நெகிழ்வு", {}, std::move(theChildren), சீரமைப்பு_வகை::மேல்_இடது), flex(theFlex) {}
+        : WidgetNode(language::widget::FLEXIBLE, {}, std::move(theChildren), சீரமைப்பு_வகை::மேல்_இடது), flex(theFlex) {}
 
     int flex;
 };
@@ -95,18 +97,18 @@ struct FlexibleNode : WidgetNode {
 /// கட்டம்_காட்சி: children in a grid.
 struct GridViewNode : WidgetNode {
     explicit GridViewNode(StatementList theChildren)
-        : WidgetNode("கட்டம்_காட்சி", {}, std::move(theChildren), சீரமைப்பு_வகை::மேல்_இடது) {}
+        : WidgetNode(language::widget::GRID_VIEW, {}, std::move(theChildren), சீரமைப்பு_வகை::மேல்_இடது) {}
 };
 
 /// பட்டியல்_காட்சி: a scrolling list.
 struct ListViewNode : WidgetNode {
     explicit ListViewNode(StatementList theChildren)
-        : WidgetNode("பட்டியல்_காட்சி", {}, std::move(theChildren), சீரமைப்பு_வகை::மேல்_இடது) {}
+        : WidgetNode(language::widget::LIST_VIEW, {}, std::move(theChildren), சீரமைப்பு_வகை::மேல்_இடது) {}
 };
 
 /// உள்_இவே: space around its child.
 struct PaddingNode : WidgetNode {
-    PaddingNode() : WidgetNode("உள்_இவே", {}, {}, சீரமைப்பு_வகை::மேல்_இடது) {}
+    PaddingNode() : WidgetNode(language::widget::PADDING_MISSPELT, {}, {}, சீரமைப்பு_வகை::மேல்_இடது) {}
 
     float padding = 0;
 };
@@ -114,7 +116,7 @@ struct PaddingNode : WidgetNode {
 /// பெட்டி: a box.
 struct ContainerNode : WidgetNode {
     ContainerNode(StatementList theChildren, சீரமைப்பு_வகை theAlignment, bool theFlag = false)
-        : WidgetNode("பெட்டி", {}, std::move(theChildren), theAlignment, theFlag) {}
+        : WidgetNode(language::widget::CONTAINER, {}, std::move(theChildren), theAlignment, theFlag) {}
 
     float width = 0;
     float height = 0;
@@ -126,7 +128,7 @@ struct ContainerNode : WidgetNode {
 /// அறிவிப்பு_பட்டை: a message that slides in for a while.
 struct SnackBarNode : WidgetNode {
     explicit SnackBarNode(StatementList theChildren, bool theFlag = false)
-        : WidgetNode("அறிவிப்பு_பட்டை", {}, std::move(theChildren), சீரமைப்பு_வகை::மேல்_இடது, theFlag) {}
+        : WidgetNode(language::widget::SNACK_BAR, {}, std::move(theChildren), சீரமைப்பு_வகை::மேல்_இடது, theFlag) {}
 
     /// The last of children, null when the bar holds only a text
     WidgetNode* content = nullptr;

@@ -5,9 +5,8 @@
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/text_value.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/alignments.h"
 #include "language/widget_words.h"
-
-#include <algorithm>
 
 namespace pozhil {
 namespace {
@@ -22,15 +21,13 @@ std::string alignmentWord(const Expression* value) {
 
 /// Where a child stands in the box. Written as a property, மைய_வலது puts it at the bottom.
 std::pair<float, float> alignmentOf(const WidgetNode& child) {
-    static constexpr std::pair<std::string_view, std::pair<float, float>> WORDS[] = {
-        {"மேல்_இடது", {-1.0F, -1.0F}}, {"மேல்_மையம்", {0.0F, -1.0F}}, {"மேல்_வலது", {1.0F, -1.0F}},
-        {"மைய_இடது", {-1.0F, 0.0F}},  {"மையம்", {0.0F, 0.0F}},      {"மைய_வலது", {1.0F, 1.0F}},
-        {"கீழ்_இடது", {-1.0F, 1.0F}},   {"கீழ்_மையம்", {0.0F, 1.0F}},   {"கீழ்_வலது", {1.0F, 1.0F}},
-    };
     const std::string word = alignmentWord(findProperty(child, {"சீரமைப்பு"}));
-    const auto* found =
-        std::find_if(std::begin(WORDS), std::end(WORDS), [&](const auto& entry) { return entry.first == word; });
-    return found == std::end(WORDS) ? getAlignmentCoords(child.alignment) : found->second;
+    const language::Alignment* alignment = language::findAlignment(word);
+    if (alignment == nullptr) {
+        return getAlignmentCoords(child.alignment);
+    }
+    const bool isMiddleRight = alignment->x > 0.0F && alignment->y == 0.0F;
+    return {alignment->x, isMiddleRight ? 1.0F : alignment->y};
 }
 
 /// A text is measured as it will be drawn, since its width by the count of its letters is only a rough one.

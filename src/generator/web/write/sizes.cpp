@@ -2,6 +2,7 @@
 
 #include "base/number_text.h"
 #include "generator/web/write/widget_writer.h"
+#include "language/alignments.h"
 #include "language/operators.h"
 
 #include <string_view>
@@ -100,14 +101,10 @@ void emitOwnWidth(WidgetWriter& widget, const char* width) {
 }
 
 std::pair<float, float> getAlignmentCoords(சீரமைப்பு_வகை alignment) {
-    constexpr int POSITIONS = 3;
-    const int value = static_cast<int>(alignment);
-    if (value < 0 || value >= POSITIONS * POSITIONS) {
-        return {-1.0F, -1.0F};
-    }
-    const int column = value % POSITIONS - 1;
-    const int line = value / POSITIONS - 1;
-    return {static_cast<float>(column), static_cast<float>(line)};
+    const language::Rows<language::Alignment> rows = language::alignments();
+    const auto index = static_cast<std::size_t>(alignment);
+    const language::Alignment& row = *(rows.begin() + (index < rows.size() ? index : 0));
+    return {row.x, row.y};
 }
 
 } // namespace pozhil
