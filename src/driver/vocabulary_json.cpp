@@ -1,10 +1,15 @@
 #include "driver/vocabulary_json.h"
 
 #include "base/json_text.h"
+#include "base/source_loader.h"
+#include "diagnostics/fault.h"
 #include "error_codes.h"
+#include "front_end/front_end.h"
+#include "language/alignments.h"
 #include "language/builtins.h"
 #include "language/colours.h"
 #include "language/curves.h"
+#include "language/diagnostic_causes.h"
 #include "language/keywords.h"
 #include "language/operators.h"
 #include "language/widgets.h"
@@ -30,6 +35,7 @@ constexpr std::string_view OPERATOR_KINDS[] = {"logical", "bitwise", "comparison
                                                "compound", "step"};
 constexpr std::string_view BUILTIN_FORMS[] = {"call", "element_write", "loop_range", "list_method", "input_property",
                                               "input_method", "time_part", "time_method", "clock"};
+constexpr std::string_view BUILTIN_TOPICS[] = {"values", "lists", "texts", "mathematics", "files", "time", "web"};
 constexpr std::string_view WIDGET_ROLES[] = {"widget", "item", "style", "key"};
 constexpr std::string_view VALUE_KINDS[] = {"number", "size", "text", "truth", "colour", "alignment", "path",
                                             "variable", "handler", "widget", "list", "value"};
@@ -43,9 +49,26 @@ std::string bilingual(const language::Bilingual& told) {
     return json::object({{"ta", text(told.tamil)}, {"en", text(told.english)}});
 }
 
+/// Whether no variable may have this name.
+bool isReserved(std::string_view word) {
+    constexpr const char* PATH = "word";
+    MemoryLoader loader;
+    loader.set(PATH, std::string(word) + " = 1\n");
+    FrontEndOptions options;
+    options.loader = &loader;
+    try {
+        parseSource(loader.load(PATH), options);
+    } catch (const Fault&) {
+        return true;
+    }
+    return false;
+}
+
 std::string keyword(const language::Keyword& row) {
-    return json::object(
-        {{"word", text(row.word)}, {"kind", number(row.type)}, {"group", nameOf(row.group, KEYWORD_GROUPS)}});
+    return json::object({{"word", text(row.word)},
+                         {"kind", number(row.type)},
+                         {"group", nameOf(row.group, KEYWORD_GROUPS)},
+                         {"reserved", json::truth(isReserved(row.word))}});
 }
 
 std::string operatorRow(const language::Operator& row) {
@@ -61,10 +84,12 @@ std::string builtin(const language::Builtin& row) {
     const auto* last = std::find(row.parameters.begin(), row.parameters.end(), std::string_view());
     return json::object({{"name", text(row.name)},
                          {"form", nameOf(row.form, BUILTIN_FORMS)},
+                         {"topic", nameOf(row.topic, BUILTIN_TOPICS)},
                          {"arguments", std::to_string(row.argumentCount)},
                          {"parameters", json::array(std::vector<std::string_view>(row.parameters.begin(), last), text)},
                          {"value", bilingual(row.value)},
-                         {"description", bilingual(row.description)}});
+                         {"description", bilingual(row.description)},
+                         {"remark", bilingual(row.remark)}});
 }
 
 std::string property(const language::WidgetProperty& row) {
@@ -91,12 +116,28 @@ std::string colour(const language::ColourWord& row) {
 }
 
 std::string curve(const language::Curve& row) {
-    return json::object({{"name", text(row.name)}, {"family", bilingual(row.family)}, {"place", bilingual(row.place)}});
+    return json::object({{"name", text(row.name)},
+                         {"family", bilingual(row.family)},
+                         {"place", bilingual(row.place)},
+                         {"further", json::truth(row.kind == language::CurveName::Further)},
+                         {"exponent", text(row.exponent)}});
+}
+
+std::string alignment(const language::Alignment& row) {
+    return text(row.word);
+}
+
+language::Bilingual causeOf(std::string_view code) {
+    const language::Rows<language::DiagnosticCause> causes = language::diagnosticCauses();
+    const auto* found = std::find_if(causes.begin(), causes.end(), [&](const auto& row) { return row.code == code; });
+    return found == causes.end() ? language::Bilingual() : found->cause;
 }
 
 std::string diagnostic(const catalogue::Entry& row) {
-    return json::object(
-        {{"code", text(row.code)}, {"description", text(row.description)}, {"remedy", text(row.remedy)}});
+    return json::object({{"code", text(row.code)},
+                         {"description", text(row.description)},
+                         {"cause", bilingual(causeOf(row.code))},
+                         {"remedy", text(row.remedy)}});
 }
 
 } // namespace
@@ -108,6 +149,7 @@ std::string vocabularyJson() {
                          {"builtins", json::array(language::builtins(), builtin)},
                          {"widgets", json::array(language::widgets(), widget)},
                          {"common_properties", json::array(language::commonProperties(), property)},
+                         {"alignments", json::array(language::alignments(), alignment)},
                          {"colours", json::array(language::colourWords(), colour)},
                          {"curves", json::array(language::curves(), curve)},
                          {"diagnostics", json::array(catalogue::entries, diagnostic)}});

@@ -23,6 +23,9 @@ enum class BuiltinForm {
     Clock          ///< நேரம்.name()
 };
 
+/// Under what a user looks for a built-in.
+enum class BuiltinTopic { Values, Lists, Texts, Mathematics, Files, Time, Web };
+
 /// How a call with a wrong number of arguments is refused.
 enum class WrongCount {
     Report,   ///< by the diagnostic report, with the line of the call
@@ -47,6 +50,7 @@ constexpr int ANY_COUNT = -1;
 struct Builtin {
     std::string_view name;
     BuiltinForm form;
+    BuiltinTopic topic;
     /// ANY_COUNT if the number of arguments doesn't matter.
     int argumentCount;
     /// What is emitted. Empty where the form alone decides.
@@ -62,6 +66,8 @@ struct Builtin {
     Bilingual value;
     /// What it does; empty if it is of no use.
     Bilingual description;
+    /// What a user must look out for. Links in it are those of the guide's page.
+    Bilingual remark = {};
 };
 
 /// All forms of all built-ins. Forms with the same name stand together.

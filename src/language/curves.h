@@ -6,6 +6,9 @@
 
 namespace pozhil::language {
 
+/// Whether a curve has a name of its own or shares the curve of another name.
+enum class CurveName { Usual, Further };
+
 /// A curve along which an animation runs. What it computes stands in the emitted runtime.
 struct Curve {
     std::string_view name;
@@ -13,6 +16,9 @@ struct Curve {
     Bilingual family;
     /// Where it differs from a steady run.
     Bilingual place;
+    CurveName kind = CurveName::Usual;
+    /// The exponent, where it isn't that of the family.
+    std::string_view exponent = {};
 };
 
 /// All names of curves, those of the same family together.

@@ -4,6 +4,7 @@ import re
 from dataclasses import dataclass
 
 from support import texts as t
+from support.catalogue import DESCRIPTIONS
 
 
 @dataclass
@@ -81,7 +82,7 @@ def _split(pattern, output):
 def _is_consistent(found):
     """The line stands in two rows, and what is wrong goes with the code."""
     line, description = found["line"], found["description"]
-    known = t.DESCRIPTIONS.get(found["code"])
+    known = DESCRIPTIONS.get(found["code"])
     return (
         re.fullmatch("0|[1-9][0-9]*", line) is not None
         and found["number"] == line.zfill(2)

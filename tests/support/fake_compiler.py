@@ -12,6 +12,7 @@ import time
 sys.path.insert(0, os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 
 from support import texts as t  # noqa: E402
+from support.catalogue import DESCRIPTIONS  # noqa: E402
 from support.console import animation_line, failed_build_line  # noqa: E402
 
 
@@ -27,7 +28,7 @@ def box(dim, behind_remedy, category, code, file, line, source):
         f"{t.CYAN}{t.BOX_FOUND}{t.RESET}\n"
         f"    {line:02} |  {source}\n"
         f"{t.BOX_MARGIN}{t.GOLD}{t.BOX_MARKER}{t.RESET}\n"
-        f"{t.RED}{t.BOX_DESCRIPTION}{t.DESCRIPTIONS[code]}{t.RESET}\n"
+        f"{t.RED}{t.BOX_DESCRIPTION}{DESCRIPTIONS[code]}{t.RESET}\n"
         f"{inner_rule}"
         f"{t.GREEN}{t.BOX_REMEDY}{t.RESET}\n"
         f"     ...\n"

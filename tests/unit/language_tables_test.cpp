@@ -2,12 +2,15 @@
 // in common with them.
 
 #include "generator/first/runtime_text.h"
+#include "generator/web/page/widget_table.h"
+#include "language/alignments.h"
 #include "language/builtins.h"
 #include "language/colours.h"
 #include "language/curves.h"
 #include "language/keywords.h"
 #include "language/operators.h"
 #include "language/widgets.h"
+#include "parser/syntax_tree.h"
 #include "scanner/keywords.h"
 
 #include <gmock/gmock.h>
@@ -147,6 +150,13 @@ TEST(Builtins, NameTheArgumentsThatTheyTake) {
     }
 }
 
+TEST(Builtins, AreToldInBothLanguages) {
+    for (const Builtin& row : builtins()) {
+        EXPECT_EQ(row.value.tamil.empty(), row.value.english.empty()) << row.name;
+        EXPECT_EQ(row.description.tamil.empty(), row.description.english.empty()) << row.name;
+    }
+}
+
 TEST(Builtins, AreFoundByNumberOfArguments) {
     const Builtin* anyForm = nullptr;
     EXPECT_EQ(findBuiltin("தேதி", 1, anyForm)->argumentCount, 1);
@@ -182,8 +192,8 @@ TEST(KeywordGroups, ClaimAWordTwiceOnlyWhereTheFirstDecides) {
             twice.insert(row.word);
         }
     }
-    EXPECT_THAT(twice, testing::UnorderedElementsAre("மூலம்", "உரைசீரமைப்பு", "அடையாளம்", "வகை", "சுட்டி_மேல்", "நிறம்",
-                                                     "அகலம்", "உயரம்", "வளைவு", "இல்லை"));
+    EXPECT_THAT(twice, testing::UnorderedElementsAre("மூலம்", "உரைசீரமைப்பு", "அடையாளம்", "வகை", "நிறம்", "அகலம்", "உயரம்",
+                                                     "வளைவு", "இல்லை"));
 }
 
 TEST(TypoCandidates, AreKeywords) {
@@ -211,6 +221,42 @@ TEST(Widgets, ThatAreNoKeywordsAreKnownByNothingOrByTheirNames) {
             EXPECT_EQ(row.start, WidgetStart::Nothing) << row.word;
         }
     }
+}
+
+TEST(Widgets, OfOneKindOfTokenHaveOneForm) {
+    std::map<TokenType, WidgetForm> forms;
+    for (const Widget& row : widgets()) {
+        if (row.token == TokenType::IDENTIFIER) {
+            EXPECT_EQ(row.form, WidgetForm::General) << row.word;
+        } else {
+            EXPECT_EQ(forms.emplace(row.token, row.form).first->second, row.form) << row.word;
+        }
+    }
+}
+
+TEST(Widgets, ThatArePlacedOnPagesAreEmitted) {
+    for (const Widget& row : widgets()) {
+        if (row.role == WidgetRole::Widget) {
+            EXPECT_NE(pozhil::findWidgetKind(row.word), nullptr) << row.word;
+        }
+    }
+}
+
+TEST(Widgets, ThatAreEmittedHaveARow) {
+    expectDistinct(pozhil::widgetKinds(), [](const pozhil::WidgetKind* kind) { return kind->word; });
+    for (const pozhil::WidgetKind* kind : pozhil::widgetKinds()) {
+        EXPECT_NE(findWidget(kind->word), nullptr) << kind->word;
+    }
+}
+
+TEST(Alignments, StandInTheOrderOfTheTree) {
+    expectDistinct(alignments(), [](const Alignment& row) { return row.word; });
+    const auto indexOf = [](std::string_view word) { return findAlignment(word) - alignments().begin(); };
+    EXPECT_EQ(alignments().size(), 9U);
+    EXPECT_EQ(indexOf("மேல்_வலது"), static_cast<int>(pozhil::சீரமைப்பு_வகை::மேல்_வலது));
+    EXPECT_EQ(indexOf("மையம்"), static_cast<int>(pozhil::சீரமைப்பு_வகை::மையம்));
+    EXPECT_EQ(indexOf("கீழ்_வலது"), static_cast<int>(pozhil::சீரமைப்பு_வகை::கீழ்_வலது));
+    EXPECT_EQ(findAlignment("நடு"), nullptr);
 }
 
 TEST(Widgets, HaveAPropertyOnceInEachPlace) {
