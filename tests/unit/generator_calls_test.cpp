@@ -1,5 +1,6 @@
 // Calls that are refused: the words of each refusal, and where it is told. And calls that no source leads to.
 
+#include "language/builtins.h"
 #include "support/generating.h"
 
 #include <string>
@@ -69,6 +70,16 @@ TEST(WrongCount, OfMostBuiltInsIsAnException) {
         auto four = listOf<ExpressionList>(number("1"), number("2"), number("3"), number("4"));
         const std::string fault = generatorFault("", listOf(make<ExpressionStatement>(call(name, std::move(four)))));
         EXPECT_TRUE(tells(fault, "பொழி-331", detail));
+    }
+}
+
+TEST(WrongCount, IsRefusedByEveryBuiltIn) {
+    for (const language::Builtin& row : language::builtins()) {
+        if (row.form == language::BuiltinForm::Call && row.argumentCount != language::ANY_COUNT) {
+            auto four = listOf<ExpressionList>(number("1"), number("2"), number("3"), number("4"));
+            auto statement = make<ExpressionStatement>(call(std::string(row.name), std::move(four)));
+            EXPECT_NE(generatorFault("", listOf(std::move(statement))).find("பொழி-331"), std::string::npos) << row.name;
+        }
     }
 }
 

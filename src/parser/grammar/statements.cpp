@@ -3,7 +3,6 @@
 #include "parser/file_parse.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <string_view>
 #include <utility>
@@ -41,7 +40,7 @@ StatementRule statementRule(const Token& first) {
         std::string_view word;
         StatementRule rule;
     };
-    static constexpr std::array<Row, 14> rows = {{
+    static constexpr Row ROWS[] = {
         {"அச்சிடு", ruleOf<FLOW, &Flow::parsePrintStatement>},
         {"எனில்", ruleOf<FLOW, &Flow::parseIfStatement>},
         {"சுற்று", ruleOf<FLOW, &Flow::parseWhileStatement>},
@@ -56,7 +55,7 @@ StatementRule statementRule(const Token& first) {
         {"கட்டமைப்பு", ruleOf<&FileParse::structures, &StructureGrammar::parseStructDefinitionStatement>},
         {"வடிவமைப்பு", ruleOf<&FileParse::functions, &FunctionGrammar::parseAbstractStructStatement>},
         {"நூஇறக்கி", ruleOf<&FileParse::imports, &ImportGrammar::parseImportStatement>},
-    }};
+    };
     switch (first.type) {
     case TokenType::RTDB_READ: return ruleOf<&FileParse::database, &DatabaseGrammar::parseRTDBReadStatement>;
     case TokenType::WEBAPP: return ruleOf<&FileParse::applications, &ApplicationGrammar::parseWebApp>;
@@ -64,8 +63,9 @@ StatementRule statementRule(const Token& first) {
     case TokenType::KEYWORD: break;
     default: return nullptr;
     }
-    const auto* found = std::find_if(rows.begin(), rows.end(), [&](const Row& row) { return row.word == first.value; });
-    return found == rows.end() ? nullptr : found->rule;
+    const auto* found =
+        std::find_if(std::begin(ROWS), std::end(ROWS), [&](const Row& row) { return row.word == first.value; });
+    return found == std::end(ROWS) ? nullptr : found->rule;
 }
 
 } // namespace
