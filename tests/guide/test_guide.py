@@ -15,7 +15,9 @@ def _chapter(page):
     """A plain name: pytest would print Tamil as escapes."""
     if page.parent == guide.WEB_GUIDE:
         return f"web{sorted(guide.WEB_GUIDE.glob('*.md')).index(page)}"
-    return re.match(r"\d*", page.name)[0] or ("errors" if page == guide.ERROR_PAGE else "index")
+    number, is_inserted = re.match(r"(\d*)(அ?)", page.name).groups()
+    chapter = number + ("a" if is_inserted else "")
+    return chapter or ("errors" if page == guide.ERROR_PAGE else "index")
 
 
 def _place(program):
