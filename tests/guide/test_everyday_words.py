@@ -1,19 +1,16 @@
 """The everyday words that the guide says can't be names, against the vocabulary and the compiler."""
 
-import json
 import re
-import subprocess
 from concurrent.futures import ThreadPoolExecutor
-from functools import cache
 
 import pytest
 
 from support import case_file as cf
 from support import guide
-from support import texts as t
 from support.case_check import check_case
 from support.case_run import run_case
 from support.compiler import REPOSITORY, compiler_path
+from support.vocabulary import vocabulary
 
 PAGE = guide.GUIDE / "03_பெயர்கள்.md"
 COLUMNS = 5
@@ -31,12 +28,6 @@ WHY = {
 # A program with the word in each place that the table names.
 AS_VARIABLE = "{0} = 1\n"
 AS_FIELD = "கட்டமைப்பு பை:\n    {0} = 1\n"
-
-
-@cache
-def _vocabulary():
-    printed = subprocess.run([compiler_path(), t.FLAG_VOCABULARY], stdout=subprocess.PIPE, check=True)
-    return json.loads(printed.stdout)
 
 
 def _rows():
@@ -74,12 +65,12 @@ def test_table_holds_words():
 
 @pytest.mark.parametrize("word, why", [row[:2] for row in _rows()], ids=range(1, len(_rows()) + 1))
 def test_reason_is_that_of_the_vocabulary(word, why):
-    groups = [row["group"] for row in _vocabulary()["keywords"] if row["word"] == word]
+    groups = [row["group"] for row in vocabulary()["keywords"] if row["word"] == word]
     if groups:
         assert why == WHY[groups[0]]
     else:
         keyword = LIKE_KEYWORD.fullmatch(why)[1]
-        assert keyword in _vocabulary()["typo_candidates"]
+        assert keyword in vocabulary()["typo_candidates"]
         assert _is_one_letter_off(word, keyword)
 
 
