@@ -1,5 +1,6 @@
 #include "analysis/call_analysis.h"
 
+#include "analysis/call_hints.h"
 #include "analysis/expression_analysis.h"
 #include "language/builtins.h"
 
@@ -39,7 +40,9 @@ void CallAnalysis::analyse(const CallExpression& call) {
     } else if (const auto* name = nodeCast<VariableAccess>(callee)) {
         analyseNamed(call, name->name);
     } else {
-        walk_.faults.raisePlaceless("பொழி-399", call.line, "Unknown call expression");
+        walk_.faults.raisePlaceless("பொழி-399", &call, "Unknown call expression",
+                                    "அடைப்புக்குறிக்கு முன்னால செயலோட பெயர் மட்டும் தான் வரலாம்; இங்கே இருக்கிறதை ஒரு "
+                                    "மாறியில வச்சு, அந்த மாறியோட பெயரால கூப்பிடு மச்சி!");
     }
 }
 
@@ -105,14 +108,15 @@ void CallAnalysis::analyseTimeMethod(const CallExpression& call, const GetExpres
     const auto* object = nodeCast<VariableAccess>(callee.object.get());
     if (object != nullptr && object->name == "நேரம்" && method == "வினாடிகள்") {
         if (!call.arguments.empty()) {
-            walk_.faults.raisePlaceless("பொழி-331", call.line, "'நேரம்.வினாடிகள்()' arguments எதையும் ஏற்காது.");
+            walk_.faults.raisePlaceless("பொழி-331", &call, "'நேரம்.வினாடிகள்()' arguments எதையும் ஏற்காது.");
         }
         note(call, CallKind::Clock, language::findMember(language::BuiltinForm::Clock, method));
     } else if (language::findMember(language::BuiltinForm::TimeMethod, method) != nullptr) {
         note(call, CallKind::TimeText);
         expressions_.analyse(callee.object.get());
     } else {
-        walk_.faults.raisePlaceless("பொழி-332", call.line, "'" + method + "' என்பது ஒரு function இல்லை.");
+        walk_.faults.raisePlaceless("பொழி-332", &call, "'" + method + "' என்பது ஒரு function இல்லை.",
+                                    methodHint(walk_, method));
     }
 }
 
@@ -130,7 +134,8 @@ void CallAnalysis::analyseNamed(const CallExpression& call, const std::string& n
         expressions_.analyse(call.callee.get());
         expressions_.analyse(call.arguments);
     } else {
-        walk_.faults.raisePlaceless("பொழி-332", call.line, "'" + name + "' என்பது ஒரு function இல்லை.");
+        walk_.faults.raisePlaceless("பொழி-332", &call, "'" + name + "' என்பது ஒரு function இல்லை.",
+                                    callHint(walk_, name));
     }
 }
 
@@ -213,7 +218,7 @@ bool CallAnalysis::analysedBuiltin(const CallExpression& call, const std::string
         if (anyForm->wrongCount == language::WrongCount::Report) {
             walk_.faults.raise("பொழி-331", call.line, details);
         }
-        walk_.faults.raisePlaceless("பொழி-331", call.line, details);
+        walk_.faults.raisePlaceless("பொழி-331", &call, details);
     }
     note(call, CallKind::Builtin, form);
     analyseArguments(call, form->text);

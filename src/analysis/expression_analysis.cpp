@@ -36,8 +36,7 @@ ExpressionAnalysis::ExpressionAnalysis(Walk& walk) : walk_(walk), calls_(walk, *
 
 void ExpressionAnalysis::analyse(const Expression* expression) {
     if (!visitExpression(*this, expression)) {
-        walk_.faults.raisePlaceless("பொழி-399", expression == nullptr ? 0 : expression->line,
-                                    "Unknown expression type in generator");
+        walk_.faults.raisePlaceless("பொழி-399", expression, "Unknown expression type in generator");
     }
 }
 

@@ -12,8 +12,12 @@ void FaultSite::raise(const std::string& code, std::int32_t line, const std::str
     throw fault(code, line, details);
 }
 
-void FaultSite::raisePlaceless(const std::string& code, std::int32_t line, const std::string& details) const {
-    throw placeless(code, line, details);
+void FaultSite::raisePlaceless(const std::string& code, const Expression* node, const std::string& details,
+                               std::string hint) const {
+    Fault raised = placeless(code, node == nullptr ? 0 : node->line, details);
+    raised.node = node;
+    raised.hint = std::move(hint);
+    throw raised;
 }
 
 Fault FaultSite::placeless(const std::string& code, std::int32_t line, const std::string& details) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "diagnostics/fault.h"
+#include "parser/tree/node.h"
 
 #include <cstdint>
 #include <string>
@@ -20,8 +21,11 @@ public:
     /// Raises a fault in \p line; \p details may be empty.
     [[noreturn]] void raise(const std::string& code, std::int32_t line, const std::string& details = {}) const;
 
-    /// Raises a fault that is told without its place.
-    [[noreturn]] void raisePlaceless(const std::string& code, std::int32_t line, const std::string& details) const;
+    /// Raises a fault at \p node that is told without its place.
+    /// \param node null if nobody knows it
+    /// \param hint what may have been meant; may be empty
+    [[noreturn]] void raisePlaceless(const std::string& code, const Expression* node, const std::string& details,
+                                     std::string hint = {}) const;
 
     /// A fault that is told without its place, to be thrown.
     Fault placeless(const std::string& code, std::int32_t line, const std::string& details) const;

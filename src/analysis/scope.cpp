@@ -7,6 +7,14 @@ VarType Scope::kindOf(const std::string& name) const {
     return known == kinds_.end() ? VarType::Any : known->second;
 }
 
+std::vector<std::string_view> Scope::assignedNames() const {
+    std::vector<std::string_view> names;
+    for (const auto& entry : kinds_) {
+        names.emplace_back(entry.first);
+    }
+    return names;
+}
+
 void Scope::assign(const std::string& name, VarType kind) {
     kinds_[name] = kind;
     changeMeanings();

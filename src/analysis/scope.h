@@ -7,6 +7,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace pozhil {
@@ -18,6 +19,8 @@ public:
     bool isNative(const std::string& name) const { return natives_.count(name) != 0; }
     /// Whether the program has given the name a value, in or before what has been visited.
     bool isAssigned(const std::string& name) const { return kinds_.count(name) != 0; }
+    /// All names that the program has given a value so far.
+    std::vector<std::string_view> assignedNames() const;
     /// The kind of what a variable of the program was last given, Any for an unknown one.
     VarType kindOf(const std::string& name) const;
 

@@ -28,7 +28,7 @@ private:
 
 void StatementAnalysis::analyse(const Statement* statement) {
     if (!visitStatement(*this, statement)) {
-        walk_.faults.raisePlaceless("பொழி-399", 0, "Unknown statement type in generator");
+        walk_.faults.raisePlaceless("பொழி-399", nullptr, "Unknown statement type in generator");
     }
 }
 
@@ -109,7 +109,7 @@ void StatementAnalysis::visit(const WhileStatement& node) {
 void StatementAnalysis::visit(const ForStatement& node) {
     if (const CallExpression* range = asRange(node)) {
         if (range->arguments.empty() || range->arguments.size() > 2) {
-            walk_.faults.raisePlaceless("பொழி-331", range->line, "'வரம்பு' 1 அல்லது 2 arguments-ஐ மட்டுமே ஏற்கும்.");
+            walk_.faults.raisePlaceless("பொழி-331", range, "'வரம்பு' 1 அல்லது 2 arguments-ஐ மட்டுமே ஏற்கும்.");
         }
         expressions_.analyse(range->arguments);
         analyseLoopBody(node);

@@ -29,6 +29,9 @@ public:
     void define(const std::string& name) { defined_.insert(name); }
     bool isDefined(const std::string& name) const { return defined_.count(name) != 0; }
 
+    /// All structures of the program, wherever they stand in it.
+    const StructTable& all() const { return structures_; }
+
     /// Whether any structure keeps a field of this name private.
     bool isPrivateField(const std::string& name) const { return privateFields_.count(name) != 0; }
 

@@ -29,6 +29,10 @@ struct Fault {
     /// The text of the line.
     std::string lineText{};
     FaultForm form = FaultForm::Box;
+    /// The node of the tree that it was found at; null if the stage knows none.
+    const void* node = nullptr;
+    /// What may have been meant, as a sentence of its own; may be empty.
+    std::string hint{};
 };
 
 /// The catalogue's description of the fault, with its details in brackets.

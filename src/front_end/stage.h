@@ -2,8 +2,10 @@
 
 #include "diagnostics/fault.h"
 
+#include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace pozhil {
 
@@ -14,8 +16,12 @@ enum class Stage { Scan, Parse, Generate };
 class StageFailure : public std::runtime_error {
 public:
     StageFailure(Stage failedStage, const std::string& what) : std::runtime_error(what), stage(failedStage) {}
+    StageFailure(Stage failedStage, Fault theFault)
+        : std::runtime_error(messageOf(theFault)), stage(failedStage), fault(std::move(theFault)) {}
 
     const Stage stage;
+    /// Nothing if an exception ended the stage.
+    const std::optional<Fault> fault;
 };
 
 /// Runs one stage and returns what it makes; what leaves it without a box tells which stage it was.
@@ -28,7 +34,7 @@ template <class Work> auto runStage(Stage stage, Work work) {
         if (fault.form == FaultForm::Box) {
             throw;
         }
-        throw StageFailure(stage, messageOf(fault));
+        throw StageFailure(stage, fault);
     } catch (const std::exception& exception) {
         throw StageFailure(stage, exception.what());
     }

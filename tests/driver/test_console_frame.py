@@ -55,10 +55,26 @@ def test_nothing_but_the_box_is_shown_of_a_wrong_program(place):
     assert not place.emitted_path.exists()
 
 
-@pytest.mark.parametrize("contents, told", [("\t", t.SCANNER_FAILED), ("நீளம்()\n", t.GENERATOR_FAILED)])
-def test_nothing_but_a_line_is_shown_of_a_stage_that_fails_without_a_box(place, contents, told):
+TAB_ON_THE_LAST_LINE = (
+    "  ╰── கோப்பின் கடைசி வரி டேப்பில் தொடங்குகிறது; அதைப் படித்து முடிக்க முடியவில்லை.\n"
+    "  💡 கடைசி வரியோட தொடக்கத்துல இருக்கிற டேப்பை எடுத்துட்டு, இடைவெளிகளால உள்-தள்ளு மச்சி!\n"
+)
+NO_ARGUMENT = (
+    "  📍 நிரல்.பொழில், வரி 1\n"
+    "     1 |  நீளம்()\n"
+    "  ╰── பொழி-331: தவறான உள்ளீடு எண்ணிக்கை (Arguments Mismatch). ('நீளம்' 1 argument மட்டுமே ஏற்கும்.)\n"
+    "  💡 செயல் எத்தனை உள்ளீடு கேட்குதோ, அடைப்புக்குறிக்குள்ள சரியா அத்தனை மதிப்புகளைக் கொடு மச்சி!\n"
+)
+
+
+@pytest.mark.parametrize("contents, told, explained", [
+    ("\t", t.SCANNER_FAILED, TAB_ON_THE_LAST_LINE), ("நீளம்()\n", t.GENERATOR_FAILED, NO_ARGUMENT)
+], ids=["scanner", "generator"])
+def test_line_of_a_stage_that_fails_without_a_box_is_explained(place, contents, told, explained):
     result = place.compile(contents)
-    assert (result.status, result.out, result.err) == (1, "", f"{t.RED}{told}{t.RESET}\n")
+    line = f"{t.RED}{told}{t.RESET}\n"
+    assert (result.status, result.out, result.err[: len(line)]) == (1, "", line)
+    assert without_colours(result.err[len(line) :]) == explained
 
 
 def test_compile_line_is_written_byte_by_byte(place, source):
