@@ -52,8 +52,8 @@ bool prepareOutput(const std::filesystem::path& output, bool web) {
     return createOutput(output);
 }
 
-void runNative(const Invocation& invocation, const FrontEndOptions& options, const std::filesystem::path& output,
-               NativeBuild& build) {
+void runNative(const Invocation& invocation, const FrontEndOptions& options, const ParsedSource& parsed,
+               const OutputText& generated, const std::filesystem::path& output, NativeBuild& build) {
     if (!invocation.watch) {
         build.start();
     }
@@ -62,7 +62,7 @@ void runNative(const Invocation& invocation, const FrontEndOptions& options, con
     if (invocation.watch) {
         watchNative(invocation.sourcePath, options, output, build);
     }
-    build.finish();
+    build.finish(parsed, generated);
 }
 
 int compile(const Invocation& invocation) {
@@ -90,7 +90,7 @@ int compile(const Invocation& invocation) {
         return 1;
     }
     NativeBuild build(invocation.sourcePath, appDirectory, output, temporaryDirectory);
-    runNative(invocation, options, output, build);
+    runNative(invocation, options, parsed, generated, output, build);
     return 0;
 }
 

@@ -29,6 +29,10 @@ std::vector<std::string> emFlags() {
     return platform::splitWords(platform::environmentVariable("POZHIL_EMFLAGS").value_or(""));
 }
 
+bool showsCxx() {
+    return platform::environmentVariable("POZHIL_SHOW_CXX") != "0";
+}
+
 std::vector<std::string> moduleDirectories(const std::string& appDirectory) {
     return {platform::environmentVariable("POZHIL_MODULES").value_or(DEFAULT_MODULES), appDirectory + "/தொகுப்புகள்"};
 }

@@ -20,7 +20,11 @@ const void* Origins::ofLine(std::string_view text, std::size_t line) const {
         begin = text.find('\n', begin);
         begin += begin == std::string_view::npos ? 0 : 1;
     }
-    if (line == 0 || begin >= text.size()) {
+    return line == 0 ? nullptr : ofLineAt(text, begin);
+}
+
+const void* Origins::ofLineAt(std::string_view text, std::size_t begin) const {
+    if (begin >= text.size()) {
         return nullptr;
     }
     const std::size_t end = std::min(text.find('\n', begin), text.size());

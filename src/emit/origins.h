@@ -20,6 +20,8 @@ public:
     /// \param text the whole text
     /// \param line counted from 1
     const void* ofLine(std::string_view text, std::size_t line) const;
+    /// The same for the line that begins at \p begin, for whoever has an index of the lines.
+    const void* ofLineAt(std::string_view text, std::size_t begin) const;
 
 private:
     struct Mark {

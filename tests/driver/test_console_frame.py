@@ -117,11 +117,15 @@ def test_words_of_the_toolchain_come_behind_the_line(place, tools, source):
     place.env["POZHIL_ANIMATION_MS"] = "2"
     together = place.run(source, stderr=subprocess.STDOUT).out
     rest = behind_animation(together, source)
-    assert sorted(rest.split("\n")) == sorted(["stdout", "stderr", *failed_build_line().split("\n")])
-    assert rest.endswith(failed_build_line())
+    unknown = [
+        "  ╰── உருவான உரையை C++ தொகுப்பி மறுக்கிறது.",
+        f"  ╰── உருவான C++ உரை: '{place.emitted_path}'",
+    ]
+    assert sorted(rest.split("\n")) == sorted(["stdout", "stderr", *failed_build_line().split("\n"), *unknown])
+    assert rest.endswith(failed_build_line() + "\n".join([*unknown, ""]))
     separate = place.run(source)
     assert behind_animation(separate.out, source) == "stdout\n"
-    assert separate.err == "stderr\n" + failed_build_line()
+    assert separate.err == "stderr\n" + failed_build_line() + "\n".join([*unknown, ""])
 
 
 def timed_pieces(place, source):

@@ -34,4 +34,16 @@ TEST(CompilerFlags, AreTheWordsOfTheUser) {
     unsetenv("POZHIL_EMFLAGS");
 }
 
+TEST(WordsOfTheCompiler, AreShownUnlessTheUserSaysNo) {
+    unsetenv("POZHIL_SHOW_CXX");
+    EXPECT_TRUE(settings::showsCxx());
+    setenv("POZHIL_SHOW_CXX", "0", 1);
+    EXPECT_FALSE(settings::showsCxx());
+    for (const char* value : {"1", "", "00", "no"}) {
+        setenv("POZHIL_SHOW_CXX", value, 1);
+        EXPECT_TRUE(settings::showsCxx()) << value;
+    }
+    unsetenv("POZHIL_SHOW_CXX");
+}
+
 } // namespace

@@ -3,6 +3,7 @@
 #include "diagnostics/last_word/words.h"
 #include "driver/console/console_style.h"
 #include "driver/native/toolchain_output.h"
+#include "driver/refusal_report.h"
 #include "driver/settings.h"
 #include "platform/paths.h"
 
@@ -63,7 +64,7 @@ void NativeBuild::start() {
     toolchain_ = std::async(std::launch::async, [this] { return runToolchain(); });
 }
 
-void NativeBuild::finish() {
+void NativeBuild::finish(const ParsedSource& source, const OutputText& output) {
     if (objectIsMissing_) {
         std::cout
             << "⚙️ சிஸ்டம் ஆப்ஜெக்ட் ஃபைல் புதிதாக உருவாக்கப்படுகிறது...\n"
@@ -71,12 +72,15 @@ void NativeBuild::finish() {
     }
     const ToolchainResult result = toolchain_.get();
     show(result.object);
-    show(result.link);
+    if (settings::showsCxx()) {
+        show(result.link);
+    }
     if (result.link.status == platform::COULD_NOT_START) {
         std::cerr << "பிழை: 'g++' கிடைக்கவில்லை! 'sudo apt install g++' என்று கட்டளையிட்டு நிறுவிக்கொள்." << std::endl;
     }
     if (result.link.status != 0) {
         std::cerr << style::RED << "பிழை: தொகுப்பதில் சிக்கல்! உன்னோட கோடை ஒருவாட்டி பாரு மச்சி." << style::RESET << std::endl;
+        reportRefusals(source, output, generatedSource_.u8string(), result.link.errors);
         return;
     }
     runProgram();

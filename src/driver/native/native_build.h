@@ -1,5 +1,6 @@
 #pragma once
 
+#include "driver/translation.h"
 #include "platform/process.h"
 
 #include <filesystem>
@@ -25,8 +26,10 @@ public:
     void start();
 
     /// Waits for the toolchain, shows its output, and runs the program.
-    /// If the link failed, there is no program to run; how the program ended counts for nothing.
-    void finish();
+    /// If the link failed, there is no program to run, and the user is told what was refused; how the program ended
+    /// counts for nothing.
+    /// \param output the output text that was built, of \p source
+    void finish(const ParsedSource& source, const OutputText& output);
 
 private:
     struct ToolchainResult {

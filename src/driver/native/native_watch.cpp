@@ -10,10 +10,10 @@ void watchNative(const std::string& sourcePath, const FrontEndOptions& options, 
                  NativeBuild& build) {
     WatchSteps steps;
     steps.changeNote = "\n🔄 மாற்றம் கண்டறியப்பட்டது! புதுப்பிக்கப்படுகிறது...";
-    steps.build = [&](const ParsedSource&, const OutputText& output) {
+    steps.build = [&](const ParsedSource& source, const OutputText& output) {
         if (writeOutput(outputFile, output.text)) {
             build.start();
-            build.finish();
+            build.finish(source, output);
         }
     };
     steps.reportFailure = reportWatchFailure;

@@ -1,6 +1,7 @@
 #include "driver/web/web_build.h"
 
 #include "driver/output_stage.h"
+#include "driver/refusal_report.h"
 #include "driver/server/web_state.h"
 #include "driver/settings.h"
 #include "driver/web/page_template.h"
@@ -47,20 +48,24 @@ WebBuild::WebBuild(const fs::path& appDirectory, const fs::path& temporaryDirect
     platform::allowDeepStacks(); // for widgets inside each other
 }
 
-bool WebBuild::run(const Program& program, const OutputText& output) {
+bool WebBuild::run(const ParsedSource& source, const OutputText& output) {
     if (!writeOutput(source_, output.text)) {
         return false;
     }
     const int version = g_appVersion + 1;
-    const Application application = readApplication(program);
+    const Application application = readApplication(source.program);
     if (!makePage(application, version)) {
         return false;
     }
     const std::vector<std::string> packing = packingArguments(application);
     clearOutput(outputDirectory_);
-    if (!compile(output, packing)) {
-        explainFailure();
+    const platform::CommandResult compiled = compile(output, packing);
+    if (compiled.status != 0) {
+        const bool isKnown = toldCause();
         printCompilationFailure();
+        if (!isKnown) {
+            reportRefusals(source, output, source_.u8string(), compiled.errors);
+        }
         return false;
     }
     // Last of all, since the page reloads as soon as it sees the new number.
@@ -99,18 +104,19 @@ void WebBuild::prepareRuntime(const OutputText& output) {
 }
 
 /// Unlike g++, em++ refuses precompiled headers that don't fit, as with other flags or after an update.
-bool WebBuild::compile(const OutputText& output, const std::vector<std::string>& packing) {
+platform::CommandResult WebBuild::compile(const OutputText& output, const std::vector<std::string>& packing) {
     const PrecompiledHeaders headers = headersFor(output);
     prepareRuntime(output);
-    if (platform::runSilently(command(packing, headers)) == 0) {
-        return true;
+    platform::CommandResult result = platform::captureCommand(command(packing, headers));
+    if (result.status == 0 || headers.file.empty()) {
+        return result;
     }
-    if (headers.file.empty() || platform::runSilently(command(packing, {})) != 0) {
-        return false;
+    result = platform::captureCommand(command(packing, {}));
+    if (result.status == 0) {
+        // They would fail the next time as well, and so would what is made with them.
+        headers_ = {};
     }
-    // They would fail the next time as well, and so would what is made with them.
-    headers_ = {};
-    return true;
+    return result;
 }
 
 platform::Command WebBuild::command(const std::vector<std::string>& packing, const PrecompiledHeaders& headers) const {
@@ -126,25 +132,29 @@ platform::Command WebBuild::command(const std::vector<std::string>& packing, con
     return command;
 }
 
-/// What em++ itself says is not shown; what can be told from outside why it failed, is.
-void WebBuild::explainFailure() const {
+/// Tells what can be told from outside why em++ failed; false if it must be the program.
+bool WebBuild::toldCause() const {
     constexpr std::uintmax_t LITTLE_SPACE = 1048576;
     if (compiler_ == "em++" && !platform::findProgram("em++")) {
         printMissingCompiler();
-        return;
+        return true;
     }
     std::error_code error;
     for (const fs::path& object : objects_) {
         if (!fs::exists(object, error)) {
             printMissingObject(object.u8string());
-            return;
+            return true;
         }
     }
     if (!platform::isWritableDirectory(outputDirectory_)) {
         printUnwritableDirectory(outputDirectory_.u8string());
-    } else if (fs::space(outputDirectory_, error).available < LITTLE_SPACE && !error) {
-        printFullDisk(outputDirectory_.u8string());
+        return true;
     }
+    if (fs::space(outputDirectory_, error).available < LITTLE_SPACE && !error) {
+        printFullDisk(outputDirectory_.u8string());
+        return true;
+    }
+    return false;
 }
 
 } // namespace pozhil

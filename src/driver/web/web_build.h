@@ -23,15 +23,15 @@ public:
     /// Makes the page of one version anew for the server and compiles its output text. The server's version number grows
     /// once all files are in place. What goes wrong is told to the user.
     /// \return whether em++ succeeded
-    bool run(const Program& program, const OutputText& output);
+    bool run(const ParsedSource& source, const OutputText& output);
 
 private:
     bool makePage(const Application& application, int version) const;
     PrecompiledHeaders headersFor(const OutputText& output);
     void prepareRuntime(const OutputText& output);
-    bool compile(const OutputText& output, const std::vector<std::string>& packing);
+    platform::CommandResult compile(const OutputText& output, const std::vector<std::string>& packing);
     platform::Command command(const std::vector<std::string>& packing, const PrecompiledHeaders& headers) const;
-    void explainFailure() const;
+    bool toldCause() const;
 
     std::filesystem::path appDirectory_;
     std::string compiler_;

@@ -17,7 +17,7 @@ void runWeb(const ParsedSource& source, const OutputText& output, const FrontEnd
     const std::string address = "http://127.0.0.1:" + std::to_string(LOCAL_SERVER_PORT);
     WebBuild build(appDirectory, temporaryDirectory);
     printWebPacking();
-    if (build.run(source.program, output)) {
+    if (build.run(source, output)) {
         printWebSuccess(address);
         platform::openInBrowser(address);
     } else {
@@ -28,7 +28,7 @@ void runWeb(const ParsedSource& source, const OutputText& output, const FrontEnd
     WatchSteps steps;
     steps.changeNote = "\n🔄 மாற்றம் கண்டறியப்பட்டது! வலைத்தளம் புதுப்பிக்கப்படுகிறது...";
     steps.build = [&](const ParsedSource& changed, const OutputText& changedOutput) {
-        if (build.run(changed.program, changedOutput)) {
+        if (build.run(changed, changedOutput)) {
             printWebUpdated();
         }
     };
