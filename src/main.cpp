@@ -2,6 +2,7 @@
 #include "driver/console/banner.h"
 #include "driver/console/fault_report.h"
 #include "driver/console/stage_report.h"
+#include "driver/hint_report.h"
 #include "driver/native/native_build.h"
 #include "driver/native/native_watch.h"
 #include "driver/output_stage.h"
@@ -91,6 +92,7 @@ int compile(const Invocation& invocation) {
     }
     NativeBuild build(invocation.sourcePath, appDirectory, output, temporaryDirectory);
     runNative(invocation, options, parsed, generated, output, build);
+    reportHints(parsed);
     return 0;
 }
 

@@ -33,6 +33,10 @@ bool showsCxx() {
     return platform::environmentVariable("POZHIL_SHOW_CXX") != "0";
 }
 
+bool showsHints() {
+    return platform::environmentVariable("POZHIL_HINTS").value_or("") != "0";
+}
+
 std::vector<std::string> moduleDirectories(const std::string& appDirectory) {
     return {platform::environmentVariable("POZHIL_MODULES").value_or(DEFAULT_MODULES), appDirectory + "/தொகுப்புகள்"};
 }

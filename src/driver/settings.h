@@ -19,6 +19,9 @@ std::vector<std::string> emFlags();
 /// Whether what g++ writes is shown: POZHIL_SHOW_CXX, true unless it is 0.
 bool showsCxx();
 
+/// Whether hints are shown: POZHIL_HINTS, unless it is 0.
+bool showsHints();
+
 /// Where imports are looked for after the working directory, in order: POZHIL_MODULES or its default, then the
 /// installation's own modules.
 /// \param appDirectory the installation

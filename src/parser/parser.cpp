@@ -48,6 +48,10 @@ const AbstractStructTable& Parser::abstractStructs() const {
     return file_->declarations.abstractStructs;
 }
 
+const StatementList& Parser::droppedStatements() const {
+    return file_->declarations.droppedStatements;
+}
+
 const ScannedSource& Parser::scanned() const {
     return file_->scanned;
 }

@@ -59,6 +59,8 @@ public:
     const FunctionTable& functions() const;
     const StructTable& structs() const;
     const AbstractStructTable& abstractStructs() const;
+    /// What stands in structures and is neither field nor method: no part of the program, and without effect.
+    const StatementList& droppedStatements() const;
 
     /// The file with its tokens.
     const ScannedSource& scanned() const;

@@ -17,7 +17,7 @@ def check_case(case, compiler, **settings):
     if not case.expectation.entries:
         return "the case doesn't say what must come out; --rewrite adds what does"
     outcome = run_case(case, compiler, with_program=case.expectation.needs_program, **settings)
-    checks = (_difference, _description_trouble, _error_stream_trouble, _emission_trouble)
+    checks = (_difference, _description_trouble, _error_stream_trouble, _hint_trouble, _emission_trouble)
     troubles = [trouble for check in checks if (trouble := check(case, outcome))]
     return "\n\n".join([*troubles, str(outcome.result)]) if troubles else ""
 
@@ -31,10 +31,13 @@ def rewrite_case(case, compiler, **settings):
         raise cf.CaseError(f"not rewritten, since it doesn't end:\n{outcome.result}")
     *observed, (_, status) = _observed(case, outcome)
     rewritten = {cf.OUTPUT, cf.DIAGNOSTIC, cf.RUNTIME, cf.STATUS}
+    if not _hint_trouble(case, outcome):
+        outcome.hints = stated.texts(cf.HINT)
     if not outcome.diagnostic and not outcome.runtime:
         rewritten.add(cf.DESCRIPTION)
     typed = [entry for entry in stated.entries if entry[0] == cf.INPUT]
-    kept = [entry for entry in stated.entries if entry[0] not in rewritten | {cf.INPUT}]
+    observed += [(cf.HINT, hint) for hint in outcome.hints]
+    kept = [entry for entry in stated.entries if entry[0] not in rewritten | {cf.INPUT, cf.HINT}]
     if status != ("1" if outcome.diagnostic else "0") or not observed + kept:
         observed.append((cf.STATUS, status))
     cf.write_expectation(case, cf.Expectation(typed + observed + kept))
@@ -81,11 +84,24 @@ def _description_trouble(case, outcome):
 
 def _error_stream_trouble(case, outcome):
     stated = case.expectation.texts(cf.ERROR_STREAM)
-    missing = [text for text in stated if text not in outcome.result.err]
+    missing = [text for text in stated if text not in outcome.errors]
     if missing:
         return f"not in standard error: {missing[0]}"
     heard = case.expectation.needs_program or case.expectation.status != 0
-    return "standard error isn't empty" if heard and not stated and outcome.result.stderr else ""
+    return "standard error isn't empty" if heard and not stated and outcome.errors else ""
+
+
+def _hint_trouble(case, outcome):
+    stated = case.expectation.texts(cf.HINT)
+    if not stated and not case.expectation.needs_program:
+        return ""
+    fitting = len(stated) == len(outcome.hints) and all(map(_fits, stated, outcome.hints))
+    return "" if fitting else "\n".join(["other hints than stated; these came out:", *outcome.hints])
+
+
+def _fits(stated, hint):
+    """Whether `hint` is as stated: in this line, and in these words if any are stated."""
+    return hint == stated or hint.startswith(stated + ":")
 
 
 def _emission_trouble(case, outcome):

@@ -3,14 +3,14 @@
 import shutil
 import tempfile
 import time
-from dataclasses import dataclass
+from dataclasses import dataclass, field
 from pathlib import Path
 
 from support import case_file as cf
 from support import texts as t
 from support.box import Report, split_compiler_box, split_program_box
 from support.compiler import plain_environment
-from support.console import behind_animation
+from support.console import behind_animation, hint_lines
 from support.process import Result, Session, run
 from support.toolchain import Toolchain
 
@@ -19,13 +19,18 @@ TIMEOUT = 60
 
 @dataclass
 class Outcome:
-    """What came out of a case: the compiler's own words, and those of the program if it ran."""
+    """What came out of a case: the compiler's own words, and those of the program if it ran.
+
+    `errors` is what stood on standard error besides the hints.
+    """
 
     result: Result
     emitted: str | None
     output: list[str] | None = None
     diagnostic: Report | None = None
     runtime: Report | None = None
+    hints: list[str] = field(default_factory=list)
+    errors: str = ""
 
 
 def run_case(case, compiler, *, with_program, timeout=TIMEOUT):
@@ -71,6 +76,7 @@ def _emitted_text(folder):
 
 def _outcome(case, result, emitted, with_program):
     outcome = Outcome(result, emitted)
+    outcome.hints, outcome.errors = hint_lines(result.err, case.path.name)
     program_output = behind_animation(result.out, case.path.name)
     if program_output is None:
         _, outcome.diagnostic = split_compiler_box(result.out)

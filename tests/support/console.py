@@ -11,6 +11,16 @@ def without_colours(text):
     return _ESCAPE.sub("", text)
 
 
+def hint_lines(error_output, source):
+    """The hints on `source` in what stands on standard error, each as `வரி 3: …`, and the rest of it."""
+    hints, rest = [], []
+    for line in error_output.splitlines(keepends=True):
+        is_hint = line.startswith(t.HINT_BEFORE)
+        (hints if is_hint else rest).append(line)
+    shown = [hint.removeprefix(t.HINT_BEFORE).removesuffix("\n").removeprefix(source + " ") for hint in hints]
+    return shown, "".join(rest)
+
+
 def animation_line(source):
     """The line that is written byte by byte while `source` is being compiled."""
     return t.CYAN + t.ANIMATION_BEFORE + source + t.ANIMATION_BEHIND + t.RESET + "\n"

@@ -91,6 +91,9 @@ GOLD = "\x1b[1;93m"
 GREEN = "\x1b[1;32m"
 DIM = "\x1b[2;37m"
 RESET = "\x1b[0m"
+
+# Before each hint on a program that has run.
+HINT_BEFORE = GOLD + "💡 குறிப்பு: " + RESET
 DIM_GREY = "\x1b[38;5;242m"
 
 # Box of a diagnostic

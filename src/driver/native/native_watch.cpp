@@ -1,6 +1,7 @@
 #include "driver/native/native_watch.h"
 
 #include "driver/console/stage_report.h"
+#include "driver/hint_report.h"
 #include "driver/output_stage.h"
 #include "driver/source_watch.h"
 
@@ -14,6 +15,7 @@ void watchNative(const std::string& sourcePath, const FrontEndOptions& options, 
         if (writeOutput(outputFile, output.text)) {
             build.start();
             build.finish(source, output);
+            reportHints(source);
         }
     };
     steps.reportFailure = reportWatchFailure;

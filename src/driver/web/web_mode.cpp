@@ -1,6 +1,7 @@
 #include "driver/web/web_mode.h"
 
 #include "driver/console/stage_report.h"
+#include "driver/hint_report.h"
 #include "driver/server/local_server.h"
 #include "driver/source_watch.h"
 #include "driver/web/web_build.h"
@@ -23,6 +24,7 @@ void runWeb(const ParsedSource& source, const OutputText& output, const FrontEnd
     } else {
         printWebFailure();
     }
+    reportHints(source);
     std::thread(runLocalServer, LOCAL_SERVER_PORT).detach();
 
     WatchSteps steps;
@@ -31,6 +33,7 @@ void runWeb(const ParsedSource& source, const OutputText& output, const FrontEnd
         if (build.run(changed, changedOutput)) {
             printWebUpdated();
         }
+        reportHints(changed);
     };
     steps.reportFailure = reportWebWatchFailure;
     watchSource(source.source->path, options, steps);
