@@ -126,6 +126,9 @@ class Session:
     def wait_for_output(self, text, timeout=20):
         self.wait_until(lambda: text.encode() in self.stdout, timeout)
 
+    def wait_for_errors(self, text, timeout=20):
+        self.wait_until(lambda: text.encode() in self.stderr, timeout)
+
     def wait_for_end(self, timeout=20):
         """Returns the exit status of the process once it has ended by itself."""
         self.wait_until(lambda: self.process.poll() is not None, timeout)

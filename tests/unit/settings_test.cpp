@@ -21,6 +21,16 @@ TEST(ModuleDirectories, TheUserMayReplaceTheFirst) {
     unsetenv("POZHIL_MODULES");
 }
 
+TEST(Hints, AreShownUnlessTheUserSaysNought) {
+    unsetenv("POZHIL_HINTS");
+    EXPECT_TRUE(settings::showsHints());
+    setenv("POZHIL_HINTS", "", 1);
+    EXPECT_TRUE(settings::showsHints());
+    setenv("POZHIL_HINTS", "0", 1);
+    EXPECT_FALSE(settings::showsHints());
+    unsetenv("POZHIL_HINTS");
+}
+
 TEST(CompilerFlags, AreTheWordsOfTheUser) {
     unsetenv("POZHIL_CXXFLAGS");
     unsetenv("POZHIL_EMFLAGS");

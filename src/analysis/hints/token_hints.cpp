@@ -73,33 +73,39 @@ void findOddLetters(const ScannedSource& scanned, HintList& found) {
     }
 }
 
-/// The first token of the line that the tab at \p tab begins, NONE if the line holds no code or the tab stands in a text.
-std::size_t firstTokenOfLine(const ScannedSource& scanned, std::size_t tab) {
-    const std::size_t lineEnd = std::min(scanned.source->text.find('\n', tab), scanned.source->text.size());
+/// The first token after the letters that the tabs at \p tab eat, which is four less the tab itself for each. NONE where
+/// tabs are only part of a text or comment, and where they eat nothing but blanks.
+std::size_t tokenAfterEaten(const ScannedSource& scanned, std::size_t tab) {
+    constexpr std::size_t TAB_WIDTH = 4;
+    constexpr std::string_view BLOCK_COMMENT = "ஃஃ";
+    const std::string_view text = scanned.source->text;
+    const std::size_t tabsEnd = std::min(text.find_first_not_of('\t', tab), text.size());
+    const std::size_t eatenEnd = tab + (tabsEnd - tab) * TAB_WIDTH;
+    if (eatenEnd > text.size() || text.substr(tabsEnd, eatenEnd - tabsEnd).find_first_not_of(" \n") == NONE) {
+        return NONE;
+    }
+    const std::size_t lineEnd = std::min(text.find('\n', eatenEnd), text.size());
     const auto isBefore = [](const ByteRange& range, std::size_t position) { return range.begin < position; };
-    const auto next = std::lower_bound(scanned.places.begin(), scanned.places.end(), tab, isBefore);
+    const auto next = std::lower_bound(scanned.places.begin(), scanned.places.end(), eatenEnd, isBefore);
     const bool isInText = next != scanned.places.begin() && std::prev(next)->end > tab;
-    if (isInText || next == scanned.places.end() || next->begin >= lineEnd) {
+    const bool isInComment = text.substr(tab, lineEnd - tab).find(BLOCK_COMMENT) != NONE;
+    if (isInText || isInComment || next == scanned.places.end() || next->begin >= lineEnd) {
         return NONE;
     }
     return static_cast<std::size_t>(std::distance(scanned.places.begin(), next));
 }
 
-/// A line that a block comment ends in isn't measured, so its tabs do no harm.
 void findTabs(const ScannedSource& scanned, HintList& found) {
-    constexpr std::string_view BLOCK_COMMENT = "ஃஃ";
     const std::string_view text = scanned.source->text;
     std::size_t tab = text.find('\t');
     while (tab != NONE) {
-        const std::size_t lineEnd = std::min(text.find('\n', tab), text.size());
         const bool beginsLine = tab == 0 || text[tab - 1] == '\n';
-        const bool isComment = text.substr(tab, lineEnd - tab).find(BLOCK_COMMENT) != NONE;
-        const std::size_t token = beginsLine && !isComment ? firstTokenOfLine(scanned, tab) : NONE;
+        const std::size_t token = beginsLine ? tokenAfterEaten(scanned, tab) : NONE;
         if (token != NONE) {
             found.addAtToken(HintKind::Tab, token,
                              "வரியின் தொடக்கத்தில் உள்ள தத்தல் (Tab) அடுத்துள்ள எழுத்தை விழுங்கிவிடும்; இடைவெளிகளை மட்டும் எழுதவும்.");
         }
-        tab = text.find('\t', lineEnd);
+        tab = text.find('\t', std::min(text.find_first_not_of('\t', tab), text.size()));
     }
 }
 

@@ -382,7 +382,7 @@ void TreeHints::visit(const IndexExpression& node) {
     const std::string object = plainText(node.object.get());
     const std::string list = object.empty() ? "அ" : object;
     found_.add(HintKind::LengthAsIndex, node,
-               "'நீளம்' தரும் எண்ணைச் சுட்டெண்ணாகப் படிக்க முடியாது; கடைசி உறுப்பை '" + list + "[கீழ்எண்(நீளம்(" + list +
+               "'நீளம்' தரும் எண் சுட்டெண் ஆகாது; கடைசி உறுப்பை '" + list + "[கீழ்எண்(நீளம்(" + list +
                    ") கூட்டு குறை 1)]' என்று எழுதவும்.");
 }
 
