@@ -1,10 +1,11 @@
-/// Feeds mutated programs to scanner, parser and generator. A run may end well or with a fault, but never by a signal,
+/// Feeds mutated programs to scanner, parser, hints and generator. A run may end well or with a fault, but never by a signal,
 /// by a sanitizer, by leaving the process, or not at all, and it gives back all memory that it took.
 ///
 ///   front_end_fuzzer <inputs> <seed> <corpus folder>...
 ///
 /// A failing input is kept beside the current directory as failure-<number>.பொழில்.
 
+#include "analysis/hints.h"
 #include "base/source_text.h"
 #include "diagnostics/fault.h"
 #include "driver/translation.h"
@@ -43,7 +44,9 @@ std::vector<std::string> readCorpus(const std::vector<std::string>& folders) {
 
 void compile(std::string text) {
     try {
-        pozhil::generateText(pozhil::parseSource(pozhil::makeSource("சோதனை.பொழில்", std::move(text)), {}));
+        const pozhil::ParsedSource parsed = pozhil::parseSource(pozhil::makeSource("சோதனை.பொழில்", std::move(text)), {});
+        pozhil::hintsOf(parsed.program, *parsed.parser);
+        pozhil::generateText(parsed);
     } catch (const pozhil::Fault&) {
     } catch (const pozhil::StageFailure&) {
     }

@@ -83,6 +83,11 @@ TEST_F(Hints, OfImportedFilesComeLast) {
     EXPECT_EQ(found[1].line, 2);
 }
 
+TEST_F(Hints, CountTheLinesOfImportedFilesToo) {
+    files_ = {{"கருவி.பொழில்", "\nகட்டமைப்பு பை:\n    எடை = 1\n    எனில் மெய்:\n        அச்சிடு(1)\n"}};
+    EXPECT_THAT(told("நூஇறக்கி \"கருவி\"\n"), ElementsAre(Pair(4, Kind::DroppedStatement)));
+}
+
 TEST_F(Hints, AFileMayAssignWhatAnotherReads) {
     files_ = {{"கருவி.பொழில்", "செயல் கருவி():\n    திரும்பு வெளியே\n"}};
     EXPECT_THAT(told("நூஇறக்கி \"கருவி\"\nவெளியே = 1\nகருவி()\n"), IsEmpty());

@@ -28,7 +28,7 @@ void HintList::addAtToken(HintKind kind, std::size_t token, std::string text) {
 }
 
 /// Tokens know best, since line ends inside a text don't count; those of imported files are gone.
-std::int32_t HintList::lineOf(const SourcePlace& place) const {
+std::int32_t HintList::lineOf(const SourcePlace& place) {
     const ScannedSource& scanned = parser_.scanned();
     if (place.source == scanned.source) {
         const auto token =
@@ -38,9 +38,20 @@ std::int32_t HintList::lineOf(const SourcePlace& place) const {
                    ? 1
                    : scanned.tokens[static_cast<std::size_t>(std::distance(scanned.places.begin(), token))].line;
     }
-    const std::string& text = place.source->text;
-    const auto end = text.begin() + static_cast<std::ptrdiff_t>(std::min<std::size_t>(place.range.begin, text.size()));
-    return 1 + static_cast<std::int32_t>(std::count(text.begin(), end, '\n'));
+    const std::vector<std::uint32_t>& ends = lineEndsOf(*place.source);
+    const auto next = std::lower_bound(ends.begin(), ends.end(), place.range.begin);
+    return 1 + static_cast<std::int32_t>(std::distance(ends.begin(), next));
+}
+
+const std::vector<std::uint32_t>& HintList::lineEndsOf(const SourceText& source) {
+    const auto [known, isNew] = lineEnds_.try_emplace(&source);
+    if (isNew) {
+        for (std::size_t end = source.text.find('\n'); end != std::string::npos;
+             end = source.text.find('\n', end + 1)) {
+            known->second.push_back(static_cast<std::uint32_t>(end));
+        }
+    }
+    return known->second;
 }
 
 std::vector<Hint> HintList::take() {

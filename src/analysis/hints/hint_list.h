@@ -3,6 +3,8 @@
 #include "analysis/hints.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -24,10 +26,13 @@ public:
 
 private:
     template <class Node> void addAtNode(HintKind kind, const Node& node, std::string text);
-    std::int32_t lineOf(const SourcePlace& place) const;
+    std::int32_t lineOf(const SourcePlace& place);
+    const std::vector<std::uint32_t>& lineEndsOf(const SourceText& source);
 
     const Parser& parser_;
     std::vector<Hint> hints_;
+    /// Where the lines of imported files end.
+    std::map<const SourceText*, std::vector<std::uint32_t>> lineEnds_;
 };
 
 } // namespace pozhil
