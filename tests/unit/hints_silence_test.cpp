@@ -127,7 +127,8 @@ TEST(Silence, OfGuides) {
     EXPECT_GT(samples.size(), 150U);
     const auto showsTrouble = [](const Sample& sample) {
         const auto isOf = [&](const char* page) { return sample.place.rfind(page, 0) == 0; };
-        return isOf("14_வியப்புகள்:") || isOf("பிழைகள்:") || sample.text.find("இல்லாதது") != std::string::npos;
+        return isOf("01அ_பத்துச்_சுவர்கள்:") || isOf("14_வியப்புகள்:") || isOf("பிழைகள்:") ||
+               sample.text.find("இல்லாதது") != std::string::npos;
     };
     samples.erase(std::remove_if(samples.begin(), samples.end(), showsTrouble), samples.end());
     const Outcome outcome = outcomeOf(samples);
