@@ -2,6 +2,7 @@
 
 #include "base/letters.h"
 #include "language/builtins.h"
+#include "parser/widget_tokens.h"
 
 #include <algorithm>
 #include <string_view>
@@ -55,6 +56,18 @@ Names methodNames(const Walk& walk) {
     return names;
 }
 
+/// A structure with this method that no program can construct, since a call of its name makes a widget; empty if none.
+std::string_view widgetWithMethod(const Walk& walk, const std::string& method) {
+    for (const auto& [name, structure] : walk.structures.all()) {
+        const bool isWidget = structure->name.type != TokenType::IDENTIFIER && isWidgetToken(structure->name);
+        if (isWidget && std::any_of(structure->methods.begin(), structure->methods.end(),
+                                    [&](const auto& own) { return own->name.value == method; })) {
+            return name;
+        }
+    }
+    return "";
+}
+
 bool holds(const Names& names, std::string_view name) {
     return std::find(names.begin(), names.end(), name) != names.end();
 }
@@ -78,6 +91,10 @@ std::string callHint(const Walk& walk, const std::string& name) {
 }
 
 std::string methodHint(const Walk& walk, const std::string& name) {
+    const std::string_view widget = widgetWithMethod(walk, name);
+    if (!widget.empty()) {
+        return "'" + std::string(widget) + "' ஒரு விட்ஜெட்டோட பெயர்; கட்டமைப்புக்கு வேற பெயர் வை மச்சி!";
+    }
     const Names methods = methodNames(walk);
     if (holds(methods, name)) {
         return "புள்ளிக்கு முன்னால, கட்டமைப்பால உருவாக்கின பொருளை வச்சிருக்கிற மாறி மட்டும் தான் வரலாம் மச்சி!";

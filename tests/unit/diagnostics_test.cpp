@@ -66,6 +66,29 @@ TEST(Catalogue, KeepsRemediesThatCarryVocabulary) {
     }
 }
 
+// What a newcomer must learn from the remedy, whichever way the program came to the fault.
+const std::vector<std::pair<const char*, std::vector<const char*>>> waysOut = {
+    {"பொழி-101", {"'கூட்டு'", "'குறை 5'", "'ஃ'"}},
+    {"பொழி-201", {"'அச்சிடு(...)'", "ஒரே வரியில", "ஒதுக்கின சொல்", "'ஃ'", "வேற பெயர்", "'சமம்'"}},
+    {"பொழி-202", {"':'", "உள்ள தள்ளி", "'விடு'", "ஒதுக்கின சொல்"}},
+    {"பொழி-208", {"'='", "'(...)'"}},
+    {"பொழி-210", {"ஒதுக்கின சொல்", "'ஃ'", "வேற பெயர்", "எடை = 0", "'பிடி'"}},
+    {"பொழி-231", {"செயல் வணக்கம்():", "ஒதுக்கின சொல்", "'ஃ'", "வேற பெயர்"}},
+    {"பொழி-232", {"','", "ஒதுக்கின சொல்", "'ஃ'", "வேற பெயர்", "'(அ => ...)'"}},
+    {"பொழி-303", {"'இணை'", "'எண்(...)'", "'பின்னணிபடம்'"}},
+    {"பொழி-304", {"'.'", "'தான்'", "'மலர் = நபர்(...)'", "வகை", "பராமீட்டரோ", "அகராதி", "'நீக்கு'"}},
+    {"பொழி-313", {"'[ ]'", "'ஒவ்வொன்றாக'", "முழு எண்", "'கீழ்எண்(...)'", "சாவி உரை", "'\"\" இணை சாவி'"}},
+    {"பொழி-332", {"செயலோ வினையோ", "எண்ணிக்கை", "வகை"}},
+};
+
+TEST(Catalogue, RemediesNameTheWayOut) {
+    for (const auto& [code, words] : waysOut) {
+        for (const char* word : words) {
+            EXPECT_NE(பிழை_அகராதி.at(code).தீர்வு.find(word), std::string::npos) << code << ": " << word;
+        }
+    }
+}
+
 TEST(Catalogue, NoTwoRemediesAreTheSameAndNothingIsEmpty) {
     std::map<std::string, std::string> codeOfRemedy;
     for (const auto& [code, entry] : பிழை_அகராதி) {

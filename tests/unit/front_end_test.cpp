@@ -60,7 +60,7 @@ TEST(StageFailures, TellTheFaultAfterTheLineOfTheFirstCompile) {
     const std::string place = "  📍 \x1b[1;36mநிரல்.பொழில்\x1b[0m, வரி 12\n     12 |  கூடு(1)\n";
     const std::string fault =
         "  ╰── பொழி-332: அழைக்க முடியாத பொருள் (Not a Function). (விவரம்)\n  ╰── நீ நினைச்சது\n"
-        "\x1b[1;93m  💡 நீ கூப்பிடுற பெயர்ல ஒரு செயல் இருக்கான்னு பாரு, இல்லைன்னா முதல்ல அந்தச் செயலை எழுது மச்சி!\x1b[0m\n";
+        "\x1b[1;93m  💡 அந்தப் பெயர்ல ஒரு செயலோ வினையோ இருக்கான்னு பாரு மச்சி; இருந்தா, கொடுக்கிற மதிப்புகளோட எண்ணிக்கையும் வகையும், உள்ளே நடக்கிற கணக்கும் சரியான்னு பாரு!\x1b[0m\n";
     EXPECT_EQ(toldOf(reportFirstFailure, NOT_A_FUNCTION),
               red("🚨 (குறியீடு உருவாக்கம்): குறியீட்டை உருவாக்குவதில் சிக்கல்!") + place + fault);
     EXPECT_EQ(toldOf(reportWebWatchFailure, NOT_A_FUNCTION),
