@@ -1,9 +1,9 @@
 #include "driver/refusal_report.h"
 
-#include "base/line_index.h"
 #include "diagnostics/refusals/refusals.h"
 #include "diagnostics/refusals/toolchain_errors.h"
 #include "driver/console/explanation.h"
+#include "driver/output_places.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -20,8 +20,7 @@ constexpr std::size_t MOST_EXPLAINED = 5;
 
 /// A line of a source that was refused, and the row that knows most of what was said of it.
 struct RefusedLine {
-    std::optional<SourcePlace> place;
-    std::size_t line = 0;
+    std::optional<StatementPlace> statement;
     /// The line of the output text that was spoken of first.
     std::size_t outputLine = 0;
     Refusal refusal;
@@ -35,8 +34,7 @@ std::string_view firstLineOf(std::string_view text) {
 /// Sorts what a tool said of the output text by the lines of the source.
 class RefusedLines {
 public:
-    RefusedLines(const ParsedSource& source, const OutputText& output)
-        : source_(source), output_(output), outputLines_(output.text) {
+    RefusedLines(const ParsedSource& source, const OutputText& output) : places_(source, output) {
         for (const auto& structure : source.parser->structs()) {
             if (const auto place = source.parser->places().of(*structure.second)) {
                 structures_.push_back(*place);
@@ -50,8 +48,9 @@ public:
             return;
         }
         RefusedLine found = locate(error);
-        const auto [known, isNew] =
-            indices_.emplace(std::pair(found.place ? found.place->source.get() : nullptr, found.line), lines_.size());
+        const auto key = found.statement ? std::pair(found.statement->place.source.get(), found.statement->line)
+                                         : std::pair<const SourceText*, std::size_t>();
+        const auto [known, isNew] = indices_.emplace(key, lines_.size());
         if (isNew) {
             lines_.push_back(std::move(found));
         }
@@ -63,7 +62,7 @@ public:
 
     /// In the order in which they were refused. What has neither a place nor a row tells nothing beside the others.
     std::vector<RefusedLine> take() {
-        const auto tellsNothing = [](const RefusedLine& line) { return !line.place && line.row == nullptr; };
+        const auto tellsNothing = [](const RefusedLine& line) { return !line.statement && line.row == nullptr; };
         if (!std::all_of(lines_.begin(), lines_.end(), tellsNothing)) {
             lines_.erase(std::remove_if(lines_.begin(), lines_.end(), tellsNothing), lines_.end());
         }
@@ -74,26 +73,18 @@ private:
     RefusedLine locate(const ToolchainError& error) {
         RefusedLine found;
         found.outputLine = error.line;
-        if (error.line == 0 || error.line > outputLines_.count()) {
-            return found;
-        }
-        const void* node = output_.origins.ofLineAt(output_.text, outputLines_.beginOf(error.line));
-        found.place = source_.parser->places().ofAddress(node);
-        if (found.place) {
-            const SourceText* text = found.place->source.get();
-            const auto& index = sourceLines_.try_emplace(text, text->text).first->second;
-            found.line = index.lineAt(found.place->range.begin);
-        }
+        found.statement = places_.find(error.line);
         return found;
     }
 
     void recognise(RefusedLine& line, const ToolchainError& error) {
         Refusal& refusal = line.refusal;
         refusal.message = plainMessage(error.message);
-        if (line.place) {
-            const std::string_view text = line.place->source->text;
-            refusal.statement = firstLineOf(text.substr(line.place->range.begin));
-            refusal.isInStructure = isInStructure(*line.place);
+        if (line.statement) {
+            const SourcePlace& place = line.statement->place;
+            const std::string_view text = place.source->text;
+            refusal.statement = firstLineOf(text.substr(place.range.begin));
+            refusal.isInStructure = isInStructure(place);
         }
         line.row = findRefusal(refusal);
         if (line.row != nullptr) {
@@ -109,11 +100,8 @@ private:
         });
     }
 
-    const ParsedSource& source_;
-    const OutputText& output_;
-    const LineIndex outputLines_;
+    OutputPlaces places_;
     std::vector<SourcePlace> structures_;
-    std::map<const SourceText*, LineIndex> sourceLines_;
     std::vector<RefusedLine> lines_;
     std::map<std::pair<const SourceText*, std::size_t>, std::size_t> indices_;
     bool isMisled_ = false;
@@ -121,11 +109,7 @@ private:
 };
 
 ShownPlace placeOf(const RefusedLine& line) {
-    if (!line.place) {
-        return {};
-    }
-    const auto number = static_cast<std::int32_t>(line.line);
-    return {line.place->source->path, number, lineOf(line.place->source->text, number)};
+    return line.statement ? shownPlace(*line.statement) : ShownPlace{};
 }
 
 /// A refusal that no row knows: the words of the target compiler are all there is to go by.
@@ -134,10 +118,10 @@ Explanation unknownRefusal(const RefusedLine& line, const std::string& file) {
     if (line.outputLine > 0) {
         text += ", வரி " + std::to_string(line.outputLine);
     }
-    return {
-        placeOf(line),
-        {line.place ? "பொழில் ஏற்கும் இந்தக் கூற்றை C++ தொகுப்பி மறுக்கிறது." : "உருவான உரையை C++ தொகுப்பி மறுக்கிறது.", text},
-        line.place ? "கூற்றைச் சின்னச் சின்ன வரிகளா பிரிச்சு, ஒவ்வொரு விடையையும் ஒரு மாறியில வச்சுப் பாரு மச்சி!" : ""};
+    return {placeOf(line),
+            {line.statement ? "பொழில் ஏற்கும் இந்தக் கூற்றை C++ தொகுப்பி மறுக்கிறது." : "உருவான உரையை C++ தொகுப்பி மறுக்கிறது.",
+             text},
+            line.statement ? "கூற்றைச் சின்னச் சின்ன வரிகளா பிரிச்சு, ஒவ்வொரு விடையையும் ஒரு மாறியில வச்சுப் பாரு மச்சி!" : ""};
 }
 
 void explain(const RefusedLine& line, const std::string& file) {

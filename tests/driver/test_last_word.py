@@ -76,14 +76,15 @@ DEATHS = {
 
 def run_program(place, limits="", **settings):
     """Runs the program that was built last as the compiler does, under the limits that a shell sets."""
-    env = {**place.env, "POZHIL_SOURCE": SOURCE}
+    env = {**place.env, "POZHIL_SOURCE": SOURCE, "POZHIL_TRACE": str(place.folder / "trace")}
     command = ["/bin/sh", "-c", f'ulimit -c 0; {limits or ":"}; exec "$0"', place.program]
     return run(command, cwd=place.folder, env=env, stdin="ஓடு\n".encode(), timeout=20, **settings)
 
 
 def assert_word(death, err):
+    """What the compiler adds of lines is tested elsewhere."""
     assert err.startswith(death.word)
-    remedy = err[len(death.word):]
+    remedy = err[len(death.word):].partition("🔎")[0]
     assert remedy.endswith("!\n") and remedy.count("\n") == 1
     assert not ENGLISH.search(err)
 
@@ -108,9 +109,20 @@ def test_the_compiler_runs_the_program_with_its_source_and_shows_its_word(real_p
 
 def test_a_program_that_is_run_by_itself_knows_its_line_but_not_its_source(real_place):
     real_place.compile(DEATHS["in a function"].source)
+    files = set(real_place.folder.rglob("*"))
     result = run([real_place.program], cwd=real_place.folder, env=real_place.env)
     assert result.status == -signal.SIGABRT
     assert "இடம்: வரி 4-இல் கடைசியாக அழைத்த செயல், " in result.err
+    assert set(real_place.folder.rglob("*")) == files
+
+
+def test_a_trace_that_cannot_be_written_changes_nothing(real_place):
+    death = DEATHS["division"]
+    real_place.compile(death.source)
+    (real_place.folder / "trace").mkdir()
+    result = run_program(real_place)
+    assert (result.status, result.out) == (-death.signal, death.out)
+    assert_word(death, result.err)
 
 
 def test_what_the_program_catches_or_shows_in_a_box_has_no_word(real_place):

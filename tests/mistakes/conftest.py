@@ -17,7 +17,8 @@ MISTAKES = Path(__file__).parent
 _ENTRY = re.compile(r"^ஃ> (வர வேண்டும்|வரக் கூடாது): (.*)$", re.MULTILINE)
 
 # What only C++ and its tools say.
-CPP = ("error:", "std::", "global_vars", "fn_", "undefined reference", "In function", "generated.cpp")
+CPP = ("error:", "std::", "any_cast", "global_vars", "fn_", "undefined reference", "In function", "generated.cpp",
+       "terminate called")
 
 
 @dataclass

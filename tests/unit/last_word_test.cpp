@@ -1,6 +1,7 @@
 #include "diagnostics/last_word/words.h"
 
 #include <any>
+#include <cstdint>
 #include <new>
 #include <stdexcept>
 #include <string>
@@ -39,6 +40,15 @@ TEST(Paragraph, HoldsTextsAndNumbers) {
     paragraph.add("");
     paragraph.add(0);
     EXPECT_EQ(textOf(paragraph), "வரி 21474836470");
+}
+
+TEST(Paragraph, HoldsAddresses) {
+    Paragraph paragraph;
+    for (const std::uintptr_t address : {std::uintptr_t{0}, std::uintptr_t{0x401a0f}, UINTPTR_MAX}) {
+        paragraph.addHexadecimal(address);
+        paragraph.add(" ");
+    }
+    EXPECT_EQ(textOf(paragraph), "0 401a0f ffffffffffffffff ");
 }
 
 TEST(Paragraph, CutsBetweenLetters) {

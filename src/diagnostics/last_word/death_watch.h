@@ -3,6 +3,7 @@
 /// Waits in a generated program for the fault that nothing in it catches, and then has the last word on standard error.
 /// The program ends by the same signal as without.
 
+#include "death_trace.h"
 #include "words.h"
 
 #include <poll.h>
@@ -25,6 +26,7 @@ namespace pozhil::last_word {
 /// What is found out while the program is still well.
 struct Watch {
     const char* source = nullptr;
+    const char* trace = nullptr;
     std::uintptr_t stackTop = 0;
     std::uintptr_t stackSize = 0;
     std::atomic<bool> hasSpoken = false;
@@ -67,6 +69,9 @@ inline void speak(const Cause& cause) {
     Paragraph paragraph;
     addWord(paragraph, cause, {watch.source, g_current_call_line, g_call_depth});
     writeToStandardError(paragraph.data(), paragraph.size());
+    if (watch.trace != nullptr) {
+        leaveTrace(watch.trace);
+    }
 }
 
 [[noreturn]] inline void endByException() {
@@ -122,6 +127,7 @@ inline bool watchProgram() {
         return false;
     }
     watch.source = std::getenv(SOURCE_VARIABLE);
+    watch.trace = std::getenv(TRACE_VARIABLE);
     watch.stackTop = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
     rlimit limit = {};
     if (getrlimit(RLIMIT_STACK, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY) {

@@ -9,6 +9,7 @@
 #include <any>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <exception>
 #include <new>
@@ -18,6 +19,9 @@ namespace pozhil::last_word {
 
 /// By this variable of its environment a program learns the path of its source.
 constexpr const char* SOURCE_VARIABLE = "POZHIL_SOURCE";
+
+/// By this one, the file in which it is to leave where it died.
+constexpr const char* TRACE_VARIABLE = "POZHIL_TRACE";
 
 /// A text of at most 4096 bytes, which a pipe takes in one piece. What is more is left out.
 class Paragraph {
@@ -43,6 +47,16 @@ public:
         do {
             digits[--first] = static_cast<char>('0' + number % 10);
             number /= 10;
+        } while (number > 0);
+        add(digits.data() + first);
+    }
+
+    void addHexadecimal(std::uintptr_t number) {
+        std::array<char, 2 * sizeof number + 1> digits{};
+        std::size_t first = digits.size() - 1;
+        do {
+            digits[--first] = "0123456789abcdef"[number % 16];
+            number /= 16;
         } while (number > 0);
         add(digits.data() + first);
     }

@@ -2,6 +2,7 @@
 
 #include "diagnostics/last_word/words.h"
 #include "driver/console/console_style.h"
+#include "driver/native/death_report.h"
 #include "driver/native/toolchain_output.h"
 #include "driver/refusal_report.h"
 #include "driver/settings.h"
@@ -55,7 +56,8 @@ NativeBuild::NativeBuild(std::string sourcePath, fs::path appDirectory, fs::path
                          fs::path temporaryDirectory)
     : sourcePath_(std::move(sourcePath)), appDirectory_(std::move(appDirectory)),
       generatedSource_(std::move(generatedSource)), freshProgram_(temporaryDirectory / "pozhil_temp_app"),
-      program_(temporaryDirectory / "பொழில்_செயலி") {}
+      program_(temporaryDirectory / "பொழில்_செயலி"), trace_(temporaryDirectory / "pozhil_trace"),
+      traceable_(temporaryDirectory / "pozhil_traceable_app") {}
 
 void NativeBuild::start() {
     object_ = objectPath(appDirectory_);
@@ -83,7 +85,7 @@ void NativeBuild::finish(const ParsedSource& source, const OutputText& output) {
         reportRefusals(source, output, generatedSource_.u8string(), result.link.errors);
         return;
     }
-    runProgram();
+    runProgram(source, output);
 }
 
 /// The object of the diagnostics once per installation, then always the program. A failed object shows as a failed
@@ -93,7 +95,7 @@ NativeBuild::ToolchainResult NativeBuild::runToolchain() const {
     if (objectIsMissing_) {
         result.object = platform::captureCommand(objectCommand());
     }
-    result.link = platform::captureCommand(linkCommand());
+    result.link = platform::captureCommand(linkCommand(freshProgram_));
     return result;
 }
 
@@ -102,13 +104,13 @@ platform::Command NativeBuild::objectCommand() const {
                             object_.u8string(), "-std=c++17", "-I" + (appDirectory_ / "உள்ளடக்கம்").u8string()});
 }
 
-platform::Command NativeBuild::linkCommand() const {
+platform::Command NativeBuild::linkCommand(const fs::path& program) const {
     const fs::path include = appDirectory_ / "உள்ளடக்கம்";
     std::vector<std::string> arguments = {"g++",
                                           generatedSource_.u8string(),
                                           object_.u8string(),
                                           "-o",
-                                          freshProgram_.u8string(),
+                                          program.u8string(),
                                           "-std=c++17",
                                           "-I" + include.u8string(),
                                           "-I" + (include / "nanovg").u8string(),
@@ -123,12 +125,23 @@ platform::Command NativeBuild::linkCommand() const {
     return compilerCommand(std::move(arguments));
 }
 
+/// Only the innermost lines are looked for, so the least that g++ notes will do.
+platform::Command NativeBuild::traceableBuild() const {
+    platform::Command command = linkCommand(traceable_);
+    command.arguments.emplace_back("-g1");
+    return command;
+}
+
 /// The detour over a fresh file means that a failed link leaves the previous program untouched.
-void NativeBuild::runProgram() const {
+void NativeBuild::runProgram(const ParsedSource& source, const OutputText& output) const {
     std::error_code ignored;
     fs::remove(program_, ignored);
+    fs::remove(trace_, ignored);
     fs::rename(freshProgram_, program_, ignored);
-    platform::run_command({{program_.u8string()}, {{last_word::SOURCE_VARIABLE, sourcePath_}}});
+    platform::run_command(
+        {{program_.u8string()},
+         {{last_word::SOURCE_VARIABLE, sourcePath_}, {last_word::TRACE_VARIABLE, trace_.u8string()}}});
+    reportDeath(source, output, {program_, trace_, traceableBuild(), traceable_});
 }
 
 } // namespace pozhil

@@ -39,14 +39,17 @@ private:
 
     ToolchainResult runToolchain() const;
     platform::Command objectCommand() const;
-    platform::Command linkCommand() const;
-    void runProgram() const;
+    platform::Command linkCommand(const std::filesystem::path& program) const;
+    platform::Command traceableBuild() const;
+    void runProgram(const ParsedSource& source, const OutputText& output) const;
 
     std::string sourcePath_;
     std::filesystem::path appDirectory_;
     std::filesystem::path generatedSource_;
     std::filesystem::path freshProgram_;
     std::filesystem::path program_;
+    std::filesystem::path trace_;
+    std::filesystem::path traceable_;
     std::filesystem::path object_;
     bool objectIsMissing_ = false;
     std::future<ToolchainResult> toolchain_;
