@@ -15,6 +15,7 @@
 #include "front_end/front_end.h"
 #include "platform/console.h"
 #include "platform/paths.h"
+#include "platform/stack.h"
 
 #include <exception>
 #include <iostream>
@@ -96,13 +97,11 @@ int compile(const Invocation& invocation) {
     return 0;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    platform::setUpConsole();
+/// The whole compiler, with what it tells of its failures.
+int run(const std::vector<std::string>& arguments) {
     try {
         injectEmscriptenEnvironment(platform::executableDirectory());
-        const Invocation invocation = readCommandLine(std::vector<std::string>(argv, argv + argc));
+        const Invocation invocation = readCommandLine(arguments);
         return invocation.exitCode ? *invocation.exitCode : compile(invocation);
     } catch (const Fault& fault) {
         reportFault(fault);
@@ -112,4 +111,11 @@ int main(int argc, char** argv) {
         std::cerr << "பிழை: எதிர்பாராத சிக்கல்! (" << exception.what() << ")" << std::endl;
     }
     return 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    platform::setUpConsole();
+    return platform::runOnOwnStack([&] { return run(std::vector<std::string>(argv, argv + argc)); });
 }
