@@ -206,7 +206,7 @@ void CallWriter::writeMethod(const std::string& structure, const FunctionDefinit
     std::string declarations;
     std::string names;
     for (std::size_t index = 1; index < method.params.size(); ++index) {
-        const std::string& name = method.params[index].name.value;
+        const std::string name = emittedVariableName(method.params[index].name.value);
         declarations += (index == 1 ? "std::any " : ", std::any ") + name;
         names += ", " + name;
     }

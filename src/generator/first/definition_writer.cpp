@@ -24,7 +24,7 @@ void StatementWriter::writeFunction(const FunctionDefinitionStatement& node) {
         const Param& param = node.params[index];
         const char* type = param.isMutable ? "std::any& " : "std::any ";
         out_ << (index == 0 ? "" : ", ") << (isMethod && index == 0 ? "std::shared_ptr<_StructBase> " : type)
-             << param.name.value;
+             << emittedVariableName(param.name.value);
     }
     out_ << ") {\n";
     writeFunctionBody(node, "return std::any(); // Default return\n");
@@ -35,10 +35,10 @@ void StatementWriter::writeFunction(const FunctionDefinitionStatement& node) {
 /// A function in a function  ->  a native variable that holds a closure over copies of the outer ones
 void StatementWriter::writeNestedFunction(const FunctionDefinitionStatement& node) {
     out_.indent();
-    out_ << "std::any " << node.name.value << " = std::any(std::function<std::any(" << anyTypes(node.params.size())
-         << ")>([=](";
+    out_ << "std::any " << emittedVariableName(node.name.value) << " = std::any(std::function<std::any("
+         << anyTypes(node.params.size()) << ")>([=](";
     for (std::size_t index = 0; index < node.params.size(); ++index) {
-        out_ << (index == 0 ? "" : ", ") << "std::any " << node.params[index].name.value;
+        out_ << (index == 0 ? "" : ", ") << "std::any " << emittedVariableName(node.params[index].name.value);
     }
     out_ << ") mutable -> std::any {\n";
     writeFunctionBody(node, "return std::any();\n");

@@ -3,6 +3,7 @@
 #include "analysis/facts.h"
 #include "analysis/structures.h"
 #include "emit/code_writer.h"
+#include "generator/first/names.h"
 #include "parser/parser.h"
 
 #include <cstdint>
@@ -34,7 +35,7 @@ inline std::string globalVariable(const std::string& name) {
 
 /// A variable where it lives.
 inline std::string variableAt(Place place, const std::string& name) {
-    return place == Place::Native ? name : globalVariable(name);
+    return place == Place::Native ? emittedVariableName(name) : globalVariable(name);
 }
 
 } // namespace pozhil

@@ -208,7 +208,8 @@ void ExpressionWriter::visit(const TernaryExpression& node) {
 void ExpressionWriter::visit(const LambdaExpression& node) {
     std::string declarations;
     for (const Token& parameter : node.parameters) {
-        declarations += (declarations.empty() ? "std::any " : ", std::any ") + parameter.value;
+        declarations += declarations.empty() ? "std::any " : ", std::any ";
+        declarations += emittedVariableName(parameter.value);
     }
     out_ << "std::function<std::any(" << anyTypes(node.parameters.size()) << ")>([=](" << declarations << ") { return ";
     writeAny(node.body.get());

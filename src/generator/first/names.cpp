@@ -3,12 +3,21 @@
 #include "generator/first/runtime_text.h"
 
 #include <algorithm>
+#include <array>
 #include <set>
 
 namespace pozhil {
 namespace {
 
 constexpr std::string_view FUNCTION_PREFIX = "fn_";
+
+/// What the writers declare around statements and expressions of the program, and what they set in between.
+constexpr std::array<std::string_view, 13> VARIABLES_OF_THE_TEXT = {
+    "_iterable", "_switch_val", "_tracker", "cb_id", "e", "g_current_call_line", "global_vars", "json_data",
+    "pair",      "path_str",    "temp_obj", "sub",   "s"};
+/// An object under construction is called after its variable, the element of a list after the loop's.
+constexpr std::string_view OBJECT_PREFIX = "obj_";
+constexpr std::string_view ELEMENT_SUFFIX = "_any";
 
 bool isNameByte(char c) {
     const auto byte = static_cast<unsigned char>(c);
@@ -38,6 +47,13 @@ const std::set<std::string, std::less<>>& runtimeFunctionNames() {
     return names;
 }
 
+bool isVariableOfTheText(std::string_view name) {
+    const bool isElement =
+        name.size() >= ELEMENT_SUFFIX.size() && name.substr(name.size() - ELEMENT_SUFFIX.size()) == ELEMENT_SUFFIX;
+    return isElement || name.substr(0, OBJECT_PREFIX.size()) == OBJECT_PREFIX ||
+           std::find(VARIABLES_OF_THE_TEXT.begin(), VARIABLES_OF_THE_TEXT.end(), name) != VARIABLES_OF_THE_TEXT.end();
+}
+
 } // namespace
 
 std::string anyTypes(std::size_t count) {
@@ -51,6 +67,12 @@ std::string anyTypes(std::size_t count) {
 std::string emittedFunctionName(const std::string& stem) {
     std::string name = std::string(FUNCTION_PREFIX) + stem;
     return runtimeFunctionNames().count(name) == 0 ? name : name + "_";
+}
+
+/// Names that have underscores after such a name already get one more, so that no two names become one.
+std::string emittedVariableName(const std::string& name) {
+    const std::string stem = name.substr(0, name.find_last_not_of('_') + 1);
+    return isVariableOfTheText(stem) ? name + "_" : name;
 }
 
 } // namespace pozhil

@@ -13,4 +13,8 @@ std::string anyTypes(std::size_t count);
 /// the place of the library's.
 std::string emittedFunctionName(const std::string& stem);
 
+/// The native variable for a parameter, a loop variable or another name of a function. One that the emitted text itself
+/// declares around the program's own statements gets an underscore after it, or these would read the text's variable.
+std::string emittedVariableName(const std::string& name);
+
 } // namespace pozhil

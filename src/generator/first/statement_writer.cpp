@@ -111,7 +111,7 @@ void StatementWriter::writeObjectDeclaration(const VarDeclaration& node, const C
         expressions_.calls().writeConstructorCall(structure, object, call.arguments);
     }
     out_.indent();
-    out_ << (functions_ == 0 ? globalVariable(node.name) : node.name)
+    out_ << (functions_ == 0 ? globalVariable(node.name) : emittedVariableName(node.name))
          << " = std::any(std::static_pointer_cast<_StructBase>(" << object << "))";
 }
 
@@ -197,7 +197,7 @@ void StatementWriter::visit(const ForStatement& node) {
 
 /// ஒவ்வொன்றாக v இல் வரம்பு(a, b):  ->  for (long long v = fn_index(a); v < fn_index(b); ++v) { ... }
 void StatementWriter::writeRangeLoop(const ForStatement& loop, const CallExpression& range) {
-    const std::string& variable = loop.variable.value;
+    const std::string variable = emittedVariableName(loop.variable.value);
     out_.indent();
     out_ << "for (long long " << variable << " = ";
     if (range.arguments.size() == 1) {
@@ -242,7 +242,7 @@ void StatementWriter::writeLoopOver(const ForStatement& loop, std::string_view e
     {
         const CodeWriter::Indented inLoop(out_);
         out_.indent();
-        out_ << "std::any " << loop.variable.value << " = " << value << ";\n";
+        out_ << "std::any " << emittedVariableName(loop.variable.value) << " = " << value << ";\n";
         visit(*loop.body);
     }
     out_.block("}\n");
