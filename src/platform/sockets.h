@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cstddef>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -54,18 +55,24 @@ int portOf(const Socket& listener);
 /// \return a closed socket if there is none or the system can't open more
 Socket acceptConnection(const Socket& listener);
 
-/// Waits until something can be read, a connection has ended, or the time is over.
+/// What a socket is waited for.
+struct Awaited {
+    const Socket& socket;
+    /// Until it takes something; otherwise until something can be read.
+    bool isToSend = false;
+};
+
+/// Waits until one of the sockets is ready, a connection has ended, or the time is over.
 /// \return for each socket whether it is one of those
-std::vector<bool> waitForInput(const std::vector<const Socket*>& sockets, std::chrono::milliseconds timeout);
+std::vector<bool> waitForAny(const std::vector<Awaited>& sockets, std::chrono::milliseconds timeout);
 
 /// Reads once, without waiting, at most \p limit bytes.
 /// \return nothing if the other side has ended the connection
 std::string receiveOnce(const Socket& connection, std::size_t limit);
 
-/// Sends all of \p bytes.
-/// \param patience how long to wait while the other side takes nothing
-/// \return whether the system took all; false if the connection has ended or the patience has
-bool sendAll(const Socket& connection, std::string_view bytes, std::chrono::milliseconds patience);
+/// Sends as much of \p bytes as the system takes without waiting.
+/// \return how many bytes that were; nothing if the connection has ended
+std::optional<std::size_t> sendSome(const Socket& connection, std::string_view bytes);
 
 /// Tells the other side that nothing more will come. It can still be read from.
 void endSending(const Socket& connection);

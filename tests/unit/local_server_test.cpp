@@ -260,6 +260,50 @@ TEST_F(RunningServer, ClientThatNeverReadsIsGivenUp) {
     EXPECT_LT(delay(), 5s);
 }
 
+TEST_F(RunningServer, ClientsThatNeverReadHoldUpNobody) {
+    write("large.mp4", LARGE);
+    write("small.js", "script");
+    std::vector<TestClient> deaf;
+    for (int i = 0; i < 20; ++i) {
+        deaf.push_back(client());
+        deaf.back().send("GET /large.mp4 HTTP/1.1\r\n\r\n");
+    }
+    for (int i = 0; i < 10; ++i) {
+        EXPECT_LT(delay(), 500ms);
+        EXPECT_THAT(answerTo("GET /small.js HTTP/1.1\r\n\r\n"), EndsWith("\r\n\r\nscript"));
+    }
+    const std::string answer = answerTo("GET /large.mp4 HTTP/1.1\r\n\r\n");
+    EXPECT_EQ(answer.size() - answer.find("\r\n\r\n") - 4, LARGE.size());
+}
+
+TEST_F(RunningServer, OfTooManyClientsTheOnesThatAreAnsweredStay) {
+    ServerLimits limits;
+    limits.clients = 3;
+    start(limits);
+    write("large.mp4", LARGE);
+    TestClient loading = client();
+    loading.send("GET /large.mp4 HTTP/1.1\r\n\r\n");
+    std::string answer = loading.receiveSome();
+    const std::vector<TestClient> silent = silentClients(10);
+    answer += loading.receiveAll();
+    EXPECT_EQ(answer.size() - answer.find("\r\n\r\n") - 4, LARGE.size());
+}
+
+TEST_F(RunningServer, OfTooManyClientsThatNeverReadTheFirstIsDropped) {
+    ServerLimits limits;
+    limits.clients = 3;
+    limits.standstill = 1h;
+    start(limits);
+    write("large.mp4", LARGE);
+    std::vector<TestClient> deaf;
+    for (int i = 0; i < 10; ++i) {
+        deaf.push_back(client());
+        deaf.back().send("GET /large.mp4 HTTP/1.1\r\n\r\n");
+        deaf.back().receiveSome();
+    }
+    EXPECT_LT(delay(), 500ms);
+}
+
 TEST_F(RunningServer, SlowClientGetsItsWholeFile) {
     ServerLimits limits;
     limits.standstill = 300ms;

@@ -152,7 +152,7 @@ std::string_view HttpResponse::nextPiece() {
 }
 
 bool HttpResponse::appendFromFile() {
-    constexpr std::uint64_t PIECE_BYTES = std::uint64_t{256} * 1024;
+    constexpr std::uint64_t PIECE_BYTES = std::uint64_t{64} * 1024;
     const auto count = static_cast<std::size_t>(std::min(unread_, PIECE_BYTES));
     const std::size_t before = piece_.size();
     piece_.resize(before + count);

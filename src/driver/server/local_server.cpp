@@ -1,14 +1,13 @@
 #include "driver/server/local_server.h"
 
-#include "driver/server/http_response.h"
 #include "platform/interrupt.h"
 
 #include <algorithm>
 #include <iostream>
-#include <optional>
-#include <string_view>
+#include <iterator>
 #include <thread>
 #include <utility>
+#include <vector>
 
 namespace pozhil {
 namespace {
@@ -26,21 +25,19 @@ int LocalServer::port() const {
 }
 
 void LocalServer::serve(std::chrono::milliseconds longest) {
-    std::vector<const platform::Socket*> sockets{&listener_};
+    std::vector<platform::Awaited> sockets{{listener_}};
     for (const Client& client : clients_) {
-        sockets.push_back(&client.connection);
+        sockets.push_back({client.connection, client.response.has_value()});
     }
-    const std::vector<bool> ready = platform::waitForInput(sockets, timeToNextDeadline(longest));
+    const std::vector<bool> ready = platform::waitForAny(sockets, timeToNextDeadline(longest));
 
-    std::vector<Client> staying;
-    for (std::size_t i = 0; i < clients_.size(); ++i) {
-        Client& client = clients_[i];
-        if (ready[i + 1] ? handle(client) : Clock::now() < client.deadline) {
-            staying.push_back(std::move(client));
-        }
+    auto isReady = ready.begin();
+    const bool someoneKnocks = *isReady;
+    for (auto client = clients_.begin(); client != clients_.end();) {
+        const bool stays = *++isReady ? handle(*client) : Clock::now() < client->deadline;
+        client = stays ? std::next(client) : clients_.erase(client);
     }
-    clients_ = std::move(staying);
-    if (ready.front()) {
+    if (someoneKnocks) {
         acceptClients();
     }
 }
@@ -64,38 +61,73 @@ void LocalServer::acceptClients() {
             return;
         }
         if (clients_.size() == limits_.clients) {
-            clients_.erase(clients_.begin());
+            makeRoom();
         }
         clients_.push_back(std::move(client));
     }
 }
 
+/// Whoever is being answered goes last: a page that loads isn't cut off by others that only connect.
+void LocalServer::makeRoom() {
+    const auto idle =
+        std::find_if(clients_.begin(), clients_.end(), [](const Client& client) { return !client.response; });
+    clients_.erase(idle == clients_.end() ? clients_.begin() : idle);
+}
+
 bool LocalServer::handle(Client& client) const {
-    const std::string received = platform::receiveOnce(client.connection, REQUEST_BYTES);
-    if (client.isAnswered) {
-        return !received.empty() && Clock::now() < client.deadline;
+    if (client.response) {
+        return sendOn(client);
     }
-    const auto path = requestedPath(received);
-    if (received.empty() || (path && !answer(client.connection, *path))) {
+    if (!client.isAnswered) {
+        return takeRequest(client);
+    }
+    const std::string ignored = platform::receiveOnce(client.connection, REQUEST_BYTES);
+    return !ignored.empty() && Clock::now() < client.deadline;
+}
+
+bool LocalServer::takeRequest(Client& client) const {
+    const std::string received = platform::receiveOnce(client.connection, REQUEST_BYTES);
+    if (received.empty()) {
         return false;
     }
-    // Closing at once would take back what is on its way if the client has sent more than was read.
-    platform::endSending(client.connection);
-    client.isAnswered = true;
-    client.deadline = Clock::now() + limits_.farewell;
+    const auto path = requestedPath(received);
+    if (!path) {
+        return bidFarewell(client);
+    }
+    client.response = HttpResponse::to(*path);
+    client.deadline = Clock::now() + limits_.standstill;
+    return client.response && sendOn(client);
+}
+
+/// As much as the client takes at the moment, but no more than a few pieces, or nobody else would get theirs.
+bool LocalServer::sendOn(Client& client) const {
+    constexpr int PIECES = 4;
+    for (int i = 0; i < PIECES; ++i) {
+        if (client.unsent.empty()) {
+            client.unsent = client.response->nextPiece();
+        }
+        if (client.unsent.empty()) {
+            return bidFarewell(client);
+        }
+        const auto sent = platform::sendSome(client.connection, client.unsent);
+        if (!sent) {
+            return false;
+        }
+        if (*sent == 0) {
+            break;
+        }
+        client.unsent.remove_prefix(*sent);
+        client.deadline = Clock::now() + limits_.standstill;
+    }
     return true;
 }
 
-bool LocalServer::answer(const platform::Socket& connection, const std::string& path) const {
-    auto response = HttpResponse::to(path);
-    if (!response) {
-        return false;
-    }
-    for (std::string_view piece = response->nextPiece(); !piece.empty(); piece = response->nextPiece()) {
-        if (!platform::sendAll(connection, piece, limits_.standstill)) {
-            return false;
-        }
-    }
+/// Closing at once would take back what is on its way if the client has sent more than was read.
+bool LocalServer::bidFarewell(Client& client) const {
+    platform::endSending(client.connection);
+    client.response.reset();
+    client.isAnswered = true;
+    client.deadline = Clock::now() + limits_.farewell;
     return true;
 }
 

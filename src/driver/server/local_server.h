@@ -1,11 +1,14 @@
 #pragma once
 
+#include "driver/server/http_response.h"
 #include "platform/sockets.h"
 
 #include <chrono>
 #include <cstddef>
+#include <list>
+#include <optional>
 #include <string>
-#include <vector>
+#include <string_view>
 
 namespace pozhil {
 
@@ -16,16 +19,17 @@ constexpr int LOCAL_SERVER_PORT = 6931;
 struct ServerLimits {
     /// With a client that has connected and sends nothing. Browsers connect ahead of what they will ask for.
     std::chrono::milliseconds silence{10000};
-    /// With a client that takes nothing of its answer, while all others wait.
+    /// With a client that takes nothing of its answer.
     std::chrono::milliseconds standstill{2000};
     /// With a client that has got its answer and doesn't close.
     std::chrono::milliseconds farewell{1000};
-    /// How many clients may be silent or not have closed at a time; of more, the first is dropped.
+    /// How many there may be at a time; of more, the first is dropped that isn't being answered.
     std::size_t clients = 256;
 };
 
-/// Serves page, version and files of the application to the browser: one request a connection, one after the other.
-/// What a client has sent with its first packet is its request.
+/// Serves page, version and files of the application to the browser: one request a connection. What a client has sent
+/// with its first packet is its request. Answers are given away piece by piece, to whoever takes some at the moment, so
+/// that a slow client delays nobody and a large file never lies in memory as a whole.
 class LocalServer {
 public:
     /// Opens the port on all interfaces.
@@ -35,7 +39,7 @@ public:
 
     int port() const;
 
-    /// Waits until clients want something, answers each of those, and closes whatever has reached a limit.
+    /// Waits until clients want or take something, goes on with each of those, and closes whatever has reached a limit.
     /// \param longest returns after this time even if nothing happens
     void serve(std::chrono::milliseconds longest);
 
@@ -45,18 +49,25 @@ private:
     struct Client {
         platform::Socket connection;
         Clock::time_point deadline;
+        /// The answer while it is being sent, and what its present piece still holds.
+        std::optional<HttpResponse> response{};
+        std::string_view unsent{};
         bool isAnswered = false;
     };
 
     std::chrono::milliseconds timeToNextDeadline(std::chrono::milliseconds longest) const;
     void acceptClients();
-    /// Whether the client stays.
+    void makeRoom();
+    // Whether the client stays.
     bool handle(Client& client) const;
-    bool answer(const platform::Socket& connection, const std::string& path) const;
+    bool takeRequest(Client& client) const;
+    bool sendOn(Client& client) const;
+    bool bidFarewell(Client& client) const;
 
     ServerLimits limits_;
     platform::Socket listener_;
-    std::vector<Client> clients_;
+    /// Each stays where it is, since what is unsent points into its response.
+    std::list<Client> clients_;
 };
 
 /// What the user is told of a port that couldn't be opened.

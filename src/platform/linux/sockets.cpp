@@ -38,11 +38,6 @@ int pollAgain(pollfd* entries, std::size_t count, std::chrono::milliseconds time
     return ready;
 }
 
-bool waitForRoom(const Socket& connection, std::chrono::milliseconds patience) {
-    pollfd entry{connection.descriptor(), POLLOUT, 0};
-    return pollAgain(&entry, 1, patience) > 0;
-}
-
 } // namespace
 
 Socket::~Socket() {
@@ -96,10 +91,10 @@ Socket acceptConnection(const Socket& listener) {
     return connection;
 }
 
-std::vector<bool> waitForInput(const std::vector<const Socket*>& sockets, std::chrono::milliseconds timeout) {
+std::vector<bool> waitForAny(const std::vector<Awaited>& sockets, std::chrono::milliseconds timeout) {
     std::vector<pollfd> entries(sockets.size());
-    std::transform(sockets.begin(), sockets.end(), entries.begin(), [](const Socket* socket) {
-        return pollfd{socket->descriptor(), POLLIN, 0};
+    std::transform(sockets.begin(), sockets.end(), entries.begin(), [](const Awaited& awaited) {
+        return pollfd{awaited.socket.descriptor(), static_cast<short>(awaited.isToSend ? POLLOUT : POLLIN), 0};
     });
     pollAgain(entries.data(), entries.size(), timeout);
     std::vector<bool> ready(entries.size());
@@ -115,21 +110,16 @@ std::string receiveOnce(const Socket& connection, std::size_t limit) {
     return bytes;
 }
 
-bool sendAll(const Socket& connection, std::string_view bytes, std::chrono::milliseconds patience) {
-    while (!bytes.empty()) {
+std::optional<std::size_t> sendSome(const Socket& connection, std::string_view bytes) {
+    ssize_t count = 0;
+    do {
         // Without MSG_NOSIGNAL, a client that has gone away would end the whole process.
-        const ssize_t count = send(connection.descriptor(), bytes.data(), bytes.size(), MSG_NOSIGNAL);
-        if (count > 0) {
-            bytes.remove_prefix(static_cast<std::size_t>(count));
-        } else if (errno == EAGAIN) {
-            if (!waitForRoom(connection, patience)) {
-                return false;
-            }
-        } else if (errno != EINTR) {
-            return false;
-        }
+        count = send(connection.descriptor(), bytes.data(), bytes.size(), MSG_NOSIGNAL);
+    } while (count < 0 && errno == EINTR);
+    if (count >= 0) {
+        return static_cast<std::size_t>(count);
     }
-    return true;
+    return errno == EAGAIN ? std::optional<std::size_t>(0) : std::nullopt;
 }
 
 void endSending(const Socket& connection) {
