@@ -14,6 +14,7 @@
 #include "driver/web/web_mode.h"
 #include "front_end/front_end.h"
 #include "platform/console.h"
+#include "platform/file_limit.h"
 #include "platform/paths.h"
 #include "platform/stack.h"
 
@@ -117,5 +118,6 @@ int run(const std::vector<std::string>& arguments) {
 
 int main(int argc, char** argv) {
     platform::setUpConsole();
+    platform::failWritesBeyondFileLimit();
     return platform::runOnOwnStack([&] { return run(std::vector<std::string>(argv, argv + argc)); });
 }

@@ -2,6 +2,7 @@
 
 import pytest
 
+from support import texts as t
 from support.process import run
 from support.toolchain import PROGRAM_OUTPUT
 from support.workplace import HELLO
@@ -37,3 +38,14 @@ def test_without_memory_for_a_stack_of_its_own_the_compiler_does_with_what_there
     result = run_limited(place, "-v 60000", place.write("நிரல்.பொழில்", HELLO))
     assert result.status == 0
     assert place.own_emitted.endswith("return 0;\n}\n")
+
+
+def test_a_limit_of_file_sizes_is_told(place):
+    limited = run_limited(place, "-f 16", place.write("நிரல்.பொழில்", HELLO))
+    assert (limited.status, limited.err) == (1, t.beyond_the_file_limit(place.emitted_path))
+
+
+def test_programs_meet_the_limit_of_file_sizes_as_ever(place, tools):
+    tools.links("/bin/dd if=/dev/zero of=பெரிது bs=1024 count=4096 2> /dev/null; echo $? > நிலை")
+    run_limited(place, "-f 2048", place.write("நிரல்.பொழில்", HELLO))
+    assert (place.folder / "நிலை").read_text() == "153\n"  # ended by SIGXFSZ

@@ -1,5 +1,6 @@
 """Watching a console program: it is built anew whenever its source changes."""
 
+import shutil
 import time
 from contextlib import contextmanager
 
@@ -124,6 +125,15 @@ def test_changes_wait_until_the_running_program_has_ended(place, tools, scratch)
         assert count(session, t.CHANGE_NOTE) == 1
         done.touch()
         session.wait_until(lambda: count(session, t.CHANGE_NOTE) == 2)
+
+
+def test_working_directory_that_was_removed_is_made_again(place, tools):
+    with watching(place) as session:
+        shutil.rmtree(place.work_directory)
+        place.change(SOURCE, CHANGED)
+        session.wait_for_output(PROGRAM_OUTPUT)
+        assert session.stderr == b""
+    assert "மாற்றம்" in place.own_emitted
 
 
 def test_diagnostic_ends_the_watch(place, tools):

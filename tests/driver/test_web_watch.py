@@ -1,6 +1,7 @@
 """Watching an application: it is built anew whenever its source changes, and the page learns of it."""
 
 import re
+import shutil
 import signal
 import socket
 import time
@@ -105,6 +106,14 @@ def test_removed_output_directory_is_made_again(session, web_place):
     web_place.change(SOURCE, CHANGED)
     session.wait_for_output(UPDATED)
     assert get("/index.js") == (200, "js\n")
+
+
+def test_removed_working_directory_is_made_again(session, web_place):
+    shutil.rmtree(web_place.work_directory)
+    web_place.change(SOURCE, CHANGED)
+    session.wait_until(lambda: get("/version")[1] == "3")
+    assert "மாற்றம்" in (web_place.work_directory / t.EMITTED_WEB_NAME).read_text(encoding="utf-8")
+    assert session.stderr == b""
 
 
 def test_diagnostic_ends_watch_and_server(session, web_place, tools):

@@ -61,6 +61,8 @@ EMITTED_WEB_NAME = "வலை_வெளியீடு.cpp"
 WEB_RUNTIME_NAME = "வலை_இயக்கம்"
 OUTPUT_ERROR_BEFORE = "Error: "
 OUTPUT_ERROR_BEHIND = " என்ற கோப்பை உருவாக்க முடியவில்லை!"
+CANNOT_WRITE_BEHIND = "' கோப்பில் எழுத முடியவில்லை! "
+FILE_LIMIT = "கோப்புகளின் அளவுக்குக் கணினி வைத்த வரம்பை மீறுகிறது; அதை உயர்த்தவும் (ulimit -f).\n"
 BANNER_NAME = "பொ ழி ல்"
 BANNER_VERSION = "0.2-முதல்_பதிப்பு"
 ANIMATION_BEFORE = "✨ பொழில் -> "
@@ -115,3 +117,8 @@ GENERATOR_CATEGORY = "பொருள் பிழை"
 RUNTIME_CATEGORY = "பொருள் பிழை (இயக்கநேரம்)"
 SOURCE_MISSING = "(கோப்பு கிடைக்கவில்லை)"
 CODE_PREFIX = "பொழி-"
+
+
+def beyond_the_file_limit(path):
+    """What is told of an output text that is larger than the system allows."""
+    return CANNOT_OPEN_BEFORE + str(path) + CANNOT_WRITE_BEHIND + FILE_LIMIT

@@ -51,7 +51,11 @@ PrecompiledHeaders PrecompiledRuntime::headersFor(const OutputText& output) {
         isReady_ = compilation_.get();
     }
     std::error_code ignored;
-    if (!isReady_ || !isRuntimeOf(output) || !std::filesystem::exists(precompiled_, ignored)) {
+    if (isReady_ && !std::filesystem::exists(precompiled_, ignored)) {
+        isReady_ = false; // tidied away, to be made anew
+        runtime_.clear();
+    }
+    if (!isReady_ || !isRuntimeOf(output)) {
         return {};
     }
     return {precompiled_, output.runtimeLength};
