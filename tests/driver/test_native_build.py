@@ -2,12 +2,14 @@
 
 import os
 import signal
+from concurrent.futures import ThreadPoolExecutor
 
 import pytest
 
 from support import texts as t
 from support.console import behind_animation, failed_build_line
-from support.toolchain import PROGRAM_OUTPUT
+from support.toolchain import EMPTY_OBJECT, PROGRAM_OUTPUT
+from support.workplace import Workplace
 
 SOURCE = "அ.பொழில்"
 PREVIOUS = b"the program before"
@@ -56,12 +58,36 @@ def test_object_is_made_once_and_the_user_is_told(installed_place, installation,
 
 
 def test_object_is_never_renewed(installed_place, installation, tools):
-    installation.object.unlink(missing_ok=True)
-    installation.object.touch()
+    installation.without_object().object.write_bytes(EMPTY_OBJECT)
     installation.reporter.unlink()
     installation.reporter.write_text("// newer than the object\n", encoding="utf-8")
     assert t.OBJECT_NOTE not in installed_place.run(SOURCE).out
     assert tools.calls() == [installation.link_call(installed_place)]
+
+
+@pytest.mark.parametrize("size", [0, 63, 64, -1])
+def test_object_that_was_cut_off_is_made_anew(installed_place, installation, tools, size):
+    whole = installation.object.read_bytes()
+    installation.without_object().object.write_bytes(whole[:size])
+    assert t.OBJECT_NOTE in installed_place.run(SOURCE).out
+    assert tools.calls() == [installation.object_call(), installation.link_call(installed_place)]
+    assert installation.object.read_bytes() == EMPTY_OBJECT
+    assert [file.name for file in installation.cache.iterdir() if t.CACHED_OBJECT in file.name] == [t.CACHED_OBJECT]
+
+
+def test_first_runs_at_once_link_whole_objects(installation, scratch, tools):
+    installation.without_object()
+    tools.stands_in_for("g++", """object=${0%/*}/object
+if [ "$1" = -c ]; then
+    head -c 64 "$object" > "$out"; sleep 0.$(($$ % 5 + 1)); tail -c 64 "$object" >> "$out"
+else
+    cmp -s "$2" "$object" && /bin/cp "${0%/*}/program" "$out"
+fi""")
+    places = [Workplace(scratch / f"work{number}", scratch, installation.compiler, tools) for number in range(4)]
+    with ThreadPoolExecutor() as pool:
+        results = list(pool.map(lambda place: place.run(place.write(SOURCE)), places))
+    assert [result.err for result in results] == [""] * 4
+    assert all(result.out.endswith(PROGRAM_OUTPUT) for result in results)
 
 
 def test_failure_to_make_the_object_shows_only_in_the_link(installed_place, installation, tools):

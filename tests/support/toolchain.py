@@ -1,5 +1,7 @@
 """Stand-ins for g++ and em++ that record how they were called."""
 
+import re
+import struct
 from pathlib import Path
 
 _RECORD = """#!/bin/sh
@@ -10,6 +12,9 @@ for argument in "$@"; do
     previous=$argument
 done
 """
+
+# The least that is a whole object: a header, and a table of one section at the end.
+EMPTY_OBJECT = b"\x7fELF" + bytes(36) + struct.pack("<Q", 64) + bytes(10) + struct.pack("<HHH", 64, 1, 0) + bytes(64)
 
 PROGRAM_OUTPUT = "நிரல் ஓடியது\n"
 
@@ -30,7 +35,9 @@ class Toolchain:
     def links(self, program=f"printf '{PROGRAM_OUTPUT}'"):
         """From now on g++ succeeds, and the linked program is the shell text `program`."""
         self._write("program", "#!/bin/sh\n" + program + "\n")
-        self.stands_in_for("g++", '/bin/cp "${0%/*}/program" "$out"')
+        (self.folder / "object").write_bytes(EMPTY_OBJECT)
+        self.stands_in_for("g++", 'if [ "$1" = -c ]; then made=object; else made=program; fi\n'
+                                  '/bin/cp "${0%/*}/$made" "$out"')
 
     def fails(self, behaviour=""):
         """From now on g++ runs the shell text `behaviour` and fails."""
@@ -41,7 +48,8 @@ class Toolchain:
         self.stands_in_for("em++", 'for kind in js wasm data; do echo $kind > "${out%.js}.$kind"; done')
 
     def calls(self, tool="g++"):
-        """The arguments of each call so far, in order."""
+        """The arguments of each call so far, in order. An object is made beside its place; the number that its name has
+        there is left out."""
         record = self.folder / f"{tool}.calls"
         calls, current = [], []
         for word in (record.read_bytes() if record.exists() else b"").split(b"\0")[:-1]:
@@ -49,7 +57,7 @@ class Toolchain:
                 calls.append(current)
                 current = []
             else:
-                current.append(word[1:].decode("utf-8", "surrogateescape"))
+                current.append(re.sub(r"\.o\.\d+$", ".o", word[1:].decode("utf-8", "surrogateescape")))
         return calls
 
     def started(self, tool="g++"):

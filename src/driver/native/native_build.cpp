@@ -6,9 +6,11 @@
 #include "driver/native/toolchain_output.h"
 #include "driver/refusal_report.h"
 #include "driver/settings.h"
+#include "platform/object_file.h"
 #include "platform/paths.h"
 
 #include <iostream>
+#include <random>
 #include <system_error>
 #include <utility>
 
@@ -22,10 +24,10 @@ constexpr const char* OBJECT_NAME = "error_handler_native_windows.o";
 /// The cached reporter object: in the installation, or in the user's cache if the installation can't be written.
 fs::path objectPath(const fs::path& appDirectory) {
     fs::path installed = appDirectory / "திரட்டு" / OBJECT_NAME;
-    std::error_code ignored;
-    if (fs::exists(installed, ignored)) {
+    if (platform::isWholeObject(installed)) {
         return installed;
     }
+    std::error_code ignored;
     fs::create_directories(installed.parent_path(), ignored);
     const fs::path cache = platform::userCacheDirectory();
     if (platform::isWritableDirectory(installed.parent_path()) || cache.empty()) {
@@ -61,8 +63,7 @@ NativeBuild::NativeBuild(std::string sourcePath, fs::path appDirectory, fs::path
 
 void NativeBuild::start() {
     object_ = objectPath(appDirectory_);
-    std::error_code ignored;
-    objectIsMissing_ = !fs::exists(object_, ignored);
+    objectIsMissing_ = !platform::isWholeObject(object_);
     toolchain_ = std::async(std::launch::async, [this] { return runToolchain(); });
 }
 
@@ -93,15 +94,24 @@ void NativeBuild::finish(const ParsedSource& source, const OutputText& output) {
 NativeBuild::ToolchainResult NativeBuild::runToolchain() const {
     ToolchainResult result;
     if (objectIsMissing_) {
-        result.object = platform::captureCommand(objectCommand());
+        result.object = makeObject();
     }
     result.link = platform::captureCommand(linkCommand(freshProgram_));
     return result;
 }
 
-platform::Command NativeBuild::objectCommand() const {
-    return compilerCommand({"g++", "-c", (appDirectory_ / "src" / "error_handler.cpp").u8string(), "-o",
-                            object_.u8string(), "-std=c++17", "-I" + (appDirectory_ / "உள்ளடக்கம்").u8string()});
+/// Beside its place at first: whoever links meanwhile finds it whole or not at all, and a run that is ended leaves no half.
+platform::CommandResult NativeBuild::makeObject() const {
+    const fs::path fresh = object_.u8string() + "." + std::to_string(std::random_device{}());
+    const platform::CommandResult result = platform::captureCommand(
+        compilerCommand({"g++", "-c", (appDirectory_ / "src" / "error_handler.cpp").u8string(), "-o", fresh.u8string(),
+                         "-std=c++17", "-I" + (appDirectory_ / "உள்ளடக்கம்").u8string()}));
+    std::error_code ignored;
+    if (result.status == 0) {
+        fs::rename(fresh, object_, ignored);
+    }
+    fs::remove(fresh, ignored);
+    return result;
 }
 
 platform::Command NativeBuild::linkCommand(const fs::path& program) const {

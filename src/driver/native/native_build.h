@@ -38,7 +38,7 @@ private:
     };
 
     ToolchainResult runToolchain() const;
-    platform::Command objectCommand() const;
+    platform::CommandResult makeObject() const;
     platform::Command linkCommand(const std::filesystem::path& program) const;
     platform::Command traceableBuild() const;
     void runProgram(const ParsedSource& source, const OutputText& output) const;
