@@ -15,6 +15,7 @@
 #include "front_end/front_end.h"
 #include "platform/console.h"
 #include "platform/file_limit.h"
+#include "platform/interrupt.h"
 #include "platform/paths.h"
 #include "platform/stack.h"
 
@@ -119,5 +120,6 @@ int run(const std::vector<std::string>& arguments) {
 int main(int argc, char** argv) {
     platform::setUpConsole();
     platform::failWritesBeyondFileLimit();
+    platform::passOnEndSignals();
     return platform::runOnOwnStack([&] { return run(std::vector<std::string>(argv, argv + argc)); });
 }

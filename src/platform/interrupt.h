@@ -2,9 +2,25 @@
 
 namespace pozhil::platform {
 
+/// From now on a signal that asks this process alone to end (TERM, HUP, INT, QUIT; none that is ignored) reaches the
+/// programs that it runs as well. Once these have ended, it ends by the signal, as it otherwise does at once.
+void passOnEndSignals();
+
 /// From now on an interrupt (Ctrl+C) writes \p message to standard output and ends the process with status 0, whatever
-/// any thread is doing. What std::cout still holds is lost: flush it before waiting.
+/// any thread is doing, once the programs that it runs have ended too. What std::cout still holds is lost: flush it before
+/// waiting.
 /// \param message must live as long as the process
 void endOnInterrupt(const char* message);
+
+/// While it lives, a signal that ends this process has \p text written to standard output first, such as what switches
+/// colours off. One at a time.
+class EndingText {
+public:
+    /// \param text outlives the object
+    explicit EndingText(const char* text);
+    ~EndingText();
+    EndingText(const EndingText&) = delete;
+    EndingText& operator=(const EndingText&) = delete;
+};
 
 } // namespace pozhil::platform

@@ -26,6 +26,8 @@ struct CommandResult {
     std::string errors;
 };
 
+// Programs that are waited for get the signals that end this process (platform/interrupt.h).
+
 /// Runs a program in the foreground with this process's console and waits for it.
 /// \return its exit status, 128 plus the signal if one ended it, COULD_NOT_START if there was none to start
 int run_command(const Command& command);
@@ -34,7 +36,7 @@ int run_command(const Command& command);
 /// \return its exit status as above, and everything it wrote
 CommandResult captureCommand(const Command& command);
 
-/// Runs a program in the foreground, whatever it writes thrown away, and waits for it.
+/// Runs a program, whatever it writes thrown away, and waits for it.
 /// \return its exit status as above
 int runSilently(const Command& command);
 

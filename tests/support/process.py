@@ -7,6 +7,7 @@ import subprocess
 import tempfile
 import time
 from dataclasses import dataclass
+from pathlib import Path
 
 # A program that never stops printing is ended by the system instead of filling the disk.
 OUTPUT_LIMIT = 256 * 1024 * 1024
@@ -80,12 +81,26 @@ def spawn(command, *, cwd, env, stdin, stdout, stderr, user=None):
 
 
 def end_group(process):
-    """Kills whatever is left of the group that `process` leads, and collects its status."""
-    try:
-        os.killpg(process.pid, signal.SIGKILL)
-    except ProcessLookupError:
-        pass
+    """Kills whatever is left of the group that `process` leads and of those below it, and collects its status."""
+    for group in [process.pid, *_groups_below(process.pid)]:
+        try:
+            os.killpg(group, signal.SIGKILL)
+        except ProcessLookupError:
+            pass
     process.wait()
+
+
+def _groups_below(parent):
+    """The groups that are led by what `parent` has started, such as the toolchain of a compiler."""
+    groups = []
+    for children in Path(f"/proc/{parent}/task").glob("*/children"):
+        try:
+            below = [int(child) for child in children.read_text().split()]
+        except (FileNotFoundError, ProcessLookupError):
+            continue
+        for child in below:
+            groups += [child, *_groups_below(child)]
+    return groups
 
 
 class Session:

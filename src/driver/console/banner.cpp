@@ -2,6 +2,7 @@
 
 #include "driver/console/console_style.h"
 #include "error_handler.h"
+#include "platform/interrupt.h"
 #include "platform/paths.h"
 
 #include <iostream>
@@ -31,6 +32,7 @@ std::string centred(const std::string& text, int columns, const std::string& bef
 } // namespace
 
 void printBanner() {
+    const platform::EndingText uncoloured(RESET);
     constexpr int INNER_COLUMNS = 56;
     const std::string emptyRow = "│" + repeat(" ", INNER_COLUMNS) + "│";
     std::cout << BLUE << "┌" << repeat("─", INNER_COLUMNS) << "┐" << std::endl;
@@ -42,6 +44,7 @@ void printBanner() {
 }
 
 void animateCompilation(const std::string& file, std::chrono::milliseconds delay) {
+    const platform::EndingText uncoloured(RESET);
     std::cout << CYAN;
     for (const char byte : "✨ பொழில் -> " + file + " தொகுக்கப்படுகிறது...") {
         std::cout << byte << std::flush;

@@ -1,6 +1,9 @@
 #include "platform/interrupt.h"
 
-#include <atomic>
+#include "platform/linux/running_program.h"
+
+#include <array>
+#include <cerrno>
 #include <csignal>
 #include <cstring>
 #include <unistd.h>
@@ -8,22 +11,118 @@
 namespace pozhil::platform {
 namespace {
 
-/// Lock-free, and so the one way to hand a value to a signal handler that may run on any thread.
-std::atomic<const char*> farewell{""};
+/// More programs at a time than are ever run.
+constexpr std::size_t MOST_PROGRAMS = 8;
+
+// Lock-free, and so the one way to share values with a signal handler, which may run on any thread.
+std::atomic<const char*> farewell{nullptr};
+std::atomic<const char*> endingText{nullptr};
+std::atomic<int> endSignal{0};
+std::atomic<int> programs{0};
+std::array<std::atomic<pid_t>, MOST_PROGRAMS> targets{};
+
+void writeOut(const char* text) {
+    if (text != nullptr) {
+        const ssize_t ignored = write(STDOUT_FILENO, text, std::strlen(text));
+        static_cast<void>(ignored);
+    }
+}
 
 /// Only what a signal handler may call: streams and exit() could wait for ever for the thread that was interrupted.
-void signal_handler(int) {
-    const char* const message = farewell.load();
-    const ssize_t ignored = write(STDOUT_FILENO, message, std::strlen(message));
-    static_cast<void>(ignored);
-    _exit(0);
+[[noreturn]] void endBy(int signal) {
+    constexpr int SIGNALLED = 128;
+    writeOut(endingText.load());
+    if (signal == SIGINT && farewell.load() != nullptr) {
+        writeOut(farewell.load());
+        _exit(0);
+    }
+    std::signal(signal, SIG_DFL);
+    sigset_t own{};
+    sigemptyset(&own);
+    sigaddset(&own, signal);
+    pthread_sigmask(SIG_UNBLOCK, &own, nullptr);
+    raise(signal);
+    _exit(SIGNALLED + signal);
+}
+
+void signal_handler(int signal) {
+    const int error = errno;
+    endSignal.store(signal);
+    for (const std::atomic<pid_t>& target : targets) {
+        if (const pid_t process = target.load()) {
+            kill(process, signal);
+        }
+    }
+    if (programs.load() == 0) {
+        endBy(signal);
+    }
+    errno = error;
 }
 
 } // namespace
 
+void passOnEndSignals() {
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT, SIGQUIT}) {
+        if (std::signal(signal, signal_handler) == SIG_IGN) {
+            std::signal(signal, SIG_IGN);
+        }
+    }
+}
+
 void endOnInterrupt(const char* message) {
     farewell.store(message);
     std::signal(SIGINT, signal_handler);
+}
+
+EndingText::EndingText(const char* text) {
+    endingText.store(text);
+}
+
+EndingText::~EndingText() {
+    endingText.store(nullptr);
+}
+
+/// Either the handler sees that a program is about to run, or the signal is seen here.
+RunningProgram::RunningProgram() {
+    ++programs;
+    if (endSignal.load() != 0) {
+        leave();
+    }
+}
+
+RunningProgram::~RunningProgram() {
+    leave();
+}
+
+/// After a signal, the last program to end takes the process with it, and nothing else may go on meanwhile.
+void RunningProgram::leave() {
+    const bool isLast = --programs == 0;
+    const int signal = endSignal.load();
+    if (signal != 0 && isLast) {
+        endBy(signal);
+    }
+    while (signal != 0) {
+        pause();
+    }
+}
+
+void RunningProgram::hasStarted(pid_t target) {
+    for (std::atomic<pid_t>& place : targets) {
+        pid_t free = 0;
+        if (place.compare_exchange_strong(free, target)) {
+            target_ = &place;
+            break;
+        }
+    }
+    if (const int signal = endSignal.load()) {
+        kill(target, signal);
+    }
+}
+
+void RunningProgram::hasEnded() {
+    if (target_ != nullptr) {
+        target_->store(0);
+    }
 }
 
 } // namespace pozhil::platform

@@ -1,6 +1,7 @@
 #include "platform/process.h"
 
 #include "platform/environment.h"
+#include "platform/linux/running_program.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -130,15 +131,35 @@ std::optional<pid_t> spawn(const Command& command, const FileActions& actions, s
     return error == 0 ? std::optional<pid_t>(child) : std::nullopt;
 }
 
-int spawnAndWait(const Command& command, const FileActions& actions) {
-    const auto child = spawn(command, actions);
-    return child ? waitFor(*child) : COULD_NOT_START;
+/// Leaves the child's number its own until waitFor() is called.
+void awaitEnd(pid_t child) {
+    siginfo_t ignored{};
+    while (waitid(P_PID, static_cast<id_t>(child), &ignored, WEXITED | WNOWAIT) < 0 && errno == EINTR) {
+    }
+}
+
+enum class Ground {
+    Fore, ///< with the console, whose keys reach it
+    Back  ///< a group of its own, so that a signal reaches whatever the program runs in turn
+};
+
+int spawnAndWait(const Command& command, const FileActions& actions, Ground ground) {
+    RunningProgram running;
+    const bool hasGroup = ground == Ground::Back;
+    const auto child = spawn(command, actions, hasGroup ? POSIX_SPAWN_SETPGROUP : short{0});
+    if (!child) {
+        return COULD_NOT_START;
+    }
+    running.hasStarted(hasGroup ? -*child : *child);
+    awaitEnd(*child);
+    running.hasEnded();
+    return waitFor(*child);
 }
 
 } // namespace
 
 int run_command(const Command& command) {
-    return spawnAndWait(command, FileActions());
+    return spawnAndWait(command, FileActions(), Ground::Fore);
 }
 
 CommandResult captureCommand(const Command& command) {
@@ -148,7 +169,7 @@ CommandResult captureCommand(const Command& command) {
     actions.redirect(output.descriptor(), STDOUT_FILENO);
     actions.redirect(errors.descriptor(), STDERR_FILENO);
     CommandResult result;
-    result.status = spawnAndWait(command, actions);
+    result.status = spawnAndWait(command, actions, Ground::Back);
     result.output = output.content();
     result.errors = errors.content();
     return result;
@@ -158,7 +179,7 @@ int runSilently(const Command& command) {
     FileActions actions;
     actions.discard(STDOUT_FILENO);
     actions.discard(STDERR_FILENO);
-    return spawnAndWait(command, actions);
+    return spawnAndWait(command, actions, Ground::Back);
 }
 
 void allowDeepStacks() {
