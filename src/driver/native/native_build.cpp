@@ -103,7 +103,7 @@ NativeBuild::ToolchainResult NativeBuild::runToolchain() const {
 /// Beside its place at first: whoever links meanwhile finds it whole or not at all, and a run that is ended leaves no half.
 platform::CommandResult NativeBuild::makeObject() const {
     const fs::path fresh = object_.u8string() + "." + std::to_string(std::random_device{}());
-    const platform::CommandResult result = platform::captureCommand(
+    platform::CommandResult result = platform::captureCommand(
         compilerCommand({"g++", "-c", (appDirectory_ / "src" / "error_handler.cpp").u8string(), "-o", fresh.u8string(),
                          "-std=c++17", "-I" + (appDirectory_ / "உள்ளடக்கம்").u8string()}));
     std::error_code ignored;

@@ -98,10 +98,13 @@ RunningProgram::~RunningProgram() {
 void RunningProgram::leave() {
     const bool isLast = --programs == 0;
     const int signal = endSignal.load();
-    if (signal != 0 && isLast) {
+    if (signal == 0) {
+        return;
+    }
+    if (isLast) {
         endBy(signal);
     }
-    while (signal != 0) {
+    while (true) {
         pause();
     }
 }
