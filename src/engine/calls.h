@@ -1,0 +1,173 @@
+#pragma once
+
+#include "engine/faults.h"
+#include "engine/value.h"
+
+#include <initializer_list>
+
+/// Functions as values, structures and objects, as the emitted text makes and uses them.
+
+namespace pozhil::engine {
+
+/// A variable that functions share: it lives as long as one of them.
+struct Cell : Counted {
+    Value value = Value::unset();
+};
+
+/// Holds on to a shared variable.
+class Shared {
+public:
+    Shared();
+    explicit Shared(const Value& first);
+    Shared(Cell* cell) : cell_(cell) { ++cell_->references; }
+    Shared(const Shared& other) : Shared(other.cell_) {}
+    Shared& operator=(const Shared&) = delete;
+    ~Shared();
+
+    Value& value() const { return cell_->value; }
+    Cell* cell() const { return cell_; }
+
+private:
+    Cell* cell_;
+};
+
+/// Brings a மாற்று parameter that functions share back to the place that the call gave for it, when the call ends.
+class CopyBack {
+public:
+    CopyBack(Value& place, const Value& shared) : place_(place), shared_(shared) {}
+    ~CopyBack() { place_ = shared_; }
+    CopyBack(const CopyBack&) = delete;
+    CopyBack& operator=(const CopyBack&) = delete;
+
+private:
+    Value& place_;
+    const Value& shared_;
+};
+
+/// The code of a function that a value holds. What it leaves in the arguments of its மாற்று parameters is what the caller
+/// takes back.
+using Code = Value (*)(const Closure& own, Value* arguments, Place calledAt);
+
+/// What is known of a function before the program runs. The emitted text has one for each that is used as a value or is a
+/// method.
+struct FunctionInfo {
+    const char* name;
+    Code code;
+    /// With தான், if it is a method.
+    int parameters;
+    /// Bit i is set if parameter i is மாற்று.
+    unsigned mutableParameters;
+};
+
+/// A value of the function, with the shared variables that it uses.
+Value function(const FunctionInfo& info, std::initializer_list<Cell*> captured = {});
+
+/// The shared variable that a function value took as number \p index.
+Cell* captured(const Closure& own, int index);
+
+/// callee(arguments). The arguments belong to the caller; those for மாற்று parameters have their new values afterwards.
+/// \param count how many arguments there are
+/// \return what the function gives
+Value callValue(const Value& callee, Value* arguments, int count, Place place);
+Value call(const Value& callee, std::initializer_list<Value> arguments, Place place);
+
+/// Bit i is set if the function takes argument i as a place.
+unsigned mutableParameters(const Value& callee);
+
+/// Names of members have numbers, which the emitted text gives.
+using Member = int;
+
+struct Structure;
+
+/// A field of a structure as the emitted text declares it.
+struct FieldInfo {
+    Member name;
+    bool isPrivate;
+};
+
+struct MethodInfo {
+    Member name;
+    const FunctionInfo* function;
+    bool isPrivate;
+};
+
+/// A structure as the emitted text declares it. The tables of members are made by run().
+struct Structure {
+    const char* name;
+    const Structure* parent;
+    bool isAbstract;
+    const FieldInfo* fields;
+    int fieldCount;
+    const MethodInfo* methods;
+    int methodCount;
+    /// Gives the fields of one structure, without those of its parents, their first values.
+    void (*initialize)(Value& self);
+    /// Made by run().
+    struct Table;
+    Table* table;
+};
+
+/// A new object, the fields of all its parents and its own initialised, before துவக்கம்.
+Value create(Structure& structure, Place place);
+
+/// object(arguments of துவக்கம்): creates the object and calls the துவக்கம் that it has, of its own or of a parent.
+Value construct(Structure& structure, std::initializer_list<Value> arguments, Place place);
+
+/// object.name, read: a field, a method bound to its object, or a part of a value that is no object.
+/// \param inside the structure in whose method this stands; null outside
+Value member(const Value& object, Member name, Place place, const Structure* inside = nullptr);
+
+/// The place of object.name for writing.
+Value& field(const Value& object, Member name, Place place, const Structure* inside = nullptr);
+
+/// object.name(arguments): a method, a field that holds a function, or what texts, lists, maps and times can do.
+/// \param object a place, since methods such as சேர் write to what it holds
+Value callMethod(Value& object, Member name, Value* arguments, int count, Place place,
+                 const Structure* inside = nullptr);
+Value callMethod(Value& object, Member name, std::initializer_list<Value> arguments, Place place,
+                 const Structure* inside = nullptr);
+/// The same of a value that has no place.
+Value callMethodOf(const Value& object, Member name, std::initializer_list<Value> arguments, Place place,
+                   const Structure* inside = nullptr);
+/// Bit i is set if the method takes argument i (without its object) as a place.
+unsigned mutableParameters(const Value& object, Member name);
+
+/// A source of the program, for its faults.
+struct Source {
+    const char* path;
+    const char* text;
+    unsigned long length;
+};
+
+/// A text that stands in the program: UTF-8 in NFC, with a zero byte at its end.
+struct TextLiteral {
+    const char* bytes;
+    unsigned long length;
+
+    template <unsigned long size>
+    constexpr TextLiteral(const char (&literal)[size]) : bytes(literal), length(size - 1) {}
+};
+
+/// What the emitted text tells of its program.
+struct ProgramInfo {
+    /// Carries out the statements of all files.
+    void (*start)();
+    const Source* sources;
+    int sourceCount;
+    /// By number.
+    const char* const* members;
+    int memberCount;
+    /// Parents before their children.
+    Structure* const* structures;
+    int structureCount;
+    /// Where run() puts the values of the literals, before the program starts.
+    Value* texts = nullptr;
+    const TextLiteral* literals = nullptr;
+    int textCount = 0;
+};
+
+/// Runs the program on a stack of its own.
+/// \return its exit status: 0, or 1 after a fault that nobody caught, whose box is shown
+int run(const ProgramInfo& program);
+
+} // namespace pozhil::engine

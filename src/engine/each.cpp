@@ -1,0 +1,48 @@
+#include "engine/collections.h"
+#include "engine/list.h"
+#include "engine/map.h"
+#include "engine/raise.h"
+#include "engine/running_faults.h"
+#include "engine/text.h"
+#include "report/width.h"
+
+#include <string_view>
+
+namespace pozhil::engine {
+
+Each::Each(const Value& iterable, Place place) : held_(iterable) {
+    if (!iterable.is(Tag::List) && !iterable.is(Tag::Map) && !iterable.is(Tag::Text)) {
+        raise(NOT_ITERABLE, place, {kindWord(iterable)});
+    }
+}
+
+Each::~Each() = default;
+
+bool Each::next(Value& variable) {
+    if (held_.is(Tag::List)) {
+        const List& list = listBlock(held_);
+        if (position_ == list.size) {
+            return false;
+        }
+        variable = list.elements[position_++];
+        return true;
+    }
+    if (held_.is(Tag::Map)) {
+        Map& map = mapBlock(held_);
+        if (position_ == mapSize(map)) {
+            return false;
+        }
+        variable = keyAt(map, position_++);
+        return true;
+    }
+    // In bytes: the first question for a letter by its number would measure the whole text.
+    const std::string_view rest = std::string_view(textBlock(held_).bytes).substr(position_);
+    const std::size_t size = report::firstLetterSize(rest);
+    if (size > 0) {
+        variable = normalText(std::string(rest.substr(0, size)));
+        position_ += size;
+    }
+    return size > 0;
+}
+
+} // namespace pozhil::engine

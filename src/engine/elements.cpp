@@ -1,0 +1,143 @@
+#include "engine/collections.h"
+#include "engine/library.h"
+#include "engine/list.h"
+#include "engine/map.h"
+#include "engine/memory.h"
+#include "engine/operations.h"
+#include "engine/raise.h"
+#include "engine/running_faults.h"
+#include "engine/text.h"
+#include "engine/told_value.h"
+
+#include <string>
+
+/// Reading and writing elements of lists, values of keys, and letters of texts.
+
+namespace pozhil::engine {
+namespace {
+
+/// Whether a value can say which element is meant; a decimal that is no whole number tells that itself.
+bool isNumber(const Value& value) {
+    return value.is(Tag::Whole) || value.is(Tag::Decimal);
+}
+
+Whole indexOf(const Value& index, Place place) {
+    if (!isNumber(index)) {
+        raise(NO_INDEX, place, {kindWord(index)});
+    }
+    return whole(index, place);
+}
+
+/// \p index if there are so many elements that it is one of them.
+std::size_t checkedIndex(Whole index, std::size_t length, RunningFault fault, Place place) {
+    if (index < 0 || static_cast<std::size_t>(index) >= length) {
+        raise(fault, place, {std::to_string(index), std::to_string(length)});
+    }
+    return static_cast<std::size_t>(index);
+}
+
+void checkKey(const Value& key, Place place) {
+    if (!canBeKey(key)) {
+        raise(NO_KEY, place, {kindWord(key)});
+    }
+}
+
+Value& elementOfList(Value& list, const Value& index, Place place) {
+    const std::size_t position = checkedIndex(indexOf(index, place), listBlock(list).size, NO_SUCH_INDEX, place);
+    return ownList(list).elements[position];
+}
+
+[[noreturn]] void raiseNotWritable(const Value& container, Place place) {
+    if (container.is(Tag::Text)) {
+        raise(LETTERS_STAY, place);
+    }
+    raise(HAS_NO_ELEMENTS, place, {kindWord(container)});
+}
+
+Value letterOf(const Value& text, Whole index, Place place) {
+    Text& block = textBlock(text);
+    return normalText(std::string(letterAt(block, checkedIndex(index, letterCount(block), NO_SUCH_LETTER, place))));
+}
+
+Value valueOfKey(const Value& map, const Value& key, Place place) {
+    checkKey(key, place);
+    const Value* const value = findKey(mapBlock(map), key);
+    if (value == nullptr) {
+        raise(NO_SUCH_KEY, place, {toldValue(key)});
+    }
+    return *value;
+}
+
+} // namespace
+
+Value list(std::initializer_list<Value> elements) {
+    Value list = makeList(elements.size());
+    for (const Value& element : elements) {
+        appendTo(listBlock(list), element);
+    }
+    return list;
+}
+
+Value map(std::initializer_list<Entry> entries, Place place) {
+    Value map = makeMap();
+    for (const Entry& entry : entries) {
+        checkKey(entry.key, place);
+        placeOfKey(mapBlock(map), entry.key) = entry.value;
+    }
+    return map;
+}
+
+Value get(const Value& container, const Value& index, Place place) {
+    if (container.is(Tag::Map)) {
+        return valueOfKey(container, index, place);
+    }
+    if (container.is(Tag::List) || container.is(Tag::Text)) {
+        return get(container, indexOf(index, place), place);
+    }
+    raise(HAS_NO_ELEMENTS, place, {kindWord(container)});
+}
+
+Value get(const Value& container, Whole index, Place place) {
+    if (container.is(Tag::List)) {
+        const List& list = listBlock(container);
+        return list.elements[checkedIndex(index, list.size, NO_SUCH_INDEX, place)];
+    }
+    if (container.is(Tag::Text)) {
+        return letterOf(container, index, place);
+    }
+    return get(container, Value(index), place);
+}
+
+Value& element(Value& container, const Value& index, Place place) {
+    if (container.is(Tag::List)) {
+        return elementOfList(container, index, place);
+    }
+    if (!container.is(Tag::Map)) {
+        raiseNotWritable(container, place);
+    }
+    checkKey(index, place);
+    Value* const value = findKey(ownMap(container), index);
+    if (value == nullptr) {
+        raise(NO_SUCH_KEY, place, {toldValue(index)});
+    }
+    return *value;
+}
+
+Value& slot(Value& container, const Value& index, Place place) {
+    if (!container.is(Tag::Map)) {
+        return element(container, index, place);
+    }
+    checkKey(index, place);
+    noteGrowth(place);
+    return placeOfKey(ownMap(container), index);
+}
+
+Value put(Value& container, const Value& index, const Value& value, Place place) {
+    // A copy comes first, since the container itself may be put into it.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): writing to the container may change the value
+    Value result = value;
+    slot(container, index, place) = result;
+    return result;
+}
+
+} // namespace pozhil::engine

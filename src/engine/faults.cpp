@@ -1,0 +1,101 @@
+#include "engine/faults.h"
+
+#include "engine/fault_details.h"
+#include "engine/memory.h"
+#include "engine/places.h"
+#include "engine/raise.h"
+#include "engine/running_faults.h"
+#include "engine/text.h"
+#include "report/catalogue.h"
+
+#include <memory>
+
+namespace pozhil::engine {
+namespace {
+
+std::string filledText(const char* text, const std::vector<std::string>& values) {
+    const std::vector<std::string_view> views(values.begin(), values.end());
+    return report::filled(text, views.data(), views.size());
+}
+
+/// The entry of a fault. A number that the catalogue lacks can only be a mistake of ours, which must not hide the fault.
+const report::Entry& entryOf(const Fault::Details& details) {
+    static constexpr report::Entry UNKNOWN = {0, "இயக்கநேரப் பிழை", "அறியப்படாத பிழை.", ""};
+    const report::Entry* const entry = report::findEntry(details.number);
+    return entry == nullptr ? UNKNOWN : *entry;
+}
+
+/// Notes both ends of the way that leads to the call that runs.
+void noteWay(Fault::Details& details) {
+    constexpr std::size_t END = report::MAX_TOLD_CALLS / 2;
+    std::size_t depth = 0;
+    for (const Frame* frame = Frame::innermost; frame != nullptr; frame = frame->caller()) {
+        ++depth;
+    }
+    const bool isWhole = depth <= report::MAX_TOLD_CALLS;
+    details.callsLeftOut = isWhole ? 0 : depth - report::MAX_TOLD_CALLS;
+    std::size_t index = 0;
+    for (const Frame* frame = Frame::innermost; frame != nullptr; frame = frame->caller()) {
+        if (isWhole || index < END || index >= depth - END) {
+            details.way.push_back(callOf(*frame));
+        }
+        ++index;
+    }
+}
+
+} // namespace
+
+void raise(int number, Place place, std::initializer_list<std::string_view> values, std::string_view suggestion) {
+    auto details = std::make_unique<Fault::Details>();
+    details->number = number;
+    details->place = place == nullptr && Frame::innermost != nullptr ? Frame::innermost->calledAt() : place;
+    details->values.assign(values.begin(), values.end());
+    details->suggestion = suggestion;
+    noteWay(*details);
+    throw Fault(details.release());
+}
+
+Fault::Fault(Details* theDetails) : details(theDetails) {}
+
+Fault::Fault(const Fault& other) : details(other.details) {
+    ++details->references;
+}
+
+Fault::~Fault() {
+    if (--details->references > 0) {
+        return;
+    }
+    const bool tookReserve = details->number == OUT_OF_MEMORY;
+    delete details;
+    if (tookReserve) {
+        putMemoryBy();
+    }
+}
+
+Value Fault::message() const {
+    return makeText(filledText(entryOf(*details).message, details->values));
+}
+
+report::FaultText faultText(const Fault& fault) {
+    const Fault::Details& details = *fault.details;
+    const report::Entry& entry = entryOf(details);
+    report::FaultText text;
+    text.code = report::codeOf(details.number);
+    text.category = entry.category;
+    text.message = filledText(entry.message, details.values);
+    text.remedy = filledText(entry.remedy, details.values);
+    text.suggestion = details.suggestion;
+    text.excerpt = excerptOf(details.place);
+    text.way = details.way;
+    text.callsLeftOut = details.callsLeftOut;
+    return text;
+}
+
+const Frame* Frame::innermost = nullptr;
+const char* Frame::stackLimit = nullptr;
+
+void Frame::tooDeep(const char* function, Place calledAt) {
+    raise(TOO_DEEP, calledAt, {function});
+}
+
+} // namespace pozhil::engine

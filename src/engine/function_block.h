@@ -1,0 +1,46 @@
+#pragma once
+
+#include "engine/calls.h"
+
+#include <vector>
+
+namespace pozhil::engine {
+
+/// The block of a value with Tag::Function.
+struct Closure : Counted {
+    const FunctionInfo* info = nullptr;
+    /// The shared variables that it uses; it holds on to each.
+    std::vector<Cell*> cells{};
+    /// The object of a method that is a value; unset for a function that has none.
+    Value self = Value::unset();
+};
+
+inline Closure& functionBlock(const Value& value) {
+    return *static_cast<Closure*>(value.block());
+}
+
+/// A value of the method that calls it on this object.
+Value boundMethod(const FunctionInfo& info, const Value& self);
+
+/// Calls a method of an object that is known to have it, after counting the arguments.
+/// \param arguments without the object
+Value callBound(const FunctionInfo& info, const Value& self, Value* arguments, int count, Place place);
+
+/// Arguments that came as a list, where functions can write to them.
+class ArgumentCopies {
+public:
+    explicit ArgumentCopies(std::initializer_list<Value> arguments);
+
+    Value* data() { return more_.empty() ? few_ : more_.data(); }
+    int count() const { return count_; }
+
+private:
+    static constexpr int FEW = 4;
+
+    int count_;
+    /// Calls with few arguments, nearly all, do without the heap.
+    Value few_[FEW];
+    std::vector<Value> more_;
+};
+
+} // namespace pozhil::engine
