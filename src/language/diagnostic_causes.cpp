@@ -101,6 +101,8 @@ constexpr DiagnosticCause CAUSES[] = {
                  "A method that the abstract structure asks for is missing or has another number of parameters."}},
     {"பொழி-281", {"`நூஇறக்கி`-க்குப் பின் உரை இல்லை, அல்லது கோப்பு எங்கும் இல்லை.",
                  "No text behind `நூஇறக்கி`, or the file isn't found."}},
+    {"பொழி-283", {"இறக்கும் கோப்பின் முதல் வரி `ஃ பொழில் 2`; இறக்கும் நிரலின் முதல் வரி அதுவல்ல.",
+                 "The imported file begins with `ஃ பொழில் 2`, but the program doesn't."}},
     {"பொழி-291", {"கோவைகள், பிளாக்குகள், இறக்குமதிகள் மிக ஆழமாக ஒன்றுக்குள் ஒன்று; அல்லது பட்டியல் சுற்றுகள் 12-க்கு மேல் ஒன்றுக்குள் ஒன்று; அல்லது மேல் மட்டத்தில் ஒரு லட்சத்துக்கு மேல் கூற்றுகள்.",
                  "Nesting too deep, more than 12 loops over lists inside each other, or more than 100,000 top-level statements."}},
     {"பொழி-292", {"நிரல் ஒரு பிளாக்கின் நடுவில் முடிகிறது: கடைசி வரியின் பின் வரி முடிவு இல்லாமல் இடைவெளிகள் மட்டும் இருந்தாலும் வரும்.",

@@ -2,11 +2,20 @@
 
 #include "parser/file_parse.h"
 #include "scanner/lexer.h"
+#include "scanner/second/edition_marker.h"
 
 #include <iterator>
 #include <utility>
 
 namespace pozhil {
+namespace {
+
+/// Whether the first line asks for the second edition, which means other things by the same words.
+bool isOfSecondEdition(const SourceText& source) {
+    return second::markedEdition(lineOf(source.text, 1)) == "2";
+}
+
+} // namespace
 
 StatementPtr ImportGrammar::parseImportStatement() {
     const std::int32_t line = cursor_.advance().line;
@@ -17,6 +26,9 @@ StatementPtr ImportGrammar::parseImportStatement() {
     const SourcePtr source = parse_.session.importLoader.load(path);
     if (source == nullptr) {
         cursor_.பிழை("பொழி-281", line);
+    }
+    if (isOfSecondEdition(*source)) {
+        cursor_.பிழை("பொழி-283", line);
     }
     recovery_.noteScanFaults();
     parseImportedFile(source);

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "parser/second/blocks.h"
+#include "parser/second/control_flow.h"
+#include "parser/second/definitions.h"
+#include "parser/second/expressions.h"
+#include "parser/second/function_values.h"
+#include "parser/second/primaries.h"
+#include "parser/second/statements.h"
+#include "parser/second/structures.h"
+
+#include <cstdint>
+#include <utility>
+
+namespace pozhil::second {
+
+/// The parse of one file: where it stands, and the families of the grammar that go on with it.
+struct FileParse {
+    /// \param theScanned the tokens of the file
+    /// \param scanFaults what the scanner found wrong with it
+    /// \param[out] thePlaces takes the places of nodes
+    /// \param[out] faults takes all faults
+    FileParse(const ScannedSource& theScanned, SecondFaults scanFaults, NodePlaces& thePlaces, SecondFaults& faults)
+        : places(thePlaces), sourceNumber(places.addSource(theScanned.source, theScanned.tokens.size())),
+          tokens(theScanned), recovery(tokens, std::move(scanFaults), faults) {}
+
+    FileParse(const FileParse&) = delete;
+    FileParse& operator=(const FileParse&) = delete;
+
+    NodePlaces& places;
+    /// Of the source among the places of nodes.
+    const std::uint32_t sourceNumber;
+    TokenReader tokens;
+    Recovery recovery;
+    TreeHeight height;
+    /// How many functions and blocks are around the statement that is parsed.
+    int functionDepth = 0;
+    int blockDepth = 0;
+
+    StatementGrammar statements{*this};
+    BlockGrammar blocks{*this};
+    ControlFlowGrammar controlFlow{*this};
+    DefinitionGrammar definitions{*this};
+    StructureGrammar structures{*this};
+    ExpressionGrammar expressions{*this};
+    PrimaryGrammar primaries{*this};
+    FunctionValueGrammar functionValues{*this};
+};
+
+} // namespace pozhil::second

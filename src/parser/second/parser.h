@@ -1,0 +1,17 @@
+#pragma once
+
+#include "diagnostics/second_fault.h"
+#include "parser/node_places.h"
+#include "parser/tree/program.h"
+
+namespace pozhil::second {
+
+/// Scans and parses one file of the second edition. Imports stay statements of its tree.
+///
+/// Places are noted for all nodes, and by their addresses for names and operators that are parts of nodes.
+/// \param[out] places takes the places of nodes
+/// \param[out] faults takes what is wrong, in the order of the text, until it holds MAX_TOLD_FAULTS
+/// \return what could be parsed
+Program parseFile(const SourcePtr& source, NodePlaces& places, SecondFaults& faults);
+
+} // namespace pozhil::second

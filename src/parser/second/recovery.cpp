@@ -1,0 +1,139 @@
+#include "parser/second/recovery.h"
+
+#include "base/letters.h"
+#include "base/text.h"
+#include "scanner/second/fault_numbers.h"
+#include "scanner/second/words.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace pozhil::second {
+namespace {
+
+/// Faults that a misspelt word of the language brings about.
+bool mayComeOfSlip(int number) {
+    switch (number) {
+    case fault::NO_COLON:
+    case fault::NO_VALUE:
+    case fault::NO_STATEMENT_END:
+    case fault::VALUE_ALONE:
+    case fault::NO_MEMBER:
+    case fault::NO_CASE: return true;
+    default: return false;
+    }
+}
+
+} // namespace
+
+void Recovery::note(SecondFault fault) {
+    addScanFaultsBefore(fault.place.range.begin);
+    if (isEcho(fault)) {
+        return;
+    }
+    if (fault.suggestion.empty() && mayComeOfSlip(fault.number)) {
+        fault.suggestion = suggestionFor(fault);
+    }
+    add(std::move(fault));
+}
+
+void Recovery::noteLast(SecondFault fault) {
+    note(std::move(fault));
+    throw Done();
+}
+
+void Recovery::add(SecondFault fault) {
+    if (faults_.size() < MAX_TOLD_FAULTS) {
+        faults_.push_back(std::move(fault));
+    }
+    if (faults_.size() >= MAX_TOLD_FAULTS) {
+        throw Done();
+    }
+}
+
+void Recovery::addScanFaultsBefore(std::size_t end) {
+    while (addedScanFaults_ < scanFaults_.size() && scanFaults_[addedScanFaults_].place.range.begin <= end) {
+        add(scanFaults_[addedScanFaults_++]);
+    }
+}
+
+void Recovery::finish() {
+    addScanFaultsBefore(TokenReader::NONE);
+}
+
+/// What can't be parsed in a statement that the scanner found fault with is most likely the same mistake. So are parts of
+/// a statement whose block couldn't be found.
+bool Recovery::isEcho(const SecondFault& fault) const {
+    const bool isAfterMissingBlock = !faults_.empty() && faults_.back().number == fault::NO_BLOCK;
+    if (fault.number == fault::PART_WITHOUT_STATEMENT && isAfterMissingBlock) {
+        return true;
+    }
+    const std::size_t lastLine = lines_.lineAt(fault.place.range.begin);
+    const std::size_t begin = lines_.beginOf(lines_.lineAt(tokens_.rangeOf(statement_).begin));
+    const std::size_t end = lastLine < lines_.count() ? lines_.beginOf(lastLine + 1) : TokenReader::NONE;
+    return std::any_of(scanFaults_.begin(), scanFaults_.end(), [&](const SecondFault& found) {
+        return found.place.range.begin >= begin && found.place.range.begin < end;
+    });
+}
+
+/// The word that may have been meant by the first word of the statement, or by those around the fault.
+std::string Recovery::suggestionFor(const SecondFault& fault) const {
+    std::size_t faulty = statement_;
+    while (tokens_.rangeOf(faulty).begin < fault.place.range.begin &&
+           tokens_.at(faulty).type != TokenType::END_OF_FILE) {
+        ++faulty;
+    }
+    for (const std::size_t index : {statement_, faulty, faulty == 0 ? 0 : faulty - 1}) {
+        const Token& token = tokens_.at(index);
+        if (token.type != TokenType::IDENTIFIER) {
+            continue;
+        }
+        if (startsWith(token.value, "ஃ")) {
+            return "குறிப்பு எழுத நினைத்தால், 'ஃ'-க்குப் பின் ஓர் இடைவெளி விடு மச்சி!";
+        }
+        const std::string_view nearest = nearestWord(token.value, statementWords());
+        if (!nearest.empty()) {
+            return "'" + token.value + "' என்பது '" + std::string(nearest) + "' என்று இருக்க வேண்டுமோ?";
+        }
+    }
+    return "";
+}
+
+/// A statement ends with its line, or with the blocks that are indented below it.
+void Recovery::skipStatement(std::size_t first, int level) {
+    int open = tokens_.openBrackets(first);
+    while (!tokens_.isAtEnd()) {
+        if (open <= 0 && tokens_.position() > first && isAtNextStatement(level) && !isPartOfStatement()) {
+            return;
+        }
+        const std::size_t taken = tokens_.position();
+        tokens_.advance();
+        open += tokens_.openBrackets(taken);
+    }
+}
+
+/// Whether a statement of this level comes next, or what ends its block.
+bool Recovery::isAtNextStatement(int level) const {
+    if (tokens_.indentation() != level) {
+        return tokens_.indentation() < level;
+    }
+    switch (tokens_.peek().type) {
+    case TokenType::DEDENT:
+    case TokenType::RPAREN:
+    case TokenType::RBRACKET:
+    case TokenType::RBRACE: return true;
+    case TokenType::INDENT:
+    case TokenType::NEWLINE: return false;
+    default: return tokens_.isAfterLineEnd();
+    }
+}
+
+/// Whether a part comes next that belongs to the statement that was skipped, such as இல்லை.
+bool Recovery::isPartOfStatement() const {
+    const bool hasColon = tokens_.peek(1).type == TokenType::COLON;
+    return tokens_.checkWord("இல்லைஎனில்") || (hasColon && (tokens_.checkWord("இல்லை") || tokens_.checkWord("பிடி"))) ||
+           (tokens_.checkWord("பிடி") && tokens_.peek(1).type == TokenType::LPAREN);
+}
+
+} // namespace pozhil::second
