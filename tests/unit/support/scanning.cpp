@@ -21,9 +21,13 @@ std::vector<Token> scan(const std::string& source) {
 }
 
 std::string tokens(const std::string& source) {
+    return tokenText(scan(source));
+}
+
+std::string tokenText(const std::vector<Token>& tokens) {
     std::string text;
     int line = 0;
-    for (const Token& token : scan(source)) {
+    for (const Token& token : tokens) {
         if (token.line != line) {
             line = token.line;
             text += (text.empty() ? "" : "\n") + std::to_string(line) + ":";

@@ -16,6 +16,9 @@ std::vector<Token> scan(const std::string& source);
 ///     (the end)  2: END_OF_FILE
 std::string tokens(const std::string& source);
 
+/// The same for tokens that are at hand.
+std::string tokenText(const std::vector<Token>& tokens);
+
 /// Code and line of the diagnostic that \p source ends with, such as "பொழி-101 வரி 3"; "none" if it is scanned.
 std::string scanFault(const std::string& source);
 

@@ -16,8 +16,8 @@ std::string TreeWriter::text(const Expression* node) {
     if (node == nullptr) {
         return "null";
     }
-    for (const auto write :
-         {&TreeWriter::literal, &TreeWriter::operation, &TreeWriter::access, &TreeWriter::database}) {
+    for (const auto write : {&TreeWriter::literal, &TreeWriter::operation, &TreeWriter::access, &TreeWriter::database,
+                             static_cast<std::string (TreeWriter::*)(const Expression*)>(&TreeWriter::secondEdition)}) {
         if (std::string written = (this->*write)(node); !written.empty()) {
             return written;
         }
@@ -116,7 +116,8 @@ std::string TreeWriter::text(const Statement* node) {
         return "null";
     }
     for (const auto write : {&TreeWriter::simpleStatement, &TreeWriter::controlFlow, &TreeWriter::definition,
-                             &TreeWriter::application, &TreeWriter::widget}) {
+                             &TreeWriter::application, &TreeWriter::widget,
+                             static_cast<std::string (TreeWriter::*)(const Statement*)>(&TreeWriter::secondEdition)}) {
         if (std::string written = (this->*write)(node); !written.empty()) {
             return written;
         }

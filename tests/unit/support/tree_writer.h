@@ -1,5 +1,6 @@
 #pragma once
 
+#include "parser/tree/second_edition.h"
 #include "support/tree_text.h"
 
 namespace pozhil::test {
@@ -25,6 +26,8 @@ private:
     std::string definition(const Statement* node);
     std::string application(const Statement* node);
     std::string database(const Expression* node);
+    std::string secondEdition(const Expression* node);
+    std::string secondEdition(const Statement* node);
     std::string widget(const Statement* node);
     std::string parts(const WidgetNode& widget);
     std::string text(const MapLiteral& map);

@@ -1,0 +1,106 @@
+#include "analysis/second/declarations.h"
+
+#include "analysis/second/fault_numbers.h"
+#include "base/text.h"
+#include "front_end/second_edition.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace pozhil::second {
+namespace {
+
+/// Gathers what one file sees.
+class Linking {
+public:
+    /// A definition by its file and place.
+    using Key = std::pair<std::uint32_t, std::uint32_t>;
+    /// Clashes that were told, so that who imports the importer isn't told again.
+    using Told = std::set<std::pair<Key, Key>>;
+
+    Linking(Model& model, std::size_t file, Told& told)
+        : model_(model), file_(file), told_(told), isSeen_(model.source.files.size()) {}
+
+    void link() {
+        model_.visible[file_] = model_.own[file_];
+        isSeen_[file_] = true;
+        for (const std::size_t imported : model_.source.files[file_].imports) {
+            directImport_ = imported;
+            see(imported);
+        }
+    }
+
+private:
+    /// A stack of its own: a chain of imports may be long.
+    void see(std::size_t imported) {
+        std::vector<std::size_t> waiting = {imported};
+        while (!waiting.empty()) {
+            const std::size_t file = waiting.back();
+            waiting.pop_back();
+            if (isSeen_[file]) {
+                continue;
+            }
+            isSeen_[file] = true;
+            bring(file);
+            const auto& further = model_.source.files[file].imports;
+            waiting.insert(waiting.end(), further.rbegin(), further.rend());
+        }
+    }
+
+    void bring(std::size_t file) {
+        for (const auto& [name, definition] : model_.own[file]) {
+            const auto [known, isNew] = model_.visible[file_].emplace(name, definition);
+            if (!isNew) {
+                tellClash(name, known->second, definition);
+            }
+        }
+    }
+
+    void tellClash(std::string_view name, const Definition& first, const Definition& second) {
+        const auto pathOf = [&](const Definition& one) { return model_.source.files[one.place.file].source->path; };
+        const auto key = [](const Definition& one) { return std::make_pair(one.place.file, one.place.range.begin); };
+        if (!told_.emplace(key(first), key(second)).second) {
+            return;
+        }
+        const bool isOwn = first.place.file == file_;
+        const resolved::Place place = isOwn ? first.place : importStatement();
+        model_.faults.add(fault::CLASHING_IMPORTS, place, {std::string(name), pathOf(first), pathOf(second)});
+    }
+
+    /// Where the file says what it imports; the beginning of the file if that can't be told.
+    resolved::Place importStatement() const {
+        const SecondFile& file = model_.source.files[file_];
+        const std::string& path = model_.source.files[directImport_].source->path;
+        for (const StatementPtr& statement : file.tree.statements) {
+            const auto* const import = nodeCast<ImportStatement>(statement.get());
+            if (import != nullptr && (endsWith(path, import->path) || endsWith(path, import->path + ENDING))) {
+                return model_.locations.of(file_, import);
+            }
+        }
+        return model_.locations.of(file_, nullptr);
+    }
+
+    static constexpr const char* ENDING = ".பொழில்";
+
+    Model& model_;
+    std::size_t file_;
+    Told& told_;
+    std::vector<bool> isSeen_;
+    /// What the file itself imports, also when it is about one that this imports in turn.
+    std::size_t directImport_ = 0;
+};
+
+} // namespace
+
+void linkImports(Model& model) {
+    Linking::Told told;
+    for (std::size_t file = 0; file < model.source.files.size(); ++file) {
+        Linking(model, file, told).link();
+    }
+}
+
+} // namespace pozhil::second

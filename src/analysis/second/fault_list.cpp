@@ -1,0 +1,32 @@
+#include "analysis/second/fault_list.h"
+
+#include "front_end/second_edition.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+namespace pozhil::second {
+
+void FaultList::add(int number, resolved::Place place, std::vector<std::string> values, std::string suggestion) {
+    notes_.push_back(
+        {place, {number, {program_.files[place.file].source, place.range}, std::move(values), std::move(suggestion)}});
+}
+
+SecondFaults FaultList::told() {
+    const auto order = [](const Note& note) {
+        return std::tie(note.place.file, note.place.range.begin, note.place.range.end, note.fault.number,
+                        note.fault.values);
+    };
+    std::stable_sort(notes_.begin(), notes_.end(), [&](const Note& a, const Note& b) { return order(a) < order(b); });
+    notes_.erase(
+        std::unique(notes_.begin(), notes_.end(), [&](const Note& a, const Note& b) { return order(a) == order(b); }),
+        notes_.end());
+    SecondFaults faults;
+    for (std::size_t index = 0; index < notes_.size() && index < MAX_TOLD_FAULTS; ++index) {
+        faults.push_back(std::move(notes_[index].fault));
+    }
+    return faults;
+}
+
+} // namespace pozhil::second

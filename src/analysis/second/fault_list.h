@@ -1,0 +1,41 @@
+#pragma once
+
+#include "analysis/second/resolved/node.h"
+#include "diagnostics/second_fault.h"
+
+#include <string>
+#include <vector>
+
+namespace pozhil {
+struct SecondProgram;
+}
+
+namespace pozhil::second {
+
+/// Gathers what is wrong with a program, in whatever order it is found.
+class FaultList {
+public:
+    /// \param program outlives the list
+    explicit FaultList(const SecondProgram& program) : program_(program) {}
+
+    /// Notes a fault. The same one noted twice is told once.
+    /// \param values for the holes of its message and remedy
+    /// \param suggestion what may have been meant, as a sentence
+    void add(int number, resolved::Place place, std::vector<std::string> values = {}, std::string suggestion = {});
+
+    bool isEmpty() const { return notes_.empty(); }
+
+    /// The faults in the order of the files and of their texts, as many as are told in one run.
+    SecondFaults told();
+
+private:
+    struct Note {
+        resolved::Place place;
+        SecondFault fault;
+    };
+
+    const SecondProgram& program_;
+    std::vector<Note> notes_;
+};
+
+} // namespace pozhil::second
