@@ -1,10 +1,12 @@
 #include "driver/command_line.h"
 #include "driver/console/banner.h"
 #include "driver/console/fault_report.h"
+#include "driver/console/second_fault_report.h"
 #include "driver/console/stage_report.h"
 #include "driver/hint_report.h"
 #include "driver/native/native_build.h"
 #include "driver/native/native_watch.h"
+#include "driver/native/second_mode.h"
 #include "driver/output_stage.h"
 #include "driver/settings.h"
 #include "driver/translation.h"
@@ -13,6 +15,7 @@
 #include "driver/web/web_messages.h"
 #include "driver/web/web_mode.h"
 #include "front_end/front_end.h"
+#include "front_end/second_edition.h"
 #include "platform/console.h"
 #include "platform/file_limit.h"
 #include "platform/interrupt.h"
@@ -69,6 +72,23 @@ void runNative(const Invocation& invocation, const FrontEndOptions& options, con
     build.finish(parsed, generated);
 }
 
+/// Compiles a program of the second edition, or tells what is wrong with the line that asks for an edition.
+int compileSecondEdition(const Invocation& invocation, const SourcePtr& source, const SecondFaults& faults,
+                         const FrontEndOptions& options, const std::filesystem::path& appDirectory) {
+    if (!faults.empty()) {
+        reportFaults(faults);
+        return 1;
+    }
+    if (invocation.web) {
+        std::cerr
+            << "பிழை: வலைச் செயலிகளுக்கு இரண்டாம் பதிப்பு இன்னும் இல்லை! '--வலை' இல்லாமல் ஓட்டு, அல்லது முதல் வரியில் உள்ள 'ஃ பொழில் 2' "
+               "என்பதை நீக்கு."
+            << std::endl;
+        return 1;
+    }
+    return runSecondEdition(source, options, appDirectory, invocation.watch);
+}
+
 int compile(const Invocation& invocation) {
     const std::filesystem::path appDirectory = platform::executableDirectory();
     FrontEndOptions options;
@@ -77,6 +97,10 @@ int compile(const Invocation& invocation) {
     if (source == nullptr) {
         std::cerr << "பிழை: '" << invocation.sourcePath << "' என்ற கோப்பை திறக்க முடியவில்லை!" << std::endl;
         return 1;
+    }
+    SecondFaults editionFaults;
+    if (editionOf(source, editionFaults) == Edition::Second || !editionFaults.empty()) {
+        return compileSecondEdition(invocation, source, editionFaults, options, appDirectory);
     }
     bool web = invocation.web;
     const ParsedSource parsed = analyse(std::move(source), web, options);

@@ -33,6 +33,10 @@ bool showsCxx() {
     return platform::environmentVariable("POZHIL_SHOW_CXX") != "0";
 }
 
+bool asksForCxx() {
+    return platform::environmentVariable("POZHIL_SHOW_CXX") == "1";
+}
+
 bool showsHints() {
     return platform::environmentVariable("POZHIL_HINTS").value_or("") != "0";
 }

@@ -19,6 +19,9 @@ std::vector<std::string> emFlags();
 /// Whether what g++ writes is shown: POZHIL_SHOW_CXX, true unless it is 0.
 bool showsCxx();
 
+/// Whether what g++ writes is shown although it is a fault of the compiler: POZHIL_SHOW_CXX, only if it is 1.
+bool asksForCxx();
+
 /// Whether hints are shown: POZHIL_HINTS, unless it is 0.
 bool showsHints();
 

@@ -28,19 +28,23 @@ void rebuild(const std::string& sourcePath, const FrontEndOptions& options, cons
 
 } // namespace
 
-void watchSource(const std::string& sourcePath, const FrontEndOptions& options, const WatchSteps& steps) {
+void watchFile(const std::string& path, const char* changeNote, const std::function<void()>& react) {
     constexpr std::chrono::milliseconds PAUSE{500};
-    const std::filesystem::path file = std::filesystem::u8path(sourcePath);
+    const std::filesystem::path file = std::filesystem::u8path(path);
     auto last = std::filesystem::last_write_time(file);
     while (true) {
         const auto now = std::filesystem::last_write_time(file);
         if (now != last) {
             last = now;
-            std::cout << steps.changeNote << std::endl;
-            rebuild(sourcePath, options, steps);
+            std::cout << changeNote << std::endl;
+            react();
         }
         std::this_thread::sleep_for(PAUSE);
     }
+}
+
+void watchSource(const std::string& sourcePath, const FrontEndOptions& options, const WatchSteps& steps) {
+    watchFile(sourcePath, steps.changeNote, [&] { rebuild(sourcePath, options, steps); });
 }
 
 } // namespace pozhil

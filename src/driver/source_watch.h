@@ -18,6 +18,10 @@ struct WatchSteps {
     std::function<void(const StageFailure&)> reportFailure;
 };
 
+/// Calls \p react whenever a file changes, after it has told so. Never returns.
+/// \throws std::filesystem::filesystem_error if the file vanishes
+[[noreturn]] void watchFile(const std::string& path, const char* changeNote, const std::function<void()>& react);
+
 /// Compiles a source file anew whenever it changes, each time on objects of its own. Never returns; a fault
 /// with a box ends the process.
 /// \throws std::filesystem::filesystem_error if the source file vanishes

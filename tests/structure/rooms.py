@@ -11,18 +11,25 @@ SYSTEM = ["src/base", "src/diagnostics", "src/platform"]
 ROOMS = {
     # What generated programs are compiled with. The compiler shares its catalogue and its report.
     "உள்ளடக்கம்": [],
+    # Compiled into the compiler and into the programs of the second edition.
+    "src/report": [],
+    # What programs of the second edition run on; it stands alone.
+    "src/engine": ["src/report"],
     "src/base": [],
     "src/platform": [],
     "src/platform/linux": ["src/platform"],
     # It is compiled with the report for every generated program, which has nothing else of the house.
     "src/diagnostics/last_word": [],
-    "src/diagnostics": ["உள்ளடக்கம்", "src/base", "src/diagnostics/last_word"],
+    "src/diagnostics": ["உள்ளடக்கம்", "src/base", "src/report", "src/diagnostics/last_word"],
     "src/language": ["src/base"],
     "src/scanner": FLOOR,
+    # What is a letter, and which signs are one, is told by the tables of Unicode.
+    "src/scanner/second": [*FLOOR, "src/scanner"],
     "src/parser/tree": ["src/base", "src/language", "src/scanner"],
-    "src/parser": [*FLOOR, "src/scanner", "src/parser/tree"],
-    "src/front_end": [*FLOOR, "src/scanner", *TREE],
+    "src/parser": [*FLOOR, "src/scanner", "src/scanner/second", "src/parser/tree"],
+    "src/front_end": [*FLOOR, "src/scanner", "src/scanner/second", *TREE],
     "src/analysis": [*FLOOR, *TREE],
+    "src/analysis/second": [*FLOOR, *TREE, "src/front_end"],
     "src/emit": ["src/base"],
     # The text of a page, from its single values up to the whole.
     "src/generator/web/write": [*FLOOR, *TREE, "src/emit"],
@@ -56,8 +63,9 @@ ROOMS = {
         "src/generator/web/measure",
         "src/generator/web/page",
     ],
+    "src/generator/second": ["src/base", "src/language", "src/parser/tree", "src/analysis/second"],
     "src/installation": ["உள்ளடக்கம்", "src/generator/first/runtime"],
-    "src/driver/console": ["உள்ளடக்கம்", *SYSTEM, "src/front_end"],
+    "src/driver/console": ["உள்ளடக்கம்", "src/report", *SYSTEM, "src/front_end"],
     "src/driver": [
         "உள்ளடக்கம்",
         *SYSTEM,
@@ -66,8 +74,11 @@ ROOMS = {
         *TREE,
         "src/front_end",
         "src/analysis",
+        "src/analysis/second",
         "src/emit",
         "src/generator/first",
+        "src/analysis/second",
+        "src/generator/second",
         "src/driver/console",
     ],
     "src/driver/native": [
@@ -91,6 +102,7 @@ ROOMS = {
 # Who may know more than the C++ library: the operating system, the browser.
 ROOMS_WITH_SYSTEM_HEADERS = {
     "src/platform/linux", "src/diagnostics/last_word", "src/generator/first/runtime", "src/installation",
+    "src/report", "src/engine", "src/scanner/second",
 }
 
 # Drawing of pages, which comes from outside.

@@ -37,16 +37,6 @@ fs::path objectPath(const fs::path& appDirectory) {
     return cache / "pozhil" / OBJECT_NAME;
 }
 
-platform::Command compilerCommand(std::vector<std::string> arguments) {
-    platform::Command command;
-    command.arguments = std::move(arguments);
-    const fs::path linkers = platform::fastLinkerDirectory();
-    if (!linkers.empty()) {
-        command.environment.emplace_back("COMPILER_PATH", linkers.u8string());
-    }
-    return command;
-}
-
 void show(const platform::CommandResult& result) {
     std::cout << result.output << std::flush;
     std::cerr << withoutSpellingWarnings(result.errors) << std::flush;
@@ -57,9 +47,8 @@ void show(const platform::CommandResult& result) {
 NativeBuild::NativeBuild(std::string sourcePath, fs::path appDirectory, fs::path generatedSource,
                          fs::path temporaryDirectory)
     : sourcePath_(std::move(sourcePath)), appDirectory_(std::move(appDirectory)),
-      generatedSource_(std::move(generatedSource)), freshProgram_(temporaryDirectory / "pozhil_temp_app"),
-      program_(temporaryDirectory / "பொழில்_செயலி"), trace_(temporaryDirectory / "pozhil_trace"),
-      traceable_(temporaryDirectory / "pozhil_traceable_app") {}
+      generatedSource_(std::move(generatedSource)), program_(temporaryDirectory),
+      trace_(temporaryDirectory / "pozhil_trace"), traceable_(temporaryDirectory / "pozhil_traceable_app") {}
 
 void NativeBuild::start() {
     object_ = objectPath(appDirectory_);
@@ -79,7 +68,7 @@ void NativeBuild::finish(const ParsedSource& source, const OutputText& output) {
         show(result.link);
     }
     if (result.link.status == platform::COULD_NOT_START) {
-        std::cerr << "பிழை: 'g++' கிடைக்கவில்லை! 'sudo apt install g++' என்று கட்டளையிட்டு நிறுவிக்கொள்." << std::endl;
+        tellMissingCompiler();
     }
     if (result.link.status != 0) {
         std::cerr << style::RED << "பிழை: தொகுப்பதில் சிக்கல்! உன்னோட கோடை ஒருவாட்டி பாரு மச்சி." << style::RESET << std::endl;
@@ -96,7 +85,7 @@ NativeBuild::ToolchainResult NativeBuild::runToolchain() const {
     if (objectIsMissing_) {
         result.object = makeObject();
     }
-    result.link = platform::captureCommand(linkCommand(freshProgram_));
+    result.link = platform::captureCommand(linkCommand(program_.fresh));
     return result;
 }
 
@@ -142,16 +131,11 @@ platform::Command NativeBuild::traceableBuild() const {
     return command;
 }
 
-/// The detour over a fresh file means that a failed link leaves the previous program untouched.
 void NativeBuild::runProgram(const ParsedSource& source, const OutputText& output) const {
     std::error_code ignored;
-    fs::remove(program_, ignored);
     fs::remove(trace_, ignored);
-    fs::rename(freshProgram_, program_, ignored);
-    platform::run_command(
-        {{program_.u8string()},
-         {{last_word::SOURCE_VARIABLE, sourcePath_}, {last_word::TRACE_VARIABLE, trace_.u8string()}}});
-    reportDeath(source, output, {program_, trace_, traceableBuild(), traceable_});
+    program_.run({{last_word::SOURCE_VARIABLE, sourcePath_}, {last_word::TRACE_VARIABLE, trace_.u8string()}});
+    reportDeath(source, output, {program_.program, trace_, traceableBuild(), traceable_});
 }
 
 } // namespace pozhil

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "driver/native/toolchain.h"
 #include "driver/translation.h"
 #include "platform/process.h"
 
@@ -46,8 +47,7 @@ private:
     std::string sourcePath_;
     std::filesystem::path appDirectory_;
     std::filesystem::path generatedSource_;
-    std::filesystem::path freshProgram_;
-    std::filesystem::path program_;
+    BuiltProgram program_;
     std::filesystem::path trace_;
     std::filesystem::path traceable_;
     std::filesystem::path object_;

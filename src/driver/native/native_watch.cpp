@@ -10,7 +10,7 @@ namespace pozhil {
 void watchNative(const std::string& sourcePath, const FrontEndOptions& options, const std::filesystem::path& outputFile,
                  NativeBuild& build) {
     WatchSteps steps;
-    steps.changeNote = "\n🔄 மாற்றம் கண்டறியப்பட்டது! புதுப்பிக்கப்படுகிறது...";
+    steps.changeNote = NATIVE_CHANGE_NOTE;
     steps.build = [&](const ParsedSource& source, const OutputText& output) {
         if (writeOutput(outputFile, output.text)) {
             build.start();

@@ -9,6 +9,9 @@
 
 namespace pozhil {
 
+/// What is told when a watched console program has changed.
+constexpr const char* NATIVE_CHANGE_NOTE = "\n🔄 மாற்றம் கண்டறியப்பட்டது! புதுப்பிக்கப்படுகிறது...";
+
 /// Builds and runs the program anew whenever its source file changes. Never returns.
 /// \throws std::filesystem::filesystem_error if the source file vanishes
 [[noreturn]] void watchNative(const std::string& sourcePath, const FrontEndOptions& options,

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "diagnostics/second_fault.h"
+
+namespace pozhil {
+
+/// Shows the boxes of faults of the second edition on standard output, MAX_TOLD_FAULTS at most.
+void reportFaults(const SecondFaults& faults);
+
+} // namespace pozhil

@@ -1,0 +1,116 @@
+#include "driver/native/second_build.h"
+
+#include "base/line_index.h"
+#include "diagnostics/refusals/toolchain_errors.h"
+#include "driver/console/console_style.h"
+#include "driver/console/explanation.h"
+#include "driver/settings.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <iostream>
+#include <iterator>
+#include <limits>
+#include <string>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+namespace pozhil {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// How far g++ optimises a text of so many lines.
+struct Optimisation {
+    std::size_t mostLines;
+    const char* flag;
+};
+
+/// -O1 is the best for building and running together, by measurement: -O2 builds longer than it saves. Whoever writes a long
+/// program waits for g++ more than for the program: no build shall take above two seconds for 5,000 lines of source.
+constexpr Optimisation OPTIMISATIONS[] = {
+    {6000, "-O1"}, {12000, "-Og"}, {std::numeric_limits<std::size_t>::max(), "-O0"}};
+
+const char* optimisationFor(std::size_t lines) {
+    return std::find_if(std::begin(OPTIMISATIONS), std::end(OPTIMISATIONS),
+                        [&](const Optimisation& row) { return lines <= row.mostLines; })
+        ->flag;
+}
+
+/// Where in the source the statement stands whose text was refused first.
+ShownPlace placeOf(const SecondTranslation& translation, const std::vector<ToolchainError>& errors) {
+    for (const ToolchainError& error : errors) {
+        if (error.line == 0 || error.line > translation.output.origins.size()) {
+            continue;
+        }
+        const resolved::Place& place = translation.output.origins[error.line - 1];
+        const SourcePtr& source = translation.sources[place.file];
+        const auto line = static_cast<std::int32_t>(LineIndex(source->text).lineAt(place.range.begin));
+        return {source->path, line, lineOf(source->text, line)};
+    }
+    return {};
+}
+
+} // namespace
+
+SecondBuild::SecondBuild(fs::path appDirectory, fs::path generatedSource, const fs::path& temporaryDirectory)
+    : appDirectory_(std::move(appDirectory)), archive_(appDirectory_ / "திரட்டு" / "libpozhil_engine.a"),
+      generatedSource_(std::move(generatedSource)), program_(temporaryDirectory) {}
+
+void SecondBuild::start(const SecondTranslation& translation) {
+    toolchain_ =
+        std::async(std::launch::async, [command = command(optimisationFor(translation.output.origins.size()))] {
+            return platform::captureCommand(command);
+        });
+}
+
+platform::Command SecondBuild::command(const char* optimisation) const {
+    std::vector<std::string> arguments = {"g++",
+                                          generatedSource_.u8string(),
+                                          archive_.u8string(),
+                                          "-o",
+                                          program_.fresh.u8string(),
+                                          "-std=c++17",
+                                          optimisation,
+                                          "-I" + (appDirectory_ / "உள்ளடக்கம்").u8string(),
+                                          "-static",
+                                          "-static-libstdc++",
+                                          "-static-libgcc"};
+    for (std::string& flag : settings::cxxFlags()) {
+        arguments.push_back(std::move(flag));
+    }
+    return compilerCommand(std::move(arguments));
+}
+
+int SecondBuild::finish(const SecondTranslation& translation) {
+    const platform::CommandResult result = toolchain_.get();
+    if (settings::asksForCxx()) {
+        std::cerr << result.output << result.errors << std::flush;
+    }
+    std::error_code ignored;
+    if (result.status == 0) {
+        return program_.run({});
+    }
+    if (result.status == platform::COULD_NOT_START) {
+        tellMissingCompiler();
+    } else if (!fs::exists(archive_, ignored)) {
+        std::cerr << style::RED << "பிழை: '" << archive_.u8string() << "' கிடைக்கவில்லை! பொழிலை மீண்டும் நிறுவிக்கொள்."
+                  << style::RESET << std::endl;
+    } else {
+        reportRefusal(translation, result.errors);
+    }
+    return 1;
+}
+
+void SecondBuild::reportRefusal(const SecondTranslation& translation, const std::string& errors) const {
+    std::cerr << style::RED << "பிழை: இது பொழிலின் தவறு, உன் நிரலின் தவறு அல்ல: உருவான C++ உரையை g++ ஏற்கவில்லை."
+              << style::RESET << std::endl;
+    printExplanation(
+        {placeOf(translation, readToolchainErrors(errors, generatedSource_.u8string())),
+         {"உருவான C++ உரை: '" + generatedSource_.u8string() + "'",
+          "g++ சொன்னதைப் பார்க்க: POZHIL_SHOW_CXX=1 என்று வைத்து மீண்டும் ஓட்டு."},
+         "உன் நிரலையும் அந்த C++ உரையையும் பொழில் குழுவுக்கு அனுப்பு மச்சி; அதுவரை அந்தக் கூற்றை வேறு விதமா எழுதிப் பாரு!"});
+}
+
+} // namespace pozhil

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "driver/native/toolchain.h"
+#include "driver/second_translation.h"
+
+#include <filesystem>
+#include <future>
+
+namespace pozhil {
+
+/// Builds the output text of the second edition with g++ and the archive of the engine, and runs the result in the
+/// foreground. The toolchain works in the background from start() on.
+class SecondBuild {
+public:
+    /// \param appDirectory the installation
+    /// \param generatedSource the output text
+    /// \param temporaryDirectory where the program is made
+    SecondBuild(std::filesystem::path appDirectory, std::filesystem::path generatedSource,
+                const std::filesystem::path& temporaryDirectory);
+
+    /// Starts the toolchain.
+    /// \param translation what is built
+    void start(const SecondTranslation& translation);
+
+    /// Waits for the toolchain and runs the program. What g++ refuses is a fault of this compiler, and told as such.
+    /// \param translation what was built
+    /// \return the exit status of the program, 128 plus the signal if one ended it; 1 if there is none
+    int finish(const SecondTranslation& translation);
+
+private:
+    platform::Command command(const char* optimisation) const;
+    void reportRefusal(const SecondTranslation& translation, const std::string& errors) const;
+
+    std::filesystem::path appDirectory_;
+    std::filesystem::path archive_;
+    std::filesystem::path generatedSource_;
+    BuiltProgram program_;
+    std::future<platform::CommandResult> toolchain_;
+};
+
+} // namespace pozhil

@@ -1,0 +1,69 @@
+#include "driver/native/second_mode.h"
+
+#include "driver/console/banner.h"
+#include "driver/console/second_fault_report.h"
+#include "driver/native/native_watch.h"
+#include "driver/native/second_build.h"
+#include "driver/output_stage.h"
+#include "driver/second_translation.h"
+#include "driver/settings.h"
+#include "driver/source_watch.h"
+
+#include <iostream>
+
+namespace pozhil {
+namespace {
+
+/// Compiles a changed source and runs it. After a fault the next change is waited for.
+void rebuild(const std::string& path, const FrontEndOptions& options, const std::filesystem::path& output,
+             SecondBuild& build) {
+    SourcePtr source = loadSource(path, options);
+    if (source == nullptr) {
+        return; // an editor may be about to put it back
+    }
+    SecondFaults faults;
+    if (editionOf(source, faults) != Edition::Second && faults.empty()) {
+        std::cerr << "பிழை: முதல் வரியில் 'ஃ பொழில் 2' இப்போது இல்லை! அதைத் திரும்ப எழுது, அல்லது தொகுப்பியை மீண்டும் தொடங்கு."
+                  << std::endl;
+        return;
+    }
+    if (!faults.empty()) {
+        reportFaults(faults);
+        return;
+    }
+    const SecondTranslation translation = translateSecondEdition(std::move(source), options);
+    if (!translation.faults.empty()) {
+        reportFaults(translation.faults);
+    } else if (writeOutput(output, translation.output.text)) {
+        build.start(translation);
+        build.finish(translation);
+    }
+}
+
+} // namespace
+
+int runSecondEdition(const SourcePtr& source, const FrontEndOptions& options, const std::filesystem::path& appDirectory,
+                     bool watches) {
+    const SecondTranslation translation = translateSecondEdition(source, options);
+    if (!translation.faults.empty()) {
+        reportFaults(translation.faults);
+        return 1;
+    }
+    const std::filesystem::path temporaryDirectory = prepareTemporaryDirectory();
+    const std::filesystem::path output = outputPath(temporaryDirectory);
+    if (!createOutput(output) || !writeOutput(output, translation.output.text)) {
+        return 1;
+    }
+    SecondBuild build(appDirectory, output, temporaryDirectory);
+    if (!watches) {
+        build.start(translation);
+    }
+    printBanner();
+    animateCompilation(source->path, settings::animationDelay());
+    if (watches) {
+        watchFile(source->path, NATIVE_CHANGE_NOTE, [&] { rebuild(source->path, options, output, build); });
+    }
+    return build.finish(translation);
+}
+
+} // namespace pozhil

@@ -1,0 +1,36 @@
+#include "driver/native/toolchain.h"
+
+#include "platform/paths.h"
+
+#include <iostream>
+#include <system_error>
+
+namespace pozhil {
+
+namespace fs = std::filesystem;
+
+platform::Command compilerCommand(std::vector<std::string> arguments) {
+    platform::Command command;
+    command.arguments = std::move(arguments);
+    const fs::path linkers = platform::fastLinkerDirectory();
+    if (!linkers.empty()) {
+        command.environment.emplace_back("COMPILER_PATH", linkers.u8string());
+    }
+    return command;
+}
+
+void tellMissingCompiler() {
+    std::cerr << "பிழை: 'g++' கிடைக்கவில்லை! 'sudo apt install g++' என்று கட்டளையிட்டு நிறுவிக்கொள்." << std::endl;
+}
+
+BuiltProgram::BuiltProgram(const fs::path& temporaryDirectory)
+    : fresh(temporaryDirectory / "pozhil_temp_app"), program(temporaryDirectory / "பொழில்_செயலி") {}
+
+int BuiltProgram::run(std::vector<std::pair<std::string, std::string>> environment) const {
+    std::error_code ignored;
+    fs::remove(program, ignored);
+    fs::rename(fresh, program, ignored);
+    return platform::run_command({{program.u8string()}, std::move(environment)});
+}
+
+} // namespace pozhil

@@ -1,0 +1,28 @@
+#include "driver/second_translation.h"
+
+#include "analysis/second/analysis.h"
+
+#include <utility>
+
+namespace pozhil {
+
+SecondTranslation translateSecondEdition(SourcePtr source, const FrontEndOptions& options) {
+    SecondTranslation translation;
+    SecondProgram program = parseSecondEdition(std::move(source), options);
+    if (!program.faults.empty()) {
+        translation.faults = std::move(program.faults);
+        return translation;
+    }
+    SecondMeaning meaning = analyseSecondEdition(program);
+    if (!meaning.faults.empty()) {
+        translation.faults = std::move(meaning.faults);
+        return translation;
+    }
+    for (const resolved::File& file : meaning.program.files) {
+        translation.sources.push_back(file.source);
+    }
+    translation.output = writeSecondEdition(meaning.program);
+    return translation;
+}
+
+} // namespace pozhil

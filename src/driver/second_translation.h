@@ -1,0 +1,24 @@
+#pragma once
+
+#include "diagnostics/second_fault.h"
+#include "front_end/second_edition.h"
+#include "generator/second/generator.h"
+
+#include <string>
+#include <vector>
+
+namespace pozhil {
+
+/// What became of a source of the second edition.
+struct SecondTranslation {
+    /// The output text; empty if there are faults.
+    SecondText output;
+    /// All files of the program, as the places of the output text number them.
+    std::vector<SourcePtr> sources;
+    SecondFaults faults;
+};
+
+/// Translates a source of the second edition and all that it imports into the output text.
+SecondTranslation translateSecondEdition(SourcePtr source, const FrontEndOptions& options);
+
+} // namespace pozhil

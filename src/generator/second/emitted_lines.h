@@ -1,0 +1,42 @@
+#pragma once
+
+#include "analysis/second/resolved/node.h"
+
+#include <string>
+#include <vector>
+
+namespace pozhil::resolved::writer {
+
+/// A part of the emitted text, line by line, each with the place of the source that it was written for.
+class EmittedLines {
+public:
+    /// A line of its own at the present level of indentation; empty ones stay empty.
+    void line(const std::string& text);
+    /// A line that opens a block, "if (…) {"; what follows stands one level deeper.
+    void open(const std::string& text);
+    /// Ends a block: "}" and what comes after it on the line.
+    void close(const std::string& after = "");
+    /// Ends a block and opens the next: "} else {".
+    void reopen(const std::string& text);
+    /// An empty line, unless nothing or another one stands before it.
+    void gap();
+    /// All lines of another part, at the margin.
+    void append(const EmittedLines& part);
+
+    /// What the following lines are written for.
+    void setPlace(const Place& place) { place_ = place; }
+    const Place& place() const { return place_; }
+
+    bool isEmpty() const { return origins_.empty(); }
+    const std::string& text() const { return text_; }
+    /// For each line.
+    const std::vector<Place>& origins() const { return origins_; }
+
+private:
+    std::string text_;
+    std::vector<Place> origins_;
+    Place place_;
+    std::size_t level_ = 0;
+};
+
+} // namespace pozhil::resolved::writer

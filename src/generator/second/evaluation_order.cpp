@@ -1,0 +1,150 @@
+#include "generator/second/evaluation_order.h"
+
+#include "generator/second/tree_walk.h"
+#include "generator/second/types.h"
+
+#include <algorithm>
+#include <string_view>
+#include <unordered_set>
+
+namespace pozhil::resolved::writer {
+namespace {
+
+/// Whether a function outside of the one that evaluates can read and write it.
+bool isSeenByOthers(const Variable& variable) {
+    return variable.owner == nullptr || variable.isShared;
+}
+
+/// Whether the built-in has to do with more than its arguments: input, files, the clock, the next random number.
+bool touchesTheWorld(const language::second::Builtin& builtin) {
+    constexpr std::string_view WORLDLY[] = {"readLine",   "writeFile",  "appendFile",       "readFile",
+                                            "fileExists", "removeFile", "randomNumber",     "now",
+                                            "dateText",   "clockText",  "dateAndClockText", "secondsSince1970"};
+    return std::find(std::begin(WORLDLY), std::end(WORLDLY), builtin.engineFunction) != std::end(WORLDLY);
+}
+
+/// Finds what evaluating an expression does to others, and what it takes from them.
+class Effects : public TreeWalk {
+public:
+    explicit Effects(const Expression& expression) { walk(&expression); }
+
+    /// It runs a function of the program, or does something outside.
+    bool runsCode() const { return runsCode_; }
+    /// It reads elements or members.
+    bool takesParts() const { return takesParts_; }
+    bool changesSomething() const { return runsCode_ || !written_.empty(); }
+    bool reads(const Variable& variable) const {
+        return read_.count(&variable) != 0 || (runsCode_ && isSeenByOthers(variable));
+    }
+    bool changes(const Variable& variable) const {
+        return written_.count(&variable) != 0 || (runsCode_ && isSeenByOthers(variable));
+    }
+
+protected:
+    void onVariableRead(const VariableRead& read) override { read_.insert(read.variable); }
+    void onWrite(const TargetPlace& target) override {
+        // What is written into an object can be seen through any variable.
+        const Variable* root = rootOf(target);
+        runsCode_ = runsCode_ || root == nullptr;
+        written_.insert(root);
+        read_.insert(root);
+    }
+    void onExpression(const Expression& expression) override {
+        takesParts_ = takesParts_ || dynamic_cast<const ElementRead*>(&expression) != nullptr ||
+                      dynamic_cast<const MemberRead*>(&expression) != nullptr;
+        if (const auto* builtin = dynamic_cast<const BuiltinCall*>(&expression)) {
+            runsCode_ = runsCode_ || touchesTheWorld(*builtin->builtin);
+        } else {
+            runsCode_ = runsCode_ || dynamic_cast<const FunctionCall*>(&expression) != nullptr ||
+                        dynamic_cast<const ValueCall*>(&expression) != nullptr ||
+                        dynamic_cast<const MethodCall*>(&expression) != nullptr ||
+                        dynamic_cast<const Construction*>(&expression) != nullptr;
+        }
+    }
+
+private:
+    bool runsCode_ = false;
+    bool takesParts_ = false;
+    std::unordered_set<const Variable*> read_;
+    std::unordered_set<const Variable*> written_;
+};
+
+/// Always the same, whatever happens before.
+bool isConstant(const Expression& expression) {
+    return dynamic_cast<const WholeLiteral*>(&expression) != nullptr ||
+           dynamic_cast<const TextLiteral*>(&expression) != nullptr ||
+           dynamic_cast<const DecimalLiteral*>(&expression) != nullptr ||
+           dynamic_cast<const TruthLiteral*>(&expression) != nullptr ||
+           dynamic_cast<const NothingLiteral*>(&expression) != nullptr;
+}
+
+/// The variable, if nothing but its value is read, which can't fail.
+const Variable* asPlainRead(const Expression& expression) {
+    const auto* read = dynamic_cast<const VariableRead*>(&expression);
+    return read != nullptr && !read->isChecked ? read->variable : nullptr;
+}
+
+} // namespace
+
+bool mustComeBefore(const Expression& earlier, const Expression& later) {
+    if (isConstant(earlier) || isConstant(later)) {
+        return false;
+    }
+    const Variable* earlierVariable = asPlainRead(earlier);
+    const Variable* laterVariable = asPlainRead(later);
+    if (earlierVariable != nullptr && laterVariable != nullptr) {
+        return false;
+    }
+    const Effects second(later);
+    if (earlierVariable != nullptr) {
+        return second.changes(*earlierVariable);
+    }
+    const Effects first(earlier);
+    if (laterVariable != nullptr) {
+        return first.changes(*laterVariable);
+    }
+    return first.changesSomething() || second.changesSomething();
+}
+
+bool mayChange(const Expression& expression, const Variable& variable) {
+    return Effects(expression).changes(variable);
+}
+
+bool mayRead(const Expression& expression, const Variable& variable) {
+    return Effects(expression).reads(variable);
+}
+
+bool mustComeBeforePlace(const Expression& value, const TargetPlace& target) {
+    const Variable* root = rootOf(target);
+    if (staysTheSame(value)) {
+        return false;
+    }
+    if (const Variable* variable = asPlainRead(value)) {
+        return variable == root;
+    }
+    const Effects effects(value);
+    return root == nullptr ? effects.changesSomething() || effects.takesParts()
+                           : effects.changes(*root) || effects.reads(*root);
+}
+
+bool mayChangeWhatHolds(const Expression& value, const TargetPlace& target) {
+    const Variable* root = rootOf(target);
+    const Effects effects(value);
+    return root == nullptr ? effects.changesSomething() : effects.changes(*root);
+}
+
+bool staysTheSame(const Expression& expression) {
+    const Variable* variable = asPlainRead(expression);
+    return isConstant(expression) ||
+           (variable != nullptr && variable->owner != nullptr && typeOf(*variable) != Type::Value);
+}
+
+const Variable* rootOf(const TargetPlace& target) {
+    switch (target.form) {
+    case TargetPlace::Form::Variable: return target.variable;
+    case TargetPlace::Form::Element: return rootOf(*target.container);
+    default: return nullptr;
+    }
+}
+
+} // namespace pozhil::resolved::writer

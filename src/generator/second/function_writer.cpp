@@ -1,0 +1,154 @@
+#include "generator/second/function_writer.h"
+
+#include "generator/second/literals.h"
+#include "generator/second/local_facts.h"
+#include "generator/second/statement_writer.h"
+
+namespace pozhil::resolved::writer {
+namespace {
+
+bool takesCaptures(const Function& function) {
+    return !function.captures.empty();
+}
+
+unsigned mutableMask(const Function& function) {
+    unsigned mask = 0;
+    for (std::size_t index = 0; index < function.parameters.size(); ++index) {
+        mask |= function.parameters[index].isMutable ? 1U << index : 0U;
+    }
+    return mask;
+}
+
+/// "Shared c_எ(first); Value& v_எ = c_எ.value();"
+std::string sharedVariable(const std::string& name, const std::string& first) {
+    const std::string cell = "c" + name.substr(1);
+    return "Shared " + cell + first + "; Value& " + name + " = " + cell + ".value();";
+}
+
+bool endsInReturn(const Block& body) {
+    return !body.statements.empty() && dynamic_cast<const Return*>(body.statements.back().get()) != nullptr;
+}
+
+} // namespace
+
+bool hasAdapter(const Function& function) {
+    return function.body != nullptr && (function.isValue || function.structure != nullptr ||
+                                        function.enclosing != nullptr || takesCaptures(function));
+}
+
+std::string FunctionWriter::shownName(const Function& function) {
+    return function.structure == nullptr ? function.name : function.structure->name + "." + function.name;
+}
+
+std::string FunctionWriter::parameterName(const Variable& variable) const {
+    const std::string& name = tables_.names.of(variable);
+    return variable.isShared ? "p" + name.substr(1) : name;
+}
+
+std::string FunctionWriter::parameterList(const Function& function) const {
+    std::string list = takesCaptures(function) ? "const Closure& own, " : "";
+    for (const Parameter& parameter : function.parameters) {
+        list += std::string(nameOf(typeOf(*parameter.variable))) + (parameter.isMutable ? "& " : " ") +
+                parameterName(*parameter.variable) + ", ";
+    }
+    return list + "Place at";
+}
+
+std::string FunctionWriter::head(const Function& function) const {
+    return "static " + std::string(nameOf(typeOf(function))) + " " + tables_.names.of(function) + "(" +
+           parameterList(function) + ")";
+}
+
+std::string FunctionWriter::adapterHead(const Function& function) const {
+    return "static Value " + tables_.names.of(function, "call_") + "(const Closure&" +
+           (takesCaptures(function) ? " own" : "") + ", Value*" + (function.parameters.empty() ? "" : " arguments") +
+           ", Place at)";
+}
+
+void FunctionWriter::declare(const Function& function, EmittedLines& lines) {
+    if (function.body == nullptr) {
+        return;
+    }
+    lines.setPlace(function.place);
+    lines.line(head(function) + ";");
+    if (hasAdapter(function)) {
+        lines.line(adapterHead(function) + ";");
+        lines.line("static const FunctionInfo " + tables_.names.of(function, "info_") + " = {" +
+                   textLiteral(shownName(function)) + ", " + tables_.names.of(function, "call_") + ", " +
+                   std::to_string(function.parameters.size()) + ", " + std::to_string(mutableMask(function)) + "};");
+    }
+}
+
+void FunctionWriter::define(const Function& function, EmittedLines& lines) {
+    if (function.body == nullptr) {
+        return;
+    }
+    lines.setPlace(function.place);
+    lines.line(lineComment(tables_.places.description(function.place)));
+    lines.open(head(function) + " {");
+    lines.line("Frame frame(" + textLiteral(shownName(function)) + ", at);");
+    declareVariables(function, lines);
+    CallScope scope{&function};
+    const LocalFacts facts(&function, *function.body);
+    for (const Variable* variable : facts.declaredFirst()) {
+        const std::string& name = tables_.names.of(*variable);
+        const Type type = typeOf(*variable);
+        if (variable->isShared) {
+            lines.line(sharedVariable(name, ""));
+        } else if (type == Type::Value) {
+            lines.line("Value " + name + (variable->mayBeUnset ? " = Value::unset();" : ";"));
+        } else {
+            lines.line(std::string(nameOf(type)) + " " + name + " = {};");
+        }
+    }
+    StatementWriter statements(tables_, scope, facts, lines);
+    for (const FunctionDefinition* definition : facts.definitions()) {
+        statements.define(*definition);
+    }
+    statements.write(*function.body);
+    if (!endsInReturn(*function.body) && typeOf(function) == Type::Value) {
+        lines.line("return Value();");
+    }
+    lines.close();
+    defineAdapter(function, lines);
+    lines.gap();
+}
+
+/// Captured variables, and parameters that others capture.
+void FunctionWriter::declareVariables(const Function& function, EmittedLines& lines) {
+    for (std::size_t index = 0; index < function.captures.size(); ++index) {
+        lines.line("Value& " + tables_.names.of(*function.captures[index]) + " = captured(own, " +
+                   std::to_string(index) + ")->value;");
+    }
+    for (const Parameter& parameter : function.parameters) {
+        if (parameter.variable->isShared) {
+            shareParameter(parameter, lines);
+        }
+    }
+}
+
+void FunctionWriter::shareParameter(const Parameter& parameter, EmittedLines& lines) {
+    const std::string& name = tables_.names.of(*parameter.variable);
+    const std::string given = parameterName(*parameter.variable);
+    lines.line(sharedVariable(name, "(" + given + ")"));
+    if (parameter.isMutable) {
+        lines.line("const CopyBack " + given + "_back(" + given + ", " + name + ");");
+    }
+}
+
+/// Takes the arguments out of an array, as the engine hands them over.
+void FunctionWriter::defineAdapter(const Function& function, EmittedLines& lines) {
+    if (!hasAdapter(function)) {
+        return;
+    }
+    std::string arguments = takesCaptures(function) ? "own, " : "";
+    for (std::size_t index = 0; index < function.parameters.size(); ++index) {
+        const std::string argument = "arguments[" + std::to_string(index) + "]";
+        arguments += converted(argument, Type::Value, typeOf(*function.parameters[index].variable)) + ", ";
+    }
+    lines.open(adapterHead(function) + " {");
+    lines.line("return " + tables_.names.of(function) + "(" + arguments + "at);");
+    lines.close();
+}
+
+} // namespace pozhil::resolved::writer

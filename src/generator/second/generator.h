@@ -1,0 +1,19 @@
+#pragma once
+
+#include "analysis/second/resolved/program.h"
+
+#include <string>
+#include <vector>
+
+namespace pozhil {
+
+/// The C++ text of a program of the second edition.
+struct SecondText {
+    std::string text;
+    /// For each line of the text, counted from 0, where in the source the statement stands that it was written for.
+    std::vector<resolved::Place> origins;
+};
+
+SecondText writeSecondEdition(const resolved::Program& program);
+
+} // namespace pozhil

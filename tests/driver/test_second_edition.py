@@ -1,0 +1,228 @@
+"""Programs that ask for the second edition: how they are built, what is told, and which status is left."""
+
+import re
+import signal
+import time
+from contextlib import contextmanager
+
+import pytest
+
+from support import texts as t
+from support.console import animation_line, behind_animation
+from support.second_box import split_boxes
+from support.toolchain import PROGRAM_OUTPUT
+
+SOURCE = "அ.பொழில்"
+MARKER = "ஃ பொழில் 2\n"
+HELLO = MARKER + 'அச்சிடு("வணக்கம்")\n'
+FAULTY = MARKER + "அச்சிடு(இல்லாதது)\nஅச்சிடு(அதுவும்)\n"
+ARCHIVE = "libpozhil_engine.a"
+A_WHILE = 0.8
+
+NO_WEB = "பிழை: வலைச் செயலிகளுக்கு இரண்டாம் பதிப்பு இன்னும் இல்லை!"
+OUR_FAULT = "பிழை: இது பொழிலின் தவறு, உன் நிரலின் தவறு அல்ல"
+NO_ARCHIVE = "கிடைக்கவில்லை! பொழிலை மீண்டும் நிறுவிக்கொள்."
+
+
+def shown(result, source=SOURCE):
+    return behind_animation(result.out, source)
+
+
+def numbers(output):
+    return [report.code for report in split_boxes(output)[1]]
+
+
+# Built and run.
+
+
+def test_program_of_the_real_toolchain_runs(real_place):
+    real_place.write(SOURCE, HELLO)
+    result = real_place.run(SOURCE)
+    assert (result.status, result.err, shown(result)) == (0, "", "வணக்கம்\n")
+
+
+def test_engine_is_linked_and_no_object_of_the_first_edition(installed_place, installation, tools):
+    installed_place.write(SOURCE, HELLO)
+    result = installed_place.run(SOURCE)
+    assert (result.status, result.err) == (0, "")
+    assert result.out.endswith(PROGRAM_OUTPUT)
+    (call,) = tools.calls()
+    assert str(installation.object.parent / ARCHIVE) in call
+    assert str(installation.object) not in call
+    assert "-static" in call
+    assert str(installed_place.emitted_path) in call
+
+
+def test_user_flags_are_added(place, tools):
+    place.write(SOURCE, HELLO)
+    place.env["POZHIL_CXXFLAGS"] = " -O2  -DPOZHIL_TRIAL "
+    place.run(SOURCE)
+    (call,) = tools.calls()
+    assert call[-2:] == ["-O2", "-DPOZHIL_TRIAL"]
+
+
+@pytest.mark.parametrize("lines, flag", [(40, "-O1"), (4000, "-Og"), (8000, "-O0")])
+def test_long_programs_are_optimised_less(place, tools, lines, flag):
+    place.write(SOURCE, MARKER + "அச்சிடு(1)\n" * lines)
+    place.run(SOURCE)
+    (call,) = tools.calls()
+    assert [word for word in call if word.startswith("-O")] == [flag]
+
+
+def test_without_the_marker_nothing_of_it_is_seen(place, tools):
+    place.write(SOURCE, 'அச்சிடு("வணக்கம்")\n' + MARKER.replace("2", "இரண்டு"))
+    place.run(SOURCE)
+    (call,) = tools.calls()
+    assert not [word for word in call if ARCHIVE in word]
+
+
+# Exit status.
+
+
+@pytest.mark.parametrize("status", [0, 1, 7, 255])
+def test_status_is_that_of_the_program(place, tools, status):
+    place.write(SOURCE, HELLO)
+    tools.links(f"exit {status}")
+    assert place.run(SOURCE).status == status
+
+
+@pytest.mark.parametrize("name", ["SEGV", "KILL", "TERM"])
+def test_a_signal_is_told_by_the_status(place, tools, name):
+    place.write(SOURCE, HELLO)
+    tools.links(f"kill -{name} $$")
+    assert place.run(SOURCE).status == 128 + getattr(signal, f"SIG{name}")
+
+
+def test_a_fault_of_the_running_program_is_status_1(real_place):
+    real_place.write(SOURCE, MARKER + 'அச்சிடு("முன்")\nப = []\nஅச்சிடு(ப[3])\n')
+    result = real_place.run(SOURCE)
+    before, boxes = split_boxes(shown(result))
+    assert (result.status, result.err, before) == (1, "", "முன்\n")
+    assert [(box.code, box.line) for box in boxes] == [("பொழி-642", 4)]
+
+
+# Faults of the source.
+
+
+def test_faults_are_boxes_and_nothing_is_built(place, tools):
+    place.write(SOURCE, FAULTY)
+    result = place.run(SOURCE)
+    before, boxes = split_boxes(result.out)
+    assert (result.status, result.err, before) == (1, "", "")
+    assert [box.line for box in boxes] == [2, 3]
+    assert tools.calls() == []
+
+
+def test_ten_faults_are_told(place):
+    place.write(SOURCE, MARKER + "".join(f"அச்சிடு(இல்லாதது{number})\n" for number in range(15)))
+    result = place.run(SOURCE)
+    assert [box.line for box in split_boxes(result.out)[1]] == list(range(2, 12))
+
+
+def test_a_number_that_no_edition_has(place, tools):
+    place.write(SOURCE, 'ஃ பொழில் 3\nஅச்சிடு("வணக்கம்")\n')
+    result = place.run(SOURCE)
+    assert (result.status, [box.line for box in split_boxes(result.out)[1]]) == (1, [1])
+    assert tools.calls() == []
+
+
+@pytest.mark.parametrize("arguments", [[SOURCE, t.FLAG_WEB], [t.FLAG_WEB, SOURCE]])
+def test_web_applications_are_refused(place, tools, arguments):
+    place.write(SOURCE, HELLO)
+    result = place.run(*arguments)
+    assert (result.status, result.out) == (1, "")
+    assert result.err.startswith(NO_WEB)
+    assert tools.calls() == [] == tools.calls("em++")
+
+
+# A toolchain that fails.
+
+
+def test_a_missing_archive_is_told(installed_place, installation, tools):
+    (installation.object.parent / ARCHIVE).unlink()
+    tools.fails()
+    installed_place.write(SOURCE, HELLO)
+    result = installed_place.run(SOURCE)
+    assert (result.status, shown(result)) == (1, "")
+    assert NO_ARCHIVE in result.err and ARCHIVE in result.err
+    assert OUR_FAULT not in result.err
+
+
+def test_a_missing_compiler_is_told(place, tools):
+    (tools.folder / "g++").unlink()
+    place.env["PATH"] = str(tools.folder)
+    place.write(SOURCE, HELLO)
+    result = place.run(SOURCE)
+    assert result.status == 1
+    assert "'g++' கிடைக்கவில்லை!" in result.err
+    assert OUR_FAULT not in result.err
+
+
+def refusal_of(place, tools, piece):
+    """What the compiler says if g++ refuses the line of the text that holds `piece`."""
+    place.write(SOURCE, MARKER + "அச்சிடு(1)\n\nஅச்சிடு(2)\n")
+    tools.fails(
+        f'line=$(/bin/grep -n -F "{piece}" .நிலையற்ற/generated.cpp | /usr/bin/cut -d: -f1); '
+        'echo "$1:$line:5: error: strange words" >&2'
+    )
+    return place.run(SOURCE)
+
+
+def test_what_gxx_refuses_is_our_fault_with_the_place_of_the_source(place, tools):
+    result = refusal_of(place, tools, "print({2LL})")
+    assert (result.status, shown(result)) == (1, "")
+    assert OUR_FAULT in result.err
+    assert f"{SOURCE}, வரி 4" in re.sub("\x1b\\[[0-9;]*m", "", result.err)
+    assert "அச்சிடு(2)" in result.err
+    assert "POZHIL_SHOW_CXX=1" in result.err
+    assert "strange words" not in result.err
+
+
+def test_the_words_of_gxx_are_shown_on_demand(place, tools):
+    place.env["POZHIL_SHOW_CXX"] = "1"
+    assert "strange words" in refusal_of(place, tools, "print({2LL})").err
+
+
+def test_the_program_before_is_not_run_after_a_refusal(place, tools):
+    place.write(SOURCE, HELLO)
+    place.run(SOURCE)
+    tools.fails()
+    result = place.run(SOURCE)
+    assert (result.status, shown(result)) == (1, "")
+
+
+# Watching.
+
+
+@contextmanager
+def watching(place):
+    place.write(SOURCE, HELLO)
+    with place.session(SOURCE, t.FLAG_WATCH) as session:
+        session.wait_for_output(animation_line(SOURCE))
+        time.sleep(A_WHILE)
+        yield session
+
+
+def test_a_change_is_built_and_run(place, tools):
+    with watching(place) as session:
+        assert tools.calls() == []
+        place.change(SOURCE, MARKER + "அச்சிடு(5)\n")
+        session.wait_for_output(t.CHANGE_NOTE)
+        session.wait_for_output(PROGRAM_OUTPUT)
+        assert "print({5LL});" in place.emitted
+
+
+def test_watching_goes_on_after_a_fault(place):
+    with watching(place) as session:
+        place.change(SOURCE, FAULTY)
+        session.wait_for_output("அச்சிடு(அதுவும்)")
+        place.change(SOURCE, HELLO)
+        session.wait_for_output(PROGRAM_OUTPUT)
+        assert session.process.poll() is None
+
+
+def test_a_source_that_loses_its_marker_is_told(place, tools):
+    with watching(place) as session:
+        place.change(SOURCE, "அச்சிடு(1)\n")
+        session.wait_for_errors("'ஃ பொழில் 2' இப்போது இல்லை!")
+        assert tools.calls() == []

@@ -1,0 +1,83 @@
+#include "support/second_writing.h"
+
+#include <gmock/gmock.h>
+
+namespace pozhil::test {
+namespace {
+
+using testing::HasSubstr;
+
+/// What "அச்சிடு(expression)" becomes after these statements, without print({…}).
+std::string printed(const std::string& before, const std::string& expression) {
+    const std::string all = WrittenProgram(before + "அச்சிடு(" + expression + ")\n").statements();
+    const std::string head = "print({";
+    const std::size_t begin = all.rfind(head);
+    return begin == std::string::npos ? all : all.substr(begin + head.size(), all.rfind("});") - begin - head.size());
+}
+
+TEST(SecondWriterExpressions, NumbersStayNativeWhereTheirKindIsCertain) {
+    EXPECT_EQ(printed("", "1 கூட்டு 2"), "add(1LL, 2LL, @)");
+    EXPECT_EQ(printed("", "1 வகு 2.5"), "divide(1LL, 2.5, @)");
+    EXPECT_EQ(printed("", "குறை 9223372036854775807"), "(-9223372036854775807LL)");
+}
+
+TEST(SecondWriterExpressions, TruthValuesAreNoNumbersOfCxx) {
+    // C++ would take a bool for a number.
+    EXPECT_EQ(printed("", "மெய் சமம் பொய்"), "equal(true, false)");
+    EXPECT_EQ(printed("", "1 சமம் மெய்"), "equal(1LL, Value(true))");
+}
+
+TEST(SecondWriterExpressions, ConditionsAreAskedForTheirTruth) {
+    EXPECT_EQ(printed("ப = [1]\n", "ப[0] மற்றும் மெய்"), "(truth(get(v_ப, 0LL, @), @) && true)");
+    EXPECT_EQ(printed("", "இல்லை மெய்"), "!true");
+}
+
+TEST(SecondWriterExpressions, IndicesOfOtherKindsThanWholeNumbersAreValues) {
+    // C++ would cut the fraction off.
+    EXPECT_EQ(printed("ப = [1]\n", "ப[0]"), "get(v_ப, 0LL, @)");
+    EXPECT_EQ(printed("ப = [1]\n", "ப[0.0]"), "get(v_ப, Value(0.0), @)");
+}
+
+TEST(SecondWriterExpressions, PiecesOfATextAreJoinedAtOnce) {
+    EXPECT_EQ(printed("", "\"அ\" இணை 1 இணை மெய்"), "join({texts[0], 1LL, true}, @)");
+    EXPECT_EQ(printed("", "1 இணை 2"), "join(1LL, 2LL, @)");
+}
+
+TEST(SecondWriterExpressions, MixedBranchesKeepTheirKinds) {
+    EXPECT_EQ(printed("", "மெய் ? 1 : 2.5"), "(true ? Value(1LL) : Value(2.5))");
+    EXPECT_EQ(printed("", "மெய் ? 1 : 2"), "(true ? 1LL : 2LL)");
+}
+
+// Order of evaluation. C++ leaves that of arguments open.
+
+constexpr const char* FUNCTION = "எண்ணி = 1\n"
+                                 "செயல் f():\n"
+                                 "    பொது எண்ணி\n"
+                                 "    எண்ணி கூட்டிசேர் 1\n"
+                                 "    திரும்பு எண்ணி\n";
+
+TEST(SecondWriterExpressions, CallsAreMadeFromLeftToRight) {
+    EXPECT_THAT(printed(FUNCTION, "f() கழி f()"), HasSubstr("({ const Whole t1 = f_f("));
+}
+
+TEST(SecondWriterExpressions, AVariableIsReadBeforeACallThatMayChangeIt) {
+    EXPECT_THAT(printed(FUNCTION, "எண்ணி கழி f()"), HasSubstr("({ const Whole t1 = v_எண்ணி; subtract(t1, f_f("));
+}
+
+TEST(SecondWriterExpressions, NothingIsHeldThatCannotChange) {
+    EXPECT_THAT(printed(FUNCTION, "f() கழி 1"), testing::StartsWith("subtract(f_f("));
+    EXPECT_THAT(printed(FUNCTION, "5 கழி f()"), testing::StartsWith("subtract(5LL, f_f("));
+    EXPECT_EQ(printed("அ = 1\nஆ = 2\n", "அ கழி ஆ"), "subtract(v_அ, v_ஆ, @)");
+}
+
+TEST(SecondWriterExpressions, BracesKeepTheOrderByThemselves) {
+    EXPECT_THAT(printed(FUNCTION, "[f(), f()]"), testing::StartsWith("list({f_f("));
+}
+
+TEST(SecondWriterExpressions, AnAssignmentWithinComesAfterWhatStandsBeforeIt) {
+    EXPECT_THAT(printed("அ = 1\n", "அ கூட்டு (அ = 5)"),
+                HasSubstr("({ const Whole t1 = v_அ; add(t1, (v_அ = 5LL, v_அ), "));
+}
+
+} // namespace
+} // namespace pozhil::test
