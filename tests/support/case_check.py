@@ -24,6 +24,11 @@ def check_case(case, compiler, **settings):
 
 def rewrite_case(case, compiler, **settings):
     """Runs the case and writes what came out over what is stated; lines of the other kinds stay."""
+    cf.write_expectation(case, observed_expectation(case, compiler, **settings))
+
+
+def observed_expectation(case, compiler, **settings):
+    """Runs the case; the expectation that holds of it, with its lines of kinds that don't simply come out."""
     stated = case.expectation
     only_emission = stated.entries and not stated.needs_program and not stated.diagnostic
     outcome = run_case(case, compiler, with_program=not only_emission, **settings)
@@ -38,9 +43,9 @@ def rewrite_case(case, compiler, **settings):
     typed = [entry for entry in stated.entries if entry[0] == cf.INPUT]
     observed += [(cf.HINT, hint) for hint in outcome.hints]
     kept = [entry for entry in stated.entries if entry[0] not in rewritten | {cf.INPUT, cf.HINT}]
-    if status != ("1" if outcome.diagnostic else "0") or not observed + kept:
+    if status != str(cf.Expectation(observed, stated.edition).status) or not observed + kept:
         observed.append((cf.STATUS, status))
-    cf.write_expectation(case, cf.Expectation(typed + observed + kept))
+    return cf.Expectation(typed + observed + kept, stated.edition)
 
 
 def own_part(emitted):
@@ -53,14 +58,14 @@ def own_part(emitted):
 def _stated(case):
     expectation = case.expectation
     entries = [(cf.OUTPUT, text) for text in expectation.texts(cf.OUTPUT)]
-    entries += [(cf.DIAGNOSTIC, str(place)) for place in [expectation.diagnostic] if place]
+    entries += [(cf.DIAGNOSTIC, str(place)) for place in expectation.diagnostics]
     entries += [(cf.RUNTIME, str(place)) for place in [expectation.runtime] if place]
     return [*entries, (cf.STATUS, str(expectation.status))]
 
 
 def _observed(case, outcome):
     entries = [(cf.OUTPUT, text) for text in outcome.output or []]
-    entries += [(cf.DIAGNOSTIC, _place(case, report)) for report in [outcome.diagnostic] if report]
+    entries += [(cf.DIAGNOSTIC, _place(case, report)) for report in outcome.diagnostics]
     entries += [(cf.RUNTIME, _place(case, report)) for report in [outcome.runtime] if report]
     return [*entries, (cf.STATUS, "timed out" if outcome.result.timed_out else str(outcome.result.status))]
 

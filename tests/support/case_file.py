@@ -48,33 +48,45 @@ class Place:
 
 @dataclass
 class Expectation:
-    """What must come out of a case; `entries` are the lines as written, (kind, text) each."""
+    """What must come out of a case; `entries` are the lines as written, (kind, text) each.
+
+    `edition` is that of the language in which the case is compiled.
+    """
 
     entries: list = field(default_factory=list)
+    edition: int = 1
 
     def texts(self, kind):
         return [text for entry, text in self.entries if entry == kind]
 
     @property
+    def diagnostics(self):
+        """In their order; the first edition tells one at most."""
+        return [_place(text) for text in self.texts(DIAGNOSTIC)]
+
+    @property
     def diagnostic(self):
-        return _place(self.texts(DIAGNOSTIC))
+        return next(iter(self.diagnostics), None)
 
     @property
     def runtime(self):
-        return _place(self.texts(RUNTIME))
+        return next((_place(text) for text in self.texts(RUNTIME)), None)
 
     @property
     def status(self):
-        """The exit status of the compiler: 1 with a diagnostic and 0 without, unless stated."""
+        """The exit status of the compiler, if it isn't stated: 1 with a diagnostic and 0 without.
+
+        In the second edition it is that of the program, hence 1 with its box too.
+        """
         stated = self.texts(STATUS)
         if stated:
             return int(stated[0])
-        return 1 if self.diagnostic else 0
+        return 1 if self.diagnostic or (self.edition > 1 and self.runtime) else 0
 
     @property
     def needs_program(self):
         """False when the answer is known before a C++ compiler is asked for."""
-        if self.status != 0:
+        if self.diagnostic or (self.edition == 1 and self.status != 0):
             return False
         told = {kind for kind, _ in self.entries}
         return not told & {EMITTED, NOT_EMITTED} or bool(told & {OUTPUT, RUNTIME, INPUT, ERROR_STREAM})
@@ -103,24 +115,28 @@ def read_case(path):
     sibling = path.with_name(path.stem + EXPECTATION_SUFFIX)
     if sibling.exists():
         return Case(path, source, parse_expectation(sibling.read_text(encoding="utf-8")), sibling)
-    _, block = _split_block(source)
+    _, block = split_block(source)
     return Case(path, source, parse_expectation(block.decode("utf-8")), None)
 
 
 def parse_expectation(block):
     """Reads expectation lines; raises `CaseError` with the number of a wrong line."""
-    entries = []
+    expectation = Expectation([(kind, text) for _, kind, text in marked_entries(block, (MARK,), KINDS)])
+    check_expectation(expectation)
+    return expectation
+
+
+def marked_entries(block, marks, kinds):
+    """Each line of `block` as (mark, kind, text)."""
     for number, line in enumerate(block.split("\n"), start=1):
         if not line.strip():
             continue
-        kind, colon, text = line.removeprefix(MARK).partition(":")
+        mark = next((mark for mark in marks if line.startswith(mark)), None)
+        kind, colon, text = line.removeprefix(mark or "").partition(":")
         kind = unicodedata.normalize("NFC", kind.strip())
-        if not line.startswith(MARK) or not colon or kind not in KINDS:
-            raise CaseError(f"expectation line {number} is none of {', '.join(KINDS)}: {line}")
-        entries.append((kind, text.removeprefix(" ")))
-    expectation = Expectation(entries)
-    _check(expectation)
-    return expectation
+        if not mark or not colon or kind not in kinds:
+            raise CaseError(f"expectation line {number} is none of {', '.join(kinds)}: {line}")
+        yield mark, kind, text.removeprefix(" ")
 
 
 def write_expectation(case, expectation):
@@ -129,38 +145,36 @@ def write_expectation(case, expectation):
     if case.sibling:
         case.sibling.write_bytes(block)
         return
-    program, _ = _split_block(case.source)
+    program, _ = split_block(case.source)
     if program and not program.endswith(b"\n"):
         program += b"\n"
     case.path.write_bytes(program + block)
 
 
-def format_entry(kind, text):
-    return f"{MARK} {kind}: {text}" if text else f"{MARK} {kind}:"
+def format_entry(kind, text, mark=MARK):
+    return f"{mark} {kind}: {text}" if text else f"{mark} {kind}:"
 
 
-def _split_block(source):
-    """The program and its expectation block; the block is empty when there is none."""
-    start = source.find(b"\n" + MARK.encode()) + 1
-    if start or source.startswith(MARK.encode()):
-        return source[:start], source[start:]
-    return source, b""
+def split_block(source, mark=MARK):
+    """The program and its expectation block, which begins with the expression `mark`; empty when there is none."""
+    found = re.search(b"^" + mark.encode(), source, re.MULTILINE)
+    start = found.start() if found else len(source)
+    return source[:start], source[start:]
 
 
-def _check(expectation):
-    _place(expectation.texts(DIAGNOSTIC))
-    _place(expectation.texts(RUNTIME))
+def check_expectation(expectation):
+    """Raises `CaseError` for lines that can't all hold, or aren't as lines of their kind are."""
+    for place in expectation.texts(DIAGNOSTIC) + expectation.texts(RUNTIME):
+        _place(place)
     for kind in (DIAGNOSTIC, RUNTIME, STATUS):
-        if len(expectation.texts(kind)) > 1:
+        if len(expectation.texts(kind)) > 1 and (kind != DIAGNOSTIC or expectation.edition == 1):
             raise CaseError(f"more than one line of {kind}")
     if any(not status.strip().isdecimal() for status in expectation.texts(STATUS)):
         raise CaseError(f"{STATUS} is a number")
 
 
-def _place(texts):
-    if not texts:
-        return None
-    found = _PLACE.fullmatch(texts[0].strip())
+def _place(text):
+    found = _PLACE.fullmatch(text.strip())
     if not found:
-        raise CaseError(f"not of the form 'பொழி-106 வரி 3': {texts[0]}")
+        raise CaseError(f"not of the form 'பொழி-106 வரி 3': {text}")
     return Place(found["code"], int(found["line"]), found["file"])

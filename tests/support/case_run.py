@@ -12,6 +12,7 @@ from support.box import Report, split_compiler_box, split_program_box
 from support.compiler import plain_environment
 from support.console import behind_animation, hint_lines
 from support.process import Result, Session, run
+from support.second_box import split_boxes
 from support.toolchain import Toolchain
 
 TIMEOUT = 60
@@ -27,10 +28,14 @@ class Outcome:
     result: Result
     emitted: str | None
     output: list[str] | None = None
-    diagnostic: Report | None = None
+    diagnostics: list[Report] = field(default_factory=list)
     runtime: Report | None = None
     hints: list[str] = field(default_factory=list)
     errors: str = ""
+
+    @property
+    def diagnostic(self):
+        return next(iter(self.diagnostics), None)
 
 
 def run_case(case, compiler, *, with_program, timeout=TIMEOUT):
@@ -78,12 +83,28 @@ def _outcome(case, result, emitted, with_program):
     outcome = Outcome(result, emitted)
     outcome.hints, outcome.errors = hint_lines(result.err, case.path.name)
     program_output = behind_animation(result.out, case.path.name)
+    split_compile_time, split_run_time = _BOX_READERS[case.expectation.edition]
     if program_output is None:
-        _, outcome.diagnostic = split_compiler_box(result.out)
+        _, outcome.diagnostics = split_compile_time(result.out)
     elif with_program:
-        program_output, outcome.runtime = split_program_box(program_output)
+        program_output, boxes = split_run_time(program_output)
+        outcome.runtime = next(iter(boxes), None)
         outcome.output = visible_lines(program_output)
     return outcome
+
+
+def _as_list(split):
+    """`split` with a list, of one box at most, in the place of a box or None."""
+
+    def split_off(output):
+        before, report = split(output)
+        return before, [report] if report else []
+
+    return split_off
+
+
+# By edition: what splits the boxes of the compiler, and that of a running program, off an output.
+_BOX_READERS = {1: (_as_list(split_compiler_box), _as_list(split_program_box)), 2: (split_boxes, split_boxes)}
 
 
 def visible_lines(text):

@@ -2,6 +2,9 @@
 """A compiler for the tests of the test runner. Its language has one command a line:
 
 print <text>, read, emit <text>, complain <text>, error <code> <line>, crash <code> <line>, hang, web.
+
+With the marker of the second edition `error` and `crash`, which then take a third word, its code there, have its boxes,
+and the exit status is that of the program.
 """
 
 import os
@@ -12,7 +15,7 @@ import time
 sys.path.insert(0, os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 
 from support import texts as t  # noqa: E402
-from support.catalogue import DESCRIPTIONS  # noqa: E402
+from support.catalogue import DESCRIPTIONS, SECOND_DESCRIPTIONS  # noqa: E402
 from support.console import animation_line, failed_build_line  # noqa: E402
 
 
@@ -38,14 +41,39 @@ def box(dim, behind_remedy, category, code, file, line, source):
     )
 
 
+def second_box(category, code, file, line, source):
+    inner_rule = f"{t.DIM}  {t.RULE}{t.RESET}\n"
+    return (
+        f"\n{t.RED}{t.RULE}{t.RESET}\n"
+        f"{t.BOX_TITLE}{t.GOLD}{code}{t.RESET}{t.BOX_TITLE_MIDDLE}{t.RED}{category}{t.RESET}\n"
+        f"{t.RED}{t.RULE}{t.RESET}\n"
+        f"  {t.BLUE}{t.BOX_FILE}{t.RESET}: {file}\n"
+        f"  {t.BLUE}{t.BOX_PLACE}{t.RESET}{t.BOX_LINE}{line}\n"
+        f"{inner_rule}"
+        f"{t.CYAN}{t.BOX_FOUND}{t.RESET}\n"
+        f"    {line:02} |  {source}\n"
+        f"       |  {t.GOLD}▲▲▲{t.RESET}\n"
+        f"{t.RED}       {t.SECOND_BOX_CORNER}{SECOND_DESCRIPTIONS[code]}{t.RESET}\n"
+        f"{inner_rule}"
+        f"{t.GREEN}{t.BOX_REMEDY}{t.RESET}\n"
+        f"     ...\n"
+        f"{inner_rule}\n"
+    )
+
+
 def main(path):
     with open(path, encoding="utf-8") as source:
-        commands = [line.rstrip("\n").split(" ", 1) for line in source if not line.startswith("ஃ")]
-    for command, *rest in commands:
-        if command == "error":
-            code, line = rest[0].split()
+        lines = source.read().splitlines()
+    second = lines[:1] == [t.SECOND_EDITION_MARKER]
+    commands = [line.split(" ", 1) for line in lines if not line.startswith("ஃ")]
+    errors = [rest[0].split() for command, *rest in commands if command == "error"]
+    for code, line, *second_code in errors if second else errors[:1]:
+        if second:
+            print(end=second_box(t.SCANNER_CATEGORY, t.CODE_PREFIX + second_code[0], path, int(line), "..."))
+        else:
             print(end=box(t.DIM, "", t.SCANNER_CATEGORY, t.CODE_PREFIX + code, path, int(line), "..."))
-            return 1
+    if errors:
+        return 1
     os.makedirs(t.WORK_DIRECTORY, exist_ok=True)
     web = ["web"] in commands
     name = t.EMITTED_WEB_NAME if web else t.EMITTED_NAME
@@ -60,11 +88,10 @@ def main(path):
     if subprocess.run(["g++", "--version"], stdout=subprocess.DEVNULL).returncode:
         print(end=failed_build_line(), file=sys.stderr)
         return 0
-    run(commands, path)
-    return 0
+    return run(commands, path, second)
 
 
-def run(commands, path):
+def run(commands, path, second):
     for command, *rest in commands:
         if command == "print":
             print(rest[0] if rest else "", flush=True)
@@ -77,9 +104,13 @@ def run(commands, path):
             print(f"child {child.pid}", file=sys.stderr, flush=True)
             child.wait()
         elif command == "crash":
-            code, line = rest[0].split()
+            code, line, *second_code = rest[0].split()
+            if second:
+                print(end=second_box(t.RUNTIME_CATEGORY, t.CODE_PREFIX + second_code[0], path, int(line), "..."))
+                return 1
             print(end=box(t.DIM_GREY, "\n", t.RUNTIME_CATEGORY, t.CODE_PREFIX + code, path, int(line), "..."))
-            return
+            return 0
+    return 0
 
 
 sys.exit(main(sys.argv[1]))

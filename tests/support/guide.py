@@ -6,6 +6,7 @@ from dataclasses import dataclass, field
 from pathlib import Path
 
 from support import case_file as cf
+from support import texts as t
 from support.compiler import REPOSITORY
 
 GUIDE = REPOSITORY / "docs" / "மொழி"
@@ -61,6 +62,11 @@ class Program:
     @property
     def place(self):
         return f"{self.fence.page.relative_to(REPOSITORY)}:{self.fence.line}"
+
+    @property
+    def edition(self):
+        """That of the language in which it is written."""
+        return 2 if self.fence.lines[:1] == [t.SECOND_EDITION_MARKER] else 1
 
 
 def pages():
@@ -123,7 +129,9 @@ def as_case(program, folder):
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_text(text, encoding="utf-8")
     block = "".join(cf.format_entry(*entry) + "\n" for entry in program.entries)
-    return cf.Case(folder / (name + cf.SOURCE_SUFFIX), program.fence.text.encode(), cf.parse_expectation(block), None)
+    expectation = cf.parse_expectation(block)
+    expectation.edition = program.edition
+    return cf.Case(folder / (name + cf.SOURCE_SUFFIX), program.fence.text.encode(), expectation, None)
 
 
 def words(page):

@@ -5,6 +5,7 @@ import re
 import shutil
 import subprocess
 import sys
+import time
 from pathlib import Path
 
 import pytest
@@ -84,6 +85,10 @@ def test_case_without_end_fails_and_leaves_nothing_running(write):
     trouble = check(write("hang", "ஃ> வெளியேற்றம்: 0"), timeout=1)
     assert "timed out" in trouble
     status = Path("/proc", re.search(r"child (\d+)", trouble)[1], "status")
+    # What is killed may take a moment to go.
+    end = time.monotonic() + 5
+    while status.exists() and "zombie" not in status.read_text() and time.monotonic() < end:
+        time.sleep(0.01)
     assert not status.exists() or "zombie" in status.read_text()
 
 
