@@ -10,8 +10,25 @@
 namespace pozhil::engine {
 
 /// A variable that functions share: it lives as long as one of them.
-struct Cell : Counted {
-    Value value = Value::unset();
+class Cell : public Counted {
+public:
+    Cell() = default;
+    explicit Cell(const Value& first) : own_(first) {}
+    /// The variable is \p place until it is detached from there.
+    explicit Cell(Value* place) : place_(place) {}
+    Cell(const Cell&) = delete;
+    Cell& operator=(const Cell&) = delete;
+
+    Value& value() { return *place_; }
+    /// From now on the variable is one of its own, with the value that the place has.
+    void detach() {
+        own_ = *place_;
+        place_ = &own_;
+    }
+
+private:
+    Value own_ = Value::unset();
+    Value* place_ = &own_;
 };
 
 /// Holds on to a shared variable.
@@ -24,24 +41,26 @@ public:
     Shared& operator=(const Shared&) = delete;
     ~Shared();
 
-    Value& value() const { return cell_->value; }
+    Value& value() const { return cell_->value(); }
     Cell* cell() const { return cell_; }
 
 private:
     Cell* cell_;
 };
 
-/// Brings a மாற்று parameter that functions share back to the place that the call gave for it, when the call ends.
-class CopyBack {
+/// A மாற்று parameter that functions share: as long as the call lasts they see the place that the call gave for it, and
+/// afterwards a variable of their own.
+class SharedPlace {
 public:
-    CopyBack(Value& place, const Value& shared) : place_(place), shared_(shared) {}
-    ~CopyBack() { place_ = shared_; }
-    CopyBack(const CopyBack&) = delete;
-    CopyBack& operator=(const CopyBack&) = delete;
+    explicit SharedPlace(Value& place);
+    SharedPlace(const SharedPlace&) = delete;
+    SharedPlace& operator=(const SharedPlace&) = delete;
+    ~SharedPlace();
+
+    Cell* cell() const { return cell_; }
 
 private:
-    Value& place_;
-    const Value& shared_;
+    Cell* cell_;
 };
 
 /// The code of a function that a value holds. What it leaves in the arguments of its மாற்று parameters is what the caller

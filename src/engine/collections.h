@@ -39,6 +39,11 @@ inline Value get(const Value& container, bool index, Place place) {
     return get(container, Value(index), place);
 }
 
+/// Whether it is a list or a map, which may hold other values.
+inline bool isContainer(const Value& value) {
+    return value.is(Tag::List) || value.is(Tag::Map);
+}
+
 /// The place of container[index] for writing into what it holds: it must be there.
 Value& element(Value& container, const Value& index, Place place);
 /// The same for assigning to it: a key of a map need not be there.

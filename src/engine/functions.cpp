@@ -64,11 +64,16 @@ Value callWithObject(const Closure& own, const FunctionInfo& info, const Value& 
 
 Shared::Shared() : cell_(new Cell) {}
 
-Shared::Shared(const Value& first) : cell_(new Cell) {
-    cell_->value = first;
-}
+Shared::Shared(const Value& first) : cell_(new Cell(first)) {}
 
 Shared::~Shared() {
+    release(cell_);
+}
+
+SharedPlace::SharedPlace(Value& place) : cell_(new Cell(&place)) {}
+
+SharedPlace::~SharedPlace() {
+    cell_->detach();
     release(cell_);
 }
 

@@ -1,3 +1,4 @@
+#include "engine/collections.h"
 #include "engine/library.h"
 #include "engine/list.h"
 #include "engine/map.h"
@@ -12,10 +13,6 @@ struct Open {
     const Value* container;
     std::size_t next;
 };
-
-bool isContainer(const Value& value) {
-    return value.is(Tag::List) || value.is(Tag::Map);
-}
 
 void appendSimple(std::string& out, const Value& value) {
     switch (value.tag()) {

@@ -19,7 +19,7 @@ constexpr FunctionInfo SUM = {"கூட்டல்", sumOf, 2, 0};
 
 /// Counts in the variable that it shares.
 Value countUp(const Closure& own, Value* /*none*/, Place place) {
-    Value& count = captured(own, 0)->value;
+    Value& count = captured(own, 0)->value();
     count = add(count, 1, place);
     return count;
 }
@@ -44,8 +44,8 @@ constexpr FunctionInfo SIX = {"ஆறு", sixOf, 6, 0};
 
 /// Gives the variable that holds it another value and goes on.
 Value dropItself(const Closure& own, Value* /*none*/, Place /*place*/) {
-    captured(own, 0)->value = Value();
-    return captured(own, 1)->value;
+    captured(own, 0)->value() = Value();
+    return captured(own, 1)->value();
 }
 constexpr FunctionInfo DROPS_ITSELF = {"மறைவு", dropItself, 0, 0};
 
@@ -122,6 +122,20 @@ TEST(Functions, LiveWhileTheyRun) {
     self.value() = function(DROPS_ITSELF, {self.cell(), other.cell()});
     EXPECT_EQ(form(call(self.value(), {}, HERE)), "நலம்");
     EXPECT_TRUE(self.value().is(Tag::Nothing));
+}
+
+TEST(Functions, SeeAPlaceThatIsLentToThemUntilTheCallEnds) {
+    Value place = 1;
+    Value counter;
+    {
+        const SharedPlace shared(place);
+        counter = function(COUNTER, {shared.cell()});
+        place = 5;
+        EXPECT_EQ(form(call(counter, {}, HERE)), "6");
+        EXPECT_EQ(form(place), "6");
+    }
+    EXPECT_EQ(form(call(counter, {}, HERE)), "7");
+    EXPECT_EQ(form(place), "6");
 }
 
 TEST(Functions, MethodsAreBoundToTheirObject) {

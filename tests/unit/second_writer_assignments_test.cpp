@@ -79,6 +79,22 @@ TEST(SecondWriterAssignments, AValueThatChangesThePlaceComesAfterWhatStoodThere)
     EXPECT_THAT(lastOf(source), HasSubstr("{ Value t1 = element(v_ப, 0LL, @); Value t2 = add(t1, "));
 }
 
+TEST(SecondWriterAssignments, APlaceIsFoundBeforeAValueThatMayFail) {
+    EXPECT_EQ(lastOf("ப = [1]\nஆ = [1]\nப[0] கூட்டிசேர் ஆ[0]\n"),
+              "{ Value& t1 = element(v_ப, 0LL, @); addTo(t1, get(v_ஆ, 0LL, @), @); }");
+    // What the value may hold is looked at when it is there.
+    EXPECT_EQ(lastOf("ப = [1, 2]\nப[0] கூட்டிசேர் ப[1]\n"),
+              "{ Value& t1 = element(v_ப, 0LL, @); Value t2 = get(v_ப, 1LL, @); "
+              "addTo(isContainer(t2) ? element(v_ப, 0LL, @) : t1, t2, @); }");
+    EXPECT_EQ(lastOf("ப = [1, 2]\nப[0] கூட்டிசேர் 1\n"), "addTo(element(v_ப, 0LL, @), 1LL, @);");
+}
+
+TEST(SecondWriterAssignments, AVariableWithoutAValueIsToldBeforeAValueThatMayFail) {
+    const std::string unset = "செயல் f(எ):\n    எனில் எ:\n        அ = 1\n    அ கூட்டிசேர் நிலை(எ)\n    திரும்பு அ\n"
+                              "செயல் நிலை(எ):\n    அச்சிடு(எ)\n    திரும்பு 2\nf(மெய்)\n";
+    EXPECT_THAT(WrittenProgram(unset).body("f_f"), HasSubstr("{ checked(v_அ, \"அ\", @); addTo(checked(v_அ, "));
+}
+
 TEST(SecondWriterAssignments, AListIsNotPutIntoItself) {
     // The reference to the place and the value would be the same block.
     EXPECT_THAT(lastOf("ப = [1]\nப[0] = ப\n"), testing::StartsWith("{ Value t1 = v_ப; slot(v_ப, "));

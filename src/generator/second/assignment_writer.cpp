@@ -2,6 +2,7 @@
 
 #include "generator/second/evaluation_order.h"
 #include "generator/second/operators.h"
+#include "generator/second/possible_faults.h"
 
 #include <algorithm>
 #include <vector>
@@ -167,6 +168,9 @@ std::string AssignmentWriter::compoundVariable(const Step& step) {
     const std::string target = operands_.place(step.target, 0);
     const std::string& name = writer_.nameOf(variable);
     const bool isChanged = mayChange(step.value, variable);
+    if (step.target.isChecked && !isChanged && leavesTraces(step.value)) {
+        operands_.before(target + ";");
+    }
     if (type == Type::Value && growsInPlace(step.op) && !isChanged) {
         const bool isAlias = isVariableItself(step.value) && mayRead(step.value, variable);
         const std::string text = writer_.write(step.value);
@@ -184,24 +188,40 @@ std::string AssignmentWriter::compoundVariable(const Step& step) {
     return name + " = " + (type == Type::Value ? result : converted(result, resultType, type));
 }
 
-/// a[i] கூட்டிசேர் b  ->  addTo(element(v_a, i, place), b, place)
+/// a[i] கூட்டிசேர் b  ->  addTo(element(v_a, i, place), b, place). A place that was found before the value can be written
+/// afterwards, unless the value is a list that holds it.
 std::string AssignmentWriter::compoundPlace(const Step& step, bool isNeededAgain) {
     if (mayChangeWhatHolds(step.value, step.target)) {
         return compoundChangedPlace(step);
     }
     const std::string place = writer_.placeOf(step.place);
-    operands_.addPlace(step.target, isNeededAgain);
+    const bool isLate = mustComeBeforePlace(step.value, step.target);
+    const bool isFoundFirst = leavesTraces(step.value);
+    const bool isLookedUpAgain = isLate && changesSomething(step.value);
+    operands_.addPlace(step.target, isNeededAgain || isFoundFirst);
+    std::string target;
+    if (isFoundFirst) {
+        target = operands_.placeFoundFirst(step.target, 0, isLookedUpAgain);
+    }
     const Wanted wanted = growsInPlace(step.op) ? Wanted::AsIs : Wanted::NumberOrValue;
-    const std::size_t number = operands_.add(step.value, wanted, mustComeBeforePlace(step.value, step.target));
+    const std::size_t number = operands_.add(step.value, wanted, isLate);
     operands_.evaluate();
-    const std::string target = operands_.place(step.target, 0);
+    if (!isFoundFirst) {
+        target = operands_.place(step.target, 0);
+    }
     const std::string& text = operands_.text(number);
     if (growsInPlace(step.op)) {
-        return std::string(growingFunction(step.op)) + "(" + target + ", " + text + ", " + place + ")";
+        const bool mayHoldPlace = isFoundFirst && isLate && !isLookedUpAgain && typeOf(step.value) == Type::Value;
+        return std::string(growingFunction(step.op)) + "(" +
+               (mayHoldPlace ? "isContainer(" + text + ") ? " + operands_.place(step.target, 0) + " : " : "") + target +
+               ", " + text + ", " + place + ")";
     }
-    const std::string reference = writer_.temporary();
-    operands_.before("Value& " + reference + " = " + target + ";");
-    return reference + " = " + operation(step.op, reference + ", " + text, place);
+    if (!isFoundFirst || isLookedUpAgain) {
+        const std::string reference = writer_.temporary();
+        operands_.before("Value& " + reference + " = " + target + ";");
+        target = reference;
+    }
+    return target + " = " + operation(step.op, target + ", " + text, place);
 }
 
 /// What stood in the place before the value was evaluated counts.
@@ -237,21 +257,10 @@ std::string AssignmentWriter::grow(const Step& step) {
     if (!isApart || (isSeveral && chain->op != BinaryOperator::Join && !isText)) {
         return {};
     }
-    operands_.addPlace(step.target);
-    const std::size_t first = operands_.count();
-    for (const Expression* piece : appended) {
-        operands_.add(*piece, Wanted::AsIs, isSeveral);
-    }
-    operands_.evaluate();
-    std::string name = isVariable ? writer_.write(*grown) : operands_.place(step.target, 0);
-    if (isSeveral && !isVariable) {
-        const std::string reference = writer_.temporary();
-        operands_.before("Value& " + reference + " = " + name + ";");
-        name = reference;
-    }
+    std::string name = growingPlace(step, *grown, appended);
     const std::string place = writer_.placeOf(chain->place);
     std::string last;
-    for (std::size_t number = first; number < operands_.count(); ++number) {
+    for (std::size_t number = operands_.count() - appended.size(); number < operands_.count(); ++number) {
         if (!last.empty()) {
             operands_.before(last + ";");
         }
@@ -265,6 +274,36 @@ std::string AssignmentWriter::grow(const Step& step) {
             .append(")");
     }
     return last;
+}
+
+/// Writes what is appended.
+/// \param grown the read of the place that the chain begins with
+/// \return what grows
+std::string AssignmentWriter::growingPlace(const Step& step, const Expression& grown,
+                                           const std::vector<const Expression*>& appended) {
+    const TargetPlace& target = step.target;
+    const bool isVariable = target.form == TargetPlace::Form::Variable;
+    const bool isSeveral = appended.size() > 1;
+    const bool isFoundFirst = mayFail(grown) && std::any_of(appended.begin(), appended.end(),
+                                                            [](const Expression* one) { return leavesTraces(*one); });
+    operands_.addPlace(target, isFoundFirst);
+    std::string place;
+    if (isFoundFirst && isVariable) {
+        operands_.before(writer_.write(grown) + ";");
+    } else if (isFoundFirst) {
+        place = operands_.placeFoundFirst(target, 0, false);
+    }
+    for (const Expression* piece : appended) {
+        operands_.add(*piece, Wanted::AsIs, isSeveral);
+    }
+    operands_.evaluate();
+    if (isVariable) {
+        return isFoundFirst ? writer_.nameOf(*target.variable) : writer_.write(grown);
+    }
+    if (!isFoundFirst) {
+        place = isSeveral ? operands_.placeFoundFirst(target, 0, false) : operands_.place(target, 0);
+    }
+    return place;
 }
 
 } // namespace pozhil::resolved::writer

@@ -3,6 +3,7 @@
 #include "generator/second/expression_writer.h"
 
 #include <string>
+#include <vector>
 
 namespace pozhil::resolved::writer {
 
@@ -35,6 +36,7 @@ private:
     std::string compoundChangedPlace(const Step& step);
     /// x = x கூட்டு a as a growth of x, a variable or another place; empty if it is none.
     std::string grow(const Step& step);
+    std::string growingPlace(const Step& step, const Expression& grown, const std::vector<const Expression*>& appended);
 
     ExpressionWriter& writer_;
     Operands operands_;

@@ -20,33 +20,40 @@ public:
     std::string write(const BuiltinCall& call);
 
 private:
-    /// A place that gets its value back after the call.
-    struct Returned {
-        const TargetPlace* target;
-        /// Its first operand.
+    /// An argument as the call is given it.
+    struct Given {
+        /// Number of its first operand.
         std::size_t operand;
-        /// What holds the value meanwhile.
-        std::string holder;
-        /// Index of the argument.
-        std::size_t argument;
+        std::string text;
     };
 
     /// f(arguments, place) of a function that is known.
     /// \param skipped how many of its parameters come from elsewhere
     std::string knownCall(const std::string& name, const Function* function, std::size_t skipped,
                           const Arguments& arguments, Type result, const Place& place);
-    /// The arguments as an array of its own, for a function that says only when it is called which of them are places.
+    /// Evaluates the arguments of a function that is known, one after the other.
+    std::vector<Given> giveTo(const std::vector<Parameter>& parameters, const Arguments& arguments);
+    /// What a மாற்று parameter refers to: the variable, or a copy of what another place holds.
+    std::string reference(const Argument& argument);
+    /// An argument for a parameter that isn't மாற்று, which takes it away where nobody needs it any more.
+    std::string givenText(const Expression& argument, std::size_t number, Type parameter) const;
+    /// Evaluates the arguments of a call that says only when it is made which of them are places.
+    std::vector<Given> give(const Arguments& arguments);
+    static std::string listed(const std::vector<Given>& given);
+    /// The arguments as an array of its own, where some may get values back.
     /// \return the name of the array
-    std::string argumentArray(const Arguments& arguments, std::size_t first);
+    std::string argumentArray(const std::vector<Given>& given);
     /// The call of what \p callText is, with what came out of its arguments written back.
-    std::string callWithPlaces(const Arguments& arguments, const std::string& array, const std::string& callText,
-                               const std::string& maskText);
+    std::string callWithPlaces(const Arguments& arguments, const std::vector<Given>& given, const std::string& array,
+                               const std::string& callText, const std::string& maskText);
     /// The object of a method is a place: what it holds may be written.
     std::string methodOfPlace(const MethodCall& call);
     std::string methodOfValue(const MethodCall& call);
-    /// place = holder
-    std::string giveBack(const Returned& returned) const;
-    void addArguments(const Arguments& arguments);
+    std::string writingBuiltin(const BuiltinCall& call);
+    /// The call of a built-in's function in the engine.
+    std::string engineCall(const BuiltinCall& call, const std::string& arguments) const;
+    /// place = holder;
+    std::string giveBack(const TargetPlace& target, std::size_t operand, const std::string& holder) const;
 
     ExpressionWriter& writer_;
     Operands operands_;

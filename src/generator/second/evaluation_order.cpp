@@ -1,5 +1,6 @@
 #include "generator/second/evaluation_order.h"
 
+#include "generator/second/possible_faults.h"
 #include "generator/second/tree_walk.h"
 #include "generator/second/types.h"
 
@@ -95,15 +96,21 @@ bool mustComeBefore(const Expression& earlier, const Expression& later) {
     if (earlierVariable != nullptr && laterVariable != nullptr) {
         return false;
     }
-    const Effects second(later);
     if (earlierVariable != nullptr) {
-        return second.changes(*earlierVariable);
+        return mayChange(later, *earlierVariable);
     }
-    const Effects first(earlier);
     if (laterVariable != nullptr) {
-        return first.changes(*laterVariable);
+        return mayChange(earlier, *laterVariable);
     }
-    return first.changesSomething() || second.changesSomething();
+    return (mayFail(later) && mayFail(earlier)) || changesSomething(later) || changesSomething(earlier);
+}
+
+bool changesSomething(const Expression& expression) {
+    return Effects(expression).changesSomething();
+}
+
+bool leavesTraces(const Expression& expression) {
+    return mayFail(expression) || changesSomething(expression);
 }
 
 bool mayChange(const Expression& expression, const Variable& variable) {
@@ -131,6 +138,10 @@ bool mayChangeWhatHolds(const Expression& value, const TargetPlace& target) {
     const Variable* root = rootOf(target);
     const Effects effects(value);
     return root == nullptr ? effects.changesSomething() : effects.changes(*root);
+}
+
+bool mayBeMissing(const TargetPlace& target) {
+    return target.form != TargetPlace::Form::Variable || target.isChecked;
 }
 
 bool staysTheSame(const Expression& expression) {

@@ -5,11 +5,18 @@
 namespace pozhil::resolved::writer {
 
 /// Whether it matters that \p earlier is evaluated before \p later, because one of them changes what the other one reads or
-/// does. C++ leaves the order of operands open. Of two operands that do nothing but fail either may fail first.
+/// does, or because both may fail and the first fault is the one that is told. C++ leaves the order of operands open.
 bool mustComeBefore(const Expression& earlier, const Expression& later);
 
 /// Whether evaluating \p expression may change what \p variable holds.
 bool mayChange(const Expression& expression, const Variable& variable);
+
+/// Whether evaluating \p expression does more than read.
+bool changesSomething(const Expression& expression);
+
+/// Whether it shows that \p expression has been evaluated: it may fail, or it changes something. A fault that comes before it
+/// must be found out before.
+bool leavesTraces(const Expression& expression);
 
 /// Whether \p expression reads \p variable, itself or in a function that it calls.
 bool mayRead(const Expression& expression, const Variable& variable);
@@ -21,6 +28,9 @@ bool mustComeBeforePlace(const Expression& value, const TargetPlace& target);
 
 /// Whether evaluating \p value may change what \p target stands in.
 bool mayChangeWhatHolds(const Expression& value, const TargetPlace& target);
+
+/// Whether looking up what \p target holds may fail.
+bool mayBeMissing(const TargetPlace& target);
 
 /// Whether an expression can be written again later and still gives the same: literals, and native variables of the call,
 /// which nobody else writes while one expression is evaluated.

@@ -1,5 +1,6 @@
 #include "generator/second/function_writer.h"
 
+#include "generator/second/last_uses.h"
 #include "generator/second/literals.h"
 #include "generator/second/local_facts.h"
 #include "generator/second/statement_writer.h"
@@ -19,9 +20,14 @@ unsigned mutableMask(const Function& function) {
     return mask;
 }
 
+/// What holds on to the variable, where functions share it: "c_எ" for "v_எ".
+std::string cellName(const std::string& variable) {
+    return "c" + variable.substr(1);
+}
+
 /// "Shared c_எ(first); Value& v_எ = c_எ.value();"
 std::string sharedVariable(const std::string& name, const std::string& first) {
-    const std::string cell = "c" + name.substr(1);
+    const std::string cell = cellName(name);
     return "Shared " + cell + first + "; Value& " + name + " = " + cell + ".value();";
 }
 
@@ -40,16 +46,16 @@ std::string FunctionWriter::shownName(const Function& function) {
     return function.structure == nullptr ? function.name : function.structure->name + "." + function.name;
 }
 
-std::string FunctionWriter::parameterName(const Variable& variable) const {
-    const std::string& name = tables_.names.of(variable);
-    return variable.isShared ? "p" + name.substr(1) : name;
+std::string FunctionWriter::parameterName(const Parameter& parameter) const {
+    const std::string& name = tables_.names.of(*parameter.variable);
+    return parameter.variable->isShared && !parameter.isMutable ? "p" + name.substr(1) : name;
 }
 
 std::string FunctionWriter::parameterList(const Function& function) const {
     std::string list = takesCaptures(function) ? "const Closure& own, " : "";
     for (const Parameter& parameter : function.parameters) {
         list += std::string(nameOf(typeOf(*parameter.variable))) + (parameter.isMutable ? "& " : " ") +
-                parameterName(*parameter.variable) + ", ";
+                parameterName(parameter) + ", ";
     }
     return list + "Place at";
 }
@@ -88,7 +94,7 @@ void FunctionWriter::define(const Function& function, EmittedLines& lines) {
     lines.open(head(function) + " {");
     lines.line("Frame frame(" + textLiteral(shownName(function)) + ", at);");
     declareVariables(function, lines);
-    CallScope scope{&function};
+    CallScope scope{&function, 0, lastUses(function)};
     const LocalFacts facts(&function, *function.body);
     for (const Variable* variable : facts.declaredFirst()) {
         const std::string& name = tables_.names.of(*variable);
@@ -118,7 +124,7 @@ void FunctionWriter::define(const Function& function, EmittedLines& lines) {
 void FunctionWriter::declareVariables(const Function& function, EmittedLines& lines) {
     for (std::size_t index = 0; index < function.captures.size(); ++index) {
         lines.line("Value& " + tables_.names.of(*function.captures[index]) + " = captured(own, " +
-                   std::to_string(index) + ")->value;");
+                   std::to_string(index) + ")->value();");
     }
     for (const Parameter& parameter : function.parameters) {
         if (parameter.variable->isShared) {
@@ -129,11 +135,8 @@ void FunctionWriter::declareVariables(const Function& function, EmittedLines& li
 
 void FunctionWriter::shareParameter(const Parameter& parameter, EmittedLines& lines) {
     const std::string& name = tables_.names.of(*parameter.variable);
-    const std::string given = parameterName(*parameter.variable);
-    lines.line(sharedVariable(name, "(" + given + ")"));
-    if (parameter.isMutable) {
-        lines.line("const CopyBack " + given + "_back(" + given + ", " + name + ");");
-    }
+    lines.line(parameter.isMutable ? "const SharedPlace " + cellName(name) + "(" + name + ");"
+                                   : sharedVariable(name, "(" + parameterName(parameter) + ")"));
 }
 
 /// Takes the arguments out of an array, as the engine hands them over.

@@ -23,8 +23,8 @@ public:
 private:
     /// "Value v_a, Value& v_b, Place at"
     std::string parameterList(const Function& function) const;
-    /// What the C++ parameter is called: as the variable, unless functions share that.
-    std::string parameterName(const Variable& variable) const;
+    /// What the C++ parameter is called: as the variable, unless that gets a cell that functions share.
+    std::string parameterName(const Parameter& parameter) const;
     std::string head(const Function& function) const;
     std::string adapterHead(const Function& function) const;
     void defineAdapter(const Function& function, EmittedLines& lines);

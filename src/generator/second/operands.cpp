@@ -44,10 +44,10 @@ bool Operands::needsTemporary(std::size_t number) const {
 }
 
 void Operands::evaluate() {
-    for (std::size_t number = 0; number < operands_.size(); ++number) {
-        Operand& operand = operands_[number];
+    for (; evaluated_ < operands_.size(); ++evaluated_) {
+        Operand& operand = operands_[evaluated_];
         operand.text = writer_.write(*operand.expression, operand.wanted);
-        if (needsTemporary(number)) {
+        if (needsTemporary(evaluated_)) {
             const std::string name = writer_.temporary();
             const Type type = writer_.typeWanted(*operand.expression, operand.wanted);
             operand.isValueTemporary = type == Type::Value;
@@ -75,16 +75,47 @@ std::string Operands::place(const TargetPlace& target, std::size_t first, bool i
     return placeFrom(target, first, isNew, !isNew);
 }
 
+std::string Operands::placeFoundFirst(const TargetPlace& target, std::size_t first, bool isLookedUpAgain) {
+    evaluate();
+    std::string found = place(target, first);
+    if (isLookedUpAgain) {
+        before(found + ";");
+        return found;
+    }
+    std::string reference = writer_.temporary();
+    before("Value& " + reference + " = " + found + ";");
+    return reference;
+}
+
+std::string Operands::valueOf(const TargetPlace& target, std::size_t first) const {
+    return valueFrom(target, first);
+}
+
+std::string Operands::variable(const TargetPlace& target, bool isRead) const {
+    const std::string& name = writer_.nameOf(*target.variable);
+    return isRead && target.isChecked ? "checked(" + name + ", " + textLiteral(target.variable->name) + ", " +
+                                            writer_.placeOf(target.place) + ")"
+                                      : name;
+}
+
+std::string Operands::valueFrom(const TargetPlace& target, std::size_t& next) const {
+    if (target.form == TargetPlace::Form::Variable) {
+        return variable(target, true);
+    }
+    const bool isElement = target.form == TargetPlace::Form::Element;
+    const std::string holder = isElement ? valueFrom(*target.container, next) : "";
+    const std::string& operand = operands_[next++].text;
+    if (isElement) {
+        return "get(" + holder + ", " + operand + ", " + writer_.placeOf(target.place) + ")";
+    }
+    return "member(" + operand + ", " + writer_.memberArguments(target.member, target.place, target.inside) + ")";
+}
+
 /// \param isRead what the place holds is read, so it must hold something
 std::string Operands::placeFrom(const TargetPlace& target, std::size_t& next, bool isNew, bool isRead) const {
     const std::string place = writer_.placeOf(target.place);
     switch (target.form) {
-    case TargetPlace::Form::Variable: {
-        const std::string name = writer_.nameOf(*target.variable);
-        return isRead && target.isChecked
-                   ? "checked(" + name + ", " + textLiteral(target.variable->name) + ", " + place + ")"
-                   : name;
-    }
+    case TargetPlace::Form::Variable: return variable(target, isRead);
     case TargetPlace::Form::Element: {
         const std::string container = placeFrom(*target.container, next, false, true);
         const std::string& index = operands_[next++].text;

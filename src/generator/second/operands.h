@@ -39,7 +39,8 @@ public:
     void addPlace(const TargetPlace& target, bool isKept = false) { addPlaceWithin(target, target, isKept); }
     /// From the next operand on they stand between braces, where C++ keeps the order.
     void beginBraces() { bracesFrom_ = operands_.size(); }
-    /// Ends what addPlace and add have collected: writes them.
+    /// Writes what addPlace and add have collected since the last time. What is added afterwards may come before operands
+    /// that aren't kept.
     void evaluate();
 
     const std::string& text(std::size_t number) const { return operands_[number].text; }
@@ -55,6 +56,13 @@ public:
     /// The place as a reference to what it holds; \p isNew for one that is assigned to, whose key needs not be there.
     /// Its operands are those from number \p first on.
     std::string place(const TargetPlace& target, std::size_t first, bool isNew = false) const;
+
+    /// The same, looked up before the operands that are still to come, so that what isn't there is told before they are
+    /// evaluated. The place's operands are kept.
+    /// \param isLookedUpAgain they might change where the place is, so that it must be looked up once more after them
+    std::string placeFoundFirst(const TargetPlace& target, std::size_t first, bool isLookedUpAgain);
+    /// What the place holds, as a value.
+    std::string valueOf(const TargetPlace& target, std::size_t first) const;
 
     /// The operation with what has to stand before it, as an expression.
     std::string whole(const std::string& operation) const;
@@ -72,10 +80,13 @@ private:
 
     void addPlaceWithin(const TargetPlace& target, const TargetPlace& whole, bool isKept);
     std::string placeFrom(const TargetPlace& target, std::size_t& next, bool isNew, bool isRead) const;
+    std::string valueFrom(const TargetPlace& target, std::size_t& next) const;
+    std::string variable(const TargetPlace& target, bool isRead) const;
     bool needsTemporary(std::size_t number) const;
 
     ExpressionWriter& writer_;
     std::vector<Operand> operands_;
+    std::size_t evaluated_ = 0;
     std::size_t bracesFrom_ = static_cast<std::size_t>(-1);
     std::string before_;
 };

@@ -7,6 +7,7 @@
 
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace pozhil::resolved::writer {
@@ -46,6 +47,8 @@ struct CallScope {
     /// Null for the statements of a file.
     const Function* function = nullptr;
     int temporaries = 0;
+    /// Reads that can take away what the variable holds.
+    std::unordered_set<const VariableRead*> lastUses{};
 
     /// The name of a new local variable that no name of the program is like.
     std::string temporary(const std::string& prefix = "t") { return prefix + std::to_string(++temporaries); }
