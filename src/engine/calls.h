@@ -129,9 +129,6 @@ struct Structure {
 /// A new object, the fields of all its parents and its own initialised, before துவக்கம்.
 Value create(Structure& structure, Place place);
 
-/// object(arguments of துவக்கம்): creates the object and calls the துவக்கம் that it has, of its own or of a parent.
-Value construct(Structure& structure, std::initializer_list<Value> arguments, Place place);
-
 /// object.name, read: a field, a method bound to its object, or a part of a value that is no object.
 /// \param inside the structure in whose method this stands; null outside
 Value member(const Value& object, Member name, Place place, const Structure* inside = nullptr);

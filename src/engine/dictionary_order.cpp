@@ -10,8 +10,8 @@
 namespace pozhil::engine {
 namespace {
 
-/// க்ஷ counts as a consonant of its own; it has the place of an unassigned code point.
-constexpr char32_t KSSA = 0x0B96;
+/// க்ஷ counts as a consonant of its own. It comes after the block's code points, as if it were one more.
+constexpr char32_t KSSA = TAMIL_END;
 constexpr char32_t KA = 0x0B95;
 constexpr char32_t SSA = 0x0BB7;
 
@@ -25,20 +25,22 @@ constexpr char32_t ORDER[] = {
     U'ஜ', U'ஶ', U'ஷ', U'ஸ', U'ஹ', KSSA,
 };
 /// What a consonant stands with: pulli, nothing, or a sign.
+constexpr char32_t NO_SIGN = 0;
 constexpr char32_t VOWELS[] = {
-    PULLI, 0, U'ா', U'ி', U'ீ', U'ு', U'ூ', U'ெ', U'ே', U'ை', U'ொ', U'ோ', U'ௌ',
+    PULLI, NO_SIGN, U'ா', U'ி', U'ீ', U'ு', U'ூ', U'ெ', U'ே', U'ை', U'ொ', U'ோ', U'ௌ',
 };
 // clang-format on
 
 constexpr std::uint32_t TAMIL_COUNT = TAMIL_END - TAMIL_BEGIN;
+constexpr std::uint32_t LETTER_COUNT = TAMIL_COUNT + 1;
 
-/// By code point, without the begin of the block.
+/// By code point, without the begin of the block. No two texts weigh the same, whatever they hold: maps find keys by it.
 struct Ranks {
-    std::uint32_t ofLetter[TAMIL_COUNT] = {};
-    /// 0 for what is no vowel sign; that of no sign is under NO_SIGN.
+    std::uint32_t ofLetter[LETTER_COUNT] = {};
+    /// 0 for what is no vowel sign.
     std::uint32_t ofSign[TAMIL_COUNT] = {};
+    std::uint32_t ofNoSign = 0;
 };
-constexpr std::uint32_t NO_SIGN = 0;
 
 constexpr Ranks makeRanks() {
     Ranks ranks{};
@@ -51,16 +53,21 @@ constexpr Ranks makeRanks() {
     }
     rank = 0;
     for (const char32_t sign : VOWELS) {
-        ranks.ofSign[sign == 0 ? NO_SIGN : sign - TAMIL_BEGIN] = ++rank;
+        (sign == NO_SIGN ? ranks.ofNoSign : ranks.ofSign[sign - TAMIL_BEGIN]) = ++rank;
     }
     return ranks;
 }
 
 constexpr Ranks RANKS = makeRanks();
 
-/// The place that a code point of Tamil has in the order of all code points.
+/// The place that a code point of Tamil, or KSSA, has in the order of all code points.
+char32_t placeOfTamil(char32_t letter) {
+    return TAMIL_BEGIN + RANKS.ofLetter[letter - TAMIL_BEGIN] - 1;
+}
+
+/// The same of any code point. KSSA takes one place more than the block has.
 char32_t placeOf(char32_t codePoint) {
-    return TAMIL_BEGIN + RANKS.ofLetter[codePoint - TAMIL_BEGIN] - 1;
+    return isTamil(codePoint) ? placeOfTamil(codePoint) : codePoint < TAMIL_BEGIN ? codePoint : codePoint + 1;
 }
 
 /// What is compared at once: a letter with the sign that it stands with.
@@ -91,11 +98,11 @@ Unit consonantAt(std::string_view text, std::size_t position) {
     const char32_t next = codePointOrEnd(text, end).value;
     std::uint32_t sign = isTamil(next) ? RANKS.ofSign[next - TAMIL_BEGIN] : 0;
     if (sign == 0) {
-        sign = RANKS.ofSign[NO_SIGN];
+        sign = RANKS.ofNoSign;
     } else {
         end += TAMIL_SIZE;
     }
-    return {placeOf(consonant) << 8 | sign, end};
+    return {placeOfTamil(consonant) << 8 | sign, end};
 }
 
 Unit unitAt(std::string_view text, std::size_t position) {
@@ -103,8 +110,7 @@ Unit unitAt(std::string_view text, std::size_t position) {
     if (isConsonant(first.value)) {
         return consonantAt(text, position);
     }
-    const char32_t place = isTamil(first.value) ? placeOf(first.value) : first.value;
-    return {static_cast<std::uint32_t>(place) << 8, position + first.size};
+    return {static_cast<std::uint32_t>(placeOf(first.value)) << 8, position + first.size};
 }
 
 /// A place from which on the texts are to be compared: before it they are the same, unit for unit.

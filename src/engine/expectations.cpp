@@ -25,6 +25,9 @@ Whole wholeOf(const Value& value, Place place) {
         raise(NO_WHOLE, place, {kindWord(value)});
     }
     const Decimal decimal = value.decimal();
+    if (std::isnan(decimal)) {
+        raise(NO_WHOLE, place, {textForm(value)});
+    }
     if (decimal != std::trunc(decimal)) {
         raise(HAS_FRACTION, place, {textForm(value)});
     }

@@ -85,13 +85,13 @@ Value number(const Value& value, Place place) {
         errno = 0;
         const Whole whole = std::strtoll(digits.c_str(), nullptr, 10);
         if (errno == ERANGE) {
-            raise(NUMBER_TEXT_TOO_LARGE, place, {shortened(textOf(value))});
+            raise(WHOLE_TEXT_TOO_LARGE, place, {shortened(textOf(value))});
         }
         return whole;
     }
     const Decimal decimal = std::strtod(digits.c_str(), nullptr);
     if (std::isinf(decimal)) {
-        raise(NUMBER_TEXT_TOO_LARGE, place, {shortened(textOf(value))});
+        raise(DECIMAL_TEXT_TOO_LARGE, place, {shortened(textOf(value))});
     }
     return decimal;
 }

@@ -11,7 +11,7 @@ namespace pozhil::engine {
 struct MemberSlot {
     /// Index among the fields of an object; negative for a method, and for a name that means nothing.
     int field = -1;
-    /// Null for a field, and for a method without a body.
+    /// Null for a field, and for a name that means nothing.
     const FunctionInfo* method = nullptr;
     /// The structure that declares it; null for a name that means nothing.
     const Structure* owner = nullptr;
@@ -24,8 +24,6 @@ struct Structure::Table {
     /// Of every member of the program, by its number.
     std::vector<MemberSlot> slots;
     int fieldCount = 0;
-    /// துவக்கம், null if there is none.
-    const FunctionInfo* constructor = nullptr;
 };
 
 /// The block of a value with Tag::Object. Its fields lie right after it.

@@ -43,14 +43,6 @@ const Value& checkedField(Object& object, const MemberSlot& slot, Member name, P
     return value;
 }
 
-/// The code of a method; one without a body is an abstract one that no child has written.
-const FunctionInfo& codeOf(const MemberSlot& slot, Member name, Place place) {
-    if (slot.method == nullptr) {
-        raise(METHOD_WITHOUT_BODY, place, {slot.owner->name, memberName(name)});
-    }
-    return *slot.method;
-}
-
 Value callBuiltin(Value& value, Member name, Value* arguments, int count, Place place) {
     const BuiltinMember* const member = findBuiltinMember(value, name);
     if (member == nullptr) {
@@ -78,22 +70,11 @@ Value create(Structure& structure, Place place) {
     return object;
 }
 
-Value construct(Structure& structure, std::initializer_list<Value> arguments, Place place) {
-    ArgumentCopies copies(arguments);
-    Value object = create(structure, place);
-    if (const FunctionInfo* const constructor = structure.table->constructor) {
-        callBound(*constructor, object, copies.data(), copies.count(), place);
-    } else if (copies.count() > 0) {
-        raise(WRONG_COUNT, place, {structure.name, "0", std::to_string(copies.count())});
-    }
-    return object;
-}
-
 Value member(const Value& object, Member name, Place place, const Structure* inside) {
     if (object.is(Tag::Object)) {
         Object& block = objectBlock(object);
         const MemberSlot& slot = slotOf(block, name, place, inside);
-        return slot.isField() ? checkedField(block, slot, name, place) : boundMethod(codeOf(slot, name, place), object);
+        return slot.isField() ? checkedField(block, slot, name, place) : boundMethod(*slot.method, object);
     }
     const BuiltinMember* const builtin = findBuiltinMember(object, name);
     if (builtin == nullptr) {
@@ -132,7 +113,7 @@ Value callMethod(Value& object, Member name, Value* arguments, int count, Place 
     if (slot.isField()) {
         return callValue(checkedField(block, slot, name, place), arguments, count, place);
     }
-    return callBound(codeOf(slot, name, place), held, arguments, count, place);
+    return callBound(*slot.method, held, arguments, count, place);
 }
 
 Value callMethod(Value& object, Member name, std::initializer_list<Value> arguments, Place place,

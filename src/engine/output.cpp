@@ -1,9 +1,11 @@
 #include "engine/output.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstddef>
 
 namespace pozhil::engine {
@@ -26,12 +28,23 @@ void fillGap(int stream) {
     }
 }
 
+/// Whether writing may be tried again after it failed, at once or when a stream that doesn't wait has room again.
+bool canWriteAgain(int error) {
+    if (error == EAGAIN || error == EWOULDBLOCK) {
+        pollfd output = {STDOUT_FILENO, POLLOUT, 0};
+        return poll(&output, 1, -1) == 1 || errno == EINTR;
+    }
+    return error == EINTR;
+}
+
 } // namespace
 
 void openStandardStreams() {
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         fillGap(stream);
     }
+    // Who prints for "| head" may still have files to write.
+    std::signal(SIGPIPE, SIG_IGN);
     isTerminal = isatty(STDOUT_FILENO) == 1;
 }
 
@@ -51,7 +64,7 @@ void flushOutput() noexcept {
         const ssize_t written = write(STDOUT_FILENO, rest.data(), rest.size());
         if (written > 0) {
             rest.remove_prefix(static_cast<std::size_t>(written));
-        } else if (errno != EINTR) {
+        } else if (!canWriteAgain(errno)) {
             break;
         }
     }

@@ -4,14 +4,10 @@
 #include "engine/raise.h"
 #include "engine/running_faults.h"
 
-#include <string_view>
-
 /// The tables of structures: which name means what in their objects.
 
 namespace pozhil::engine {
 namespace {
-
-constexpr std::string_view CONSTRUCTOR = "துவக்கம்";
 
 MemberSlot& slotAt(Structure::Table& table, Member name) {
     return table.slots[static_cast<std::size_t>(name)];
@@ -36,9 +32,6 @@ void makeTable(const ProgramInfo& program, Structure& structure) {
     for (int i = 0; i < structure.methodCount; ++i) {
         const MethodInfo& method = structure.methods[i];
         slotAt(*table, method.name) = {-1, method.function, &structure, method.isPrivate};
-        if (program.members[method.name] == CONSTRUCTOR) {
-            table->constructor = method.function;
-        }
     }
 }
 

@@ -18,7 +18,7 @@ enum ValueFault : int {
     UNSET_VARIABLE = 611,
 
     NO_NUMBER_TEXT = 612,
-    NUMBER_TEXT_TOO_LARGE = 613,
+    WHOLE_TEXT_TOO_LARGE = 613,
     NOT_CONVERTIBLE = 614,
 
     NUMBER_WANTED = 615,
@@ -28,7 +28,9 @@ enum ValueFault : int {
     NEGATIVE_ROOT = 619,
     NO_LOGARITHM = 620,
     NO_POWER = 621,
-    POWER_TOO_LARGE = 622
+    POWER_TOO_LARGE = 622,
+
+    DECIMAL_TEXT_TOO_LARGE = 623
 };
 
 } // namespace pozhil::engine

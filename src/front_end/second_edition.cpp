@@ -66,6 +66,7 @@ private:
         std::vector<std::size_t>& imports = reading.file.imports;
         if (number != importer && std::find(imports.begin(), imports.end(), number) == imports.end()) {
             imports.push_back(number);
+            reading.file.importStatements.push_back(&import);
         }
     }
 

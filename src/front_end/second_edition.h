@@ -11,6 +11,8 @@
 
 namespace pozhil {
 
+struct ImportStatement;
+
 /// Which edition of the language a source is written in.
 enum class Edition { First, Second };
 
@@ -24,6 +26,8 @@ struct SecondFile {
     Program tree;
     /// Indices among SecondProgram::files of what it imports, in the order of its import statements.
     std::vector<std::size_t> imports;
+    /// For each of these, the statement of the tree that brings it.
+    std::vector<const ImportStatement*> importStatements;
 };
 
 /// A program of the second edition as it is written.

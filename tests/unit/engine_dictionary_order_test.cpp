@@ -59,6 +59,29 @@ TEST(DictionaryOrder, HasAShorterTextBeforeALongerOne) {
     expectSorted({"மாக்", "மாக்க", "மாகா", "மாங்", "மாக்ஷி"});
 }
 
+/// The UTF-8 of a code point of three bytes.
+std::string utf8(unsigned codePoint) {
+    return {static_cast<char>(0xE0U | codePoint >> 12U), static_cast<char>(0x80U | (codePoint >> 6U & 0x3FU)),
+            static_cast<char>(0x80U | (codePoint & 0x3FU))};
+}
+
+TEST(DictionaryOrder, TellsAllTextsApartEvenWithUnassignedCodePoints) {
+    // The block of Tamil, and its neighbours on both sides.
+    Words words = {"க்ஷ", "க்ஷா", "", "க", "க்", "கஷ"};
+    for (unsigned codePoint = 0x0B7F; codePoint <= 0x0C01; ++codePoint) {
+        words.push_back(utf8(codePoint));
+        words.push_back("க" + utf8(codePoint));
+    }
+    std::sort(words.begin(), words.end());
+    words.erase(std::unique(words.begin(), words.end()), words.end());
+    for (const std::string& left : words) {
+        for (const std::string& right : words) {
+            EXPECT_EQ(compareTexts(left, right) == 0, left == right) << left << " " << right;
+            EXPECT_EQ(compareTexts(left, right), -compareTexts(right, left)) << left << " " << right;
+        }
+    }
+}
+
 /// The letters of Tamil in the order in which a child learns them, as a model that knows nothing of code points.
 class Primer {
 public:

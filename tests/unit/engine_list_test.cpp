@@ -189,12 +189,17 @@ TEST(List, CountsItsHolders) {
 }
 
 TEST(List, DeepNestingIsFreed) {
-    Value values = makeList();
-    for (int i = 0; i < 1'000'000; ++i) {
-        Value outer = makeList();
-        appendTo(listBlock(outer), static_cast<Value&&>(values));
-        values = static_cast<Value&&>(outer);
+    const Value innermost = makeList();
+    {
+        Value values = list({innermost});
+        for (int i = 0; i < 1'000'000; ++i) {
+            Value outer = makeList();
+            appendTo(listBlock(outer), static_cast<Value&&>(values));
+            values = static_cast<Value&&>(outer);
+        }
+        EXPECT_EQ(holders(innermost), 2);
     }
+    EXPECT_EQ(holders(innermost), 1);
 }
 
 /// Several lists that are copied, written and dropped at random, each beside a vector that is always copied whole.

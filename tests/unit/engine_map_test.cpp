@@ -140,6 +140,18 @@ TEST(Map, KeepsItsOrderWhileItGrows) {
     }
 }
 
+TEST(Map, FindsKeysThatOnlyUnassignedCodePointsTellApart) {
+    for (const char* const sign : {"\u0B80", "\u0B96", "\u0BFF"}) {
+        const Value longer = makeText(std::string("க") + sign);
+        Value values = map({{text("க"), 1}, {longer, 2}, {text("க்ஷ"), 3}, {makeText(sign), 4}}, HERE);
+        EXPECT_FALSE(form(values).empty());
+        removeFrom(values, text("க"), HERE);
+        EXPECT_EQ(get(values, longer, HERE).whole(), 2);
+        removeFrom(values, makeText(sign), HERE);
+        EXPECT_EQ(form(values), "{\"" + form(longer) + "\": 2, \"க்ஷ\": 3}");
+    }
+}
+
 /// What is done while keys come and go must not order all of them anew each time.
 TEST(Map, GivesItsSmallestKeyAgainAndAgain) {
     constexpr Whole COUNT = 20'000;

@@ -95,7 +95,7 @@ TEST(ReadNumbers, KeepToTheLimits) {
     EXPECT_EQ(read("-9223372036854775808").whole(), std::numeric_limits<Whole>::min());
     EXPECT_EQ(faultOfReading("9223372036854775808"), 613);
     EXPECT_EQ(faultOfReading("-9223372036854775809"), 613);
-    EXPECT_EQ(faultOfReading("1e400"), 613);
+    EXPECT_EQ(faultOfReading("1e400"), 623);
     EXPECT_EQ(read("1e-400").decimal(), 0);
     EXPECT_EQ(read("9223372036854775808.0").decimal(), 9223372036854775808.0);
 }
@@ -139,7 +139,7 @@ TEST(ReadNumbers, AgreeWithTheCLibrary) {
         }
         // Five digits of an exponent may be too many.
         if (std::isinf(expected)) {
-            ASSERT_EQ(faultOfReading(written), 613) << written;
+            ASSERT_EQ(faultOfReading(written), 623) << written;
             continue;
         }
         ++numbers;

@@ -72,9 +72,8 @@ Structure dog = {"நாய்", &animal, false, DOG_FIELDS, 2, DOG_METHODS, 1, 
 constexpr FieldInfo CAT_FIELDS[] = {{NAME, true}};
 Structure cat = {"பூனை", &animal, false, CAT_FIELDS, 1, nullptr, 0, nullptr, nullptr};
 
-// வடிவமைப்பு வடிவம்: பேசு has no body; கட்டமைப்பு வட்டம்(வடிவம்) forgets it
-constexpr MethodInfo SHAPE_METHODS[] = {{SPEAK, nullptr, false}};
-Structure shape = {"வடிவம்", nullptr, true, nullptr, 0, SHAPE_METHODS, 1, nullptr, nullptr};
+// வடிவமைப்பு வடிவம், கட்டமைப்பு வட்டம்(வடிவம்)
+Structure shape = {"வடிவம்", nullptr, true, nullptr, 0, nullptr, 0, nullptr, nullptr};
 Structure circle = {"வட்டம்", &shape, false, nullptr, 0, nullptr, 0, nullptr, nullptr};
 
 extern Structure endless;
@@ -101,8 +100,15 @@ protected:
     }
 };
 
+/// As the emitted text makes an object: its fields first, then துவக்கம்.
+Value named(Structure& structure, const Value& name) {
+    Value object = create(structure, HERE);
+    callMethod(object, START, {name}, HERE);
+    return object;
+}
+
 TEST_F(Objects, BeginWithTheirFields) {
-    const Value object = construct(animal, {text("பசு")}, HERE);
+    const Value object = named(animal, text("பசு"));
     EXPECT_EQ(form(member(object, NAME, HERE)), "பசு");
     EXPECT_EQ(form(member(object, LIST, HERE)), "[]");
     EXPECT_EQ(form(object), "[பொருள்]");
@@ -110,17 +116,9 @@ TEST_F(Objects, BeginWithTheirFields) {
 
 TEST_F(Objects, TakeFieldsAndConstructorFromTheirParents) {
     EXPECT_EQ(form(member(create(dog, HERE), NAME, HERE)), "நாய்");
-    const Value object = construct(dog, {text("மணி")}, HERE);
+    const Value object = named(dog, text("மணி"));
     EXPECT_EQ(form(member(object, NAME, HERE)), "மணி");
     EXPECT_EQ(form(member(object, LIST, HERE)), "[]");
-}
-
-TEST_F(Objects, CountTheArgumentsOfTheirConstructor) {
-    EXPECT_EQ(faultOf([] { construct(animal, {}, HERE); }), WRONG_COUNT);
-    EXPECT_EQ(faultOf([] { construct(dog, {1, 2}, HERE); }), WRONG_COUNT);
-    EXPECT_EQ(faultOf([] { construct(circle, {}, HERE); }), 0);
-    EXPECT_THAT(messageOf([] { construct(circle, {1}, HERE); }),
-                HasSubstr("'வட்டம்' செயலுக்கு வேண்டிய உள்ளீடுகளின் எண்ணிக்கை 0"));
 }
 
 TEST_F(Objects, AreShared) {
@@ -162,14 +160,17 @@ TEST_F(Objects, TellTheMembersThereAreNearestFirst) {
 }
 
 TEST_F(Objects, CallMethods) {
-    Value object = construct(animal, {text("பசு")}, HERE);
+    Value object = named(animal, text("பசு"));
     EXPECT_EQ(form(callMethod(object, SPEAK, {}, HERE)), "நான் பசு");
-    EXPECT_EQ(form(callMethodOf(construct(dog, {text("மணி")}, HERE), SPEAK, {}, HERE)), "நான் மணி, லொள்");
-    EXPECT_EQ(faultOf([&] { callMethod(object, SPEAK, {1}, HERE); }), WRONG_COUNT);
+    EXPECT_EQ(form(callMethodOf(named(dog, text("மணி")), SPEAK, {}, HERE)), "நான் மணி, லொள்");
+    EXPECT_THAT(messageOf([&] { callMethod(object, SPEAK, {1}, HERE); }),
+                HasSubstr("'பேசு' செயலுக்கு வேண்டிய உள்ளீடுகளின் எண்ணிக்கை 0"));
+    EXPECT_EQ(faultOf([&] { callMethod(object, START, {}, HERE); }), WRONG_COUNT);
+    EXPECT_EQ(faultOf([&] { callMethod(object, START, {1, 2}, HERE); }), WRONG_COUNT);
 }
 
 TEST_F(Objects, MethodsAreValues) {
-    Value object = construct(animal, {text("பசு")}, HERE);
+    Value object = named(animal, text("பசு"));
     const Value method = member(object, SPEAK, HERE);
     field(object, NAME, HERE) = text("எருமை");
     EXPECT_EQ(holders(object), 2);
@@ -178,7 +179,7 @@ TEST_F(Objects, MethodsAreValues) {
 
 TEST_F(Objects, FieldsCanHoldFunctions) {
     Value object = create(animal, HERE);
-    field(object, WORK, HERE) = member(construct(dog, {text("மணி")}, HERE), SPEAK, HERE);
+    field(object, WORK, HERE) = member(named(dog, text("மணி")), SPEAK, HERE);
     EXPECT_EQ(form(callMethod(object, WORK, {}, HERE)), "நான் மணி, லொள்");
     field(object, WORK, HERE) = 5;
     EXPECT_EQ(faultOf([&] { callMethod(object, WORK, {}, HERE); }), NOT_A_FUNCTION);
@@ -232,10 +233,7 @@ TEST_F(Objects, MethodsAreNotAssigned) {
 
 TEST_F(Objects, AreNotMadeOfAbstractStructures) {
     EXPECT_EQ(faultOf([] { create(shape, HERE); }), ABSTRACT_STRUCTURE);
-    EXPECT_EQ(faultOf([] { construct(shape, {}, HERE); }), ABSTRACT_STRUCTURE);
-    Value object = create(circle, HERE);
-    EXPECT_EQ(faultOf([&] { callMethod(object, SPEAK, {}, HERE); }), METHOD_WITHOUT_BODY);
-    EXPECT_EQ(faultOf([&] { member(object, SPEAK, HERE); }), METHOD_WITHOUT_BODY);
+    EXPECT_EQ(faultOf([] { create(circle, HERE); }), 0);
 }
 
 TEST_F(Objects, OtherValuesHaveTheMembersOfTheLibrary) {

@@ -2,7 +2,6 @@
 #include "engine/list.h"
 #include "engine_support.h"
 
-#include <fcntl.h>
 #include <sys/resource.h>
 
 #include <cstdlib>
@@ -225,34 +224,6 @@ TEST(Run, StacksFitIntoLimitedMemory) {
     }
     const ChildResult result = resultOf([] { print({depthReached(10'000, "1:0-3")}); }, limitMemory);
     EXPECT_EQ(result.output, "10000\n");
-}
-
-TEST(Run, AClosedOutputSwallowsWhatIsPrinted) {
-    const ChildResult result = runInChild([] {
-        close(STDOUT_FILENO);
-        _exit(run(programOf([] {
-            print({text("யாரும் இல்லை")});
-            writeFile(text("/tmp/engine_run_test_closed"), text("கோப்பு"), "1:0-1");
-            print({text("யாரும் இல்லை")});
-        })));
-    });
-    EXPECT_EQ(result.exitStatus, 0);
-    std::FILE* const file = std::fopen("/tmp/engine_run_test_closed", "r");
-    ASSERT_NE(file, nullptr);
-    EXPECT_EQ(contentOf(file), "கோப்பு") << "what is printed must not get into a file of the program";
-    std::remove("/tmp/engine_run_test_closed");
-}
-
-TEST(Run, AFullOutputIsNoFault) {
-    const ChildResult result = runInChild([] {
-        dup2(open("/dev/full", O_WRONLY), STDOUT_FILENO);
-        _exit(run(programOf([] {
-            for (int i = 0; i < 100'000; ++i) {
-                print({i});
-            }
-        })));
-    });
-    EXPECT_EQ(result.exitStatus, 0);
 }
 
 TEST(Run, ReadsLines) {

@@ -201,6 +201,20 @@ TEST_F(Hints, ACallOfAnotherBranchComesNotBefore) {
                 ElementsAre(Pair(7, Kind::SharedInRecursion)));
 }
 
+TEST_F(Hints, WhatACaseIsComparedWithIsReadToo) {
+    EXPECT_THAT(
+        told(recursive("    பாதி = எ வகு 2\n    ஓடு(எ கழி 1)\n    தேர்வு எ:\n        நிலை பாதி:\n            விடு\n")),
+        ElementsAre(Pair(7, Kind::SharedInRecursion)));
+    EXPECT_THAT(
+        told(recursive("    பாதி = எ வகு 2\n    தேர்வு எ:\n        நிலை ஓடு(எ கழி 1):\n            அச்சிடு(பாதி)\n")),
+        ElementsAre(Pair(7, Kind::SharedInRecursion)));
+    // It comes after none of the blocks.
+    EXPECT_THAT(
+        told(recursive("    பாதி = எ வகு 2\n    தேர்வு எ:\n        நிலை 1:\n            ஓடு(0)\n            ஓடு(0)\n"
+                       "        நிலை பாதி:\n            விடு\n")),
+        IsEmpty());
+}
+
 // Conditions.
 
 TEST_F(Hints, AnAssignmentIsNoComparison) {

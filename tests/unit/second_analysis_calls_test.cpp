@@ -109,6 +109,24 @@ TEST(SecondPlaces, AFunctionValueMayTakeAPlaceIfSomeFunctionDoes) {
                 HasSubstr("(do (call-value ::வ ::இ))"));
 }
 
+TEST(SecondPlaces, AFunctionOfTheLanguageMayTakeThemAsAValueToo) {
+    EXPECT_THAT(mainOf("வ = சேர்\nப = [1]\nவ(ப, 2)\n"), HasSubstr("(do (call-value ::வ &::ப 2))"));
+    EXPECT_THAT(mainOf("வ = நீளம்\nப = [1]\nவ(ப, 2)\n"), HasSubstr("(do (call-value ::வ ::ப 2))"));
+    EXPECT_THAT(mainOf("வ = எடு\nப = [1]\nசேர்(ப, 2)\nவ(ப, 0)\n"), HasSubstr("(do (call-value ::வ ::ப 0))"));
+}
+
+TEST(SecondPlaces, LateParametersAreNone) {
+    std::string parameters;
+    for (int number = 1; number <= 30; ++number) {
+        parameters += "அ" + std::to_string(number) + ", ";
+    }
+    EXPECT_THAT(meaningFaults("செயல் f(" + parameters + "மாற்று ஆ, இ):\n    விடு\n"), IsEmpty());
+    EXPECT_THAT(meaningFaults("செயல் f(" + parameters + "இ, மாற்று ஆ):\n    விடு\n"), ElementsAre("595 1 'ஆ'"));
+    EXPECT_THAT(meaningFaults("கட்டமைப்பு க:\n    செயல் f(தான், " + parameters + "மாற்று ஆ, மாற்று இ):\n        விடு\n"),
+                ElementsAre("595 2 'இ'"));
+    EXPECT_THAT(meaningFaults("வ = (" + parameters + "இ, மாற்று ஆ) => (ஆ = 1)\n"), ElementsAre("595 1 'ஆ'"));
+}
+
 TEST(SecondPlaces, DeepNestingOfPlacesInPlacesEnds) {
     std::string inner = "0";
     for (int depth = 0; depth < 100; ++depth) {

@@ -52,6 +52,14 @@ TEST_F(SecondImports, ThatClashAreToldWithBothFiles) {
     EXPECT_THAT(faults("நூஇறக்கி \"அ\"\nசெயல் f():\n    விடு\n"), ElementsAre("563 2 'f'"));
 }
 
+TEST_F(SecondImports, ThatClashAreToldWhereTheyAreBroughtIn) {
+    write("ப.பொழில்", "செயல் g():\n    விடு\n");
+    write("கப.பொழில்", "செயல் f():\n    விடு\n");
+    write("அ.பொழில்", "செயல் f():\n    விடு\n");
+    EXPECT_THAT(faults("நூஇறக்கி \"அ\"\nநூஇறக்கி \"ப\"\nநூஇறக்கி \"கப\"\n"), ElementsAre("563 3 'நூஇறக்கி \"கப\"'"));
+    EXPECT_THAT(faults("நூஇறக்கி \"அ\"\nநூஇறக்கி \"ப\"\nநூஇறக்கி \"./கப\"\n"), ElementsAre("563 3 'நூஇறக்கி \"./கப\"'"));
+}
+
 TEST_F(SecondImports, OfOneFileOnTwoWaysAreNoClash) {
     write("அ.பொழில்", "நூஇறக்கி \"இ\"\n");
     write("ஆ.பொழில்", "நூஇறக்கி \"இ\"\n");

@@ -237,6 +237,14 @@ TEST(SecondKinds, LoopsOverNothingAreTold) {
 TEST(SecondKinds, DoubleKeysAreTold) {
     EXPECT_THAT(meaningFaults("அ = {\"க\": 1, 1: 2, \"க\": 3, 1: 4, \"1\": 5}\n"),
                 ElementsAre("579 1 '\"க\"'", "579 1 '1'"));
+    EXPECT_THAT(meaningFaults("அ = {மெய்: 1, 1: 2, பொய்: 3, மெய்: 4, (1): 5}\n"),
+                ElementsAre("579 1 'மெய்'", "579 1 '(1)'"));
+}
+
+TEST(SecondKinds, DoubleKeysAreToldHoweverTheyAreWritten) {
+    EXPECT_THAT(meaningFaults("அ = {12: 1, 012: 2, ௧௨: 3, 12.0: 4, 12.5: 5}\n"),
+                ElementsAre("579 1 '012'", "579 1 '௧௨'", "579 1 '12.0'"));
+    EXPECT_THAT(meaningFaults("அ = {\"\\t\": 1, \"\t\": 2, \"t\": 3}\n"), ElementsAre("579 1 '\"\t\"'"));
 }
 
 TEST(SecondKinds, WhatATryGuardsIsLeftToIt) {

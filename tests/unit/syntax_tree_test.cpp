@@ -168,7 +168,6 @@ TEST(SyntaxTree, DefinitionsTakeTheirFieldsInOrderAndStartPublic) {
                                                       std::vector<AbstractMethod>{{token("ஆ"), {{token("இ"), false}}}}),
               "(AbstractStructDefinition அ (ஆ இ))");
     EXPECT_EQ(made<StructDefinitionStatement>(token("அ"), token("ஆ"), true), "(StructDefinition அ < ஆ)");
-    EXPECT_FALSE(StructDefinitionStatement(token("அ"), token("அ"), false).isAbstract);
     EXPECT_FALSE(Param().isMutable);
 }
 

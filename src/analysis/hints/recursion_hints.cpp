@@ -172,6 +172,7 @@ public:
         (*this)(node.subject.get());
         Branches branches(*this);
         for (const CaseBlock& one : node.cases) {
+            branches.test(*one.value);
             branches.take(*one.body);
         }
         if (node.defaultBlock != nullptr) {
@@ -192,11 +193,20 @@ private:
     /// Blocks of which one is carried out: none comes after the calls of another.
     class Branches {
     public:
-        explicit Branches(SharedNameWalk& walk) : walk_(walk), before_(walk.calls_), after_(walk.calls_) {}
+        explicit Branches(SharedNameWalk& walk)
+            : walk_(walk), callsBefore_(walk.callsBefore_), before_(walk.calls_), after_(walk.calls_) {}
         ~Branches() { walk_.calls_ = after_; }
         Branches(const Branches&) = delete;
         Branches& operator=(const Branches&) = delete;
 
+        /// What decides about the next block: it comes before that and all later ones, and after none.
+        void test(const Expression& value) {
+            walk_.calls_ = before_;
+            walk_.callsBefore_ = callsBefore_;
+            walk_(&value);
+            before_ = walk_.calls_;
+            after_ = std::max(after_, before_);
+        }
         void take(const BlockStatement& block) { take(block, isFollowed(block)); }
         void take(const Statement& branch, bool goesOn) {
             walk_.calls_ = before_;
@@ -206,7 +216,8 @@ private:
 
     private:
         SharedNameWalk& walk_;
-        const std::size_t before_;
+        const std::size_t callsBefore_;
+        std::size_t before_;
         std::size_t after_;
     };
 

@@ -99,15 +99,6 @@ void CallsAhead::callValue(const Tell& tell) {
     }
 }
 
-void CallsAhead::callRest(const Tell& tell) {
-    for (const auto& function : model_.program.functions) {
-        follow(function.get(), tell);
-    }
-    for (const auto& structure : model_.program.structures) {
-        follow(structure.get(), tell);
-    }
-}
-
 /// One after the other, not one inside the other: ways of calls may be long.
 void CallsAhead::follow(const void* key, const Tell& tell) {
     const bool isFirst = waiting_.empty();

@@ -22,8 +22,6 @@ public:
     void construct(const resolved::Structure* structure, const Tell& tell);
     void callMember(std::string_view member, const Tell& tell);
     void callValue(const Tell& tell);
-    /// The same for all functions that nothing has called.
-    void callRest(const Tell& tell);
 
 private:
     /// What one function, or the fields of a structure, do.

@@ -1,6 +1,7 @@
 #include "analysis/second/captures.h"
 
 #include "analysis/second/names.h"
+#include "language/second/builtins.h"
 
 #include <algorithm>
 #include <vector>
@@ -56,6 +57,16 @@ private:
             if (meaning.function->enclosing != nullptr) {
                 mentionedBy_[meaning.function].push_back(&scope);
             }
+        } else if (meaning.isUnknown() && mention.use == Use::Read) {
+            noteBuiltin(mention.name);
+        }
+    }
+
+    /// A function that comes with the language and writes to its first argument does so as a value too.
+    void noteBuiltin(std::string_view name) {
+        const auto* const builtin = language::second::findBuiltin(language::second::BuiltinForm::Call, name);
+        if (builtin != nullptr && builtin->writesFirst) {
+            model_.mutableInValues.emplace(static_cast<std::size_t>(builtin->fewestArguments), 0);
         }
     }
 

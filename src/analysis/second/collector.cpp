@@ -8,6 +8,12 @@
 #include <utility>
 
 namespace pozhil::second {
+namespace {
+
+/// How many parameters may be மாற்று besides தான்: a running program has a bit for each.
+constexpr std::size_t MOST_PLACES = 31;
+
+} // namespace
 
 void Collector::collect() {
     model_.scopes.emplace_back();
@@ -194,6 +200,10 @@ void Collector::addParameter(Scope& scope, const void* node, const Token& parame
     if (isDouble) {
         model_.faults.add(fault::DOUBLE_PARAMETER, place, {name});
     }
+    const std::size_t most = MOST_PLACES + (scope.function->structure != nullptr ? 1 : 0);
+    if (isMutable && scope.function->parameters.size() >= most) {
+        model_.faults.add(fault::LATE_PLACE, place, {name, std::to_string(MOST_PLACES)});
+    }
     // It counts all the same, so that calls aren't told as well.
     resolved::Variable* const variable =
         isDouble ? model_.addVariable(scope, name, place) : model_.declare(scope, name, place);
@@ -247,7 +257,6 @@ resolved::Structure& Collector::openStructure(const Token& name, const void* nod
 /// The methods and fields of a structure know the names of the file, wherever the structure stands.
 void Collector::visit(const StructDefinitionStatement& node) {
     resolved::Structure& structure = openStructure(node.name, &node);
-    structure.isAbstract = node.isAbstract;
     model_.structures[&structure].tree = &node;
     Scope* const before = std::exchange(scope_, model_.fileScopes[file_]);
     resolved::Structure* const outer = std::exchange(structure_, nullptr);

@@ -3,14 +3,43 @@
 #include "analysis/second/fault_numbers.h"
 #include "analysis/second/walk.h"
 
-#include <set>
-#include <utility>
+#include <cstddef>
+#include <unordered_set>
+#include <vector>
 
 namespace pozhil::second {
 namespace {
 
 using Form = resolved::TargetPlace::Form;
-using Constants = std::set<const resolved::Variable*>;
+/// Constants that have a value, with the order in which they got it, so that a branch can be taken back.
+class Constants {
+public:
+    /// \return false if it has one already
+    bool add(const resolved::Variable* constant) {
+        const bool isNew = given_.insert(constant).second;
+        if (isNew) {
+            log_.push_back(constant);
+        }
+        return isNew;
+    }
+
+    std::size_t count() const { return log_.size(); }
+
+    /// Takes back all but the first \p count.
+    /// \return what it has taken back
+    std::vector<const resolved::Variable*> takeBack(std::size_t count) {
+        std::vector<const resolved::Variable*> taken(log_.begin() + static_cast<std::ptrdiff_t>(count), log_.end());
+        for (const resolved::Variable* constant : taken) {
+            given_.erase(constant);
+        }
+        log_.resize(count);
+        return taken;
+    }
+
+private:
+    std::unordered_set<const resolved::Variable*> given_;
+    std::vector<const resolved::Variable*> log_;
+};
 
 /// Follows the text of one function, or of a file's statements. Loops are followed once: it is the text that counts.
 class Following : public Walk<Following> {
@@ -25,31 +54,28 @@ public:
 
     void visit(resolved::If& node) {
         walk(node.condition);
-        const Constants before = given_;
-        walk(node.thenBranch);
-        Constants after = std::exchange(given_, before);
-        walk(node.elseBranch);
-        given_.merge(after);
+        Branches branches(given_);
+        branches.take([&] { walk(node.thenBranch); });
+        branches.take([&] { walk(node.elseBranch); });
     }
     void visit(resolved::Switch& node) {
         walk(node.subject);
-        const Constants before = given_;
-        Constants after;
+        Branches branches(given_);
         for (resolved::Case& one : node.cases) {
-            walk(one.value);
-            walk(one.body);
-            after.merge(std::exchange(given_, before));
+            branches.take([&] {
+                walk(one.value);
+                walk(one.body);
+            });
         }
-        walk(node.otherwise);
-        given_.merge(after);
+        branches.take([&] { walk(node.otherwise); });
     }
     void visit(resolved::Try& node) {
-        const Constants before = given_;
-        walk(node.body);
-        Constants after = std::exchange(given_, before);
-        fill(node.variable);
-        walk(node.handler);
-        given_.merge(after);
+        Branches branches(given_);
+        branches.take([&] { walk(node.body); });
+        branches.take([&] {
+            fill(node.variable);
+            walk(node.handler);
+        });
     }
     void visit(resolved::CountingLoop& node) {
         fill(node.variable);
@@ -61,9 +87,33 @@ public:
     }
 
 private:
+    /// Ways of which one is taken: none comes after another. In the end all counts that one of them has given.
+    class Branches {
+    public:
+        explicit Branches(Constants& given) : given_(given), before_(given.count()) {}
+        ~Branches() {
+            for (const resolved::Variable* constant : taken_) {
+                given_.add(constant);
+            }
+        }
+        Branches(const Branches&) = delete;
+        Branches& operator=(const Branches&) = delete;
+
+        template <class Way> void take(Way way) {
+            way();
+            const auto taken = given_.takeBack(before_);
+            taken_.insert(taken_.end(), taken.begin(), taken.end());
+        }
+
+    private:
+        Constants& given_;
+        const std::size_t before_;
+        std::vector<const resolved::Variable*> taken_;
+    };
+
     void fill(const resolved::Variable* variable) {
         if (variable != nullptr && isConstantName(variable->name)) {
-            given_.insert(variable);
+            given_.add(variable);
         }
     }
 
@@ -73,7 +123,7 @@ private:
         if (node.target->form != Form::Variable || variable == nullptr || !isConstantName(variable->name)) {
             return;
         }
-        if (!given_.insert(variable).second || node.isCompound) {
+        if (!given_.add(variable) || node.isCompound) {
             model_.faults.add(fault::CHANGED_CONSTANT, node.target->place, {variable->name});
         }
     }
@@ -93,7 +143,7 @@ void checkConstants(Model& model) {
     for (const auto& function : model.program.functions) {
         for (const resolved::Parameter& parameter : function->parameters) {
             if (isConstantName(parameter.variable->name)) {
-                given.insert(parameter.variable);
+                given.add(parameter.variable);
             }
         }
         Following(model, given).walk(function->body);

@@ -1,7 +1,6 @@
 #include "analysis/second/declarations.h"
 
 #include "analysis/second/fault_numbers.h"
-#include "base/text.h"
 #include "front_end/second_edition.h"
 
 #include <cstddef>
@@ -28,9 +27,10 @@ public:
     void link() {
         model_.visible[file_] = model_.own[file_];
         isSeen_[file_] = true;
-        for (const std::size_t imported : model_.source.files[file_].imports) {
-            directImport_ = imported;
-            see(imported);
+        const SecondFile& file = model_.source.files[file_];
+        for (std::size_t index = 0; index < file.imports.size(); ++index) {
+            importStatement_ = file.importStatements[index];
+            see(file.imports[index]);
         }
     }
 
@@ -67,31 +67,16 @@ private:
             return;
         }
         const bool isOwn = first.place.file == file_;
-        const resolved::Place place = isOwn ? first.place : importStatement();
+        const resolved::Place place = isOwn ? first.place : model_.locations.of(file_, importStatement_);
         model_.faults.add(fault::CLASHING_IMPORTS, place, {std::string(name), pathOf(first), pathOf(second)});
     }
-
-    /// Where the file says what it imports; the beginning of the file if that can't be told.
-    resolved::Place importStatement() const {
-        const SecondFile& file = model_.source.files[file_];
-        const std::string& path = model_.source.files[directImport_].source->path;
-        for (const StatementPtr& statement : file.tree.statements) {
-            const auto* const import = nodeCast<ImportStatement>(statement.get());
-            if (import != nullptr && (endsWith(path, import->path) || endsWith(path, import->path + ENDING))) {
-                return model_.locations.of(file_, import);
-            }
-        }
-        return model_.locations.of(file_, nullptr);
-    }
-
-    static constexpr const char* ENDING = ".பொழில்";
 
     Model& model_;
     std::size_t file_;
     Told& told_;
     std::vector<bool> isSeen_;
-    /// What the file itself imports, also when it is about one that this imports in turn.
-    std::size_t directImport_ = 0;
+    /// By which the file imports, also when it is about a file that the imported one imports in turn.
+    const ImportStatement* importStatement_ = nullptr;
 };
 
 } // namespace

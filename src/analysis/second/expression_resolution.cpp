@@ -5,9 +5,13 @@
 #include "language/operators.h"
 #include "language/second/builtins.h"
 
+#include <cmath>
+#include <cstdint>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
+#include <variant>
 
 namespace pozhil::second {
 namespace {
@@ -131,17 +135,34 @@ private:
     resolved::ExpressionPtr result_;
 };
 
-/// A text that tells a literal key from any other; empty for a key that is calculated.
-std::string literalKey(const Expression* key) {
-    key = withoutBrackets(key);
-    if (const auto* text = nodeCast<StringLiteral>(key)) {
-        return '"' + text->value;
+/// A key of a map that is known before the program runs.
+using LiteralKey = std::variant<bool, std::int64_t, std::string>;
+
+/// The key as maps hold it, however it is written; nothing for one that is calculated, or that can't be a key.
+std::optional<LiteralKey> literalKey(const resolved::Expression& key) {
+    if (const auto* text = nodeCast<resolved::TextLiteral>(&key)) {
+        return text->value;
     }
-    if (const auto* number = nodeCast<NumberLiteral>(key)) {
-        return number->value;
+    if (const auto* whole = nodeCast<resolved::WholeLiteral>(&key)) {
+        return whole->value;
     }
-    const auto* truth = nodeCast<BooleanLiteral>(key);
-    return truth == nullptr ? "" : truth->value;
+    if (const auto* truth = nodeCast<resolved::TruthLiteral>(&key)) {
+        return truth->value;
+    }
+    const auto* decimal = nodeCast<resolved::DecimalLiteral>(&key);
+    // Larger ones have too few digits to be written as whole numbers.
+    constexpr double LIMIT = 1e15;
+    const bool isWhole =
+        decimal != nullptr && std::trunc(decimal->value) == decimal->value && std::abs(decimal->value) <= LIMIT;
+    return isWhole ? std::optional<LiteralKey>(static_cast<std::int64_t>(decimal->value)) : std::nullopt;
+}
+
+std::string shown(const LiteralKey& key) {
+    if (const auto* text = std::get_if<std::string>(&key)) {
+        return *text;
+    }
+    const auto* whole = std::get_if<std::int64_t>(&key);
+    return whole != nullptr ? std::to_string(*whole) : std::get<bool>(key) ? "மெய்" : "பொய்";
 }
 
 } // namespace
@@ -174,14 +195,13 @@ resolved::ExpressionList resolveValues(Resolution& resolution, const ExpressionL
 
 resolved::ExpressionPtr resolveMap(Resolution& resolution, const KeyedMapLiteral& map) {
     auto result = makeNode<resolved::MapLiteral>(resolution.placeOf(&map));
-    std::set<std::string> keys;
+    std::set<LiteralKey> keys;
     for (const auto& [key, value] : map.entries) {
-        const std::string text = literalKey(key.get());
-        if (!text.empty() && !keys.insert(text).second) {
-            resolution.model.faults.add(fault::DOUBLE_KEY, resolution.placeOf(key.get()),
-                                        {text[0] == '"' ? text.substr(1) : text});
-        }
         auto resolvedKey = resolveValue(resolution, key.get());
+        const std::optional<LiteralKey> literal = literalKey(*resolvedKey);
+        if (literal && !keys.insert(*literal).second) {
+            resolution.model.faults.add(fault::DOUBLE_KEY, resolution.placeOf(key.get()), {shown(*literal)});
+        }
         result->entries.emplace_back(std::move(resolvedKey), resolveValue(resolution, value.get()));
     }
     return result;

@@ -30,6 +30,7 @@ constexpr int NO_PLACE = 573;
 constexpr int NO_PLACE_TO_CHANGE = 574;
 constexpr int DOUBLE_KEY = 579;
 constexpr int NESTED_PLACES = 591;
+constexpr int LATE_PLACE = 595;
 
 // Structures.
 constexpr int PARENT_CIRCLE = 567;

@@ -25,9 +25,7 @@ public:
 
     /// What the following lines are written for.
     void setPlace(const Place& place) { place_ = place; }
-    const Place& place() const { return place_; }
 
-    bool isEmpty() const { return origins_.empty(); }
     const std::string& text() const { return text_; }
     /// For each line.
     const std::vector<Place>& origins() const { return origins_; }

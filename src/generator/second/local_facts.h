@@ -2,7 +2,6 @@
 
 #include "analysis/second/resolved/program.h"
 
-#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 

@@ -113,11 +113,6 @@ void ProgramWriter::writeStart(std::size_t file) {
         const bool runsOnce = begin == end || !hasLoop(*body.statements[begin]);
         starts_.push_back(number == 0 ? name : name + "_" + std::to_string(number + 1));
         definitions_.open((runsOnce ? "[[gnu::cold]] static void " : "static void ") + starts_.back() + "() {");
-        if (begin == 0) {
-            for (const FunctionDefinition* definition : facts.definitions()) {
-                writer.define(*definition);
-            }
-        }
         for (std::size_t index = begin; index < end; ++index) {
             writer.write(*body.statements[index]);
         }

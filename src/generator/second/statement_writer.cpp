@@ -146,7 +146,6 @@ void StatementWriter::countBySteps(const CountingLoop& loop) {
                                  ? stepText
                                  : "checkedStep(" + stepText + ", " + tables_.places.literal(loop.step->place) + ")";
     const std::string count = scope_.temporary("count");
-    const std::string number = scope_.temporary("i");
     lines_.open("for (Counting " + count + "{" + first + ", " + last + ", " + step + "}; " + count + ".hasNext();) {");
     if (facts_.livesInLoops(*loop.variable)) {
         lines_.line("const Whole " + expressions_.nameOf(*loop.variable) + " = " + count + ".next();");

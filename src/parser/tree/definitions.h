@@ -52,7 +52,6 @@ struct StructDefinitionStatement : Statement {
     Token name;
     Token parent;
     bool hasParent;
-    bool isAbstract = false;
     std::vector<std::unique_ptr<VarDeclaration>> fields;
     std::vector<std::unique_ptr<FunctionDefinitionStatement>> methods;
 };

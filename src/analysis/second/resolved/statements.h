@@ -26,7 +26,7 @@ struct Assignment : Statement {
     ExpressionPtr value;
 };
 
-/// A function inside of another, or in a block: from the beginning of its function on, the variable holds it.
+/// A function inside of another: from the beginning of that on, the variable holds it.
 struct FunctionDefinition : Statement {
     Variable* variable = nullptr;
     const Function* function = nullptr;
