@@ -207,6 +207,7 @@ void Collector::addParameter(Scope& scope, const void* node, const Token& parame
     // It counts all the same, so that calls aren't told as well.
     resolved::Variable* const variable =
         isDouble ? model_.addVariable(scope, name, place) : model_.declare(scope, name, place);
+    variable->isReference = isMutable;
     scope.function->parameters.push_back({variable, isMutable});
     model_.variables[variable].isFilledFromOutside = true;
 }

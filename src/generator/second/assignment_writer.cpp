@@ -42,6 +42,25 @@ bool isRepeatable(const Expression& expression) {
     return staysTheSame(expression) || (read != nullptr && !read->isChecked);
 }
 
+/// Whether a variable holds what the expression gives, so that it is still there after the statement.
+bool isHeldByVariable(const Expression& expression) {
+    if (const auto* element = dynamic_cast<const ElementRead*>(&expression)) {
+        return isRepeatable(*element->index) && isHeldByVariable(*element->container);
+    }
+    const auto* member = dynamic_cast<const MemberRead*>(&expression);
+    return member != nullptr ? isHeldByVariable(*member->object)
+                             : dynamic_cast<const VariableRead*>(&expression) != nullptr;
+}
+
+/// Whether the place may be gone with the statement that looks it up: it stands in an object that nobody else holds.
+bool isPassing(const TargetPlace& place) {
+    switch (place.form) {
+    case TargetPlace::Form::Variable: return false;
+    case TargetPlace::Form::Element: return isPassing(*place.container);
+    default: return !isHeldByVariable(*place.object);
+    }
+}
+
 bool isSameOperand(const Expression& left, const Expression& right) {
     const auto* leftRead = dynamic_cast<const VariableRead*>(&left);
     const auto* leftWhole = dynamic_cast<const WholeLiteral*>(&left);
@@ -198,7 +217,7 @@ std::string AssignmentWriter::compoundPlace(const Step& step, bool isNeededAgain
     const bool isLate = mustComeBeforePlace(step.value, step.target);
     const bool isFoundFirst = leavesTraces(step.value);
     const bool isLookedUpAgain = isLate && changesSomething(step.value);
-    operands_.addPlace(step.target, isNeededAgain || isFoundFirst);
+    operands_.addPlace(step.target, isNeededAgain || isFoundFirst || isPassing(step.target));
     std::string target;
     if (isFoundFirst) {
         target = operands_.placeFoundFirst(step.target, 0, isLookedUpAgain);

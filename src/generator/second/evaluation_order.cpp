@@ -13,7 +13,13 @@ namespace {
 
 /// Whether a function outside of the one that evaluates can read and write it.
 bool isSeenByOthers(const Variable& variable) {
-    return variable.owner == nullptr || variable.isShared;
+    return variable.owner == nullptr || variable.isShared || variable.isReference;
+}
+
+/// Whether both may be one variable: a மாற்று parameter is the variable that the call gives, as is another one.
+bool mayBeSame(const Variable& left, const Variable& right) {
+    const bool isReference = left.isReference || right.isReference;
+    return &left == &right || (isReference && isSeenByOthers(left) && isSeenByOthers(right));
 }
 
 /// Whether the built-in has to do with more than its arguments: input, files, the clock, the next random number.
@@ -35,10 +41,10 @@ public:
     bool takesParts() const { return takesParts_; }
     bool changesSomething() const { return runsCode_ || !written_.empty(); }
     bool reads(const Variable& variable) const {
-        return read_.count(&variable) != 0 || (runsCode_ && isSeenByOthers(variable));
+        return has(read_, variable) || (runsCode_ && isSeenByOthers(variable));
     }
     bool changes(const Variable& variable) const {
-        return written_.count(&variable) != 0 || (runsCode_ && isSeenByOthers(variable));
+        return has(written_, variable) || (runsCode_ && isSeenByOthers(variable));
     }
 
 protected:
@@ -64,10 +70,17 @@ protected:
     }
 
 private:
+    using Variables = std::unordered_set<const Variable*>;
+
+    static bool has(const Variables& variables, const Variable& variable) {
+        return std::any_of(variables.begin(), variables.end(),
+                           [&](const Variable* one) { return one != nullptr && mayBeSame(*one, variable); });
+    }
+
     bool runsCode_ = false;
     bool takesParts_ = false;
-    std::unordered_set<const Variable*> read_;
-    std::unordered_set<const Variable*> written_;
+    Variables read_;
+    Variables written_;
 };
 
 /// Always the same, whatever happens before.
@@ -127,7 +140,7 @@ bool mustComeBeforePlace(const Expression& value, const TargetPlace& target) {
         return false;
     }
     if (const Variable* variable = asPlainRead(value)) {
-        return variable == root;
+        return root != nullptr && mayBeSame(*variable, *root);
     }
     const Effects effects(value);
     return root == nullptr ? effects.changesSomething() || effects.takesParts()

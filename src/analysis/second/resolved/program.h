@@ -31,6 +31,8 @@ struct Variable {
     bool isShared = false;
     /// Some way leads to a read of it before it has a value: such reads are checked.
     bool mayBeUnset = false;
+    /// A parameter that is மாற்று: while the call lasts it is the variable that the call gives for it, which others may know.
+    bool isReference = false;
 };
 
 /// A parameter of a function.
