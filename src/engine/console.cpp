@@ -1,7 +1,9 @@
 #include "engine/library.h"
+#include "engine/memory.h"
 #include "engine/output.h"
 #include "engine/text.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <string>
 
@@ -18,12 +20,17 @@ void print(std::initializer_list<Value> values) {
     endPrinting();
 }
 
-Value readLine(Place /*place*/) {
+Value readLine(Place place) {
+    noteGrowth(place);
     flushOutput();
     // Kept from line to line, as getline wants it.
     static char* buffer = nullptr;
     static std::size_t capacity = 0;
+    errno = 0;
     const ssize_t size = getline(&buffer, &capacity, stdin);
+    if (size < 0 && errno == ENOMEM) {
+        raiseOutOfMemory();
+    }
     std::string line(buffer, size > 0 ? static_cast<std::size_t>(size) : 0);
     for (const char end : {'\n', '\r'}) {
         if (!line.empty() && line.back() == end) {

@@ -51,7 +51,10 @@ void raise(int number, Place place, std::initializer_list<std::string_view> valu
     details->place = place == nullptr && Frame::innermost != nullptr ? Frame::innermost->calledAt() : place;
     details->values.assign(values.begin(), values.end());
     details->suggestion = suggestion;
-    noteWay(*details);
+    // Nobody is told the way to a fault that is caught, and it may be as long as the stack.
+    if (Attempt::running == 0) {
+        noteWay(*details);
+    }
     throw Fault(details.release());
 }
 
@@ -62,17 +65,18 @@ Fault::Fault(const Fault& other) : details(other.details) {
 }
 
 Fault::~Fault() {
-    if (--details->references > 0) {
-        return;
-    }
     const bool tookReserve = details->number == OUT_OF_MEMORY;
-    delete details;
+    if (--details->references == 0) {
+        delete details;
+    }
     if (tookReserve) {
         putMemoryBy();
     }
 }
 
 Value Fault::message() const {
+    // பிடி begins with it: what runs there may want for memory as well.
+    putMemoryBy();
     return makeText(filledText(entryOf(*details).message, details->values));
 }
 
@@ -90,6 +94,8 @@ report::FaultText faultText(const Fault& fault) {
     text.callsLeftOut = details.callsLeftOut;
     return text;
 }
+
+int Attempt::running = 0;
 
 const Frame* Frame::innermost = nullptr;
 const char* Frame::stackLimit = nullptr;

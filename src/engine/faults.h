@@ -20,6 +20,18 @@ struct Fault {
     ~Fault();
 };
 
+/// A முயற்சி whose statements run: a fault doesn't leave it. Emitted try blocks begin with one of these.
+class Attempt {
+public:
+    Attempt() { ++running; }
+    ~Attempt() { --running; }
+    Attempt(const Attempt&) = delete;
+    Attempt& operator=(const Attempt&) = delete;
+
+    /// How many there are inside each other.
+    static int running;
+};
+
 /// One call that has not returned. Emitted functions begin with one of these.
 class Frame {
 public:

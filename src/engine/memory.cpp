@@ -1,5 +1,6 @@
 #include "engine/memory.h"
 
+#include "engine/fault_details.h"
 #include "engine/raise.h"
 #include "engine/running_faults.h"
 
@@ -9,27 +10,43 @@
 namespace pozhil::engine {
 namespace {
 
-/// What telling a fault takes, many times over.
-constexpr std::size_t RESERVE_SIZE = std::size_t{4} << 20U;
+/// Memory that is put by.
+class Reserve {
+public:
+    bool isThere() const { return memory_ != nullptr; }
+    /// Takes some, if it isn't there and there is any.
+    void fill() {
+        // What telling a fault takes, many times over.
+        constexpr std::size_t SIZE = std::size_t{4} << 20U;
+        if (!isThere()) {
+            memory_ = std::malloc(SIZE);
+        }
+    }
+    /// Gives it back to the heap.
+    void release() {
+        std::free(memory_);
+        memory_ = nullptr;
+    }
 
-void* reserve = nullptr;
+private:
+    void* memory_ = nullptr;
+};
+
+/// For the fault that memory is wanting.
+Reserve reserve;
+/// For the end of the program: even where it holds on to all memory, it is told.
+Reserve lastReserve;
 
 /// Where a value last grew; null for nowhere yet.
 Place lastGrowth = nullptr;
 
-/// Gives the reserve back to the heap so that the fault can be made.
-[[noreturn]] void tellOutOfMemory() {
-    std::free(reserve);
-    reserve = nullptr;
-    raise(OUT_OF_MEMORY, lastGrowth);
-}
-
-/// What operator new calls when there is no memory.
-void handleNew() {
-    if (reserve == nullptr) {
-        throw std::bad_alloc();
-    }
-    tellOutOfMemory();
+/// A fault that takes no memory, for want of the reserve.
+[[noreturn]] void raiseBareFault() {
+    static Fault::Details bare;
+    bare.number = OUT_OF_MEMORY;
+    bare.place = lastGrowth;
+    ++bare.references; // it is never freed
+    throw Fault(&bare);
 }
 
 void* tryReallocate(void* old, std::size_t count, std::size_t size) {
@@ -44,13 +61,26 @@ void* tryReallocate(void* old, std::size_t count, std::size_t size) {
 
 void watchMemory() {
     putMemoryBy();
-    std::set_new_handler(handleNew);
+    lastReserve.fill();
+    // What operator new calls when there is no memory.
+    std::set_new_handler(raiseOutOfMemory);
 }
 
 void putMemoryBy() {
-    if (reserve == nullptr) {
-        reserve = std::malloc(RESERVE_SIZE);
+    reserve.fill();
+}
+
+void useLastMemory() {
+    lastReserve.release();
+}
+
+void raiseOutOfMemory() {
+    if (!reserve.isThere()) {
+        raiseBareFault();
     }
+    // The heap has what the fault takes.
+    reserve.release();
+    raise(OUT_OF_MEMORY, lastGrowth);
 }
 
 void noteGrowth(Place place) noexcept {
@@ -60,7 +90,7 @@ void noteGrowth(Place place) noexcept {
 void* reallocate(void* old, std::size_t count, std::size_t size) {
     void* const room = tryReallocate(old, count, size);
     if (room == nullptr && count > 0 && size > 0) {
-        tellOutOfMemory();
+        raiseOutOfMemory();
     }
     return room;
 }

@@ -11,11 +11,17 @@ namespace pozhil::engine {
 /// From here on operator new raises a fault too, and some memory is put by to tell it with.
 void watchMemory();
 
-/// Puts memory by again after the fault has been dealt with, if there is some by now.
+/// Puts memory by again where a fault is caught, if there is some by now.
 void putMemoryBy();
+
+/// Gives back what is kept for telling the fault that ends the program.
+void useLastMemory();
 
 /// Notes where a value grows, so that a fault for want of memory can tell: what asks for memory doesn't know.
 void noteGrowth(Place place) noexcept;
+
+/// Tells that memory is wanting.
+[[noreturn]] void raiseOutOfMemory();
 
 /// Room for so many items of so many bytes, as realloc gives it.
 /// \param old null for new room

@@ -1,13 +1,13 @@
 #include "engine/normal_form.h"
 
 #include "engine/code_points.h"
+#include "engine/memory.h"
 
 #include <utf8proc.h>
 
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
-#include <new>
 
 namespace pozhil::engine {
 namespace {
@@ -91,7 +91,7 @@ std::string composed(std::string_view text) {
                      &result, static_cast<utf8proc_option_t>(UTF8PROC_STABLE | UTF8PROC_COMPOSE));
     const std::unique_ptr<utf8proc_uint8_t, decltype(&std::free)> owner(result, std::free);
     if (size < 0) {
-        throw std::bad_alloc();
+        raiseOutOfMemory();
     }
     return std::string(reinterpret_cast<const char*>(result), static_cast<std::size_t>(size));
 }

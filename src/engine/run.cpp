@@ -33,10 +33,10 @@ void startProgram() {
     } catch (const Fault&) {
         throw;
     } catch (const std::bad_alloc&) {
-        raise(OUT_OF_MEMORY, nullptr);
+        raiseOutOfMemory();
     } catch (const std::length_error&) {
         // A text or list that is larger than any memory.
-        raise(OUT_OF_MEMORY, nullptr);
+        raiseOutOfMemory();
     } catch (const std::exception& error) {
         raise(FAULT_OF_OURS, nullptr, {error.what()});
     }
@@ -59,6 +59,8 @@ void runToTheEnd(void* status) {
         startProgram();
     } catch (const Fault& fault) {
         *static_cast<int*>(status) = 1;
+        flushOutput();
+        useLastMemory();
         waitingOutput() += report::faultBox(faultText(fault));
     }
     flushOutput();

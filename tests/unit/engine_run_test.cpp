@@ -1,13 +1,10 @@
-#include "child_process.h"
 #include "engine/list.h"
-#include "engine_support.h"
+#include "engine_run_support.h"
 
-#include <sys/resource.h>
+#include <fcntl.h>
 
 #include <cstdlib>
-#include <regex>
 #include <string>
-#include <string_view>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -24,27 +21,6 @@ using namespace pozhil::engine;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
-
-constexpr std::string_view MAIN_TEXT = "முதல் வரி\nஇரண்டாம் வரி\nஅச்சிடு(ப[9])\n";
-constexpr std::string_view PART_TEXT = "ஒன்று\r\n    திரும்பு ப[9]\r\n";
-constexpr Source SOURCES[] = {{"பாடம்.பொழில்", MAIN_TEXT.data(), MAIN_TEXT.size()},
-                              {"பாகம்.பொழில்", PART_TEXT.data(), PART_TEXT.size()}};
-
-ProgramInfo programOf(void (*start)()) {
-    return {start, SOURCES, 2, nullptr, 0, nullptr, 0};
-}
-
-/// What the program writes, without colours, and its exit status.
-/// \param prepare is done before the program runs
-ChildResult resultOf(
-    void (*start)(), void (*prepare)() = [] {}) {
-    ChildResult result = runInChild([&] {
-        prepare();
-        _exit(run(programOf(start)));
-    });
-    result.output = std::regex_replace(result.output, std::regex("\033\\[[0-9;]*m"), "");
-    return result;
-}
 
 /// Gives standard input this text.
 void feed(const std::string& text) {
@@ -136,13 +112,6 @@ TEST(Run, StrangePlacesDoNoHarm) {
     EXPECT_THAT(result.output, HasSubstr("வரி 99999"));
 }
 
-/// NOLINTNEXTLINE(misc-no-recursion): it is what the test is about
-Whole depthReached(Whole wanted, Place at) {
-    const Frame frame("ஆழம்", at);
-    const Value somethingToHold = list({wanted});
-    return wanted == 0 ? 0 : 1 + depthReached(wanted - 1, "2:0-5");
-}
-
 TEST(Run, CallsNestDeeply) {
     const ChildResult result = resultOf([] { print({depthReached(50'000, "1:0-3")}); });
     EXPECT_EQ(result.output, "50000\n");
@@ -171,59 +140,32 @@ TEST(Run, EndlessCallsCanBeCaughtAgainAndAgain) {
     EXPECT_EQ(result.output, "பிடித்தேன்\nபிடித்தேன்\n1000\n");
 }
 
-void limitMemory() {
-    const rlimit limit = {256UL << 20U, 256UL << 20U};
-    setrlimit(RLIMIT_AS, &limit);
+TEST(Run, AClosedOutputSwallowsWhatIsPrinted) {
+    const ChildResult result = runInChild([] {
+        close(STDOUT_FILENO);
+        _exit(run(programOf([] {
+            print({text("யாரும் இல்லை")});
+            writeFile(text("/tmp/engine_run_test_closed"), text("கோப்பு"), "1:0-1");
+            print({text("யாரும் இல்லை")});
+        })));
+    });
+    EXPECT_EQ(result.exitStatus, 0);
+    std::FILE* const file = std::fopen("/tmp/engine_run_test_closed", "r");
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(contentOf(file), "கோப்பு") << "what is printed must not get into a file of the program";
+    std::remove("/tmp/engine_run_test_closed");
 }
 
-void growForEver() {
-    Value values = makeList();
-    for (;;) {
-        append(values, list({1, 2, 3}), "3:0-9");
-    }
-}
-
-TEST(Run, WantOfMemoryIsTold) {
-    if (HAS_SANITIZERS) {
-        GTEST_SKIP() << "the sanitizer takes all addresses for itself";
-    }
-    const ChildResult result = resultOf(growForEver, limitMemory);
-    EXPECT_EQ(result.exitStatus, 1);
-    EXPECT_THAT(result.output, HasSubstr("நினைவகம் (Memory) தீர்ந்துவிட்டது."));
-    EXPECT_THAT(result.output, HasSubstr("வரி 3"));
-}
-
-TEST(Run, WantOfMemoryCanBeCaughtAgainAndAgain) {
-    if (HAS_SANITIZERS) {
-        GTEST_SKIP() << "the sanitizer takes all addresses for itself";
-    }
-    const auto start = [] {
-        for (int i = 0; i < 3; ++i) {
-            try {
-                growForEver();
-            } catch (const Fault& fault) {
-                print({fault.message()});
+TEST(Run, AFullOutputIsNoFault) {
+    const ChildResult result = runInChild([] {
+        dup2(open("/dev/full", O_WRONLY), STDOUT_FILENO);
+        _exit(run(programOf([] {
+            for (int i = 0; i < 100'000; ++i) {
+                print({i});
             }
-        }
-        print({faultOf([] { range(Whole{1} << 60U, "3:0-9"); })});
-        Value longer = text("நீளமான உரை");
-        print({faultOf([&] {
-            for (;;) {
-                addTo(longer, longer, "3:0-9");
-            }
-        })});
-    };
-    const ChildResult result = resultOf(start, limitMemory);
-    const std::string told = "நினைவகம் (Memory) தீர்ந்துவிட்டது.\n";
-    EXPECT_EQ(result.output, told + told + told + "641\n641\n");
-}
-
-TEST(Run, StacksFitIntoLimitedMemory) {
-    if (HAS_SANITIZERS) {
-        GTEST_SKIP() << "the sanitizer takes all addresses for itself";
-    }
-    const ChildResult result = resultOf([] { print({depthReached(10'000, "1:0-3")}); }, limitMemory);
-    EXPECT_EQ(result.output, "10000\n");
+        })));
+    });
+    EXPECT_EQ(result.exitStatus, 0);
 }
 
 TEST(Run, ReadsLines) {

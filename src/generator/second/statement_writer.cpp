@@ -214,9 +214,10 @@ void StatementWriter::visit(const Switch& statement) {
     lines_.close();
 }
 
-/// முயற்சி: ... பிடி(பிழை): ...  ->  try { ... } catch (const Fault& fault) { ... }
+/// முயற்சி: ... பிடி(பிழை): ...  ->  try { const Attempt attempt; ... } catch (const Fault& fault) { ... }
 void StatementWriter::visit(const Try& statement) {
     lines_.open("try {");
+    lines_.line("const Attempt attempt;");
     write(*statement.body);
     lines_.reopen("} catch (const Fault& fault) {");
     if (statement.variable != nullptr) {
