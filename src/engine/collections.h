@@ -16,6 +16,8 @@ template <unsigned long size> Value text(const char (&bytes)[size]) {
 
 /// A list of these elements.
 Value list(std::initializer_list<Value> elements);
+/// Appends further elements to a list that nobody else holds.
+void addElements(Value& list, std::initializer_list<Value> elements);
 
 struct Entry {
     Value key;
@@ -24,6 +26,8 @@ struct Entry {
 
 /// A map of these entries; of equal keys the last one counts. A key is a text, a whole number or a truth value.
 Value map(std::initializer_list<Entry> entries, Place place);
+/// Adds further entries to a map that nobody else holds.
+void addEntries(Value& map, std::initializer_list<Entry> entries, Place place);
 
 /// container[index], read: an element, the value of a key, or a letter.
 Value get(const Value& container, const Value& index, Place place);

@@ -72,19 +72,27 @@ Value valueOfKey(const Value& map, const Value& key, Place place) {
 
 Value list(std::initializer_list<Value> elements) {
     Value list = makeList(elements.size());
+    addElements(list, elements);
+    return list;
+}
+
+void addElements(Value& list, std::initializer_list<Value> elements) {
     for (const Value& element : elements) {
         appendTo(listBlock(list), element);
     }
-    return list;
 }
 
 Value map(std::initializer_list<Entry> entries, Place place) {
     Value map = makeMap();
+    addEntries(map, entries, place);
+    return map;
+}
+
+void addEntries(Value& map, std::initializer_list<Entry> entries, Place place) {
     for (const Entry& entry : entries) {
         checkKey(entry.key, place);
         placeOfKey(mapBlock(map), entry.key) = entry.value;
     }
-    return map;
 }
 
 Value get(const Value& container, const Value& index, Place place) {

@@ -5,7 +5,9 @@
 namespace pozhil::test {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
+using testing::Not;
 
 /// What "அச்சிடு(expression)" becomes after these statements, without print({…}).
 std::string printed(const std::string& before, const std::string& expression) {
@@ -70,13 +72,36 @@ TEST(SecondWriterExpressions, NothingIsHeldThatCannotChange) {
     EXPECT_EQ(printed("அ = 1\nஆ = 2\n", "அ கழி ஆ"), "subtract(v_அ, v_ஆ, @)");
 }
 
-TEST(SecondWriterExpressions, OfTwoOperandsThatMayFailTheLeftOneComesFirst) {
-    const std::string before = "ப = [1]\nம = {}\nஎ = 2\n";
-    EXPECT_EQ(printed(before, "ம[எ] கூட்டு ப[9]"), "({ Value t1 = get(v_ம, v_எ, @); add(t1, get(v_ப, 9LL, @), @); })");
-    EXPECT_EQ(printed(before, "(எ பெருக்கு 2) கழி (எ பெருக்கு 3)"),
-              "({ const Whole t1 = multiply(v_எ, 2LL, @); subtract(t1, multiply(v_எ, 3LL, @), @); })");
-    EXPECT_EQ(printed(before, "(எ பெருக்கு 2) கழி (எ பெருக்குஇருமை 3)"),
-              "subtract(multiply(v_எ, 2LL, @), bitAnd(v_எ, 3LL, @), @)");
+TEST(SecondWriterExpressions, LongListsAndMapsAreMadePartByPart) {
+    const auto items = [](const std::string& item, int count) {
+        std::string text;
+        for (int index = 0; index < count; ++index) {
+            text += (index == 0 ? "" : ", ") + item;
+        }
+        return text;
+    };
+    EXPECT_THAT(WrittenProgram("ப = [" + items("1", 64) + "]\n").statements(),
+                HasSubstr("v_ப = list({" + items("1LL", 64) + "});\n"));
+    EXPECT_THAT(WrittenProgram("ப = [" + items("1", 130) + "]\n").statements(),
+                HasSubstr("v_ப = [&]() -> Value { Value all = list({" + items("1LL", 64) +
+                          "}); [&] { addElements(all, {" + items("1LL", 64) +
+                          "}); }(); [&] { addElements(all, {1LL, 1LL}); }(); return all; }();\n"));
+    std::string entries;
+    for (int index = 0; index < 65; ++index) {
+        entries += std::to_string(index) + ": 1, ";
+    }
+    EXPECT_THAT(WrittenProgram("ம = {" + entries + "}\n").statements(),
+                AllOf(HasSubstr("Value all = map({Entry{0LL, 1LL}, "),
+                      HasSubstr("[&] { addEntries(all, {Entry{64LL, 1LL}}, @); }();")));
+}
+
+TEST(SecondWriterExpressions, DeepListsAreFunctionsAtSomeLevels) {
+    const auto nested = [](int depth) {
+        return "ப = " + std::string(static_cast<std::size_t>(depth), '[') + "1" +
+               std::string(static_cast<std::size_t>(depth), ']') + "\n";
+    };
+    EXPECT_THAT(WrittenProgram(nested(15)).statements(), Not(HasSubstr("[&]")));
+    EXPECT_THAT(WrittenProgram(nested(16)).statements(), HasSubstr("list({[&]() -> Value { return list({1LL}); }()})"));
 }
 
 TEST(SecondWriterExpressions, BracesKeepTheOrderByThemselves) {

@@ -21,20 +21,27 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// How far g++ optimises a text of so many lines.
+/// How far g++ optimises a text of so many lines, with so many blocks inside each other.
 struct Optimisation {
     std::size_t mostLines;
+    std::size_t deepestLevel;
     const char* flag;
 };
 
+constexpr std::size_t ANY = std::numeric_limits<std::size_t>::max();
+/// Loops inside each other cost g++ more than the square of their number: a hundred of them half a second, a thousand
+/// minutes.
+constexpr std::size_t DEEP = 100;
+
 /// -O1 is the best for building and running together, by measurement: -O2 builds longer than it saves. Whoever writes a long
 /// program waits for g++ more than for the program: no build shall take above two seconds for 5,000 lines of source.
-constexpr Optimisation OPTIMISATIONS[] = {
-    {6000, "-O1"}, {12000, "-Og"}, {std::numeric_limits<std::size_t>::max(), "-O0"}};
+constexpr Optimisation OPTIMISATIONS[] = {{6000, DEEP, "-O1"}, {12000, DEEP, "-Og"}, {ANY, ANY, "-O0"}};
 
-const char* optimisationFor(std::size_t lines) {
+const char* optimisationFor(const SecondText& text) {
     return std::find_if(std::begin(OPTIMISATIONS), std::end(OPTIMISATIONS),
-                        [&](const Optimisation& row) { return lines <= row.mostLines; })
+                        [&](const Optimisation& row) {
+                            return text.origins.size() <= row.mostLines && text.deepestLevel <= row.deepestLevel;
+                        })
         ->flag;
 }
 
@@ -59,10 +66,9 @@ SecondBuild::SecondBuild(fs::path appDirectory, fs::path generatedSource, const 
       generatedSource_(std::move(generatedSource)), program_(temporaryDirectory) {}
 
 void SecondBuild::start(const SecondTranslation& translation) {
-    toolchain_ =
-        std::async(std::launch::async, [command = command(optimisationFor(translation.output.origins.size()))] {
-            return platform::captureCommand(command);
-        });
+    toolchain_ = std::async(std::launch::async, [command = command(optimisationFor(translation.output))] {
+        return platform::captureCommand(command);
+    });
 }
 
 platform::Command SecondBuild::command(const char* optimisation) const {

@@ -22,6 +22,7 @@ void EmittedLines::line(const std::string& text) {
 void EmittedLines::open(const std::string& text) {
     line(text);
     ++level_;
+    deepestLevel_ = std::max(deepestLevel_, level_);
 }
 
 void EmittedLines::close(const std::string& after) {
@@ -44,6 +45,7 @@ void EmittedLines::gap() {
 void EmittedLines::append(const EmittedLines& part) {
     text_ += part.text_;
     origins_.insert(origins_.end(), part.origins_.begin(), part.origins_.end());
+    deepestLevel_ = std::max(deepestLevel_, part.deepestLevel_);
 }
 
 } // namespace pozhil::resolved::writer

@@ -29,12 +29,15 @@ public:
     const std::string& text() const { return text_; }
     /// For each line.
     const std::vector<Place>& origins() const { return origins_; }
+    /// How many blocks stand inside each other at most.
+    std::size_t deepestLevel() const { return deepestLevel_; }
 
 private:
     std::string text_;
     std::vector<Place> origins_;
     Place place_;
     std::size_t level_ = 0;
+    std::size_t deepestLevel_ = 0;
 };
 
 } // namespace pozhil::resolved::writer

@@ -1,6 +1,7 @@
 #include "generator/second/expression_writer.h"
 
 #include "analysis/second/resolved/visit.h"
+#include "base/scoped_increment.h"
 #include "generator/second/assignment_writer.h"
 #include "generator/second/call_writer.h"
 #include "generator/second/literals.h"
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <vector>
 
 namespace pozhil::resolved::writer {
 
@@ -101,21 +103,45 @@ void ExpressionWriter::visit(const NothingLiteral&) {
 
 /// [a, b]  ->  list({a, b})
 void ExpressionWriter::visit(const ListLiteral& list) {
-    std::string elements;
+    const ScopedIncrement inside(openBraces_);
+    std::vector<std::string> elements;
     for (const ExpressionPtr& element : list.elements) {
-        elements += (elements.empty() ? "" : ", ") + write(*element);
+        elements.push_back(write(*element));
     }
-    text_ = "list({" + elements + "})";
+    text_ = braced("list(", "addElements(all, ", elements, ")");
 }
 
 /// {a: b}  ->  map({Entry{a, b}}, place)
 void ExpressionWriter::visit(const MapLiteral& map) {
-    std::string entries;
+    const ScopedIncrement inside(openBraces_);
+    std::vector<std::string> entries;
     for (const auto& [key, value] : map.entries) {
         const std::string keyText = write(*key);
-        entries += (entries.empty() ? "Entry{" : ", Entry{") + keyText + ", " + write(*value) + "}";
+        entries.push_back("Entry{" + keyText + ", " + write(*value) + "}");
     }
-    text_ = "map({" + entries + "}, " + placeOf(map.place) + ")";
+    text_ = braced("map(", "addEntries(all, ", entries, ", " + placeOf(map.place) + ")");
+}
+
+std::string ExpressionWriter::braced(const std::string& make, const std::string& add,
+                                     const std::vector<std::string>& items, const std::string& ending) const {
+    constexpr std::size_t ITEMS = 64;
+    constexpr int LEVELS = 16;
+    const auto part = [&](std::size_t begin) {
+        std::string text;
+        for (std::size_t index = begin; index < std::min(begin + ITEMS, items.size()); ++index) {
+            text += (text.empty() ? "{" : ", ") + items[index];
+        }
+        return (text.empty() ? "{" : text) + "}" + ending;
+    };
+    if (items.size() <= ITEMS) {
+        const std::string text = make + part(0);
+        return openBraces_ % LEVELS == 0 ? "[&]() -> Value { return " + text + "; }()" : text;
+    }
+    std::string text = "[&]() -> Value { Value all = " + make + part(0) + "; ";
+    for (std::size_t begin = ITEMS; begin < items.size(); begin += ITEMS) {
+        text += "[&] { " + add + part(begin) + "; }(); ";
+    }
+    return text + "return all; }()";
 }
 
 void ExpressionWriter::visit(const VariableRead& read) {

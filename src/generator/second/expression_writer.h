@@ -6,6 +6,7 @@
 #include "generator/second/types.h"
 
 #include <string>
+#include <vector>
 
 namespace pozhil::resolved::writer {
 
@@ -68,12 +69,20 @@ private:
     friend class CallWriter;
     friend class AssignmentWriter;
 
+    /// A list or map in braces. g++ takes time by the square of how many items there are, and more of how deep braces nest:
+    /// long ones are made part by part, and at every so many levels a function keeps g++ from looking further.
+    /// \param make what comes before the first items
+    /// \param add what comes before further items, for a variable called all
+    std::string braced(const std::string& make, const std::string& add, const std::vector<std::string>& items,
+                       const std::string& ending) const;
     /// "c_எ.cell()" in the function whose variable it is, "captured(own, 0)" in one inside of it.
     std::string cellOf(const Variable& variable) const;
 
     ProgramTables& tables_;
     CallScope& scope_;
     std::string text_;
+    /// Lists and maps that are being written, inside each other.
+    int openBraces_ = 0;
 };
 
 } // namespace pozhil::resolved::writer

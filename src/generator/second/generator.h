@@ -2,6 +2,7 @@
 
 #include "analysis/second/resolved/program.h"
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,8 @@ struct SecondText {
     std::string text;
     /// For each line of the text, counted from 0, where in the source the statement stands that it was written for.
     std::vector<resolved::Place> origins;
+    /// How many blocks stand inside each other at most.
+    std::size_t deepestLevel = 0;
 };
 
 SecondText writeSecondEdition(const resolved::Program& program);
