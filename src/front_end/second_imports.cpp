@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <ios>
 #include <system_error>
 
 namespace pozhil {
@@ -23,8 +24,12 @@ SourcePtr SecondImports::load(const std::string& written, const std::string& imp
     const SourceLoader& loader = options_.loader == nullptr ? files : *options_.loader;
     const std::filesystem::path path = pathOf(ImportLoader::modulePath(written));
     for (const std::string& directory : directoriesFor(importer)) {
-        if (SourcePtr source = loader.load((pathOf(directory) / path).lexically_normal().u8string())) {
-            return source;
+        try {
+            if (SourcePtr source = loader.load((pathOf(directory) / path).lexically_normal().u8string())) {
+                return source;
+            }
+        } catch (const std::ios_base::failure&) {
+            // What can be opened but not read is as good as missing.
         }
     }
     return nullptr;

@@ -79,8 +79,10 @@ ShownLine partsOf(const Excerpt& excerpt) {
 /// The last letters of \p text that fit into so many columns, with a sign that something is missing.
 std::string lastLetters(const std::string& text, std::size_t columns) {
     std::string_view rest = text;
-    while (width(rest) > columns) {
-        rest.remove_prefix(firstLetterSize(rest));
+    for (std::size_t left = width(rest); left > columns;) {
+        const std::size_t letter = firstLetterSize(rest);
+        left -= width(rest.substr(0, letter));
+        rest.remove_prefix(letter);
     }
     return rest.size() == text.size() ? text : "…" + std::string(rest);
 }
