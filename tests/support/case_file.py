@@ -27,6 +27,8 @@ FILES_SUFFIX = ".கோப்புகள்"
 # The end of an output whose last line is not ended.
 UNENDED = "␃"
 
+_SECOND_EDITION = re.compile("\ufeff?[ \t]*ஃ[ \t]*பொழில்[ \t]*[2௨][ \t\r]*")
+
 _PLACE = re.compile(r"(?P<code>\S+-\d{3}) வரி (?P<line>\d+)(?: கோப்பு (?P<file>.+))?")
 
 
@@ -112,16 +114,23 @@ def read_case(path):
     """Reads the case at `path`; raises `CaseError` when its expectation can't be understood."""
     path = Path(path)
     source = path.read_bytes()
+    edition = edition_of(source)
     sibling = path.with_name(path.stem + EXPECTATION_SUFFIX)
     if sibling.exists():
-        return Case(path, source, parse_expectation(sibling.read_text(encoding="utf-8")), sibling)
+        return Case(path, source, parse_expectation(sibling.read_text(encoding="utf-8"), edition), sibling)
     _, block = split_block(source)
-    return Case(path, source, parse_expectation(block.decode("utf-8")), None)
+    return Case(path, source, parse_expectation(block.decode("utf-8"), edition), None)
 
 
-def parse_expectation(block):
+def edition_of(source):
+    """The edition that the first line of a program asks for."""
+    first = source.split(b"\n", 1)[0].decode("utf-8", "replace")
+    return 2 if _SECOND_EDITION.fullmatch(first) else 1
+
+
+def parse_expectation(block, edition=1):
     """Reads expectation lines; raises `CaseError` with the number of a wrong line."""
-    expectation = Expectation([(kind, text) for _, kind, text in marked_entries(block, (MARK,), KINDS)])
+    expectation = Expectation([(kind, text) for _, kind, text in marked_entries(block, (MARK,), KINDS)], edition)
     check_expectation(expectation)
     return expectation
 

@@ -129,8 +129,7 @@ def as_case(program, folder):
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_text(text, encoding="utf-8")
     block = "".join(cf.format_entry(*entry) + "\n" for entry in program.entries)
-    expectation = cf.parse_expectation(block)
-    expectation.edition = program.edition
+    expectation = cf.parse_expectation(block, program.edition)
     return cf.Case(folder / (name + cf.SOURCE_SUFFIX), program.fence.text.encode(), expectation, None)
 
 

@@ -110,6 +110,22 @@ def test_expectation_beside_the_case(write, tmp_path):
     assert check(case) == ""
 
 
+def test_the_marker_asks_for_the_second_edition(write):
+    lines = ["ஃ> பிழை: பொழி-551 வரி 2", "ஃ> பிழை: பொழி-552 வரி 3"]
+    assert check(write("ஃ பொழில் 2", "error 106 2 551", "error 106 3 552", *lines)) == ""
+    assert check(write("ஃ பொழில் 2", "print அ", "crash 311 3 642", "ஃ> வெளியீடு: அ", "ஃ> இயக்கநேர பிழை: பொழி-642 வரி 3")) == ""
+    with pytest.raises(cf.CaseError):
+        write("error 106 2 551", *lines)
+
+
+@pytest.mark.parametrize("line, edition", [
+    ("ஃ பொழில் 2", 2), ("\ufeffஃ பொழில் 2", 2), (" ஃபொழில் ௨ \r", 2), ("ஃ பொழில் 3", 1), ("ஃ பொழில் 2 ", 2), ("ஃ பொழில் 20", 1),
+    ("\nஃ பொழில் 2", 1), ("அ = 1", 1),
+])
+def test_edition_of_a_program(line, edition):
+    assert cf.edition_of(f"{line}\nஅச்சிடு(1)\n".encode()) == edition
+
+
 def test_files_stand_beside_the_program(tmp_path, write):
     folder = tmp_path / f"வழக்கு{cf.FILES_SUFFIX}"
     folder.mkdir()
