@@ -3,12 +3,13 @@
 import re
 import signal
 import time
-from contextlib import contextmanager
+from contextlib import ExitStack, contextmanager
 
 import pytest
 
 from support import texts as t
-from support.console import animation_line, behind_animation
+from support.console import animation_line, behind_animation, output_error_line
+from support.process import run
 from support.second_box import split_boxes
 from support.toolchain import PROGRAM_OUTPUT
 
@@ -50,7 +51,7 @@ def test_engine_is_linked_and_no_object_of_the_first_edition(installed_place, in
     assert str(installation.object.parent / ARCHIVE) in call
     assert str(installation.object) not in call
     assert "-static" in call
-    assert str(installed_place.emitted_path) in call
+    assert str(installed_place.directory_of(SOURCE) / t.EMITTED_NAME) in call
 
 
 def test_user_flags_are_added(place, tools):
@@ -162,7 +163,7 @@ def refusal_of(place, tools, piece):
     """What the compiler says if g++ refuses the line of the text that holds `piece`."""
     place.write(SOURCE, MARKER + "அச்சிடு(1)\n\nஅச்சிடு(2)\n")
     tools.fails(
-        f'line=$(/bin/grep -n -F "{piece}" .நிலையற்ற/generated.cpp | /usr/bin/cut -d: -f1); '
+        f'line=$(/bin/grep -n -F "{piece}" {t.WORK_DIRECTORY}/{SOURCE}/{t.EMITTED_NAME} | /usr/bin/cut -d: -f1); '
         'echo "$1:$line:5: error: strange words" >&2'
     )
     return place.run(SOURCE)
@@ -191,6 +192,52 @@ def test_the_program_before_is_not_run_after_a_refusal(place, tools):
     assert (result.status, shown(result)) == (1, "")
 
 
+# Side by side.
+
+
+def files_of(place, source):
+    return sorted(path.name for path in place.directory_of(source).iterdir())
+
+
+@pytest.mark.parametrize("source", ["ஆ.பொழில்", "உள்ளே/அ.பொழில்", "../வெளியே/அ.பொழில்"])
+def test_two_programs_of_one_folder_do_not_meet(real_place, source):
+    (real_place.folder / source).parent.mkdir(exist_ok=True)
+    real_place.write(SOURCE, HELLO)
+    real_place.write(source, MARKER + 'அச்சிடு("மற்றது")\n')
+    with real_place.session(SOURCE) as first, real_place.session(source) as second:
+        assert [first.wait_for_end(), second.wait_for_end()] == [0, 0]
+        assert "வணக்கம்\n".encode() in first.stdout
+        assert "மற்றது\n".encode() in second.stdout
+
+
+def test_runs_of_one_program_do_not_meet(real_place):
+    real_place.write(SOURCE, HELLO)
+    with ExitStack() as stack:
+        sessions = [stack.enter_context(real_place.session(SOURCE)) for _ in range(4)]
+        assert [session.wait_for_end() for session in sessions] == [0] * 4
+        assert all(session.stdout.endswith("வணக்கம்\n".encode()) and not session.stderr for session in sessions)
+    assert files_of(real_place, SOURCE) == [t.EMITTED_NAME, t.PROGRAM_NAME]
+
+
+def test_a_folder_that_cannot_be_made_is_told(place):
+    place.write(t.WORK_DIRECTORY, "")
+    place.write(SOURCE, HELLO)
+    result = place.run(SOURCE)
+    assert (result.status, result.out) == (1, "")
+    assert result.err == output_error_line(place.directory_of(SOURCE) / t.EMITTED_NAME)
+
+
+def test_the_text_of_a_build_that_does_not_fit_leaves_the_one_before(place, tools):
+    place.write(SOURCE, HELLO)
+    place.run(SOURCE)
+    place.write(SOURCE, MARKER + "அச்சிடு(5)\n" * 2000)
+    result = run(["/bin/sh", "-c", f'ulimit -f 8; exec "$0" {SOURCE}', place.compiler], cwd=place.folder, env=place.env)
+    assert result.status == 1
+    assert str(place.directory_of(SOURCE) / t.EMITTED_NAME) in result.err
+    assert "வணக்கம்" in (place.directory_of(SOURCE) / t.EMITTED_NAME).read_text(encoding="utf-8")
+    assert files_of(place, SOURCE) == [t.EMITTED_NAME, t.PROGRAM_NAME]
+
+
 # Watching.
 
 
@@ -209,7 +256,7 @@ def test_a_change_is_built_and_run(place, tools):
         place.change(SOURCE, MARKER + "அச்சிடு(5)\n")
         session.wait_for_output(t.CHANGE_NOTE)
         session.wait_for_output(PROGRAM_OUTPUT)
-        assert "print({5LL});" in place.emitted
+        assert "print({5LL});" in (place.directory_of(SOURCE) / t.EMITTED_NAME).read_text(encoding="utf-8")
 
 
 def test_watching_goes_on_after_a_fault(place):

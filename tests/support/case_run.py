@@ -54,7 +54,7 @@ def run_case(case, compiler, *, with_program, timeout=TIMEOUT):
             result = run(command, cwd=work, env=env, stdin=typed, timeout=timeout)
         else:
             result = _run_without_toolchain(command, work, env, scratch / "tools", timeout)
-        return _outcome(case, result, _emitted_text(work / t.WORK_DIRECTORY), with_program)
+        return _outcome(case, result, _emitted_text(work / t.WORK_DIRECTORY, case.path.name), with_program)
 
 
 def _run_without_toolchain(command, work, env, tools, timeout):
@@ -71,9 +71,9 @@ def _run_without_toolchain(command, work, env, tools, timeout):
         return Result(status, session.stdout, session.stderr, timed_out=status is None)
 
 
-def _emitted_text(folder):
-    """The text for em++ if the case is a web program, else the text for g++, else None."""
-    for name in (t.EMITTED_WEB_NAME, t.EMITTED_NAME):
+def _emitted_text(folder, source):
+    """The text for em++ if the case is a web program, else the text for g++ of either edition, else None."""
+    for name in (t.EMITTED_WEB_NAME, t.EMITTED_NAME, f"{source}/{t.EMITTED_NAME}"):
         if (folder / name).is_file():
             return (folder / name).read_text(encoding="utf-8", errors="backslashreplace")
     return None

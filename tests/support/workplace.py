@@ -35,6 +35,10 @@ class Workplace:
     def emitted_path(self):
         return self.work_directory / t.EMITTED_NAME
 
+    def directory_of(self, source):
+        """Where a program of the second edition is built."""
+        return self.work_directory / source
+
     @property
     def emitted(self):
         return self.emitted_path.read_text(encoding="utf-8")

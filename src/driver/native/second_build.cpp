@@ -11,6 +11,7 @@
 #include <iostream>
 #include <iterator>
 #include <limits>
+#include <random>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -45,6 +46,11 @@ const char* optimisationFor(const SecondText& text) {
         ->flag;
 }
 
+/// A name of its own, so that two runs of one source don't write into one file.
+std::string freshName() {
+    return "pozhil_temp_app." + std::to_string(std::random_device{}());
+}
+
 /// Where in the source the statement stands whose text was refused first.
 ShownPlace placeOf(const SecondTranslation& translation, const std::vector<ToolchainError>& errors) {
     for (const ToolchainError& error : errors) {
@@ -61,9 +67,9 @@ ShownPlace placeOf(const SecondTranslation& translation, const std::vector<Toolc
 
 } // namespace
 
-SecondBuild::SecondBuild(fs::path appDirectory, fs::path generatedSource, const fs::path& temporaryDirectory)
+SecondBuild::SecondBuild(fs::path appDirectory, fs::path generatedSource, const fs::path& directory)
     : appDirectory_(std::move(appDirectory)), archive_(appDirectory_ / "திரட்டு" / "libpozhil_engine.a"),
-      generatedSource_(std::move(generatedSource)), program_(temporaryDirectory) {}
+      generatedSource_(std::move(generatedSource)), program_(directory, freshName()) {}
 
 void SecondBuild::start(const SecondTranslation& translation) {
     toolchain_ = std::async(std::launch::async, [command = command(optimisationFor(translation.output))] {

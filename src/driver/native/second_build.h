@@ -14,9 +14,9 @@ class SecondBuild {
 public:
     /// \param appDirectory the installation
     /// \param generatedSource the output text
-    /// \param temporaryDirectory where the program is made
+    /// \param directory where the program is made
     SecondBuild(std::filesystem::path appDirectory, std::filesystem::path generatedSource,
-                const std::filesystem::path& temporaryDirectory);
+                const std::filesystem::path& directory);
 
     /// Starts the toolchain.
     /// \param translation what is built

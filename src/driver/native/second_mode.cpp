@@ -34,7 +34,7 @@ void rebuild(const std::string& path, const FrontEndOptions& options, const std:
     const SecondTranslation translation = translateSecondEdition(std::move(source), options);
     if (!translation.faults.empty()) {
         reportFaults(translation.faults);
-    } else if (writeOutput(output, translation.output.text)) {
+    } else if (replaceOutput(output, translation.output.text)) {
         build.start(translation);
         build.finish(translation);
     }
@@ -49,12 +49,12 @@ int runSecondEdition(const SourcePtr& source, const FrontEndOptions& options, co
         reportFaults(translation.faults);
         return 1;
     }
-    const std::filesystem::path temporaryDirectory = prepareTemporaryDirectory();
-    const std::filesystem::path output = outputPath(temporaryDirectory);
-    if (!createOutput(output) || !writeOutput(output, translation.output.text)) {
+    const std::filesystem::path directory = directoryOfSource(prepareTemporaryDirectory(), source->path);
+    const std::filesystem::path output = outputPath(directory);
+    if (!replaceOutput(output, translation.output.text)) {
         return 1;
     }
-    SecondBuild build(appDirectory, output, temporaryDirectory);
+    SecondBuild build(appDirectory, output, directory);
     if (!watches) {
         build.start(translation);
     }

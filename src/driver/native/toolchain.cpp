@@ -23,13 +23,15 @@ void tellMissingCompiler() {
     std::cerr << "பிழை: 'g++' கிடைக்கவில்லை! 'sudo apt install g++' என்று கட்டளையிட்டு நிறுவிக்கொள்." << std::endl;
 }
 
-BuiltProgram::BuiltProgram(const fs::path& temporaryDirectory)
-    : fresh(temporaryDirectory / "pozhil_temp_app"), program(temporaryDirectory / "பொழில்_செயலி") {}
+BuiltProgram::BuiltProgram(const fs::path& directory, const std::string& freshName)
+    : fresh(directory / freshName), program(directory / "பொழில்_செயலி") {}
 
 int BuiltProgram::run(std::vector<std::pair<std::string, std::string>> environment) const {
-    std::error_code ignored;
-    fs::remove(program, ignored);
-    fs::rename(fresh, program, ignored);
+    std::error_code failure;
+    fs::rename(fresh, program, failure);
+    if (failure) {
+        return platform::COULD_NOT_START;
+    }
     return platform::run_command({{program.u8string()}, std::move(environment)});
 }
 
