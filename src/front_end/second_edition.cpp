@@ -1,6 +1,5 @@
 #include "front_end/second_edition.h"
 
-#include "base/line_index.h"
 #include "front_end/second_imports.h"
 #include "parser/second/parser.h"
 #include "parser/tree/second_edition.h"
@@ -10,13 +9,14 @@
 #include <algorithm>
 #include <deque>
 #include <map>
+#include <optional>
+#include <string_view>
 #include <utility>
 
 namespace pozhil {
 namespace {
 
 constexpr const char* FIRST_EDITION = "1";
-constexpr const char* SECOND_EDITION = "2";
 
 /// Reads a program file by file.
 class ProgramReader {
@@ -99,27 +99,19 @@ private:
 } // namespace
 
 Edition editionOf(const SourcePtr& source, SecondFaults& faults) {
-    const LineIndex lines(source->text);
-    Edition edition = Edition::First;
-    for (std::size_t line = 1; line <= lines.count(); ++line) {
-        const std::size_t begin = lines.beginOf(line);
-        const std::size_t end = std::min(source->text.find('\n', begin), source->text.size());
-        const auto number = second::markedEdition(std::string_view(source->text).substr(begin, end - begin));
-        int fault = 0;
-        if (line == 1 && number && *number != FIRST_EDITION && *number != SECOND_EDITION) {
-            fault = second::fault::UNKNOWN_EDITION;
-        } else if (line == 1 && number == SECOND_EDITION) {
-            edition = Edition::Second;
-        } else if (line > 1 && number == SECOND_EDITION) {
-            fault = edition == Edition::Second ? second::fault::EDITION_TWICE : second::fault::EDITION_TOO_LATE;
-        }
-        if (fault != 0) {
-            const ByteRange range{static_cast<std::uint32_t>(begin), static_cast<std::uint32_t>(end)};
-            faults.push_back({fault, {source, range}, {*number}, ""});
-            return edition;
-        }
+    const std::string_view text = source->text;
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    const std::optional<std::string> number = second::markedEdition(text.substr(0, end));
+    if (number == second::SECOND_EDITION) {
+        return Edition::Second;
     }
-    return edition;
+    if (number && number != FIRST_EDITION) {
+        const ByteRange range{0, static_cast<std::uint32_t>(end)};
+        faults.push_back({second::fault::UNKNOWN_EDITION, {source, range}, {*number}, ""});
+    } else if (const std::optional<ByteRange> range = second::lateMarker(text)) {
+        faults.push_back({second::fault::EDITION_TOO_LATE, {source, *range}, {}, ""});
+    }
+    return Edition::First;
 }
 
 SecondProgram parseSecondEdition(SourcePtr source, const FrontEndOptions& options) {

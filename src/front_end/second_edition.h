@@ -17,7 +17,7 @@ struct ImportStatement;
 enum class Edition { First, Second };
 
 /// What the first line of a source says of its edition: "ஃ பொழில் 2", also with ௨, asks for the second.
-/// \param[out] faults a number that no edition has, and a line that asks twice or comes too late
+/// \param[out] faults a number that no edition has, and a line that asks too late, with nothing but comments before it
 Edition editionOf(const SourcePtr& source, SecondFaults& faults);
 
 /// One file of a program.

@@ -40,7 +40,7 @@ SourcePtr SecondImports::load(const std::string& written, const std::string& imp
 std::vector<std::string> SecondImports::directoriesFor(const std::string& importer) const {
     const auto secondTexts = [](const std::string& directory) { return (pathOf(directory) / SECOND_TEXTS).u8string(); };
     std::filesystem::path beside = pathOf(importer).parent_path();
-    if (beside.filename() == pathOf(SECOND_TEXTS)) {
+    if (beside.filename() == pathOf(SECOND_TEXTS) && isModuleDirectory(beside.parent_path().u8string())) {
         beside = beside.parent_path();
     }
     std::vector<std::string> directories;
@@ -64,8 +64,9 @@ bool SecondImports::isModuleDirectory(const std::string& directory) const {
 
 std::string SecondImports::keyOf(const std::string& path) {
     std::error_code ignored;
-    const std::filesystem::path canonical = std::filesystem::weakly_canonical(pathOf(path), ignored);
-    return (ignored ? std::filesystem::absolute(pathOf(path), ignored).lexically_normal() : canonical).u8string();
+    const std::filesystem::path whole = std::filesystem::current_path(ignored) / pathOf(path);
+    const std::filesystem::path canonical = std::filesystem::weakly_canonical(whole, ignored);
+    return (ignored ? whole.lexically_normal() : canonical).u8string();
 }
 
 } // namespace pozhil

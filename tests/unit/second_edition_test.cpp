@@ -45,9 +45,26 @@ TEST(Marker, IsNothingElse) {
 TEST(Marker, IsFaulty) {
     EXPECT_EQ(edition("ஃ பொழில் 3\n"), "first 501 1");
     EXPECT_EQ(edition("ஃ பொழில் ௨௦\n"), "first 501 1");
-    EXPECT_EQ(edition("ஃ பொழில் 2\nஅ = 1\nஃ பொழில் 2\nஃ பொழில் 2\n"), "second 502 3");
     EXPECT_EQ(edition("\nஃ பொழில் 2\n"), "first 503 2");
-    EXPECT_EQ(edition("அ = 1\n  ஃ பொழில் ௨"), "first 503 2");
+    EXPECT_EQ(edition("ஃ என் நிரல்\n\n  ஃபொழில் ௨"), "first 503 3");
+    EXPECT_EQ(edition("ஃஃ என்\nநிரல் ஃஃ\nஃ பொழில் 2\nஃ பொழில் 2\n"), "first 503 3");
+}
+
+TEST(Marker, IsACommentWhereItCantBeMeant) {
+    for (const char* text : {"அ = 1\nஃ பொழில் 2\n", "ஃஃ\nஃ பொழில் 2\nகேட்கும்\nஃஃ\nஅ = 1\n", "ஃஃ\nஃ பொழில் 2\n",
+                             "\"\nஃ பொழில் 2\n\"\n", "\nஃ பொழில் 3\n", "ஃ நிரல்\nஅ = 1\nஃ பொழில் 2\n"}) {
+        EXPECT_EQ(edition(text), "first") << text;
+    }
+}
+
+TEST(Marker, IsToldTwice) {
+    EXPECT_THAT(secondFaults("ஃ பொழில் 2\nஅ = 1\n  ஃ பொழில் 2\nஃ பொழில் ௨\n"),
+                ElementsAre("502 3 'ஃ பொழில் 2'", "502 4 'ஃ பொழில் ௨'"));
+    EXPECT_THAT(secondFaults("ஃ பொழில் 2\nஅ = [1,\nஃ பொழில் 2\n2]\n"), ElementsAre("502 3 'ஃ பொழில் 2'"));
+    EXPECT_THAT(secondFaults("ஃ பொழில் 2\nஅச்சிடு(\"\nஃ பொழில் 2\n\")\nஃஃ\nஃ பொழில் 2\nஃஃ\nஅ = 1 ஃ பொழில் 2\n"
+                             "ஃ பொழில் 3\nஃ பொழில் 2 போதும்\n"),
+                IsEmpty());
+    EXPECT_THAT(secondFaults("அ = 1\nஃ பொழில் 2\nஃ பொழில் 2\n"), IsEmpty()) << "an import without the line";
 }
 
 class Imports : public WorkingFolder {
@@ -121,6 +138,22 @@ TEST_F(Imports, OfModulesTakeTheirSecondText) {
                 ElementsAre("தொகுதி/இரண்டாம்_பதிப்பு/கணிதம்.பொழில் < தொகுதி/உரை.பொழில்",
                             "தொகுதி/உரை.பொழில் < தொகுதி/இரண்டாம்_பதிப்பு/கணிதம்.பொழில்",
                             "அ.பொழில் < தொகுதி/உரை.பொழில் < தொகுதி/இரண்டாம்_பதிப்பு/கணிதம்.பொழில்"));
+}
+
+TEST_F(Imports, BesideAFileAreFoundWhateverItsFolderIsCalled) {
+    write("இரண்டாம்_பதிப்பு/அ.பொழில்", "நூஇறக்கி \"ஆ\"\n");
+    write("இரண்டாம்_பதிப்பு/ஆ.பொழில்", "விடு\n");
+    write("ஆ.பொழில்", "விடு\n");
+    EXPECT_THAT(filesOf(read("இரண்டாம்_பதிப்பு/அ.பொழில்", {"தொகுதி"})),
+                ElementsAre("இரண்டாம்_பதிப்பு/ஆ.பொழில்", "இரண்டாம்_பதிப்பு/அ.பொழில் < இரண்டாம்_பதிப்பு/ஆ.பொழில்"));
+}
+
+TEST_F(Imports, OfModulesTakeTheirSecondTextInTheirFolderToo) {
+    write("அ.பொழில்", "நூஇறக்கி \"கணிதம்\"\n");
+    write("கணிதம்.பொழில்", "விடு\n");
+    write("இரண்டாம்_பதிப்பு/கணிதம்.பொழில்", "விடு\n");
+    EXPECT_THAT(filesOf(read("அ.பொழில்", {std::filesystem::current_path().u8string()})),
+                ElementsAre("இரண்டாம்_பதிப்பு/கணிதம்.பொழில்", "அ.பொழில் < இரண்டாம்_பதிப்பு/கணிதம்.பொழில்"));
 }
 
 TEST_F(Imports, AreToldThatAreMissing) {

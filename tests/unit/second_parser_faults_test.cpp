@@ -57,11 +57,22 @@ TEST(OneMistake, IsToldOnce) {
     EXPECT_THAT(secondFaults("அ = [1,\n  2 2,\n  3\n]\nஆ = 1\n"), SizeIs(1));
 }
 
+TEST(Applications, AreToldWhateverElseIsWrong) {
+    EXPECT_THAT(secondFaults("வலைதளம் (“முகப்பு”)\n"), ElementsAre("546 1 'வலைதளம்'"));
+    EXPECT_THAT(secondFaults("அ = 1 @\nவலைதளம் (\"முகப்பு\") @\nஆ = 2 @\n"), ElementsAre("505 1 '@'", "546 2 'வலைதளம்'"));
+}
+
 TEST(Parse, GoesOnAfterAFault) {
     EXPECT_EQ(partialTree("அ = 1 1\nf()\nஎனில் ஆ ஆ:\n    g()\nசெயல் h():\n    இ = 2 2\n    i()\nj()\n"),
               "(Expression (Call f)) (FunctionDefinition h () (Block (Expression (Call i)))) (Expression (Call j))");
     EXPECT_EQ(partialTree("கட்டமைப்பு பை:\n    அ\n    ஆ = 1\nf()\n"),
               "(StructDefinition பை (VarDeclaration ஆ (Number 1) 0)) (Expression (Call f))");
+    const std::string group = "கட்டமைப்பு பை:\n    பொது (\n        அ = 1\n            ஆ = 2\n    )\n    இ = 3\nf()\n";
+    EXPECT_THAT(secondFaults(group), ElementsAre("524 4 'ஆ'"));
+    EXPECT_EQ(partialTree(group),
+              "(StructDefinition பை (VarDeclaration அ (Number 1) 0) (VarDeclaration ஆ (Number 2) 0) "
+              "(VarDeclaration இ (Number 3) 0)) (Expression (Call f))")
+        << "after an indentation in a group";
 }
 
 TEST(Slips, AreToldWhereAStatementCantBeUnderstood) {

@@ -54,6 +54,9 @@ TEST(Choices, AreWrittenInTwoWays) {
               "(Ternary (Binary அ சமம் (Number 1)) (String \"ஆம்\") (String \"இல்லை\"))");
     EXPECT_THAT(secondFaults("அ = ஆ எனில் 1\n"), ElementsAre("527 1 '1'"));
     EXPECT_THAT(secondFaults("அ = ஆ எனில் 1 இல்லை 2\n"), ElementsAre("527 1 'இல்லை'"));
+    EXPECT_EQ(value("மெய் எனில் அ => 1 இல்லைஎனில் ஆ => 2"),
+              "(Ternary (Boolean மெய்) (Lambda (அ) (Number 1)) (Lambda (ஆ) (Number 2)))");
+    EXPECT_EQ(value("மெய் ? 1 : (அ, ஆ) => 2"), "(Ternary (Boolean மெய்) (Number 1) (Lambda (அ ஆ) (Number 2)))");
 }
 
 TEST(Links, FollowAnyValue) {
@@ -110,6 +113,10 @@ TEST(Conditions, DontAssign) {
     EXPECT_EQ(partialTree("எனில் அ = 1:\n    விடு\n"), "(If (Binary அ சமம் (Number 1)) (Block (Pass)) null)");
     EXPECT_THAT(secondFaults("எனில் f(அ = 1) மற்றும் ப[ஆ = 2]:\n    விடு\n"), ElementsAre())
         << "in brackets of a call it assigns as everywhere";
+    EXPECT_THAT(secondFaults("எனில் (வினை():\n    அ = 1\n    திரும்பு அ\n)() சமம் 1:\n    விடு\n"), ElementsAre())
+        << "and in the block of a function";
+    EXPECT_THAT(secondFaults("எனில் (வினை():\n    விடு\n)() = 1:\n    விடு\n"), ElementsAre("535 3 '='"))
+        << "not after it";
 }
 
 TEST(Comparisons, DontChain) {
@@ -146,6 +153,22 @@ TEST(FunctionValues, MayHoldBlocksAndStatements) {
     EXPECT_EQ(value("வினை(அ): திரும்பு அ"), "(Function (அ) (Block (Return அ)))");
     EXPECT_EQ(value("வினை(மாற்று அ): அ"), "(Function (&அ) (Block (Return அ)))");
     EXPECT_THAT(secondFaults("க = வினை(அ):\nஆ = 1\n"), ElementsAre("528 1 ':'"));
+}
+
+TEST(FunctionValues, EndWithTheirBlock) {
+    const std::string block = "க = வினை():\n    விடு\n";
+    const std::string tree = "(Expression (Assign க = (Function () (Block (Pass))))) ";
+    EXPECT_EQ(secondTree(block + "எனில் மெய்:\n    f()\n"),
+              tree + "(If (Boolean மெய்) (Block (Expression (Call f))) null)");
+    EXPECT_EQ(secondTree(block + "கூட்டு(1, 2)\n"), tree + "(Expression (Call கூட்டு (Number 1) (Number 2)))");
+    EXPECT_EQ(secondTree(block + "கூட்டு(1)\n"), tree + "(Expression (Call கூட்டு (Number 1)))");
+    EXPECT_EQ(secondTree(block + "மீதி = 5\n"), tree + "(Expression (Assign மீதி = (Number 5)))");
+    EXPECT_EQ(secondTree(block + "(அ => அ)(1)\n"), tree + "(Expression (Call (Grouping (Lambda (அ) அ)) (Number 1)))");
+    EXPECT_EQ(secondTree(block + "[1].சேர்(2)\n"), tree + "(Expression (Call (Get (List (Number 1)) சேர்) (Number 2)))");
+    EXPECT_THAT(secondFaults(block + "= 1\n"), ElementsAre("529 3 '='"));
+    EXPECT_EQ(secondTree("க = மெய் எனில் வினை():\n    விடு\nஇல்லைஎனில் 2\n"),
+              "(Expression (Assign க = (Ternary (Boolean மெய்) (Function () (Block (Pass))) (Number 2))))")
+        << "what can begin no statement goes on with the value";
 }
 
 TEST(Values, AreMissed) {

@@ -202,6 +202,8 @@ TEST(Layout, IsFaultyWhereABlockIsIndentedInTwoWays) {
     EXPECT_THAT(scanFaults("எனில் அ:\n    எனில் ஆ:\n\t\tஇ\n    ஈ\n"), ElementsAre("522 3 '\t\t'"));
     EXPECT_THAT(scanFaults("எனில் அ:\n    எனில் ஆ:\n    \tஇ\n"), IsEmpty()) << "blanks first, then a tab, in all lines";
     EXPECT_THAT(scanFaults("எனில் அ:\n        ஆ\n    இ\nஈ\n"), ElementsAre("523 3 '    '"));
+    EXPECT_THAT(scanFaults("எனில் அ:\n        ஆ\n   ஃஃ ஐ ஃஃ\u00A0இ\n"), ElementsAre("523 3 '   '", "508 3 '\u00A0'"));
+    EXPECT_THAT(scanFaults("எனில் அ:\n        ஆ\n   ஃஃ\n ஃஃ இ\n"), ElementsAre("523 3 '   '"));
     EXPECT_THAT(scanFaults("எனில் அ:\n\tஆ\nஎனில் அ:\n    ஆ\n"), IsEmpty()) << "two blocks may differ";
 }
 
@@ -218,6 +220,9 @@ TEST(Brackets, AreToldThatAreNeverClosed) {
     EXPECT_THAT(scanFaults("செயல் f(அ:\n    திரும்பு அ\n"), ElementsAre("525 1 '('"));
     EXPECT_THAT(scanFaults("f(1\n\nசெயல் g(அ):\n    திரும்பு அ\n"), ElementsAre("525 1 '('"));
     EXPECT_THAT(scanFaults("f([1)\n"), ElementsAre("525 1 '['"));
+    EXPECT_THAT(scanFaults("f([1, 2],\n    எ =>\n    அச்சிடு(எ))\nf(எ =>\nஎ = 1)\n"), IsEmpty())
+        << "the body after an arrow";
+    EXPECT_THAT(scanFaults("f(எ => 1,\nஅச்சிடு(எ))\n"), ElementsAre("525 1 '('", "526 2 ')'"));
     EXPECT_THAT(scanFaults("f(1))\nஅ = (1]\n"), ElementsAre("526 1 ')'", "526 2 ']'"));
     EXPECT_THAT(scanFaults("அ = {\n    அச்சிடு: 1,\n    திரும்பு: 2}\nf(\n    ஆ = 1)\n"), IsEmpty())
         << "words of statements may be keys";

@@ -44,8 +44,7 @@ void BlockGrammar::beginBlock() {
 }
 
 bool BlockGrammar::isBlockOver() {
-    while (strayIndents_ > 0 && tokens_.accept(TokenType::DEDENT)) {
-        --strayIndents_;
+    while (takeStrayDedent()) {
     }
     return tokens_.check(TokenType::DEDENT) || tokens_.isAtEnd();
 }
@@ -64,15 +63,18 @@ bool BlockGrammar::takeStrayIndent() {
     return true;
 }
 
+bool BlockGrammar::takeStrayDedent() {
+    const bool isStray = strayIndents_ > 0 && tokens_.accept(TokenType::DEDENT);
+    strayIndents_ -= isStray ? 1 : 0;
+    return isStray;
+}
+
 void BlockGrammar::parseStatementInto(BlockStatement& block) {
     recovery_.attempt([&] {
         if (takeStrayIndent()) {
             return;
         }
-        StatementPtr statement = parse_.statements.parseStatement();
-        if (statement != nullptr) {
-            block.statements.push_back(std::move(statement));
-        }
+        block.statements.push_back(parse_.statements.parseStatement());
     });
 }
 

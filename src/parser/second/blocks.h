@@ -44,6 +44,10 @@ public:
     /// \return false if none comes next
     bool takeStrayIndent();
 
+    /// Takes the end of such an indentation.
+    /// \return false if none comes next
+    bool takeStrayDedent();
+
 private:
     void beginBlock();
     bool isBlockOver();

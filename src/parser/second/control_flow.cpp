@@ -61,7 +61,7 @@ StatementPtr ControlFlowGrammar::parseFor() {
     }
     Token variable = consumeName("சுற்றின் மாறி");
     if (!tokens_.acceptWord("இல்")) {
-        failHere(fault::NO_COLON, {"'இல்'", tokens_.shown(tokens_.position())});
+        failHere(fault::NO_SIGN, {"'இல்'", tokens_.shown(tokens_.position())});
     }
     Parts parts(height_);
     ExpressionPtr iterable = parseCondition();

@@ -88,7 +88,6 @@ StatementPtr DefinitionGrammar::parseAbstractStructure() {
         ranges.push_back(methodRange);
         consumeStatementEnd();
     });
-    ranges.resize(methods.size());
     auto structure = make<AbstractStructDefinitionStatement>(first, std::move(name), std::move(methods));
     notePlace(&structure->name, nameRange);
     for (std::size_t index = 0; index < ranges.size(); ++index) {
@@ -121,7 +120,7 @@ AbstractMethod DefinitionGrammar::parseAbstractMethod() {
         tokens_.advance();
     }
     if (!tokens_.acceptWord("விடு")) {
-        failHere(fault::NO_COLON, {"'விடு'", tokens_.shown(tokens_.position())});
+        failHere(fault::NO_SIGN, {"'விடு'", tokens_.shown(tokens_.position())});
     }
     if (isIndented) {
         tokens_.accept(TokenType::NEWLINE);

@@ -53,8 +53,7 @@ ExpressionPtr ExpressionGrammar::parseCondition() {
 }
 
 ExpressionPtr ExpressionGrammar::parseInner() {
-    const ScopedValue<bool> outsideCondition(isInCondition_, false);
-    return parseExpression();
+    return outsideCondition([&] { return parseExpression(); });
 }
 
 ExpressionPtr ExpressionGrammar::parseAssignment() {
@@ -64,7 +63,7 @@ ExpressionPtr ExpressionGrammar::parseAssignment() {
     const std::size_t first = tokens_.position();
     ExpressionPtr left = parseTernary();
     const bool isAssignment = tokens_.check(TokenType::ASSIGN) || tokens_.check(TokenType::COMPOUND_ASSIGN);
-    if (!isAssignment) {
+    if (!isAssignment || isValueOver()) {
         return left;
     }
     return isInCondition_ ? parseMistakenComparison(std::move(left), first)
@@ -114,7 +113,7 @@ ExpressionPtr ExpressionGrammar::parseTernary() {
     Parts parts(height_);
     ExpressionPtr condition = parseBinary(LOOSEST_LEVEL);
     const bool isWritten = tokens_.checkWord("எனில்");
-    if (!isWritten && !tokens_.check(TokenType::QUESTION)) {
+    if (isValueOver() || (!isWritten && !tokens_.check(TokenType::QUESTION))) {
         return condition;
     }
     wrap(parts);
@@ -123,10 +122,10 @@ ExpressionPtr ExpressionGrammar::parseTernary() {
     const bool isJoined = isWritten ? tokens_.acceptWord("இல்லைஎனில்") : tokens_.accept(TokenType::COLON);
     // Either word goes with either sign.
     if (!isJoined && !(isWritten ? tokens_.accept(TokenType::COLON) : tokens_.acceptWord("இல்லைஎனில்"))) {
-        failHere(fault::NO_COLON, {isWritten ? "'இல்லைஎனில்'" : "':'", tokens_.shown(tokens_.position())});
+        failHere(fault::NO_SIGN, {isWritten ? "'இல்லைஎனில்'" : "':'", tokens_.shown(tokens_.position())});
     }
     parts.next();
-    ExpressionPtr elseBranch = parseTernary();
+    ExpressionPtr elseBranch = isArrowFunctionAhead() ? parse_.functionValues.parseArrowFunction() : parseTernary();
     return make<TernaryExpression>(first, std::move(condition), std::move(thenBranch), std::move(elseBranch));
 }
 
@@ -137,7 +136,7 @@ ExpressionPtr ExpressionGrammar::parseBinary(int loosestLevel) {
     ExpressionPtr left = parseUnary();
     while (true) {
         const int level = binaryLevel(tokens_.peek());
-        if (level < loosestLevel) {
+        if (level < loosestLevel || isValueOver()) {
             return left;
         }
         wrap(operands);
@@ -195,7 +194,7 @@ ExpressionPtr ExpressionGrammar::parsePostfix() {
     const std::size_t first = tokens_.position();
     Parts links(height_);
     ExpressionPtr left = parse_.primaries.parsePrimary();
-    while (true) {
+    while (!isValueOver()) {
         const std::size_t opening = tokens_.position();
         if (tokens_.accept(TokenType::LPAREN)) {
             wrap(links);
@@ -210,9 +209,16 @@ ExpressionPtr ExpressionGrammar::parsePostfix() {
             wrap(links);
             left = parseMember(std::move(left), first);
         } else {
-            return left;
+            break;
         }
     }
+    return left;
+}
+
+/// Whether the value ended with its line: nothing but the block of a function does so, and what comes next begins another
+/// statement.
+bool ExpressionGrammar::isValueOver() const {
+    return tokens_.isAfterLineEnd();
 }
 
 /// After a dot nothing but a name can stand, so that every word may be one.

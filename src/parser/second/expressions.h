@@ -21,6 +21,12 @@ public:
     /// \throws SyntaxFault
     ExpressionPtr parseInner();
 
+    /// Runs \p parse for what stands in a value but not in its condition, so that "=" assigns there.
+    template <class Parse> auto outsideCondition(const Parse& parse) {
+        const ScopedValue<bool> outside(isInCondition_, false);
+        return parse();
+    }
+
     /// The values of a call whose bracket at \p opening is taken, and the closing bracket.
     /// \throws SyntaxFault
     ExpressionList parseArguments(std::size_t opening);
@@ -35,6 +41,7 @@ private:
     void checkComparison(const Token& op, std::size_t opIndex, const Expression& left, const Expression& right);
     ExpressionPtr parseUnary();
     ExpressionPtr parsePostfix();
+    bool isValueOver() const;
     ExpressionPtr parseMember(ExpressionPtr object, std::size_t first);
 
     bool isInCondition_ = false;

@@ -74,13 +74,14 @@ ExpressionPtr FunctionValueGrammar::parseWordFunction() {
         parameters = parseList(TokenType::COLON);
     }
     if (!tokens_.accept(TokenType::COLON)) {
-        failHere(fault::NO_COLON, {"':'", tokens_.shown(tokens_.position())});
+        failHere(fault::NO_SIGN, {"':'", tokens_.shown(tokens_.position())});
     }
     if (!tokens_.check(TokenType::NEWLINE)) {
         return parseBody(first, std::move(parameters));
     }
     enter();
-    return makeFunction(first, std::move(parameters), parse_.blocks.parseFunctionBody());
+    BlockPtr body = parse_.expressions.outsideCondition([&] { return parse_.blocks.parseFunctionBody(); });
+    return makeFunction(first, std::move(parameters), std::move(body));
 }
 
 /// One value, or one statement that can't be taken for a value. A parameter that is passed back makes it a block.

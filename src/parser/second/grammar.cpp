@@ -64,7 +64,7 @@ void Grammar::consumeClosing(TokenType type, std::size_t opening) {
 
 void Grammar::consumeOpening(const char* what) {
     if (!tokens_.accept(TokenType::LPAREN)) {
-        failHere(fault::NO_COLON, {"'('", what});
+        failHere(fault::NO_SIGN, {what, tokens_.shown(tokens_.position())});
     }
 }
 
@@ -73,7 +73,7 @@ void Grammar::consumeColon() {
         return;
     }
     const SecondFault missing =
-        recovery_.faultAt(fault::NO_COLON, tokens_.visibleRange(), {"':'", tokens_.shown(tokens_.position())});
+        recovery_.faultAt(fault::NO_SIGN, tokens_.visibleRange(), {"':'", tokens_.shown(tokens_.position())});
     const bool isBeforeBlock = tokens_.check(TokenType::NEWLINE) && tokens_.peek(1).type == TokenType::INDENT;
     if (!isBeforeBlock) {
         throw SyntaxFault{missing};

@@ -72,6 +72,8 @@ protected:
     Token consumeName(const char* what);
     /// Takes the bracket that closes the one at \p opening, or tells that it is missing.
     void consumeClosing(TokenType type, std::size_t opening);
+    /// Takes the bracket '(', or tells that it is missing.
+    /// \param what where it belongs, for the message
     void consumeOpening(const char* what);
     /// Takes a colon. One that is missing before a block is told, and taken for written.
     void consumeColon();

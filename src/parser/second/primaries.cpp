@@ -80,7 +80,7 @@ ExpressionPtr PrimaryGrammar::parseMap() {
         siblings.next();
         ExpressionPtr key = parseKey();
         if (!tokens_.accept(TokenType::COLON)) {
-            failHere(fault::NO_COLON, {"சாவிக்குப் பின் ':'", tokens_.shown(tokens_.position())});
+            failHere(fault::NO_SIGN, {"சாவிக்குப் பின் ':'", tokens_.shown(tokens_.position())});
         }
         siblings.next();
         entries.emplace_back(std::move(key), parse_.expressions.parseInner());

@@ -15,7 +15,7 @@ namespace {
 /// Faults that a misspelt word of the language brings about.
 bool mayComeOfSlip(int number) {
     switch (number) {
-    case fault::NO_COLON:
+    case fault::NO_SIGN:
     case fault::NO_VALUE:
     case fault::NO_STATEMENT_END:
     case fault::VALUE_ALONE:
@@ -38,8 +38,10 @@ void Recovery::note(SecondFault fault) {
     add(std::move(fault));
 }
 
+/// Told for certain: nobody is left to tell what it might be the echo of.
 void Recovery::noteLast(SecondFault fault) {
-    note(std::move(fault));
+    addScanFaultsBefore(fault.place.range.begin);
+    add(std::move(fault));
     throw Done();
 }
 

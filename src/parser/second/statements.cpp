@@ -41,8 +41,7 @@ Program StatementGrammar::parseProgram() {
                 if (tokens_.accept(TokenType::DEDENT) || parse_.blocks.takeStrayIndent()) {
                     return;
                 }
-                StatementPtr statement = parseStatement();
-                program.statements.push_back(std::move(statement));
+                program.statements.push_back(parseStatement());
             });
         }
         recovery_.finish();

@@ -51,8 +51,8 @@ void StructureGrammar::parseGroup(StructDefinitionStatement& structure, bool isP
     while (!tokens_.check(TokenType::RPAREN) && !tokens_.isAtEnd()) {
         siblings.next();
         recovery_.attempt([&] {
-            if (tokens_.accept(TokenType::NEWLINE) || tokens_.accept(TokenType::DEDENT) ||
-                parse_.blocks.takeStrayIndent()) {
+            if (tokens_.accept(TokenType::NEWLINE) || parse_.blocks.takeStrayDedent() ||
+                tokens_.accept(TokenType::DEDENT) || parse_.blocks.takeStrayIndent()) {
                 return;
             }
             parseMethodOrField(structure, isPrivate);

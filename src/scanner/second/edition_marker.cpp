@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::string_view BYTE_ORDER_MARK = "\xEF\xBB\xBF";
 constexpr std::string_view COMMENT = "ஃ";
+constexpr std::string_view BLOCK_COMMENT = "ஃஃ";
 constexpr std::string_view LANGUAGE = "பொழில்";
 constexpr std::string_view BLANKS = " \t\r";
 
@@ -51,6 +52,28 @@ std::optional<std::string> markedEdition(std::string_view line) {
         return std::nullopt;
     }
     return number.substr(std::min(number.find_first_not_of('0'), number.size() - 1));
+}
+
+std::optional<ByteRange> lateMarker(std::string_view text) {
+    std::size_t position = 0;
+    while (position < text.size()) {
+        const std::size_t end = std::min(text.find('\n', position), text.size());
+        std::string_view line = text.substr(position, end - position);
+        if (position > 0 && markedEdition(line) == SECOND_EDITION) {
+            return ByteRange{static_cast<std::uint32_t>(position), static_cast<std::uint32_t>(end)};
+        }
+        skipBlanks(line);
+        if (startsWith(line, BLOCK_COMMENT)) {
+            const std::size_t opening = end - line.size();
+            const std::size_t closing = text.find(BLOCK_COMMENT, opening + BLOCK_COMMENT.size());
+            position = closing == std::string_view::npos ? text.size() : closing + BLOCK_COMMENT.size();
+        } else if (line.empty() || startsWith(line, COMMENT)) {
+            position = end + 1;
+        } else {
+            return std::nullopt;
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace pozhil::second

@@ -36,7 +36,7 @@ constexpr int OPEN_BRACKET = 525;
 constexpr int CLOSING_BRACKET = 526;
 
 // Statements and values.
-constexpr int NO_COLON = 527;
+constexpr int NO_SIGN = 527;
 constexpr int NO_BLOCK = 528;
 constexpr int NO_VALUE = 529;
 constexpr int NO_STATEMENT_END = 530;

@@ -46,7 +46,8 @@ std::size_t Layout::widthOf(std::string_view blanks) {
     return width;
 }
 
-void Layout::beginLine(const std::string& blanks, std::size_t position, bool isClosing) {
+void Layout::beginLine(const Indentation& indentation, std::size_t position, bool isClosing) {
+    const std::string& blanks = indentation.blanks;
     blanks_ = blanks;
     const bool closesFrame = isClosing && frames_.size() > 1;
     if (joinsLines() || closesFrame) {
@@ -60,10 +61,11 @@ void Layout::beginLine(const std::string& blanks, std::size_t position, bool isC
     if (frame.kind == Kind::Group && frame.indents.empty()) {
         frame.indents.push_back(blanks);
     }
-    changeIndent(blanks, position);
+    changeIndent(indentation, position);
 }
 
-void Layout::changeIndent(const std::string& blanks, std::size_t position) {
+void Layout::changeIndent(const Indentation& indentation, std::size_t position) {
+    const std::string& blanks = indentation.blanks;
     std::vector<std::string>& indents = frames_.back().indents;
     if (blanks == indents.back()) {
         return;
@@ -78,7 +80,7 @@ void Layout::changeIndent(const std::string& blanks, std::size_t position) {
         pushDedents(static_cast<std::size_t>(same - indents.begin()) + 1, position);
         return;
     }
-    repairIndent(blanks, position);
+    repairIndent(indentation, position);
 }
 
 /// Whether the line before ended in a colon.
@@ -91,7 +93,8 @@ bool Layout::isBlockDue() const {
 /// A line that is indented like no block around it. It counts as a line of the innermost block that is indented as far
 /// as it, or else a little further; as the first of a block if one is due. In a group it may stand further out than all
 /// the others.
-void Layout::repairIndent(const std::string& blanks, std::size_t position) {
+void Layout::repairIndent(const Indentation& indentation, std::size_t position) {
+    const std::string& blanks = indentation.blanks;
     const std::vector<std::string>& indents = frames_.back().indents;
     const std::size_t width = widthOf(blanks);
     std::size_t remaining = indents.size();
@@ -107,7 +110,7 @@ void Layout::repairIndent(const std::string& blanks, std::size_t position) {
         frames_.back().indents.push_back(blanks);
         tokens_.push(TokenType::INDENT, std::to_string(width), position, position);
     }
-    tokens_.fault(isMixed ? fault::MIXED_INDENTATION : fault::UNEVEN_INDENTATION, position - blanks.size(), position);
+    tokens_.fault(isMixed ? fault::MIXED_INDENTATION : fault::UNEVEN_INDENTATION, indentation.begin, indentation.end);
 }
 
 void Layout::pushDedents(std::size_t remaining, std::size_t position) {

@@ -9,6 +9,15 @@
 
 namespace pozhil::second {
 
+/// The blanks and tabs at the beginning of a line.
+struct Indentation {
+    /// Blanks of another kind count as blanks.
+    std::string blanks;
+    /// Where they stand.
+    std::size_t begin = 0;
+    std::size_t end = 0;
+};
+
 /// Makes tokens of line ends, indentation and brackets.
 ///
 /// A bracket that is open joins lines. Two things in brackets have lines of their own all the same: the block of a
@@ -22,10 +31,9 @@ public:
     Layout& operator=(const Layout&) = delete;
 
     /// A line of the text begins with a token.
-    /// \param blanks blanks and tabs at its beginning
     /// \param position of its first token
     /// \param isClosing whether that is a closing bracket
-    void beginLine(const std::string& blanks, std::size_t position, bool isClosing);
+    void beginLine(const Indentation& indentation, std::size_t position, bool isClosing);
     /// A line of the text ends.
     void endLine(std::size_t position);
     /// A semicolon.
@@ -73,8 +81,8 @@ private:
     void closeFrame(std::size_t position);
     void pushLineEnd(const char* value, std::size_t position);
     void pushDedents(std::size_t remaining, std::size_t position);
-    void changeIndent(const std::string& blanks, std::size_t position);
-    void repairIndent(const std::string& blanks, std::size_t position);
+    void changeIndent(const Indentation& indentation, std::size_t position);
+    void repairIndent(const Indentation& indentation, std::size_t position);
     void faultOf(Bracket open);
     void pushClosing(char bracket, std::size_t position);
     void popBracket(std::size_t position);

@@ -64,13 +64,15 @@ void Scan::skipMarker() {
     if (startsWith(rest(), BYTE_ORDER_MARK)) {
         position_ += BYTE_ORDER_MARK.size();
     }
-    if (markedEdition(rest().substr(0, rest().find('\n')))) {
+    const std::optional<std::string> edition = markedEdition(rest().substr(0, rest().find('\n')));
+    isMarked_ = edition == SECOND_EDITION;
+    if (edition) {
         skipToLineEnd();
     }
 }
 
 void Scan::scanLine() {
-    const std::string blanks = takeIndentation();
+    const Indentation indentation = takeIndentation();
     bool isBegun = false;
     while (true) {
         skipBlanksAndComments();
@@ -78,7 +80,7 @@ void Scan::scanLine() {
             break;
         }
         if (!isBegun) {
-            beginLine(blanks);
+            beginLine(indentation);
             isBegun = true;
         }
         checkBlanks();
@@ -93,17 +95,16 @@ void Scan::scanLine() {
 }
 
 /// The blanks and tabs at the beginning of a line; whatever else looks like a blank counts as one.
-std::string Scan::takeIndentation() {
-    std::string blanks;
-    while (true) {
-        const std::size_t begin = position_;
-        if (!takeBlank()) {
-            return blanks;
-        }
-        if (text_[begin] != '\r') {
-            blanks += text_[begin] == '\t' ? '\t' : ' ';
+Indentation Scan::takeIndentation() {
+    Indentation indentation{"", position_, position_};
+    while (takeBlank()) {
+        const char blank = text_[indentation.end];
+        indentation.end = position_;
+        if (blank != '\r') {
+            indentation.blanks += blank == '\t' ? '\t' : ' ';
         }
     }
+    return indentation;
 }
 
 bool Scan::takeBlank() {
@@ -143,6 +144,7 @@ bool Scan::isCommentAhead() const {
 
 void Scan::skipComment() {
     if (!startsWith(rest(), BLOCK_COMMENT)) {
+        checkMarker();
         skipToLineEnd();
         return;
     }
@@ -156,6 +158,15 @@ void Scan::skipComment() {
     }
     position_ = closing + BLOCK_COMMENT.size();
     skipLinesSince(begin);
+}
+
+/// Whether the comment at hand has its line for itself, and asks for the edition once more.
+void Scan::checkMarker() {
+    const std::size_t begin = text_.rfind('\n', position_) + 1;
+    const std::size_t end = std::min(text_.find('\n', position_), text_.size());
+    if (isMarked_ && markedEdition(text_.substr(begin, end - begin)) == SECOND_EDITION) {
+        tokens_.fault(fault::EDITION_TWICE, position_, end);
+    }
 }
 
 /// Counts the lines of what was taken.
@@ -179,17 +190,21 @@ void Scan::checkBlanks() {
 }
 
 /// A bracket joins lines, but not with one that is the beginning of a statement beyond doubt.
-void Scan::beginLine(const std::string& blanks) {
-    if (layout_.joinsLines() && isStatementAhead(blanks)) {
+void Scan::beginLine(const Indentation& indentation) {
+    if (layout_.joinsLines() && isStatementAhead(indentation.blanks)) {
         layout_.abandonBrackets();
         layout_.endLine(position_);
     }
     const bool isClosing = peek() == ')' || peek() == ']' || peek() == '}';
-    layout_.beginLine(blanks, position_, isClosing);
+    layout_.beginLine(indentation, position_, isClosing);
 }
 
-/// Whether a statement begins here that can't be a part of a value. An assignment is one if it isn't indented.
+/// Whether a statement begins here that can't be a part of a value. An assignment is one if it isn't indented. After an
+/// arrow a function is still without its body, which may be a statement.
 bool Scan::isStatementAhead(const std::string& blanks) const {
+    if (!tokens_.tokens().empty() && tokens_.tokens().back().type == TokenType::ARROW) {
+        return false;
+    }
     const std::size_t end = wordEnd(position_);
     const std::string word = normalForm(text_.substr(position_, end - position_));
     const auto nextAfter = [&](std::size_t position) {

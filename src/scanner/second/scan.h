@@ -56,14 +56,15 @@ private:
     // Lines, blanks, comments (scan.cpp).
     void skipMarker();
     void scanLine();
-    std::string takeIndentation();
+    Indentation takeIndentation();
     bool takeBlank();
     void skipBlanksAndComments();
     bool isCommentAhead() const;
     void skipComment();
+    void checkMarker();
     void skipToLineEnd();
     void checkBlanks();
-    void beginLine(const std::string& blanks);
+    void beginLine(const Indentation& indentation);
     bool isStatementAhead(const std::string& blanks) const;
     void scanToken();
 
@@ -97,6 +98,8 @@ private:
     /// Words whose letters were told to be wrong: each is told once, however often it stands in the source.
     std::set<std::string, std::less<>> toldWords_{};
     std::size_t position_ = 0;
+    /// Whether the first line asks for the second edition.
+    bool isMarked_ = false;
     TokenList tokens_;
     Layout layout_;
     /// Blocks in braces, as other languages write them, that are open.

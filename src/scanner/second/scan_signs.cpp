@@ -128,7 +128,7 @@ bool Scan::scanForeignBlock() {
     const bool opens = text_[position_++] == '{';
     foreignBlocks_ += opens ? 1 : -1;
     if (opens) {
-        fault(fault::NO_COLON, begin, {"':'", "'{'"});
+        fault(fault::NO_SIGN, begin, {"':'", "'{'"});
     }
     if (opens && !tokens_.isAtLineStart()) {
         push(TokenType::COLON, ":", begin);

@@ -59,7 +59,9 @@ void Scan::scanWord() {
     const TokenType kind = wordKind(word);
     const bool isFunctionWord = word == "வினை";
     push(kind, std::move(word), begin);
-    if (isFunctionWord && text_.find(':', position_) != text_.find_first_not_of(" \t", position_)) {
+    const std::size_t next = text_.find_first_not_of(" \t", position_);
+    const bool isKey = next != std::string_view::npos && text_[next] == ':';
+    if (isFunctionWord && !isKey) {
         layout_.noteFunctionWord();
     }
 }
