@@ -94,6 +94,22 @@ def test_examples_are_true(module, tmp_path):
     assert check_case(case, compiler_path()) == ""
 
 
+@pytest.mark.parametrize("edition", [1, 2])
+def test_whole_numbers_stay_exact_beyond_decimals(edition, tmp_path):
+    """A decimal holds whole numbers up to 2 to the power of 53."""
+    multiples = {
+        "9007199254740993, 1": 9007199254740993, "3, 9007199254740993": 9007199254740993,
+        "9223372036854775807, 7": 9223372036854775807, "9223372036854775807, 9223372036854775807": 9223372036854775807,
+        "குறை 4611686018427387904, 2": 4611686018427387904, "குறை 6, குறை 4": 12,
+    }
+    source = 'நூஇறக்கி "கணிதம்"\n' + "".join(f"அச்சிடு(கணிதம்_மீபொம({pair}))\n" for pair in multiples)
+    if edition == 2:
+        source = f"{t.SECOND_EDITION_MARKER}\n{source}"
+    expectation = cf.Expectation([(cf.OUTPUT, str(multiple)) for multiple in multiples.values()], edition)
+    case = cf.Case(tmp_path / f"நிரல்{cf.SOURCE_SUFFIX}", source.encode(), expectation, None)
+    assert check_case(case, compiler_path()) == ""
+
+
 def test_modules_of_the_second_edition_say_so():
     folder = MODULES / t.SECOND_MODULE_DIRECTORY
     texts = {path.stem: path.read_text(encoding="utf-8") for path in folder.iterdir()}

@@ -6,6 +6,7 @@
 #include "front_end/second_edition.h"
 #include "fuzzer.h"
 #include "meaning_check.h"
+#include "scanner/second/scanner.h"
 #include "support/tree_text.h"
 
 #include <utility>
@@ -36,6 +37,9 @@ void parse(std::string text) {
     pozhil::editionOf(source, markerFaults);
     const pozhil::SecondProgram program = pozhil::parseSecondEdition(source, options);
     checkFaults(program.faults);
+    pozhil::SecondFaults scanFaults;
+    pozhil::second::scanSecondEdition(source, scanFaults);
+    expect(scanFaults.empty() || !program.faults.empty(), "what the scanner finds wrong is told");
     for (const pozhil::StatementPtr& statement : program.files.back().tree.statements) {
         const auto place = program.places.of(*statement);
         expect(place && place->range.end <= source->text.size(), "every statement has its place");
