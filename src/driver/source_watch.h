@@ -1,6 +1,7 @@
 #pragma once
 
 #include "driver/translation.h"
+#include "front_end/second_edition.h"
 
 #include <functional>
 #include <string>
@@ -17,6 +18,10 @@ struct WatchSteps {
     /// Takes the failure of a stage in place of the build
     std::function<void(const StageFailure&)> reportFailure;
 };
+
+/// Whether a changed source is still of the edition that it is watched in, which can't change while it is. Tells it if not,
+/// and what is wrong with the line that asks for an edition.
+bool keepsEdition(const SourcePtr& source, Edition edition);
 
 /// Calls \p react whenever a file changes, after it has told so. Never returns.
 /// \throws std::filesystem::filesystem_error if the file vanishes

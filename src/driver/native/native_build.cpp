@@ -105,19 +105,9 @@ platform::CommandResult NativeBuild::makeObject() const {
 
 platform::Command NativeBuild::linkCommand(const fs::path& program) const {
     const fs::path include = appDirectory_ / "உள்ளடக்கம்";
-    std::vector<std::string> arguments = {"g++",
-                                          generatedSource_.u8string(),
-                                          object_.u8string(),
-                                          "-o",
-                                          program.u8string(),
-                                          "-std=c++17",
-                                          "-I" + include.u8string(),
-                                          "-I" + (include / "nanovg").u8string(),
-                                          "-static",
-                                          "-static-libstdc++",
-                                          "-static-libgcc",
-                                          "-lm",
-                                          "-lpthread"};
+    std::vector<std::string> arguments = programArguments(
+        {generatedSource_, object_, program, {"-I" + include.u8string(), "-I" + (include / "nanovg").u8string()}});
+    arguments.insert(arguments.end(), {"-lm", "-lpthread"});
     for (std::string& flag : settings::cxxFlags()) {
         arguments.push_back(std::move(flag));
     }

@@ -4,6 +4,7 @@
 #include "diagnostics/refusals/toolchain_errors.h"
 #include "driver/console/console_style.h"
 #include "driver/console/explanation.h"
+#include "driver/native/build_failure.h"
 #include "driver/settings.h"
 
 #include <algorithm>
@@ -72,26 +73,19 @@ SecondBuild::SecondBuild(fs::path appDirectory, fs::path generatedSource, const 
       generatedSource_(std::move(generatedSource)), program_(directory, freshName()) {}
 
 void SecondBuild::start(const SecondTranslation& translation) {
-    toolchain_ = std::async(std::launch::async, [command = command(optimisationFor(translation.output))] {
+    toolchain_ = std::async(std::launch::async, [command = command(translation, settings::cxxFlags())] {
         return platform::captureCommand(command);
     });
 }
 
-platform::Command SecondBuild::command(const char* optimisation) const {
-    std::vector<std::string> arguments = {"g++",
-                                          generatedSource_.u8string(),
-                                          archive_.u8string(),
-                                          "-o",
-                                          program_.fresh.u8string(),
-                                          "-std=c++17",
-                                          optimisation,
-                                          "-I" + (appDirectory_ / "உள்ளடக்கம்").u8string(),
-                                          "-static",
-                                          "-static-libstdc++",
-                                          "-static-libgcc"};
-    for (std::string& flag : settings::cxxFlags()) {
-        arguments.push_back(std::move(flag));
-    }
+platform::Command SecondBuild::command(const SecondTranslation& translation,
+                                       const std::vector<std::string>& userFlags) const {
+    std::vector<std::string> arguments = programArguments(
+        {generatedSource_,
+         archive_,
+         program_.fresh,
+         {optimisationFor(translation.output.origins.size()), "-I" + (appDirectory_ / "உள்ளடக்கம்").u8string()}});
+    arguments.insert(arguments.end(), userFlags.begin(), userFlags.end());
     return compilerCommand(std::move(arguments));
 }
 
@@ -100,19 +94,46 @@ int SecondBuild::finish(const SecondTranslation& translation) {
     if (settings::asksForCxx()) {
         std::cerr << result.output << result.errors << std::flush;
     }
-    std::error_code ignored;
     if (result.status == 0) {
-        return program_.run({});
+        return runProgram();
     }
+    reportFailure(translation, result);
+    std::error_code ignored;
+    fs::remove(program_.fresh, ignored); // a linker that was ended may have left a part of it
+    return 1;
+}
+
+int SecondBuild::runProgram() const {
+    const int status = program_.run({});
+    if (status != platform::COULD_NOT_START) {
+        return status;
+    }
+    std::cerr << "பிழை: உருவான நிரலைத் தொடங்க முடியவில்லை! '" << program_.program.u8string()
+              << "' இருக்கும் அடைவில் நிரல்களை ஓட்ட அனுமதி இருக்கிறதா என்று பார்க்கவும்; இல்லையென்றால் வேறோர் அடைவில் ஓட்டவும்."
+              << std::endl;
+    return 1;
+}
+
+void SecondBuild::reportFailure(const SecondTranslation& translation, const platform::CommandResult& result) const {
+    std::error_code ignored;
     if (result.status == platform::COULD_NOT_START) {
         tellMissingCompiler();
     } else if (!fs::exists(archive_, ignored)) {
         std::cerr << style::RED << "பிழை: '" << archive_.u8string() << "' கிடைக்கவில்லை! பொழிலை மீண்டும் நிறுவிக்கொள்."
                   << style::RESET << std::endl;
+    } else if (const auto obstacle = findObstacle(result)) {
+        tellObstacle(*obstacle);
+    } else if (isFaultOfFlags(translation)) {
+        tellObstacle({"POZHIL_CXXFLAGS-இல் உள்ள தெரிவுகளோடு g++ ஏற்காத உரையை, அவை இல்லாமல் ஏற்கிறது.",
+                      "அந்தத் தெரிவுகளைச் சரிசெய்; வேண்டாம்னா 'unset POZHIL_CXXFLAGS' என்று கட்டளையிடு மச்சி!"});
     } else {
         reportRefusal(translation, result.errors);
     }
-    return 1;
+}
+
+/// Nothing that g++ says tells that for certain, so it is tried.
+bool SecondBuild::isFaultOfFlags(const SecondTranslation& translation) const {
+    return !settings::cxxFlags().empty() && platform::captureCommand(command(translation, {})).status == 0;
 }
 
 void SecondBuild::reportRefusal(const SecondTranslation& translation, const std::string& errors) const {

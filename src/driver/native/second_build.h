@@ -22,13 +22,17 @@ public:
     /// \param translation what is built
     void start(const SecondTranslation& translation);
 
-    /// Waits for the toolchain and runs the program. What g++ refuses is a fault of this compiler, and told as such.
+    /// Waits for the toolchain and runs the program. What g++ refuses is a fault of this compiler, and told as such, unless
+    /// it is the user's own flags or the machine that it fails for.
     /// \param translation what was built
     /// \return the exit status of the program, 128 plus the signal if one ended it; 1 if there is none
     int finish(const SecondTranslation& translation);
 
 private:
-    platform::Command command(const char* optimisation) const;
+    platform::Command command(const SecondTranslation& translation, const std::vector<std::string>& userFlags) const;
+    int runProgram() const;
+    void reportFailure(const SecondTranslation& translation, const platform::CommandResult& result) const;
+    bool isFaultOfFlags(const SecondTranslation& translation) const;
     void reportRefusal(const SecondTranslation& translation, const std::string& errors) const;
 
     std::filesystem::path appDirectory_;

@@ -21,14 +21,7 @@ void rebuild(const std::string& path, const FrontEndOptions& options, const std:
     if (source == nullptr) {
         return; // an editor may be about to put it back
     }
-    SecondFaults faults;
-    if (editionOf(source, faults) != Edition::Second && faults.empty()) {
-        std::cerr << "பிழை: முதல் வரியில் 'ஃ பொழில் 2' இப்போது இல்லை! அதைத் திரும்ப எழுது, அல்லது தொகுப்பியை மீண்டும் தொடங்கு."
-                  << std::endl;
-        return;
-    }
-    if (!faults.empty()) {
-        reportFaults(faults);
+    if (!keepsEdition(source, Edition::Second)) {
         return;
     }
     const SecondTranslation translation = translateSecondEdition(std::move(source), options);
@@ -42,8 +35,15 @@ void rebuild(const std::string& path, const FrontEndOptions& options, const std:
 
 } // namespace
 
-int runSecondEdition(const SourcePtr& source, const FrontEndOptions& options, const std::filesystem::path& appDirectory,
-                     bool watches) {
+int runSecondEdition(const Invocation& invocation, const SourcePtr& source, const FrontEndOptions& options,
+                     const std::filesystem::path& appDirectory) {
+    if (invocation.web) {
+        std::cerr
+            << "பிழை: வலைச் செயலிகளுக்கு இரண்டாம் பதிப்பு இன்னும் இல்லை! '--வலை' இல்லாமல் ஓட்டு, அல்லது முதல் வரியில் உள்ள 'ஃ பொழில் 2' "
+               "என்பதை நீக்கு."
+            << std::endl;
+        return 1;
+    }
     const SecondTranslation translation = translateSecondEdition(source, options);
     if (!translation.faults.empty()) {
         reportFaults(translation.faults);
@@ -55,12 +55,12 @@ int runSecondEdition(const SourcePtr& source, const FrontEndOptions& options, co
         return 1;
     }
     SecondBuild build(appDirectory, output, directory);
-    if (!watches) {
+    if (!invocation.watch) {
         build.start(translation);
     }
     printBanner();
     animateCompilation(source->path, settings::animationDelay());
-    if (watches) {
+    if (invocation.watch) {
         watchFile(source->path, NATIVE_CHANGE_NOTE, [&] { rebuild(source->path, options, output, build); });
     }
     return build.finish(translation);

@@ -1,18 +1,17 @@
 #pragma once
 
 #include "base/source_text.h"
+#include "driver/command_line.h"
 #include "front_end/front_end.h"
 
 #include <filesystem>
-#include <string>
 
 namespace pozhil {
 
-/// Compiles and runs a program of the second edition.
-/// \param watches whether it is compiled and run anew whenever the source changes, and not at first
+/// Compiles and runs a program of the second edition; while watching, whenever its source changes, and not at first.
 /// \return the exit status of the compiler: that of the program, or 1 if there is none. Never returns if it watches.
 /// \throws std::filesystem::filesystem_error if a watched source file vanishes
-int runSecondEdition(const SourcePtr& source, const FrontEndOptions& options, const std::filesystem::path& appDirectory,
-                     bool watches);
+int runSecondEdition(const Invocation& invocation, const SourcePtr& source, const FrontEndOptions& options,
+                     const std::filesystem::path& appDirectory);
 
 } // namespace pozhil

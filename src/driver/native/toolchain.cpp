@@ -19,6 +19,14 @@ platform::Command compilerCommand(std::vector<std::string> arguments) {
     return command;
 }
 
+std::vector<std::string> programArguments(const ProgramParts& parts) {
+    std::vector<std::string> arguments = {"g++", parts.source.u8string(),  parts.library.u8string(),
+                                          "-o",  parts.program.u8string(), "-std=c++17"};
+    arguments.insert(arguments.end(), parts.options.begin(), parts.options.end());
+    arguments.insert(arguments.end(), {"-static", "-static-libstdc++", "-static-libgcc"});
+    return arguments;
+}
+
 void tellMissingCompiler() {
     std::cerr << "பிழை: 'g++' கிடைக்கவில்லை! 'sudo apt install g++' என்று கட்டளையிட்டு நிறுவிக்கொள்." << std::endl;
 }
@@ -29,10 +37,7 @@ BuiltProgram::BuiltProgram(const fs::path& directory, const std::string& freshNa
 int BuiltProgram::run(std::vector<std::pair<std::string, std::string>> environment) const {
     std::error_code failure;
     fs::rename(fresh, program, failure);
-    if (failure) {
-        return platform::COULD_NOT_START;
-    }
-    return platform::run_command({{program.u8string()}, std::move(environment)});
+    return failure ? platform::COULD_NOT_START : platform::run_command({{program.u8string()}, std::move(environment)});
 }
 
 } // namespace pozhil
