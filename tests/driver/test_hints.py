@@ -66,7 +66,7 @@ def test_each_change_brings_its_own_hints(place):
     place.write(SOURCE)
     with place.session(SOURCE, t.FLAG_WATCH) as session:
         session.wait_for_output(t.ANIMATION_BEHIND)
-        place.change(SOURCE, MISSPELT)
+        place.change_until(session, SOURCE, MISSPELT)
         session.wait_for_errors("வரி 2: ")
         assert hints(session.stderr.decode()) == ["வரி 2"]
 
@@ -79,7 +79,7 @@ def test_a_page_has_its_hints_after_the_messages_of_the_build(installed_place, t
         session.wait_for_output(ADDRESS)
         session.wait_for_errors("வரி 5: ")
         assert hints(session.stderr.decode()) == ["வரி 5"]
-        installed_place.change(SOURCE, "\n" + MISSPELT_PAGE)
+        installed_place.change_until(session, SOURCE, "\n" + MISSPELT_PAGE)
         session.wait_for_output(t.WEB_UPDATED)
         session.wait_for_errors("வரி 6: ")
         assert hints(session.stderr.decode()) == ["வரி 5", "வரி 6"]

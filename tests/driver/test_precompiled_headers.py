@@ -83,7 +83,7 @@ class Edits:
 
     def save(self, contents):
         self.count += 1
-        self.place.change(SOURCE, contents, age=-10 * self.count)
+        self.place.change_until(self.session, SOURCE, contents, age=-10 * self.count)
         self.session.wait_until(lambda: self.session.stdout.decode().count(UPDATED) == self.count)
 
 

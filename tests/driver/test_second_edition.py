@@ -2,7 +2,6 @@
 
 import re
 import signal
-import time
 from contextlib import ExitStack, contextmanager
 
 import pytest
@@ -18,11 +17,14 @@ MARKER = "ஃ பொழில் 2\n"
 HELLO = MARKER + 'அச்சிடு("வணக்கம்")\n'
 FAULTY = MARKER + "அச்சிடு(இல்லாதது)\nஅச்சிடு(அதுவும்)\n"
 ARCHIVE = "libpozhil_engine.a"
-A_WHILE = 0.8
 
 NO_WEB = "பிழை: வலைச் செயலிகளுக்கு இரண்டாம் பதிப்பு இன்னும் இல்லை!"
 OUR_FAULT = "பிழை: இது பொழிலின் தவறு, உன் நிரலின் தவறு அல்ல"
 NO_ARCHIVE = "கிடைக்கவில்லை! பொழிலை மீண்டும் நிறுவிக்கொள்."
+
+
+def files_of(place, source):
+    return sorted(path.name for path in place.directory_of(source).iterdir())
 
 
 def shown(result, source=SOURCE):
@@ -184,6 +186,69 @@ def test_the_words_of_gxx_are_shown_on_demand(place, tools):
     assert "strange words" in refusal_of(place, tools, "print({2LL})").err
 
 
+# What g++, the assembler and the linkers say when it isn't the text that they fail for.
+OBSTACLES = {
+    "as: {text}: Fatal error: can't write 9 bytes to section .text: No space left on device": "வட்டில் இடம் இல்லை.",
+    "mold: failed to write to an output file. Disk full?": "வட்டில் இடம் இல்லை.",
+    "{text}:3:1: fatal error: error writing to /tmp/a.s: No space left on device": "வட்டில் இடம் இல்லை.",
+    "collect2: fatal error: ld terminated with signal 25 [File size limit exceeded]": "ulimit -f",
+    "cc1plus: out of memory allocating 65536 bytes after a total of 3211264 bytes": "நினைவகம் போதவில்லை.",
+    "g++: fatal error: Killed signal terminated program cc1plus": "முடிக்கும் முன் நிறுத்தப்பட்டது",
+}
+
+
+@pytest.mark.parametrize("said", OBSTACLES)
+def test_what_keeps_gxx_from_working_is_not_our_fault(place, tools, said):
+    place.write(SOURCE, HELLO)
+    words = said.replace("{text}", "'\"$1\"'").replace("can't", "cannot")
+    tools.fails(f"echo '{words}' >&2")
+    result = place.run(SOURCE)
+    assert (result.status, shown(result)) == (1, "")
+    assert OBSTACLES[said] in result.err
+    assert OUR_FAULT not in result.err and said[:8] not in result.err
+
+
+def test_gxx_that_is_killed_is_not_our_fault(place, tools):
+    place.write(SOURCE, HELLO)
+    tools.fails("kill -9 $$")
+    result = place.run(SOURCE)
+    assert result.status == 1
+    assert "முடிக்கும் முன் நிறுத்தப்பட்டது" in result.err and OUR_FAULT not in result.err
+
+
+def test_words_of_the_program_are_no_obstacle(place, tools):
+    """g++ shows the line that it refuses, with whatever texts stand there."""
+    place.write(SOURCE, HELLO)
+    tools.fails('echo "$1:12:5: error: strange words"; echo "   12 | print(No space left on device, out of memory)"; '
+                'echo "collect2: fatal error: ld terminated with signal 11 [Segmentation fault]"')
+    result = place.run(SOURCE)
+    assert result.status == 1 and OUR_FAULT in result.err
+
+
+def test_flags_that_gxx_refuses_are_told(real_place):
+    real_place.write(SOURCE, HELLO)
+    real_place.env["POZHIL_CXXFLAGS"] = "-fno-such-flag"
+    result = real_place.run(SOURCE)
+    assert (result.status, shown(result)) == (1, "")
+    assert "POZHIL_CXXFLAGS" in result.err and OUR_FAULT not in result.err
+    assert files_of(real_place, SOURCE) == [t.EMITTED_NAME]
+
+
+def test_a_text_that_gxx_refuses_with_and_without_flags_is_our_fault(place, tools):
+    place.env["POZHIL_CXXFLAGS"] = "-O2"
+    assert OUR_FAULT in refusal_of(place, tools, "print({2LL})").err
+
+
+@pytest.mark.parametrize("link", ["exit 0", ": > \"$out\""])
+def test_a_program_that_cannot_be_started_is_told(place, tools, link):
+    """As in a folder where the system starts no programs."""
+    place.write(SOURCE, HELLO)
+    tools.stands_in_for("g++", link)
+    result = place.run(SOURCE)
+    assert (result.status, shown(result)) == (1, "")
+    assert "தொடங்க முடியவில்லை!" in result.err and str(place.directory_of(SOURCE) / t.PROGRAM_NAME) in result.err
+
+
 def test_the_program_before_is_not_run_after_a_refusal(place, tools):
     place.write(SOURCE, HELLO)
     place.run(SOURCE)
@@ -193,10 +258,6 @@ def test_the_program_before_is_not_run_after_a_refusal(place, tools):
 
 
 # Side by side.
-
-
-def files_of(place, source):
-    return sorted(path.name for path in place.directory_of(source).iterdir())
 
 
 @pytest.mark.parametrize("source", ["ஆ.பொழில்", "உள்ளே/அ.பொழில்", "../வெளியே/அ.பொழில்"])
@@ -246,14 +307,13 @@ def watching(place):
     place.write(SOURCE, HELLO)
     with place.session(SOURCE, t.FLAG_WATCH) as session:
         session.wait_for_output(animation_line(SOURCE))
-        time.sleep(A_WHILE)
         yield session
 
 
 def test_a_change_is_built_and_run(place, tools):
     with watching(place) as session:
         assert tools.calls() == []
-        place.change(SOURCE, MARKER + "அச்சிடு(5)\n")
+        place.change_until(session, SOURCE, MARKER + "அச்சிடு(5)\n")
         session.wait_for_output(t.CHANGE_NOTE)
         session.wait_for_output(PROGRAM_OUTPUT)
         assert "print({5LL});" in (place.directory_of(SOURCE) / t.EMITTED_NAME).read_text(encoding="utf-8")
@@ -261,15 +321,28 @@ def test_a_change_is_built_and_run(place, tools):
 
 def test_watching_goes_on_after_a_fault(place):
     with watching(place) as session:
-        place.change(SOURCE, FAULTY)
+        place.change_until(session, SOURCE, FAULTY)
         session.wait_for_output("அச்சிடு(அதுவும்)")
-        place.change(SOURCE, HELLO)
+        place.change_until(session, SOURCE, HELLO)
         session.wait_for_output(PROGRAM_OUTPUT)
         assert session.process.poll() is None
 
 
+def test_a_source_of_the_first_edition_that_gets_a_marker_is_told(place, tools):
+    place.write(SOURCE, 'அச்சிடு("வணக்கம்")\n')
+    with place.session(SOURCE, t.FLAG_WATCH) as session:
+        session.wait_for_output(animation_line(SOURCE))
+        place.change_until(session, SOURCE, HELLO)
+        session.wait_for_errors("'ஃ பொழில் 2' இப்போது உள்ளது!")
+        place.change_until(session, SOURCE, "\n" + HELLO)
+        session.wait_for_output("பொழி-503")
+        assert tools.calls() == []
+        place.change_until(session, SOURCE, "அச்சிடு(5)\n")
+        session.wait_for_output(PROGRAM_OUTPUT)
+
+
 def test_a_source_that_loses_its_marker_is_told(place, tools):
     with watching(place) as session:
-        place.change(SOURCE, "அச்சிடு(1)\n")
+        place.change_until(session, SOURCE, "அச்சிடு(1)\n")
         session.wait_for_errors("'ஃ பொழில் 2' இப்போது இல்லை!")
         assert tools.calls() == []

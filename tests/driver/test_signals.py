@@ -49,8 +49,7 @@ def lingering(place, *arguments):
     with place.session(SOURCE, *arguments) as session:
         if t.FLAG_WATCH in arguments:
             session.wait_for_output(animation_line(SOURCE))
-            time.sleep(0.8)
-            place.change(SOURCE, HELLO * 2)
+            place.change_until(session, SOURCE, HELLO * 2)
         session.wait_until(lambda: number_of(place))
         yield session
 
@@ -66,7 +65,7 @@ def test_running_program_is_ended_too(place, tools, number, watch):
     tools.links(LINGERS)
     with lingering(place, *watch) as session:
         assert end_alone(session, number) == -number
-        assert not runs(number_of(place))
+        session.wait_until(lambda: not runs(number_of(place)))
 
 
 @each_signal
@@ -75,7 +74,7 @@ def test_toolchain_is_ended_with_all_that_it_runs(place, tools, number, watch):
     tools.fails(LINGERS_BELOW)
     with lingering(place, *watch) as session:
         assert end_alone(session, number) == -number
-        assert not runs(number_of(place))
+        session.wait_until(lambda: not runs(number_of(place)))
         assert session.stderr == b""
     assert len(tools.calls()) == 1
 
@@ -103,7 +102,7 @@ def test_first_web_build_is_ended_with_all_that_it_runs(place, tools, number):
     tools.stands_in_for("em++", LINGERS_BELOW)
     with lingering(place, t.FLAG_WEB) as session:
         assert end_alone(session, number) == -number
-        assert not runs(number_of(place))
+        session.wait_until(lambda: not runs(number_of(place)))
 
 
 @pytest.mark.usefixtures("port")
@@ -111,13 +110,12 @@ def test_interrupt_while_a_changed_application_is_built_says_goodbye(place, tool
     tools.builds_pages()
     with place.session(SOURCE, t.FLAG_WEB) as session:
         get("/version")
-        time.sleep(0.8)
         tools.stands_in_for("em++", LINGERS_BELOW)
-        place.change(SOURCE, HELLO * 2)
+        place.change_until(session, SOURCE, HELLO * 2)
         session.wait_until(lambda: number_of(place))
         assert end_alone(session, signal.SIGINT) == 0
         assert session.stdout.decode().endswith(t.WEB_GOODBYE)
-        assert not runs(number_of(place))
+        session.wait_until(lambda: not runs(number_of(place)))
 
 
 @each_signal

@@ -21,11 +21,10 @@ A_WHILE = 0.8
 
 @contextmanager
 def watching(place, contents=HELLO):
-    """A compiler that has compiled `contents` and is now waiting for a change."""
+    """A compiler that has compiled `contents` and is about to wait for a change."""
     place.write(SOURCE, contents)
     with place.session(SOURCE, t.FLAG_WATCH) as session:
         session.wait_for_output(animation_line(SOURCE))
-        time.sleep(A_WHILE)
         yield session
 
 
@@ -54,7 +53,7 @@ def test_default_source_is_watched(place):
 
 def test_change_is_announced_built_and_run(place, tools):
     with watching(place) as session:
-        place.change(SOURCE, CHANGED)
+        place.change_until(session, SOURCE, CHANGED)
         session.wait_for_output(PROGRAM_OUTPUT)
         shown = behind_animation(session.stdout.decode(), SOURCE)
         assert shown in (t.CHANGE_NOTE + PROGRAM_OUTPUT, t.CHANGE_NOTE + "\n" + PROGRAM_OUTPUT)
@@ -65,14 +64,14 @@ def test_change_is_announced_built_and_run(place, tools):
 
 def test_source_that_became_older_has_changed_too(place):
     with watching(place) as session:
-        place.change(SOURCE, CHANGED, age=1000)
+        place.change_until(session, SOURCE, CHANGED, age=1000)
         session.wait_for_output(PROGRAM_OUTPUT)
 
 
 def test_every_change_is_built(place, tools):
     with watching(place) as session:
         for number in (1, 2, 3):
-            place.change(SOURCE, CHANGED, age=-10 * number)
+            place.change_until(session, SOURCE, CHANGED, age=-10 * number)
             session.wait_until(lambda: count(session, PROGRAM_OUTPUT) == number)
         time.sleep(A_WHILE)
         assert count(session, t.CHANGE_NOTE) == 3
@@ -82,10 +81,10 @@ def test_every_change_is_built(place, tools):
 def test_failed_link_is_told_and_watching_goes_on(place, tools):
     tools.fails()
     with watching(place) as session:
-        place.change(SOURCE, CHANGED)
+        place.change_until(session, SOURCE, CHANGED)
         session.wait_until(lambda: session.stderr.decode().endswith(failed_build_line()))
         tools.links()
-        place.change(SOURCE, HELLO, age=-20)
+        place.change_until(session, SOURCE, HELLO, age=-20)
         session.wait_for_output(PROGRAM_OUTPUT)
 
 
@@ -94,12 +93,12 @@ def test_failed_link_is_told_and_watching_goes_on(place, tools):
 ])
 def test_exception_of_a_stage_is_told_with_its_cause_and_watching_goes_on(place, tools, wrong, told):
     with watching(place) as session:
-        place.change(SOURCE, wrong)
+        place.change_until(session, SOURCE, wrong)
         session.wait_until(lambda: session.stderr.endswith(b"\n"))
         message = session.stderr.decode()
         assert message.startswith(told) and len(message.rstrip()) > len(told)
         assert tools.calls() == []
-        place.change(SOURCE, HELLO, age=-20)
+        place.change_until(session, SOURCE, HELLO, age=-20)
         session.wait_for_output(PROGRAM_OUTPUT)
 
 
@@ -109,7 +108,7 @@ def test_change_of_an_imported_file_is_not_seen(place, tools):
         place.change("துணை.பொழில்", CHANGED)
         time.sleep(A_WHILE)
         assert t.CHANGE_NOTE not in session.stdout.decode()
-        place.change(SOURCE, 'நூஇறக்கி "துணை"\n', age=-20)
+        place.change_until(session, SOURCE, 'நூஇறக்கி "துணை"\n', age=-20)
         session.wait_for_output(PROGRAM_OUTPUT)
     assert "மாற்றம்" in place.own_emitted
 
@@ -118,7 +117,7 @@ def test_changes_wait_until_the_running_program_has_ended(place, tools, scratch)
     done = scratch / "done"
     tools.links(f'until [ -e "{done}" ]; do /bin/sleep 0.05; done')
     with watching(place) as session:
-        place.change(SOURCE, CHANGED)
+        place.change_until(session, SOURCE, CHANGED)
         session.wait_until(lambda: len(tools.calls()) == 1)
         place.change(SOURCE, HELLO, age=-20)
         time.sleep(A_WHILE)
@@ -130,7 +129,7 @@ def test_changes_wait_until_the_running_program_has_ended(place, tools, scratch)
 def test_working_directory_that_was_removed_is_made_again(place, tools):
     with watching(place) as session:
         shutil.rmtree(place.work_directory)
-        place.change(SOURCE, CHANGED)
+        place.change_until(session, SOURCE, CHANGED)
         session.wait_for_output(PROGRAM_OUTPUT)
         assert session.stderr == b""
     assert "மாற்றம்" in place.own_emitted
@@ -138,7 +137,7 @@ def test_working_directory_that_was_removed_is_made_again(place, tools):
 
 def test_diagnostic_ends_the_watch(place, tools):
     with watching(place) as session:
-        place.change(SOURCE, WRONG)
+        place.change_until(session, SOURCE, WRONG)
         assert session.wait_for_end() == 1
         shown, report = split_compiler_box(session.stdout.decode())
         assert behind_animation(shown, SOURCE) in (t.CHANGE_NOTE, t.CHANGE_NOTE + "\n")

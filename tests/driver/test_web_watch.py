@@ -4,7 +4,6 @@ import re
 import shutil
 import signal
 import socket
-import time
 
 import pytest
 
@@ -19,9 +18,6 @@ SOURCE = "அ.பொழில்"
 CHANGED = 'அச்சிடு("மாற்றம்")\n'
 UPDATED = t.WEB_UPDATED + "\n"
 
-# Longer than the pause between two looks at the source.
-A_WHILE = 0.8
-
 
 @pytest.fixture
 def web_place(place, tools):
@@ -32,10 +28,9 @@ def web_place(place, tools):
 
 @pytest.fixture
 def session(web_place):
-    """A compiler that has built the application and is now waiting for a change."""
+    """A compiler that has built the application and is about to wait for a change."""
     with web_place.session(SOURCE, t.FLAG_WEB) as running:
         get("/version")
-        time.sleep(A_WHILE)
         yield running
 
 
@@ -50,7 +45,7 @@ def shown_behind_start(session):
 def test_change_is_built_and_the_version_grows(session, web_place, tools):
     assert (get("/version")[1], page_version()) == ("2", 2)
     for number in (3, 4):
-        web_place.change(SOURCE, CHANGED, age=-10 * number)
+        web_place.change_until(session, SOURCE, CHANGED, age=-10 * number)
         session.wait_until(lambda: get("/version")[1] == str(number))
         assert page_version() == number
     session.wait_until(lambda: session.stdout.decode().count(UPDATED) == 2)
@@ -65,7 +60,7 @@ def test_number_stays_until_the_build_is_done(session, web_place, tools, scratch
     """The page already asks for the new number, while the files may still be the old ones."""
     done = scratch / "done"
     tools.stands_in_for("em++", f'until [ -e "{done}" ]; do /bin/sleep 0.05; done; echo new > "$out"')
-    web_place.change(SOURCE, CHANGED)
+    web_place.change_until(session, SOURCE, CHANGED)
     session.wait_until(lambda: len(tools.calls("em++")) == 2)
     assert (get("/version")[1], page_version()) == ("2", 3)
     done.touch()
@@ -76,12 +71,12 @@ def test_number_stays_until_the_build_is_done(session, web_place, tools, scratch
 
 def test_failed_build_keeps_the_version_and_the_watch_goes_on(session, web_place, tools):
     tools.stands_in_for("em++", "exit 1")
-    web_place.change(SOURCE, CHANGED)
+    web_place.change_until(session, SOURCE, CHANGED)
     session.wait_for_output(t.WEB_COMPILATION_HINT)
     assert get("/version") == (200, "2")
     assert page_version() == 3
     tools.builds_pages()
-    web_place.change(SOURCE, HELLO, age=-20)
+    web_place.change_until(session, SOURCE, HELLO, age=-20)
     session.wait_for_output(UPDATED)
     assert get("/version") == (200, "3")
     assert t.WEB_FAILURE not in session.stdout.decode()
@@ -91,9 +86,8 @@ def test_failed_first_build_is_made_good_by_a_change(web_place, tools):
     tools.stands_in_for("em++", "exit 1")
     with web_place.session(SOURCE, t.FLAG_WEB) as session:
         assert get("/version") == (200, "1")
-        time.sleep(A_WHILE)
         tools.builds_pages()
-        web_place.change(SOURCE, CHANGED)
+        web_place.change_until(session, SOURCE, CHANGED)
         session.wait_for_output(UPDATED)
         assert (get("/version")[1], page_version()) == ("2", 2)
         assert t.WEB_OPENING not in session.stdout.decode()
@@ -103,21 +97,21 @@ def test_removed_output_directory_is_made_again(session, web_place):
     for path in web_place.web_directory.iterdir():
         path.unlink()
     web_place.web_directory.rmdir()
-    web_place.change(SOURCE, CHANGED)
+    web_place.change_until(session, SOURCE, CHANGED)
     session.wait_for_output(UPDATED)
     assert get("/index.js") == (200, "js\n")
 
 
 def test_removed_working_directory_is_made_again(session, web_place):
     shutil.rmtree(web_place.work_directory)
-    web_place.change(SOURCE, CHANGED)
+    web_place.change_until(session, SOURCE, CHANGED)
     session.wait_until(lambda: get("/version")[1] == "3")
     assert "மாற்றம்" in (web_place.work_directory / t.EMITTED_WEB_NAME).read_text(encoding="utf-8")
     assert session.stderr == b""
 
 
 def test_diagnostic_ends_watch_and_server(session, web_place, tools):
-    web_place.change(SOURCE, WRONG)
+    web_place.change_until(session, SOURCE, WRONG)
     assert session.wait_for_end() == 1
     shown, report = split_compiler_box(session.stdout.decode())
     assert shown.endswith(t.WEB_CHANGE_NOTE + "\n")
@@ -130,8 +124,7 @@ def test_diagnostic_ends_watch_and_server(session, web_place, tools):
 def test_watch_goes_on_without_a_server(web_place):
     with socket.create_server(("", PORT)), web_place.session(SOURCE, t.FLAG_WEB) as session:
         session.wait_until(lambda: t.WEB_PORT_TAKEN.encode() == session.stderr)
-        time.sleep(A_WHILE)
-        web_place.change(SOURCE, CHANGED)
+        web_place.change_until(session, SOURCE, CHANGED)
         session.wait_for_output(UPDATED)
         assert session.stderr.decode() == t.WEB_PORT_TAKEN
 

@@ -131,12 +131,19 @@ class Session:
 
     def wait_until(self, holds, timeout=20):
         """Returns as soon as `holds()` is true; fails when it doesn't become so in time."""
+        if not self.comes_true(holds, timeout):
+            raise AssertionError(f"waited in vain; standard output:\n{readable(self.stdout)}\n"
+                                 f"standard error:\n{readable(self.stderr)}")
+
+    @staticmethod
+    def comes_true(holds, timeout):
+        """Whether `holds()` becomes true in time; returns as soon as it does."""
         end = time.monotonic() + timeout
         while not holds():
             if time.monotonic() > end:
-                raise AssertionError(f"waited in vain; standard output:\n{readable(self.stdout)}\n"
-                                     f"standard error:\n{readable(self.stderr)}")
+                return False
             time.sleep(0.01)
+        return True
 
     def wait_for_output(self, text, timeout=20):
         self.wait_until(lambda: text.encode() in self.stdout, timeout)

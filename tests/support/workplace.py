@@ -15,6 +15,12 @@ WRONG = "அச்சிடூ\n"
 
 NOBODY = 65534
 
+# How long a compiler may take to see a change, and how often one is made before it counts as overlooked.
+PATIENCE = 4
+TRIES = 8
+
+CHANGE_NOTE_BEGINNING = os.path.commonprefix([t.CHANGE_NOTE, t.WEB_CHANGE_NOTE]).encode()
+
 
 class Workplace:
     """Runs one compiler in one working directory and one environment."""
@@ -69,6 +75,19 @@ class Workplace:
         moment = time.time() - age
         os.utime(new, (moment, moment))
         new.rename(self.folder / name)
+
+    def change_until(self, session, name, contents, age=-10):
+        """Replaces a source until the compiler of `session` tells of a change. One that has only begun may not watch its
+        source yet: nothing that can be seen from outside tells when it does."""
+        def told():
+            return session.stdout.count(CHANGE_NOTE_BEGINNING)
+
+        before = told()
+        for _ in range(TRIES):
+            self.change(name, contents, age)
+            if session.comes_true(lambda: told() > before, PATIENCE):
+                return
+        raise AssertionError(f"no change was seen; standard output:\n{session.stdout.decode()}")
 
     def run(self, *arguments, **settings):
         return run([self.compiler, *arguments], cwd=self.folder, env=self.env, **settings)
