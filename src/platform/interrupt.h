@@ -6,8 +6,8 @@ namespace pozhil::platform {
 /// programs that it runs as well. Once these have ended, it ends by the signal, as it otherwise does at once.
 void passOnEndSignals();
 
-/// From now on an interrupt (Ctrl+C) writes \p message to standard output and ends the process with status 0, whatever
-/// any thread is doing, once the programs that it runs have ended too. What std::cout still holds is lost: flush it before
+/// From now on an interrupt (Ctrl+C), unless it is ignored, writes \p message to standard output and ends the process with
+/// status 0, whatever any thread is doing, once the programs that it runs have ended too. What std::cout still holds is lost: flush it before
 /// waiting.
 /// \param message must live as long as the process
 void endOnInterrupt(const char* message);

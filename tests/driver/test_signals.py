@@ -1,5 +1,7 @@
 """A signal to the compiler alone, as `kill` sends it: nothing that it runs is left behind."""
 
+import os
+import pty
 import re
 import signal
 import time
@@ -77,6 +79,31 @@ def test_toolchain_is_ended_with_all_that_it_runs(place, tools, number, watch):
         session.wait_until(lambda: not runs(number_of(place)))
         assert session.stderr == b""
     assert len(tools.calls()) == 1
+
+
+def test_a_key_of_the_terminal_interrupts_the_program_once(place, tools):
+    """It reaches the compiler and its program at the same time."""
+    tools.links("trap 'echo >> interrupts' INT; echo $$ > running; until [ -e done ]; do sleep 0.3 & wait; done")
+    terminal, end = pty.openpty()
+    command = ["/usr/bin/setsid", "--ctty", place.compiler, SOURCE]
+    with os.fdopen(end) as stdin, Session(command, cwd=place.folder, env=place.env, stdin=stdin) as session:
+        session.wait_until(lambda: number_of(place))
+        os.write(terminal, b"\x03")
+        session.wait_until((place.folder / "interrupts").exists)
+        (place.folder / "done").touch()
+        session.wait_for_end(timeout=10)
+    os.close(terminal)
+    assert (place.folder / "interrupts").read_text() == "\n"
+
+
+@pytest.mark.usefixtures("port")
+def test_ignored_interrupt_does_not_end_the_server(place, tools):
+    tools.builds_pages()
+    command = ["/bin/sh", "-c", 'trap "" INT; exec "$0" "$@"', place.compiler, SOURCE, t.FLAG_WEB]
+    with Session(command, cwd=place.folder, env=place.env) as session:
+        session.wait_for_output(t.WEB_OPENING)
+        session.process.send_signal(signal.SIGINT)
+        assert not session.comes_true(lambda: session.process.poll() is not None, 0.5)
 
 
 def test_program_that_tidies_up_is_waited_for(place, tools):

@@ -77,7 +77,6 @@ ROOMS = {
         "src/analysis/second",
         "src/emit",
         "src/generator/first",
-        "src/analysis/second",
         "src/generator/second",
         "src/driver/console",
     ],

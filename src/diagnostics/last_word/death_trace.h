@@ -33,6 +33,12 @@ inline _Unwind_Reason_Code addFrame(_Unwind_Context* context, void* argument) {
     return _URC_NO_REASON;
 }
 
+/// Has what is needed to walk up the stack made, while the program is well: the first walk in a statically linked program
+/// sorts its tables, and takes memory for that.
+inline void prepareTrace() {
+    _Unwind_Backtrace([](_Unwind_Context*, void*) { return _URC_END_OF_STACK; }, nullptr);
+}
+
 /// Leaves the trace in a new file at \p path; if that can't be written, nowhere.
 inline void leaveTrace(const char* path) {
     Trace trace;

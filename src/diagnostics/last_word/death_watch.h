@@ -128,6 +128,9 @@ inline bool watchProgram() {
     }
     watch.source = std::getenv(SOURCE_VARIABLE);
     watch.trace = std::getenv(TRACE_VARIABLE);
+    if (watch.trace != nullptr) {
+        prepareTrace();
+    }
     watch.stackTop = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
     rlimit limit = {};
     if (getrlimit(RLIMIT_STACK, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY) {

@@ -45,11 +45,15 @@ void writeOut(const char* text) {
     _exit(SIGNALLED + signal);
 }
 
-void signal_handler(int signal) {
+/// What a terminal sends, such as that of Ctrl+C, reaches the programs in the foreground by itself; groups of their own
+/// don't get it.
+void signal_handler(int signal, siginfo_t* info, void* /*context*/) {
     const int error = errno;
+    const bool isOfTerminal = info->si_code == SI_KERNEL;
     endSignal.store(signal);
     for (const std::atomic<pid_t>& target : targets) {
-        if (const pid_t process = target.load()) {
+        const pid_t process = target.load();
+        if (process < 0 || (process > 0 && !isOfTerminal)) {
             kill(process, signal);
         }
     }
@@ -59,19 +63,29 @@ void signal_handler(int signal) {
     errno = error;
 }
 
+/// Asks first: a signal that is ignored may come at any time.
+void handleUnlessIgnored(int signal) {
+    struct sigaction action = {};
+    sigaction(signal, nullptr, &action);
+    if (action.sa_handler != SIG_IGN) {
+        action = {};
+        action.sa_sigaction = signal_handler;
+        action.sa_flags = SA_SIGINFO | SA_RESTART;
+        sigaction(signal, &action, nullptr);
+    }
+}
+
 } // namespace
 
 void passOnEndSignals() {
     for (const int signal : {SIGTERM, SIGHUP, SIGINT, SIGQUIT}) {
-        if (std::signal(signal, signal_handler) == SIG_IGN) {
-            std::signal(signal, SIG_IGN);
-        }
+        handleUnlessIgnored(signal);
     }
 }
 
 void endOnInterrupt(const char* message) {
     farewell.store(message);
-    std::signal(SIGINT, signal_handler);
+    handleUnlessIgnored(SIGINT);
 }
 
 EndingText::EndingText(const char* text) {
