@@ -29,12 +29,12 @@ std::vector<std::string> emFlags() {
     return platform::splitWords(platform::environmentVariable("POZHIL_EMFLAGS").value_or(""));
 }
 
-bool showsCxx() {
-    return platform::environmentVariable("POZHIL_SHOW_CXX") != "0";
-}
-
-bool asksForCxx() {
-    return platform::environmentVariable("POZHIL_SHOW_CXX") == "1";
+ToolchainWords toolchainWords() {
+    const std::string text = platform::environmentVariable("POZHIL_SHOW_CXX").value_or("");
+    if (text == "0") {
+        return ToolchainWords::Hidden;
+    }
+    return text == "1" ? ToolchainWords::Shown : ToolchainWords::Default;
 }
 
 bool showsHints() {

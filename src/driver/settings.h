@@ -16,11 +16,15 @@ std::vector<std::string> cxxFlags();
 /// Arguments added to the em++ command line: POZHIL_EMFLAGS.
 std::vector<std::string> emFlags();
 
-/// Whether what g++ writes is shown: POZHIL_SHOW_CXX, true unless it is 0.
-bool showsCxx();
+/// What the user wishes of the words that g++ writes.
+enum class ToolchainWords {
+    Default, ///< each edition as it is used to: the first shows them, the second doesn't
+    Hidden,
+    Shown
+};
 
-/// Whether what g++ writes is shown although it is a fault of the compiler: POZHIL_SHOW_CXX, only if it is 1.
-bool asksForCxx();
+/// Whether what g++ writes is shown: POZHIL_SHOW_CXX, hidden for 0 and shown for 1.
+ToolchainWords toolchainWords();
 
 /// Whether hints are shown: POZHIL_HINTS, unless it is 0.
 bool showsHints();

@@ -44,14 +44,17 @@ TEST(CompilerFlags, AreTheWordsOfTheUser) {
     unsetenv("POZHIL_EMFLAGS");
 }
 
-TEST(WordsOfTheCompiler, AreShownUnlessTheUserSaysNo) {
+TEST(WordsOfTheCompiler, AreShownAndHiddenAsTheUserSays) {
+    using settings::ToolchainWords;
     unsetenv("POZHIL_SHOW_CXX");
-    EXPECT_TRUE(settings::showsCxx());
+    EXPECT_EQ(settings::toolchainWords(), ToolchainWords::Default);
     setenv("POZHIL_SHOW_CXX", "0", 1);
-    EXPECT_FALSE(settings::showsCxx());
-    for (const char* value : {"1", "", "00", "no"}) {
+    EXPECT_EQ(settings::toolchainWords(), ToolchainWords::Hidden);
+    setenv("POZHIL_SHOW_CXX", "1", 1);
+    EXPECT_EQ(settings::toolchainWords(), ToolchainWords::Shown);
+    for (const char* value : {"", "00", "no"}) {
         setenv("POZHIL_SHOW_CXX", value, 1);
-        EXPECT_TRUE(settings::showsCxx()) << value;
+        EXPECT_EQ(settings::toolchainWords(), ToolchainWords::Default) << value;
     }
     unsetenv("POZHIL_SHOW_CXX");
 }

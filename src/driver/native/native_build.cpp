@@ -64,7 +64,7 @@ void NativeBuild::finish(const ParsedSource& source, const OutputText& output) {
     }
     const ToolchainResult result = toolchain_.get();
     show(result.object);
-    if (settings::showsCxx()) {
+    if (settings::toolchainWords() != settings::ToolchainWords::Hidden) {
         show(result.link);
     }
     if (result.link.status == platform::COULD_NOT_START) {

@@ -91,7 +91,7 @@ platform::Command SecondBuild::command(const SecondTranslation& translation,
 
 int SecondBuild::finish(const SecondTranslation& translation) {
     const platform::CommandResult result = toolchain_.get();
-    if (settings::asksForCxx()) {
+    if (settings::toolchainWords() == settings::ToolchainWords::Shown) {
         std::cerr << result.output << result.errors << std::flush;
     }
     if (result.status == 0) {
