@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/list.h"
 #include "engine/value.h"
 
 #include <initializer_list>
@@ -30,8 +31,16 @@ Value map(std::initializer_list<Entry> entries, Place place);
 void addEntries(Value& map, std::initializer_list<Entry> entries, Place place);
 
 /// container[index], read: an element, the value of a key, or a letter.
-Value get(const Value& container, const Value& index, Place place);
-Value get(const Value& container, Whole index, Place place);
+Value getValue(const Value& container, const Value& index, Place place);
+Value getValue(const Value& container, Whole index, Place place);
+
+[[gnu::always_inline]] inline Value get(const Value& container, Whole index, Place place) {
+    const Value* const element = elementOf(container, index);
+    return element != nullptr ? *element : getValue(container, index, place);
+}
+inline Value get(const Value& container, const Value& index, Place place) {
+    return index.is(Tag::Whole) ? get(container, index.whole(), place) : getValue(container, index, place);
+}
 inline Value get(const Value& container, int index, Place place) {
     return get(container, Whole{index}, place);
 }
@@ -49,9 +58,17 @@ inline bool isContainer(const Value& value) {
 }
 
 /// The place of container[index] for writing into what it holds: it must be there.
-Value& element(Value& container, const Value& index, Place place);
+Value& elementPlace(Value& container, const Value& index, Place place);
+inline Value& element(Value& container, const Value& index, Place place) {
+    Value* const own = index.is(Tag::Whole) ? ownElementOf(container, index.whole()) : nullptr;
+    return own != nullptr ? *own : elementPlace(container, index, place);
+}
 /// The same for assigning to it: a key of a map need not be there.
-Value& slot(Value& container, const Value& index, Place place);
+Value& slotPlace(Value& container, const Value& index, Place place);
+inline Value& slot(Value& container, const Value& index, Place place) {
+    Value* const own = index.is(Tag::Whole) ? ownElementOf(container, index.whole()) : nullptr;
+    return own != nullptr ? *own : slotPlace(container, index, place);
+}
 
 /// Goes over the elements of a list, the keys of a map in their order, or the letters of a text, as they are at the
 /// beginning.
@@ -64,9 +81,18 @@ public:
 
     /// Puts the next one into \p variable.
     /// \return false if there is none; the variable then stays as it is
-    bool next(Value& variable);
+    bool next(Value& variable) {
+        if (const Value* const element = elementOf(held_, static_cast<Whole>(position_))) {
+            variable = *element;
+            ++position_;
+            return true;
+        }
+        return nextValue(variable);
+    }
 
 private:
+    bool nextValue(Value& variable);
+
     /// Holds on to what is gone over, so that writing to the variable makes a copy.
     Value held_;
     unsigned long position_ = 0;

@@ -123,6 +123,9 @@ bool haveEqualContents(const Value& left, const Value& right) {
 } // namespace
 
 int compareNumbers(Whole left, Decimal right) {
+    if (isExactDecimal(left) && !std::isnan(right)) {
+        return threeWay(static_cast<Decimal>(left), right);
+    }
     constexpr Decimal LIMIT = 9223372036854775808.0;
     if (right >= LIMIT) {
         return -1;

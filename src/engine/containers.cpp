@@ -50,7 +50,7 @@ Value rangeList(Counting numbers, Place place) {
 
 } // namespace
 
-Value append(Value& list, const Value& value, Place place) {
+Value appendValue(Value& list, const Value& value, Place place) {
     if (!list.is(Tag::List)) {
         raise(WRONG_CONTAINER, place, {"சேர்", "பட்டியல்", kindWord(list)});
     }

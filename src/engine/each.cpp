@@ -18,14 +18,9 @@ Each::Each(const Value& iterable, Place place) : held_(iterable) {
 
 Each::~Each() = default;
 
-bool Each::next(Value& variable) {
+bool Each::nextValue(Value& variable) {
     if (held_.is(Tag::List)) {
-        const List& list = listBlock(held_);
-        if (position_ == list.size) {
-            return false;
-        }
-        variable = list.elements[position_++];
-        return true;
+        return false; // at its end
     }
     if (held_.is(Tag::Map)) {
         Map& map = mapBlock(held_);

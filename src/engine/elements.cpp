@@ -95,17 +95,17 @@ void addEntries(Value& map, std::initializer_list<Entry> entries, Place place) {
     }
 }
 
-Value get(const Value& container, const Value& index, Place place) {
+Value getValue(const Value& container, const Value& index, Place place) {
     if (container.is(Tag::Map)) {
         return valueOfKey(container, index, place);
     }
     if (container.is(Tag::List) || container.is(Tag::Text)) {
-        return get(container, indexOf(index, place), place);
+        return getValue(container, indexOf(index, place), place);
     }
     raise(HAS_NO_ELEMENTS, place, {kindWord(container)});
 }
 
-Value get(const Value& container, Whole index, Place place) {
+Value getValue(const Value& container, Whole index, Place place) {
     if (container.is(Tag::List)) {
         const List& list = listBlock(container);
         return list.elements[checkedIndex(index, list.size, NO_SUCH_INDEX, place)];
@@ -113,10 +113,10 @@ Value get(const Value& container, Whole index, Place place) {
     if (container.is(Tag::Text)) {
         return letterOf(container, index, place);
     }
-    return get(container, Value(index), place);
+    return getValue(container, Value(index), place);
 }
 
-Value& element(Value& container, const Value& index, Place place) {
+Value& elementPlace(Value& container, const Value& index, Place place) {
     if (container.is(Tag::List)) {
         return elementOfList(container, index, place);
     }
@@ -131,9 +131,9 @@ Value& element(Value& container, const Value& index, Place place) {
     return *value;
 }
 
-Value& slot(Value& container, const Value& index, Place place) {
+Value& slotPlace(Value& container, const Value& index, Place place) {
     if (!container.is(Tag::Map)) {
-        return element(container, index, place);
+        return elementPlace(container, index, place);
     }
     checkKey(index, place);
     noteGrowth(place);

@@ -68,7 +68,7 @@ void joinTo(Value& target, const Value& value, Place place) {
     }
 }
 
-void addTo(Value& target, const Value& value, Place place) {
+void addValueTo(Value& target, const Value& value, Place place) {
     if (target.is(Tag::Text)) {
         joinTo(target, value, place);
     } else if (target.is(Tag::List) && value.is(Tag::List)) {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "engine/list.h"
 #include "engine/value.h"
 
 #include <initializer_list>
+#include <new>
 
 /// The functions that come with the language, one for each row of src/language/second/builtins.cpp, by its name there.
 
@@ -15,7 +17,16 @@ Value number(const Value& value, Place place);
 Whole length(const Value& value, Place place);
 
 // Lists and maps.
-Value append(Value& list, const Value& value, Place place);
+Value appendValue(Value& list, const Value& value, Place place);
+inline Value append(Value& list, const Value& value, Place place) {
+    // With room for one more that nobody else sees. A list that is appended to itself is copied first.
+    if (list.is(Tag::List) && listBlock(list).references == 1 && listBlock(list).size < listBlock(list).capacity &&
+        &value != &list) {
+        new (listBlock(list).elements + listBlock(list).size++) Value(value);
+        return Value();
+    }
+    return appendValue(list, value, place);
+}
 Value removeFrom(Value& container, const Value& value, Place place);
 Value put(Value& container, const Value& index, const Value& value, Place place);
 bool contains(const Value& container, const Value& value, Place place);

@@ -18,6 +18,26 @@ inline List& listBlock(const Value& value) {
     return *static_cast<List*>(value.block());
 }
 
+/// The element of a list that has one there; null for anything else.
+inline const Value* elementOf(const Value& container, Whole index) {
+    if (!container.is(Tag::List)) {
+        return nullptr;
+    }
+    const List& list = listBlock(container);
+    // A negative index is a very large one without its sign.
+    return static_cast<std::size_t>(index) < list.size ? list.elements + index : nullptr;
+}
+
+/// The same for writing: null also if others hold the list.
+inline Value* ownElementOf(const Value& container, Whole index) {
+    if (!container.is(Tag::List)) {
+        return nullptr;
+    }
+    const List& list = listBlock(container);
+    const bool isOwn = list.references == 1 && static_cast<std::size_t>(index) < list.size;
+    return isOwn ? list.elements + index : nullptr;
+}
+
 /// An empty list with room for so many elements.
 Value makeList(std::size_t capacity = 0);
 /// The block for writing: a copy first if others hold it too.

@@ -127,6 +127,9 @@ inline Value multiply(const Value& left, const Value& right, Place place) {
     return multiplyValues(left, right, place);
 }
 inline Decimal divide(const Value& left, const Value& right, Place place) {
+    if (left.is(Tag::Whole) && right.is(Tag::Whole)) {
+        return divide(left.whole(), right.whole(), place);
+    }
     return divideValues(left, right, place);
 }
 inline Value remainder(const Value& left, const Value& right, Place place) {
@@ -136,20 +139,69 @@ inline Value remainder(const Value& left, const Value& right, Place place) {
     return remainderValues(left, right, place);
 }
 
+/// Type is \p Result for whole numbers, and nothing else has one: C++ would make whole numbers of decimals and truth values.
+template <class Number, class Result> struct IfWhole {};
+template <class Result> struct IfWhole<Whole, Result> { using Type = Result; };
+
+// A value of any kind and a whole number, most often one that stands in the program: decimals take a short way too.
+template <class Number> inline typename IfWhole<Number, Value>::Type add(const Value& left, Number right, Place place) {
+    return left.is(Tag::Decimal) ? Value(add(left.decimal(), right, place)) : add(left, Value(right), place);
+}
+template <class Number>
+inline typename IfWhole<Number, Value>::Type subtract(const Value& left, Number right, Place place) {
+    return left.is(Tag::Decimal) ? Value(subtract(left.decimal(), right, place)) : subtract(left, Value(right), place);
+}
+template <class Number>
+inline typename IfWhole<Number, Value>::Type multiply(const Value& left, Number right, Place place) {
+    return left.is(Tag::Decimal) ? Value(multiply(left.decimal(), right, place)) : multiply(left, Value(right), place);
+}
+template <class Number>
+inline typename IfWhole<Number, Decimal>::Type divide(const Value& left, Number right, Place place) {
+    return left.is(Tag::Decimal) ? divide(left.decimal(), right, place) : divide(left, Value(right), place);
+}
+template <class Number>
+inline typename IfWhole<Number, Value>::Type remainder(const Value& left, Number right, Place place) {
+    return left.is(Tag::Decimal) ? Value(remainder(left.decimal(), right, place))
+                                 : remainder(left, Value(right), place);
+}
+
 /// இணை: the text forms of both, end to end.
 Value join(const Value& left, const Value& right, Place place);
 /// Of many, in one text.
 Value join(std::initializer_list<Value> pieces, Place place);
 
 /// target = target கூட்டு value and so on; a text or list that nobody else holds grows where it is.
-void addTo(Value& target, const Value& value, Place place);
+void addValueTo(Value& target, const Value& value, Place place);
+inline void addTo(Value& target, const Value& value, Place place) {
+    if (target.is(Tag::Whole) && value.is(Tag::Whole)) {
+        target = add(target.whole(), value.whole(), place);
+    } else {
+        addValueTo(target, value, place);
+    }
+}
 void joinTo(Value& target, const Value& value, Place place);
+
+/// Whether there is a decimal that is this number, neither more nor less, as there is up to 2 to the 53rd.
+constexpr bool isExactDecimal(Whole number) {
+    constexpr Whole LIMIT = Whole{1} << 53;
+    return -LIMIT <= number && number <= LIMIT;
+}
 
 /// சமம். Values of different kinds are unequal, but whole numbers and decimals compare as numbers. Lists and maps are equal
 /// when their contents are, objects when they are the same, functions when they also use the same variables and object.
 bool equalValues(const Value& left, const Value& right);
 inline bool equal(const Value& left, const Value& right) {
     return left.is(Tag::Whole) && right.is(Tag::Whole) ? left.whole() == right.whole() : equalValues(left, right);
+}
+template <class Number> inline typename IfWhole<Number, bool>::Type equal(const Value& left, Number right) {
+    if (left.is(Tag::Whole)) {
+        return left.whole() == right;
+    }
+    return left.is(Tag::Decimal) && isExactDecimal(right) ? left.decimal() == static_cast<Decimal>(right)
+                                                          : equalValues(left, right);
+}
+template <class Number> inline typename IfWhole<Number, bool>::Type equal(Number left, const Value& right) {
+    return equal(right, left);
 }
 inline bool equal(Whole left, Whole right) {
     return left == right;

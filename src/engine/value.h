@@ -46,16 +46,27 @@ public:
     Value(const void*) = delete;
     /// Takes over one reference to the block.
     Value(Tag tag, Counted* block) : tag_(tag), block_(block) {}
-    Value(const Value& other) : tag_(other.tag_), whole_(other.whole_) { share(); }
-    Value(Value&& other) noexcept : tag_(other.tag_), whole_(other.whole_) { other.tag_ = Tag::Nothing; }
-    ~Value() { release(); }
+    // Copies, moves and ends of numbers cost no call, whatever g++ thinks of the size of this.
+    [[gnu::always_inline]] Value(const Value& other) : tag_(other.tag_), whole_(other.whole_) {
+        if (isCounted()) {
+            ++block_->references;
+        }
+    }
+    [[gnu::always_inline]] Value(Value&& other) noexcept : tag_(other.tag_), whole_(other.whole_) {
+        other.tag_ = Tag::Nothing;
+    }
+    [[gnu::always_inline]] ~Value() {
+        if (isCounted()) {
+            release();
+        }
+    }
 
-    Value& operator=(const Value& other) {
+    [[gnu::always_inline]] Value& operator=(const Value& other) {
         Value copy(other);
         swap(copy);
         return *this;
     }
-    Value& operator=(Value&& other) noexcept {
+    [[gnu::always_inline]] Value& operator=(Value&& other) noexcept {
         Value moved(static_cast<Value&&>(other));
         swap(moved);
         return *this;
@@ -85,13 +96,9 @@ public:
 
 private:
     bool isCounted() const { return tag_ >= Tag::Text; }
-    void share() const {
-        if (isCounted()) {
-            ++block_->references;
-        }
-    }
+    /// Only of values with a block.
     void release() {
-        if (isCounted() && --block_->references == 0) {
+        if (--block_->references == 0) {
             destroy(tag_, block_);
         }
     }
