@@ -88,7 +88,17 @@ Cell* captured(const Closure& own, int index);
 /// \param count how many arguments there are
 /// \return what the function gives
 Value callValue(const Value& callee, Value* arguments, int count, Place place);
-Value call(const Value& callee, std::initializer_list<Value> arguments, Place place);
+
+/// The arguments {} of a call.
+struct NoArguments {};
+
+/// The same with arguments of its own, {a, b}.
+template <unsigned long count> Value call(const Value& callee, Value (&&arguments)[count], Place place) {
+    return callValue(callee, arguments, static_cast<int>(count), place);
+}
+inline Value call(const Value& callee, NoArguments, Place place) {
+    return callValue(callee, nullptr, 0, place);
+}
 
 /// Bit i is set if the function takes argument i as a place.
 unsigned mutableParameters(const Value& callee);
@@ -96,6 +106,7 @@ unsigned mutableParameters(const Value& callee);
 /// Names of members have numbers, which the emitted text gives.
 using Member = int;
 
+struct MemberSlot;
 struct Structure;
 
 /// A field of a structure as the emitted text declares it.
@@ -124,29 +135,15 @@ struct Structure {
     /// Made by run().
     struct Table;
     Table* table;
+    /// Of every member of the program, by its number. Made by run().
+    const MemberSlot* slots = nullptr;
 };
 
 /// A new object, the fields of all its parents and its own initialised, before துவக்கம்.
 Value create(Structure& structure, Place place);
 
-/// object.name, read: a field, a method bound to its object, or a part of a value that is no object.
-/// \param inside the structure in whose method this stands; null outside
-Value member(const Value& object, Member name, Place place, const Structure* inside = nullptr);
-
-/// The place of object.name for writing.
-Value& field(const Value& object, Member name, Place place, const Structure* inside = nullptr);
-
-/// object.name(arguments): a method, a field that holds a function, or what texts, lists, maps and times can do.
-/// \param object a place, since methods such as சேர் write to what it holds
-Value callMethod(Value& object, Member name, Value* arguments, int count, Place place,
-                 const Structure* inside = nullptr);
-Value callMethod(Value& object, Member name, std::initializer_list<Value> arguments, Place place,
-                 const Structure* inside = nullptr);
-/// The same of a value that has no place.
-Value callMethodOf(const Value& object, Member name, std::initializer_list<Value> arguments, Place place,
-                   const Structure* inside = nullptr);
-/// Bit i is set if the method takes argument i (without its object) as a place.
-unsigned mutableParameters(const Value& object, Member name);
+/// object(arguments of துவக்கம்): creates the object and calls the துவக்கம் that it has, of its own or of a parent.
+Value construct(Structure& structure, std::initializer_list<Value> arguments, Place place);
 
 /// A source of the program, for its faults.
 struct Source {

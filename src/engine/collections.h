@@ -74,8 +74,12 @@ inline Value& slot(Value& container, const Value& index, Place place) {
 /// beginning.
 class Each {
 public:
-    Each(const Value& iterable, Place place);
-    ~Each();
+    Each(const Value& iterable, Place place) : held_(iterable) {
+        if (!iterable.is(Tag::List)) {
+            checkIterable(place);
+        }
+    }
+    ~Each() = default;
     Each(const Each&) = delete;
     Each& operator=(const Each&) = delete;
 
@@ -91,6 +95,7 @@ public:
     }
 
 private:
+    void checkIterable(Place place) const;
     bool nextValue(Value& variable);
 
     /// Holds on to what is gone over, so that writing to the variable makes a copy.

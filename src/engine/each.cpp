@@ -10,13 +10,11 @@
 
 namespace pozhil::engine {
 
-Each::Each(const Value& iterable, Place place) : held_(iterable) {
-    if (!iterable.is(Tag::List) && !iterable.is(Tag::Map) && !iterable.is(Tag::Text)) {
-        raise(NOT_ITERABLE, place, {kindWord(iterable)});
+void Each::checkIterable(Place place) const {
+    if (!held_.is(Tag::Map) && !held_.is(Tag::Text)) {
+        raise(NOT_ITERABLE, place, {kindWord(held_)});
     }
 }
-
-Each::~Each() = default;
 
 bool Each::nextValue(Value& variable) {
     if (held_.is(Tag::List)) {

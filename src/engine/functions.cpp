@@ -1,6 +1,7 @@
 #include "engine/blocks.h"
 #include "engine/calls.h"
 #include "engine/function_block.h"
+#include "engine/members.h"
 #include "engine/raise.h"
 #include "engine/running_faults.h"
 
@@ -62,6 +63,8 @@ Value callWithObject(const Closure& own, const FunctionInfo& info, const Value& 
 
 } // namespace
 
+const Closure WITHOUT_VARIABLES{};
+
 Shared::Shared() : cell_(new Cell) {}
 
 Shared::Shared(const Value& first) : cell_(new Cell(first)) {}
@@ -112,7 +115,6 @@ ArgumentCopies::ArgumentCopies(std::initializer_list<Value> arguments) : count_(
 }
 
 Value callBound(const FunctionInfo& info, const Value& self, Value* arguments, int count, Place place) {
-    static const Closure WITHOUT_VARIABLES{};
     return callWithObject(WITHOUT_VARIABLES, info, self, arguments, count, place);
 }
 
@@ -130,11 +132,6 @@ Value callValue(const Value& callee, Value* arguments, int count, Place place) {
     }
     checkCount(info, info.parameters, count, place);
     return info.code(closure, arguments, place);
-}
-
-Value call(const Value& callee, std::initializer_list<Value> arguments, Place place) {
-    ArgumentCopies copies(arguments);
-    return callValue(callee, copies.data(), copies.count(), place);
 }
 
 unsigned mutableParameters(const Value& callee) {

@@ -70,7 +70,18 @@ Value create(Structure& structure, Place place) {
     return object;
 }
 
-Value member(const Value& object, Member name, Place place, const Structure* inside) {
+Value construct(Structure& structure, std::initializer_list<Value> arguments, Place place) {
+    ArgumentCopies copies(arguments);
+    Value object = create(structure, place);
+    if (const FunctionInfo* const constructor = structure.table->constructor) {
+        callBound(*constructor, object, copies.data(), copies.count(), place);
+    } else if (copies.count() > 0) {
+        raise(WRONG_COUNT, place, {structure.name, "0", std::to_string(copies.count())});
+    }
+    return object;
+}
+
+Value memberValue(const Value& object, Member name, Place place, const Structure* inside) {
     if (object.is(Tag::Object)) {
         Object& block = objectBlock(object);
         const MemberSlot& slot = slotOf(block, name, place, inside);
@@ -87,7 +98,7 @@ Value member(const Value& object, Member name, Place place, const Structure* ins
     return builtin->code(copy, nullptr, place);
 }
 
-Value& field(const Value& object, Member name, Place place, const Structure* inside) {
+Value& fieldPlace(const Value& object, Member name, Place place, const Structure* inside) {
     if (object.is(Tag::Object)) {
         Object& block = objectBlock(object);
         const MemberSlot& slot = slotOf(block, name, place, inside);
@@ -114,18 +125,6 @@ Value callMethod(Value& object, Member name, Value* arguments, int count, Place 
         return callValue(checkedField(block, slot, name, place), arguments, count, place);
     }
     return callBound(*slot.method, held, arguments, count, place);
-}
-
-Value callMethod(Value& object, Member name, std::initializer_list<Value> arguments, Place place,
-                 const Structure* inside) {
-    ArgumentCopies copies(arguments);
-    return callMethod(object, name, copies.data(), copies.count(), place, inside);
-}
-
-Value callMethodOf(const Value& object, Member name, std::initializer_list<Value> arguments, Place place,
-                   const Structure* inside) {
-    Value copy = object;
-    return callMethod(copy, name, arguments, place, inside);
 }
 
 unsigned mutableParameters(const Value& object, Member name) {

@@ -7,5 +7,7 @@
 #include "engine/counting.h"
 #include "engine/faults.h"
 #include "engine/library.h"
+#include "engine/list.h"
+#include "engine/members.h"
 #include "engine/operations.h"
 #include "engine/value.h"

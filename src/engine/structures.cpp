@@ -33,6 +33,7 @@ void makeTable(const ProgramInfo& program, Structure& structure) {
         const MethodInfo& method = structure.methods[i];
         slotAt(*table, method.name) = {-1, method.function, &structure, method.isPrivate};
     }
+    structure.slots = table->slots.data();
 }
 
 bool descendsFrom(const Structure* structure, const Structure* ancestor) {

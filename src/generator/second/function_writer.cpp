@@ -146,7 +146,10 @@ void FunctionWriter::defineAdapter(const Function& function, EmittedLines& lines
     }
     std::string arguments = takesCaptures(function) ? "own, " : "";
     for (std::size_t index = 0; index < function.parameters.size(); ++index) {
-        const std::string argument = "arguments[" + std::to_string(index) + "]";
+        std::string argument = "arguments[" + std::to_string(index) + "]";
+        if (!function.parameters[index].isMutable) {
+            argument = "moved(" + argument + ")";
+        }
         arguments += converted(argument, Type::Value, typeOf(*function.parameters[index].variable)) + ", ";
     }
     lines.open(adapterHead(function) + " {");
