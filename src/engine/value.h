@@ -46,27 +46,24 @@ public:
     Value(const void*) = delete;
     /// Takes over one reference to the block.
     Value(Tag tag, Counted* block) : tag_(tag), block_(block) {}
-    // Copies, moves and ends of numbers cost no call, whatever g++ thinks of the size of this.
-    [[gnu::always_inline]] Value(const Value& other) : tag_(other.tag_), whole_(other.whole_) {
+    Value(const Value& other) : tag_(other.tag_), whole_(other.whole_) {
         if (isCounted()) {
             ++block_->references;
         }
     }
-    [[gnu::always_inline]] Value(Value&& other) noexcept : tag_(other.tag_), whole_(other.whole_) {
-        other.tag_ = Tag::Nothing;
-    }
-    [[gnu::always_inline]] ~Value() {
+    Value(Value&& other) noexcept : tag_(other.tag_), whole_(other.whole_) { other.tag_ = Tag::Nothing; }
+    ~Value() {
         if (isCounted()) {
             release();
         }
     }
 
-    [[gnu::always_inline]] Value& operator=(const Value& other) {
+    Value& operator=(const Value& other) {
         Value copy(other);
         swap(copy);
         return *this;
     }
-    [[gnu::always_inline]] Value& operator=(Value&& other) noexcept {
+    Value& operator=(Value&& other) noexcept {
         Value moved(static_cast<Value&&>(other));
         swap(moved);
         return *this;
