@@ -33,11 +33,11 @@ namespace {
 using namespace pozhil;
 
 /// Scans and parses the source. The web flag goes on by itself for a program that declares an application.
-ParsedSource analyse(SourcePtr source, bool& web, const FrontEndOptions& options) {
+ParsedSource analyse(const SourcePtr& source, bool& web, const FrontEndOptions& options) {
     if (web) {
         printWebStart();
     }
-    ParsedSource parsed = parseSource(std::move(source), options);
+    ParsedSource parsed = parseSource(source, options);
     if (!web && isWebProgram(parsed.program)) {
         web = true;
         printWebStart();
@@ -64,7 +64,7 @@ void runNative(const Invocation& invocation, const FrontEndOptions& options, con
     if (!invocation.watch) {
         build.start();
     }
-    printBanner();
+    printBanner(Edition::First);
     animateCompilation(invocation.sourcePath, settings::animationDelay());
     if (invocation.watch) {
         watchNative(invocation.sourcePath, options, output, build);
@@ -72,26 +72,28 @@ void runNative(const Invocation& invocation, const FrontEndOptions& options, con
     build.finish(parsed, generated);
 }
 
-int compile(const Invocation& invocation) {
-    const std::filesystem::path appDirectory = platform::executableDirectory();
-    FrontEndOptions options;
-    options.moduleDirectories = settings::moduleDirectories(appDirectory.u8string());
-    SourcePtr source = loadSource(invocation.sourcePath, options);
-    if (source == nullptr) {
-        std::cerr << "பிழை: '" << invocation.sourcePath << "' என்ற கோப்பை திறக்க முடியவில்லை!" << std::endl;
+/// Compiles a program of the second edition, or tells what is wrong with the line that asks for an edition.
+int compileSecondEdition(const Invocation& invocation, const SourcePtr& source, const SecondFaults& faults,
+                         const FrontEndOptions& options, const std::filesystem::path& appDirectory) {
+    if (!faults.empty()) {
+        reportFaults(faults);
         return 1;
     }
-    SecondFaults editionFaults;
-    const Edition edition = editionOf(source, editionFaults);
-    if (!editionFaults.empty()) {
-        reportFaults(editionFaults);
+    if (invocation.web) {
+        std::cerr
+            << "பிழை: வலைச் செயலிகளுக்கு இரண்டாம் பதிப்பு இன்னும் இல்லை! '--வலை' இல்லாமல் ஓட்டு, அல்லது முதல் வரியில் உள்ள 'ஃ பொழில் 2' "
+               "என்பதை நீக்கு."
+            << std::endl;
         return 1;
     }
-    if (edition == Edition::Second) {
-        return runSecondEdition(invocation, source, options, appDirectory);
-    }
+    return runSecondEdition(source, options, appDirectory, invocation.watch);
+}
+
+/// Compiles a program of the first edition, and runs it.
+int compileFirstEdition(const Invocation& invocation, const SourcePtr& source, const FrontEndOptions& options,
+                        const std::filesystem::path& appDirectory) {
     bool web = invocation.web;
-    const ParsedSource parsed = analyse(std::move(source), web, options);
+    const ParsedSource parsed = analyse(source, web, options);
 
     const std::filesystem::path temporaryDirectory = prepareTemporaryDirectory();
     const std::filesystem::path output = outputPath(temporaryDirectory);
@@ -109,6 +111,27 @@ int compile(const Invocation& invocation) {
     runNative(invocation, options, parsed, generated, output, build);
     reportHints(parsed);
     return 0;
+}
+
+int compile(const Invocation& invocation) {
+    const std::filesystem::path appDirectory = platform::executableDirectory();
+    FrontEndOptions options;
+    options.moduleDirectories = settings::moduleDirectories(appDirectory.u8string());
+    const SourcePtr source = loadSource(invocation.sourcePath, options);
+    if (source == nullptr) {
+        std::cerr << "பிழை: '" << invocation.sourcePath << "' என்ற கோப்பை திறக்க முடியவில்லை!" << std::endl;
+        return 1;
+    }
+    SecondFaults editionFaults;
+    if (editionOf(source, editionFaults) == Edition::Second || !editionFaults.empty()) {
+        return compileSecondEdition(invocation, source, editionFaults, options, appDirectory);
+    }
+    try {
+        return compileFirstEdition(invocation, source, options, appDirectory);
+    } catch (...) {
+        reportAlmostMarked(*source); // which may be what the fault comes of
+        throw;
+    }
 }
 
 /// The whole compiler, with what it tells of its failures.

@@ -36,6 +36,9 @@ report::FaultText faultText(const SecondFault& fault) {
         text.message = report::filled(entry->message, values.data(), values.size());
         text.remedy = report::filled(entry->remedy, values.data(), values.size());
     }
+    if (!fault.remedy.empty()) {
+        text.remedy = fault.remedy;
+    }
     text.suggestion = fault.suggestion;
     if (fault.place.source != nullptr) {
         text.excerpt = excerptOf(fault.place);

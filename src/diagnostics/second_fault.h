@@ -19,12 +19,17 @@ struct SecondFault {
     std::vector<std::string> values{};
     /// What may have been meant, as a sentence; may be empty.
     std::string suggestion{};
+    /// What to do about this very fault, in place of what the catalogue says; may be empty.
+    std::string remedy{};
 };
 
 using SecondFaults = std::vector<SecondFault>;
 
 /// How many faults are told in one run.
 constexpr std::size_t MAX_TOLD_FAULTS = 10;
+
+/// How many are looked for: one more than is told tells that there are more.
+constexpr std::size_t MAX_FOUND_FAULTS = MAX_TOLD_FAULTS + 1;
 
 /// The fault with message, remedy and excerpt, as the box tells it.
 report::FaultText faultText(const SecondFault& fault);

@@ -18,6 +18,7 @@ SecondTranslation translateSecondEdition(SourcePtr source, const FrontEndOptions
         translation.faults = std::move(meaning.faults);
         return translation;
     }
+    translation.hints = std::move(meaning.hints);
     for (const resolved::File& file : meaning.program.files) {
         translation.sources.push_back(file.source);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "diagnostics/second_fault.h"
+#include "diagnostics/second_hint.h"
 #include "front_end/second_edition.h"
 #include "generator/second/generator.h"
 
@@ -16,6 +17,8 @@ struct SecondTranslation {
     /// All files of the program, as the places of the output text number them.
     std::vector<SourcePtr> sources;
     SecondFaults faults;
+    /// What runs but surely isn't meant.
+    SecondHints hints;
 };
 
 /// Translates a source of the second edition and all that it imports into the output text.

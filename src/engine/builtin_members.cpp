@@ -4,6 +4,8 @@
 #include "engine/member_faults.h"
 #include "engine/raise.h"
 #include "engine/running_faults.h"
+#include "report/catalogue.h"
+#include "report/remedies.h"
 
 #include <cstring>
 #include <iterator>
@@ -100,7 +102,10 @@ void raiseMissingBuiltin(const Value& value, Member name, Place place) {
             members.push_back(member.isPart ? member.name : std::string(member.name) + "()");
         }
     }
-    raiseMissingMember(kindWord(value), name, std::move(members), place);
+    // A map of other languages may give its values after a dot.
+    const std::string remedy =
+        value.is(Tag::Map) ? report::filled(report::remedy::KEY_AFTER_DOT, {memberName(name)}) : "";
+    raiseMissingMember(kindWord(value), name, std::move(members), place, remedy);
 }
 
 } // namespace pozhil::engine

@@ -100,6 +100,9 @@ inline Value call(const Value& callee, NoArguments, Place place) {
     return callValue(callee, nullptr, 0, place);
 }
 
+/// What a variable holds that is called, and whose name hides a function of the language: a fault if that is no function.
+const Value& calledVariable(const char* name, const Value& held, Place place);
+
 /// Bit i is set if the function takes argument i as a place.
 unsigned mutableParameters(const Value& callee);
 

@@ -3,13 +3,16 @@
 #include "engine/list.h"
 #include "engine/map.h"
 #include "engine/memory.h"
+#include "engine/nearest_names.h"
 #include "engine/operations.h"
 #include "engine/raise.h"
 #include "engine/running_faults.h"
 #include "engine/text.h"
 #include "engine/told_value.h"
+#include "report/remedies.h"
 
 #include <string>
+#include <vector>
 
 /// Reading and writing elements of lists, values of keys, and letters of texts.
 
@@ -42,8 +45,35 @@ void checkKey(const Value& key, Place place) {
     }
 }
 
+/// A sentence with the key that may have been meant; empty if none is near. Large maps aren't looked through: a program
+/// may catch the fault many times.
+std::string nearKey(Map& map, const Value& key) {
+    constexpr std::size_t MOST_KEYS = 100;
+    if (!key.is(Tag::Text) || mapSize(map) > MOST_KEYS) {
+        return "";
+    }
+    std::vector<std::string> keys;
+    for (std::size_t index = 0; index < mapSize(map); ++index) {
+        if (keyAt(map, index).is(Tag::Text)) {
+            keys.emplace_back(textOf(keyAt(map, index)));
+        }
+    }
+    const std::string_view word = textOf(key);
+    return suggestionFor(word, nearestFirst(word, keys));
+}
+
+[[noreturn]] void raiseMissingKey(const Value& map, const Value& key, Place place) {
+    raise(NO_SUCH_KEY, place, {toldValue(key)}, nearKey(mapBlock(map), key));
+}
+
 Value& elementOfList(Value& list, const Value& index, Place place) {
-    const std::size_t position = checkedIndex(indexOf(index, place), listBlock(list).size, NO_SUCH_INDEX, place);
+    const Whole asked = indexOf(index, place);
+    const std::size_t length = listBlock(list).size;
+    if (asked == static_cast<Whole>(length)) {
+        raise(NO_SUCH_INDEX, place, {std::to_string(asked), std::to_string(length)}, "",
+              report::remedy::WRITTEN_AFTER_END);
+    }
+    const std::size_t position = checkedIndex(asked, length, NO_SUCH_INDEX, place);
     return ownList(list).elements[position];
 }
 
@@ -63,7 +93,7 @@ Value valueOfKey(const Value& map, const Value& key, Place place) {
     checkKey(key, place);
     const Value* const value = findKey(mapBlock(map), key);
     if (value == nullptr) {
-        raise(NO_SUCH_KEY, place, {toldValue(key)});
+        raiseMissingKey(map, key, place);
     }
     return *value;
 }
@@ -126,7 +156,7 @@ Value& elementPlace(Value& container, const Value& index, Place place) {
     checkKey(index, place);
     Value* const value = findKey(ownMap(container), index);
     if (value == nullptr) {
-        raise(NO_SUCH_KEY, place, {toldValue(index)});
+        raiseMissingKey(container, index, place);
     }
     return *value;
 }

@@ -3,6 +3,7 @@
 #include "engine/raise.h"
 #include "engine/text.h"
 #include "engine/value_faults.h"
+#include "report/remedies.h"
 
 #include <cmath>
 
@@ -13,6 +14,20 @@ namespace pozhil::engine {
 bool truthOf(const Value& value, Place place) {
     if (!value.is(Tag::Truth)) {
         raise(NO_TRUTH, place, {kindWord(value)});
+    }
+    return value.truth();
+}
+
+bool deniedTruth(const Value& value, Place place) {
+    if (!value.is(Tag::Truth)) {
+        raise(NO_TRUTH, place, {kindWord(value)}, "", report::remedy::DENIED_VALUE);
+    }
+    return value.truth();
+}
+
+bool choiceTruth(const Value& value, Place place) {
+    if (!value.is(Tag::Truth)) {
+        raise(NO_TRUTH, place, {kindWord(value)}, "", report::remedy::REVERSED_CHOICE);
     }
     return value.truth();
 }

@@ -15,6 +15,8 @@ struct Fault::Details {
     Place place = nullptr;
     std::vector<std::string> values{};
     std::string suggestion{};
+    /// In place of what the catalogue says; may be empty.
+    std::string remedy{};
     std::vector<report::Call> way{};
     std::size_t callsLeftOut = 0;
 };

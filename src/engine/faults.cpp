@@ -45,16 +45,15 @@ void noteWay(Fault::Details& details) {
 
 } // namespace
 
-void raise(int number, Place place, std::initializer_list<std::string_view> values, std::string_view suggestion) {
+void raise(int number, Place place, std::initializer_list<std::string_view> values, std::string_view suggestion,
+           std::string_view remedy) {
     auto details = std::make_unique<Fault::Details>();
     details->number = number;
     details->place = place == nullptr && Frame::innermost != nullptr ? Frame::innermost->calledAt() : place;
     details->values.assign(values.begin(), values.end());
     details->suggestion = suggestion;
-    // Nobody is told the way to a fault that is caught, and it may be as long as the stack.
-    if (Attempt::running == 0) {
-        noteWay(*details);
-    }
+    details->remedy = remedy;
+    noteWay(*details);
     throw Fault(details.release());
 }
 
@@ -87,7 +86,7 @@ report::FaultText faultText(const Fault& fault) {
     text.code = report::codeOf(details.number);
     text.category = entry.category;
     text.message = filledText(entry.message, details.values);
-    text.remedy = filledText(entry.remedy, details.values);
+    text.remedy = details.remedy.empty() ? filledText(entry.remedy, details.values) : details.remedy;
     text.suggestion = details.suggestion;
     text.excerpt = excerptOf(details.place);
     text.way = details.way;

@@ -4,6 +4,8 @@
 #include "engine/members.h"
 #include "engine/raise.h"
 #include "engine/running_faults.h"
+#include "report/catalogue.h"
+#include "report/remedies.h"
 
 #include <algorithm>
 #include <memory>
@@ -132,6 +134,18 @@ Value callValue(const Value& callee, Value* arguments, int count, Place place) {
     }
     checkCount(info, info.parameters, count, place);
     return info.code(closure, arguments, place);
+}
+
+const Value& calledVariable(const char* name, const Value& held, Place place) {
+    if (!held.is(Tag::Function)) {
+        raise(NOT_A_FUNCTION, place, {kindWord(held)}, "", report::filled(report::remedy::HIDDEN_FUNCTION, {name}));
+    }
+    return held;
+}
+
+Value call(const Value& callee, std::initializer_list<Value> arguments, Place place) {
+    ArgumentCopies copies(arguments);
+    return callValue(callee, copies.data(), copies.count(), place);
 }
 
 unsigned mutableParameters(const Value& callee) {

@@ -18,7 +18,8 @@ const char* memberName(Member name);
 
 /// Tells the members that a value without a structure has.
 /// \param owner what the value is, in words
-[[noreturn]] void raiseMissingMember(std::string_view owner, Member name, std::vector<std::string> members,
-                                     Place place);
+/// \param remedy what to do about it, if that isn't what the catalogue says
+[[noreturn]] void raiseMissingMember(std::string_view owner, Member name, std::vector<std::string> members, Place place,
+                                     std::string_view remedy = {});
 
 } // namespace pozhil::engine

@@ -322,6 +322,10 @@ inline bool truth(const Value& value, Place place) {
 inline bool truth(bool value, Place) {
     return value;
 }
+/// The same of what stands after இல்லை and before a comparison, and of the condition of a choice whose first value is a
+/// comparison: what is told of anything else differs.
+bool deniedTruth(const Value& value, Place place);
+bool choiceTruth(const Value& value, Place place);
 
 /// A whole number, also out of a decimal without a fraction; anything else is a fault.
 Whole wholeOf(const Value& value, Place place);

@@ -11,7 +11,8 @@ namespace pozhil::engine {
 /// \param place null for the place of the call that runs
 /// \param values fill the holes of its message and remedy
 /// \param suggestion what may have been meant, as a sentence; may be empty
+/// \param remedy what to do about it, if that isn't what the catalogue says
 [[noreturn]] void raise(int number, Place place, std::initializer_list<std::string_view> values = {},
-                        std::string_view suggestion = {});
+                        std::string_view suggestion = {}, std::string_view remedy = {});
 
 } // namespace pozhil::engine

@@ -82,7 +82,7 @@ private:
             program_.faults.insert(program_.faults.end(), reading.faults.begin(), reading.faults.end());
             program_.files.push_back(std::move(reading.file));
         }
-        program_.faults.resize(std::min(program_.faults.size(), MAX_TOLD_FAULTS));
+        program_.faults.resize(std::min(program_.faults.size(), MAX_FOUND_FAULTS));
         return std::move(program_);
     }
 
@@ -112,6 +112,10 @@ Edition editionOf(const SourcePtr& source, SecondFaults& faults) {
         faults.push_back({second::fault::EDITION_TOO_LATE, {source, *range}, {}, ""});
     }
     return Edition::First;
+}
+
+bool isAlmostMarked(const SourceText& source) {
+    return second::isAlmostMarker(std::string_view(source.text).substr(0, source.text.find('\n')));
 }
 
 SecondProgram parseSecondEdition(SourcePtr source, const FrontEndOptions& options) {

@@ -20,6 +20,9 @@ enum class Edition { First, Second };
 /// \param[out] faults a number that no edition has, and a line that asks too late, with nothing but comments before it
 Edition editionOf(const SourcePtr& source, SecondFaults& faults);
 
+/// Whether a source of the first edition looks as if its first line was to ask for the second.
+bool isAlmostMarked(const SourceText& source);
+
 /// One file of a program.
 struct SecondFile {
     SourcePtr source;

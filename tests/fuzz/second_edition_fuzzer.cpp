@@ -14,7 +14,7 @@
 namespace {
 
 void checkFaults(const pozhil::SecondFaults& faults) {
-    expect(faults.size() <= pozhil::MAX_TOLD_FAULTS, "no more faults than anybody is told");
+    expect(faults.size() <= pozhil::MAX_FOUND_FAULTS, "no more faults than anybody asks for");
     std::size_t before = 0;
     for (const pozhil::SecondFault& fault : faults) {
         const pozhil::ByteRange range = fault.place.range;

@@ -29,7 +29,7 @@ ROOMS = {
     "src/parser": [*FLOOR, "src/scanner", "src/scanner/second", "src/parser/tree"],
     "src/front_end": [*FLOOR, "src/scanner", "src/scanner/second", *TREE],
     "src/analysis": [*FLOOR, *TREE],
-    "src/analysis/second": [*FLOOR, *TREE, "src/front_end"],
+    "src/analysis/second": [*FLOOR, *TREE, "src/report", "src/front_end"],
     "src/emit": ["src/base"],
     # The text of a page, from its single values up to the whole.
     "src/generator/web/write": [*FLOOR, *TREE, "src/emit"],

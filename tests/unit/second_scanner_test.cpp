@@ -254,7 +254,7 @@ TEST(Faults, AreTenAtMost) {
     for (int count = 0; count < 100; ++count) {
         text += "அ + 1\n(";
     }
-    EXPECT_THAT(scanFaults(text), testing::SizeIs(MAX_TOLD_FAULTS));
+    EXPECT_THAT(scanFaults(text), testing::SizeIs(MAX_FOUND_FAULTS));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "analysis/second/constants.h"
 #include "analysis/second/declarations.h"
 #include "analysis/second/definite_assignment.h"
+#include "analysis/second/hints.h"
 #include "analysis/second/kind_faults.h"
 #include "analysis/second/kind_marks.h"
 #include "analysis/second/kinds.h"
@@ -72,8 +73,9 @@ SecondMeaning analyseSecondEdition(const SecondProgram& program) {
         const second::Kinds kinds(model, ways, second::Purpose::Writing);
         second::markKinds(model, kinds);
         second::makeCallsDirect(model, kinds);
+        meaning.hints = second::findHints(model);
     }
-    meaning.faults = model.faults.told();
+    meaning.faults = model.faults.found();
     return meaning;
 }
 

@@ -1,6 +1,8 @@
 #include "analysis/second/declarations.h"
 
 #include "analysis/second/fault_numbers.h"
+#include "analysis/second/suggestions.h"
+#include "base/text.h"
 #include "front_end/second_edition.h"
 
 #include <cstddef>
@@ -67,8 +69,14 @@ private:
             return;
         }
         const bool isOwn = first.place.file == file_;
-        const resolved::Place place = isOwn ? first.place : model_.locations.of(file_, importStatement_);
-        model_.faults.add(fault::CLASHING_IMPORTS, place, {std::string(name), pathOf(first), pathOf(second)});
+        const resolved::Place place = isOwn ? first.place : importStatement();
+        const std::string firstName = fileName(pathOf(first));
+        const std::string secondName = fileName(pathOf(second));
+        if (firstName == secondName) {
+            model_.faults.add(fault::CLASHING_IMPORTS, place, {std::string(name), pathOf(first), pathOf(second)});
+        } else {
+            model_.faults.add(fault::CLASHING_IMPORTS, place, {std::string(name), firstName, secondName});
+        }
     }
 
     Model& model_;

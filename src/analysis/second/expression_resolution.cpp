@@ -43,6 +43,15 @@ const std::map<std::string_view, BinaryOperator>& binaryOperators() {
     return operators;
 }
 
+bool isComparison(const Expression& node) {
+    const auto* const binary = nodeCast<BinaryExpression>(&node);
+    return binary != nullptr && language::findOperator(binary->op.value, language::OperatorKind::Comparison) != nullptr;
+}
+
+bool isBracketed(const Expression& node) {
+    return nodeCast<GroupingExpression>(&node) != nullptr;
+}
+
 /// Makes the resolved node of each class of the tree.
 class ValueMaker {
 public:
@@ -76,6 +85,9 @@ public:
         auto binary = makeNode<resolved::Binary>(resolution_.placeOf(&node));
         binary->op = binaryOperator(node.op.value);
         binary->left = resolveValue(resolution_, node.left.get());
+        if (auto* const unary = dynamic_cast<resolved::Unary*>(binary->left.get())) {
+            unary->deniesComparison = unary->op == UnaryOperator::Not && isComparison(node) && !isBracketed(*node.left);
+        }
         binary->right = resolveValue(resolution_, node.right.get());
         result_ = std::move(binary);
     }
@@ -106,6 +118,7 @@ public:
         auto choice = makeNode<resolved::Conditional>(resolution_.placeOf(&node));
         choice->condition = resolveValue(resolution_, node.condition.get());
         choice->thenValue = resolveValue(resolution_, node.thenBranch.get());
+        choice->mayBeReversed = isComparison(*withoutBrackets(node.thenBranch.get()));
         choice->elseValue = resolveValue(resolution_, node.elseBranch.get());
         result_ = std::move(choice);
     }

@@ -8,12 +8,17 @@
 
 namespace pozhil::second {
 
-void FaultList::add(int number, resolved::Place place, std::vector<std::string> values, std::string suggestion) {
-    notes_.push_back(
-        {place, {number, {program_.files[place.file].source, place.range}, std::move(values), std::move(suggestion)}});
+void FaultList::add(int number, resolved::Place place, std::vector<std::string> values, std::string suggestion,
+                    std::string remedy) {
+    notes_.push_back({place,
+                      {number,
+                       {program_.files[place.file].source, place.range},
+                       std::move(values),
+                       std::move(suggestion),
+                       std::move(remedy)}});
 }
 
-SecondFaults FaultList::told() {
+SecondFaults FaultList::found() {
     const auto order = [](const Note& note) {
         return std::tie(note.place.file, note.place.range.begin, note.place.range.end, note.fault.number,
                         note.fault.values);
@@ -23,7 +28,7 @@ SecondFaults FaultList::told() {
         std::unique(notes_.begin(), notes_.end(), [&](const Note& a, const Note& b) { return order(a) == order(b); }),
         notes_.end());
     SecondFaults faults;
-    for (std::size_t index = 0; index < notes_.size() && index < MAX_TOLD_FAULTS; ++index) {
+    for (std::size_t index = 0; index < notes_.size() && index < MAX_FOUND_FAULTS; ++index) {
         faults.push_back(std::move(notes_[index].fault));
     }
     return faults;

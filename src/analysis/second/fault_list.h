@@ -21,12 +21,14 @@ public:
     /// Notes a fault. The same one noted twice is told once.
     /// \param values for the holes of its message and remedy
     /// \param suggestion what may have been meant, as a sentence
-    void add(int number, resolved::Place place, std::vector<std::string> values = {}, std::string suggestion = {});
+    /// \param remedy what to do about it, if that isn't what the catalogue says
+    void add(int number, resolved::Place place, std::vector<std::string> values = {}, std::string suggestion = {},
+             std::string remedy = {});
 
     bool isEmpty() const { return notes_.empty(); }
 
-    /// The faults in the order of the files and of their texts, as many as are told in one run.
-    SecondFaults told();
+    /// The faults in the order of the files and of their texts, MAX_FOUND_FAULTS at most.
+    SecondFaults found();
 
 private:
     struct Note {

@@ -3,10 +3,13 @@
 #include "analysis/second/constants.h"
 #include "analysis/second/fault_numbers.h"
 #include "analysis/second/member_faults.h"
+#include "analysis/second/names.h"
 #include "analysis/second/operator_kinds.h"
 #include "analysis/second/structures.h"
 #include "analysis/second/walk.h"
 #include "base/scoped_increment.h"
+#include "report/catalogue.h"
+#include "report/remedies.h"
 
 #include <algorithm>
 #include <string>
@@ -28,6 +31,13 @@ bool isOrdering(resolved::BinaryOperator op) {
 std::string numberSuggestion(Kind left, Kind right) {
     const bool isMixed = (left == Kind::Text && isNumber(right)) || (isNumber(left) && right == Kind::Text);
     return isMixed ? "உரையில் உள்ள எண்ணோடு கணக்கிட 'எண்(…)' என்று எழுது." : "";
+}
+
+/// What to do about a variable that is called, and whose name hides a function of the language; empty if it hides none.
+std::string hidingRemedy(const resolved::Expression& callee) {
+    const auto* const read = nodeCast<resolved::VariableRead>(&callee);
+    const bool hides = read != nullptr && read->variable != nullptr && isOfLanguage(read->variable->name);
+    return hides ? report::filled(report::remedy::HIDDEN_FUNCTION, {read->variable->name}) : "";
 }
 
 /// Whether objects of some structure have a member of this name.
@@ -59,7 +69,7 @@ public:
         Walk::visit(node);
     }
     void visit(resolved::Conditional& node) {
-        checkCondition(node.condition);
+        checkCondition(node.condition, node.mayBeReversed ? report::remedy::REVERSED_CHOICE : "");
         Walk::visit(node);
     }
     void visit(resolved::Logical& node) {
@@ -70,7 +80,7 @@ public:
     void visit(resolved::Unary& node) {
         Walk::visit(node);
         if (node.op == resolved::UnaryOperator::Not) {
-            checkCondition(node.operand);
+            checkCondition(node.operand, node.deniesComparison ? report::remedy::DENIED_VALUE : "");
         } else if (!mayApply(node.op, node.operand->kind)) {
             tell(fault::WRONG_OPERAND, node.place, {wordOf(node.op), wordOf(node.operand->kind)});
         }
@@ -111,7 +121,7 @@ public:
     void visit(resolved::ValueCall& node) {
         const Kind callee = node.callee->kind;
         if (callee != Kind::Any && callee != Kind::Function) {
-            tell(fault::NO_FUNCTION, node.callee->place, {wordOf(callee)});
+            tell(fault::NO_FUNCTION, node.callee->place, {wordOf(callee)}, "", hidingRemedy(*node.callee));
         }
         Walk::visit(node);
     }
@@ -140,15 +150,17 @@ public:
 private:
     bool isGuarded() const { return guards_ > 0; }
 
-    void tell(int number, resolved::Place place, std::vector<std::string> values, std::string suggestion = {}) {
+    void tell(int number, resolved::Place place, std::vector<std::string> values, std::string suggestion = {},
+              std::string remedy = {}) {
         if (!isGuarded()) {
-            model_.faults.add(number, place, std::move(values), std::move(suggestion));
+            model_.faults.add(number, place, std::move(values), std::move(suggestion), std::move(remedy));
         }
     }
 
-    void checkCondition(const resolved::ExpressionPtr& condition) {
+    /// \param remedy what to do if it is none, if that isn't what the catalogue says
+    void checkCondition(const resolved::ExpressionPtr& condition, const char* remedy = "") {
         if (condition->kind != Kind::Any && condition->kind != Kind::Truth) {
-            tell(fault::NO_TRUTH, condition->place, {wordOf(condition->kind)});
+            tell(fault::NO_TRUTH, condition->place, {wordOf(condition->kind)}, "", remedy);
         }
     }
 

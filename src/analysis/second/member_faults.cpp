@@ -4,8 +4,13 @@
 #include "analysis/second/operator_kinds.h"
 #include "analysis/second/structures.h"
 #include "analysis/second/suggestions.h"
+#include "language/second/foreign_words.h"
+#include "language/second/module_functions.h"
+#include "report/catalogue.h"
+#include "report/remedies.h"
 
 #include <algorithm>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -71,12 +76,29 @@ std::vector<std::string_view> membersOfKind(Kind kind) {
     return members;
 }
 
+/// What to do about a member that values of a kind don't have; empty if nothing special is known of it.
+std::string remedyForMember(Kind kind, const std::string& name) {
+    using namespace language::second;
+    if (const ForeignWord* const foreign = findForeignWord(name, ForeignPlace::Member)) {
+        return remedyOf(*foreign);
+    }
+    if (findBuiltin(BuiltinForm::Call, name) != nullptr) {
+        return "'" + name + "' '.' குறிக்கு அப்புறம் வராது; '" + name + "(அ, …)' என்று மதிப்பை அடைப்புக்குறிக்குள்ள கொடு மச்சி!";
+    }
+    // Modules are called like the kinds that they are for.
+    const std::string function = std::string(wordOf(kind)) + "_" + name;
+    if (const ModuleFunction* const found = findModuleFunction(function)) {
+        return "'" + function + "(…)' என்று அழை. " + importRemedyOf(*found);
+    }
+    return kind == Kind::Map ? report::filled(report::remedy::KEY_AFTER_DOT, {name}) : "";
+}
+
 bool checkMemberOfKind(Model& model, Kind kind, const Member& member) {
     const auto members = membersOfKind(kind);
     if (isOneOf(members, member.name)) {
         return true;
     }
-    tellUnknownMember(model, wordOf(kind), member.name, members, member.place);
+    tellUnknownMember(model, wordOf(kind), member.name, members, member.place, remedyForMember(kind, member.name));
     return false;
 }
 

@@ -6,8 +6,11 @@
 #include "front_end/second_edition.h"
 #include "language/keywords.h"
 #include "language/second/builtins.h"
+#include "language/second/foreign_words.h"
+#include "language/second/module_functions.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace pozhil::second {
 namespace {
@@ -41,24 +44,68 @@ const Scope* fileElsewhere(const Model& model, std::size_t file, std::string_vie
     return nullptr;
 }
 
-/// A member of the object in whose method a name stands that has no meaning without it, as a question; empty if it has
-/// none of that name.
-std::string memberAsQuestion(const Resolution& resolution, std::string_view name) {
-    const auto* const inside = resolution.inside;
-    const bool isMember =
-        inside != nullptr && (findField(*inside, name).field != nullptr || findMethod(*inside, name) != nullptr);
-    return isMember ? "ஒருவேளை '" + std::string(SELF_NAME) + "." + std::string(name) + "' என்று எழுத நினைத்தாயா?" : "";
-}
-
 /// What may have been meant by a name that nothing has, as a question; empty if nothing is near.
 std::string meantName(const Resolution& resolution, std::string_view name) {
-    std::string member = memberAsQuestion(resolution, name);
-    if (!member.empty()) {
-        return member;
-    }
     auto known = namesKnownIn(resolution.model, resolution.scope);
     addOwnWords(known);
     return nearestAsQuestion(name, known);
+}
+
+/// Whether \p name is that of a file that this one imports.
+bool isImportedFile(const Resolution& resolution, std::string_view name) {
+    const auto& files = resolution.model.source.files;
+    const auto& imports = files[resolution.scope.file].imports;
+    return std::any_of(imports.begin(), imports.end(), [&](std::size_t imported) {
+        return std::filesystem::u8path(files[imported].source->path).stem().u8string() == name;
+    });
+}
+
+/// What to do about a name that other languages, or a module, would give a meaning; empty if none would.
+std::string remedyForName(const Resolution& resolution, std::string_view name) {
+    if (isImportedFile(resolution, name)) {
+        return "'" + std::string(name) +
+               "' நீ இறக்கிய கோப்பின் பெயர்; அதன் செயல்களைக் கோப்பின் பெயரும் '.' குறியும் இல்லாம நேரா அழை, 'செயல்(…)' மாதிரி மச்சி!";
+    }
+    if (const auto* const function = language::second::findModuleFunction(name)) {
+        return importRemedyOf(*function);
+    }
+    if (const auto* const foreign = language::second::findForeignWord(name)) {
+        return remedyOf(*foreign);
+    }
+    return language::second::isModule(name)
+               ? "'" + std::string(name) + "' ஒரு தொகுப்பு; கோப்பின் தொடக்கத்துல 'நூஇறக்கி \"" + std::string(name) +
+                     "\"' என்று எழுதி, அதன் செயல்களை '" + std::string(name) + "_…(…)' என்று அழை மச்சி!"
+               : "";
+}
+
+/// Tells a member of the object in whose method or field a name stands that has no meaning without it.
+/// \return whether it is one
+bool tellBareMember(Resolution& resolution, std::string_view name, resolved::Place place) {
+    const auto* const inside = resolution.inside;
+    if (inside == nullptr) {
+        return false;
+    }
+    const bool isField = findField(*inside, name).field != nullptr;
+    if (isField || findMethod(*inside, name) != nullptr) {
+        resolution.model.faults.add(fault::BARE_MEMBER, place,
+                                    {std::string(name), inside->name, isField ? "பண்பு" : "செயல்"});
+        return true;
+    }
+    return false;
+}
+
+/// Tells a function of this file that stands inside another, and so isn't known elsewhere.
+/// \return whether there is one
+bool tellInnerFunction(Resolution& resolution, std::string_view name, resolved::Place place) {
+    const auto& scopes = resolution.model.scopes;
+    const auto owner = std::find_if(scopes.begin(), scopes.end(), [&](const Scope& scope) {
+        return scope.file == place.file && scope.function != nullptr && scope.functions.count(name) != 0;
+    });
+    if (owner == scopes.end()) {
+        return false;
+    }
+    resolution.model.faults.add(fault::INNER_FUNCTION, place, {std::string(name), owner->function->name});
+    return true;
 }
 
 /// Whether the name hasn't been told in this file; from then on it has.
@@ -82,25 +129,30 @@ void tellUnknownName(Resolution& resolution, std::string_view name, resolved::Pl
         model.faults.add(fault::SELF_OUTSIDE_METHOD, place, {std::string(name)});
         return;
     }
+    if (tellBareMember(resolution, name, place) || tellInnerFunction(resolution, name, place)) {
+        return;
+    }
     if (const Scope* const owner = ownerElsewhere(model, place.file, name)) {
-        model.faults.add(fault::NAME_OF_OTHER_FUNCTION, place, {std::string(name), owner->function->name},
-                         memberAsQuestion(resolution, name));
+        model.faults.add(fault::NAME_OF_OTHER_FUNCTION, place, {std::string(name), owner->function->name});
         return;
     }
     if (const Scope* const file = fileElsewhere(model, place.file, name)) {
         model.faults.add(fault::NAME_OF_OTHER_FILE, place,
-                         {std::string(name), model.source.files[file->file].source->path});
+                         {std::string(name), fileName(model.source.files[file->file].source->path)});
         return;
     }
-    model.faults.add(fault::UNKNOWN_NAME, place, {std::string(name)}, meantName(resolution, name));
+    model.faults.add(fault::UNKNOWN_NAME, place, {std::string(name)}, meantName(resolution, name),
+                     remedyForName(resolution, name));
 }
 
 void tellUnknownFunction(Resolution& resolution, std::string_view name, resolved::Place place) {
     Model& model = resolution.model;
-    if (!isFirstTime(model, place.file, name)) {
+    if (!isFirstTime(model, place.file, name) || tellBareMember(resolution, name, place) ||
+        tellInnerFunction(resolution, name, place)) {
         return;
     }
-    model.faults.add(fault::UNKNOWN_FUNCTION, place, {std::string(name)}, meantName(resolution, name));
+    model.faults.add(fault::UNKNOWN_FUNCTION, place, {std::string(name)}, meantName(resolution, name),
+                     remedyForName(resolution, name));
 }
 
 void tellNameWithoutValue(Resolution& resolution, const Meaning& meaning, std::string_view name,
@@ -110,7 +162,7 @@ void tellNameWithoutValue(Resolution& resolution, const Meaning& meaning, std::s
 }
 
 void tellUnknownMember(Model& model, std::string_view what, std::string_view member,
-                       const std::vector<std::string_view>& members, resolved::Place place) {
+                       const std::vector<std::string_view>& members, resolved::Place place, std::string remedy) {
     if (!model.toldMembers.emplace(what, member).second) {
         return;
     }
@@ -120,7 +172,11 @@ void tellUnknownMember(Model& model, std::string_view what, std::string_view mem
     }
     model.faults.add(fault::UNKNOWN_MEMBER, place,
                      {std::string(what), std::string(member), all.empty() ? "எதுவுமில்லை" : all},
-                     nearestAsQuestion(member, members));
+                     nearestAsQuestion(member, members), std::move(remedy));
+}
+
+std::string fileName(const std::string& path) {
+    return std::filesystem::u8path(path).filename().u8string();
 }
 
 void tellWrongCount(Model& model, std::string_view name, std::size_t fewest, std::size_t most, std::size_t given,

@@ -24,8 +24,12 @@ void tellNameWithoutValue(Resolution& resolution, const Meaning& meaning, std::s
 /// Tells that something known has no such member.
 /// \param what its name
 /// \param members those that it has
+/// \param remedy what to do about it, if that isn't what the catalogue says
 void tellUnknownMember(Model& model, std::string_view what, std::string_view member,
-                       const std::vector<std::string_view>& members, resolved::Place place);
+                       const std::vector<std::string_view>& members, resolved::Place place, std::string remedy = {});
+
+/// A file as its faults name it: without the directories, which are no business of who reads them.
+std::string fileName(const std::string& path);
 
 /// Tells that a call gives another number of arguments than is asked for.
 void tellWrongCount(Model& model, std::string_view name, std::size_t fewest, std::size_t most, std::size_t given,

@@ -31,7 +31,7 @@ std::string centred(const std::string& text, int columns, const std::string& bef
 
 } // namespace
 
-void printBanner() {
+void printBanner(Edition edition) {
     const platform::EndingText uncoloured(RESET);
     constexpr int INNER_COLUMNS = 56;
     const std::string emptyRow = "│" + repeat(" ", INNER_COLUMNS) + "│";
@@ -40,7 +40,9 @@ void printBanner() {
     std::cout << "│" << centred("பொ ழி ல்", INNER_COLUMNS, CYAN, BLUE) << "│" << std::endl;
     std::cout << emptyRow << std::endl;
     std::cout << "└" << repeat("─", INNER_COLUMNS) << "┘" << std::endl;
-    std::cout << GREEN << "  பதிப்பு: 0.2-முதல்_பதிப்பு  |  உருவாக்கம்: பொழில் குழு" << RESET << "\n" << std::endl;
+    std::cout << GREEN << "  பதிப்பு: 0.2-" << (edition == Edition::Second ? "இரண்டாம்_பதிப்பு" : "முதல்_பதிப்பு")
+              << "  |  உருவாக்கம்: பொழில் குழு" << RESET << "\n"
+              << std::endl;
 }
 
 void animateCompilation(const std::string& file, std::chrono::milliseconds delay) {

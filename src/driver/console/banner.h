@@ -1,12 +1,15 @@
 #pragma once
 
+#include "front_end/second_edition.h"
+
 #include <chrono>
 #include <string>
 
 namespace pozhil {
 
 /// Prints the banner of a native build.
-void printBanner();
+/// \param edition of the language that the program is written in
+void printBanner(Edition edition);
 
 /// Prints the line that tells which file is compiled, byte by byte.
 /// \param delay pause after each byte

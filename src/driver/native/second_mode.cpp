@@ -2,6 +2,7 @@
 
 #include "driver/console/banner.h"
 #include "driver/console/second_fault_report.h"
+#include "driver/hint_report.h"
 #include "driver/native/native_watch.h"
 #include "driver/native/second_build.h"
 #include "driver/output_stage.h"
@@ -30,6 +31,7 @@ void rebuild(const std::string& path, const FrontEndOptions& options, const std:
     } else if (replaceOutput(output, translation.output.text)) {
         build.start(translation);
         build.finish(translation);
+        reportHints(translation.hints);
     }
 }
 
@@ -58,12 +60,14 @@ int runSecondEdition(const Invocation& invocation, const SourcePtr& source, cons
     if (!invocation.watch) {
         build.start(translation);
     }
-    printBanner();
+    printBanner(Edition::Second);
     animateCompilation(source->path, settings::animationDelay());
     if (invocation.watch) {
         watchFile(source->path, NATIVE_CHANGE_NOTE, [&] { rebuild(source->path, options, output, build); });
     }
-    return build.finish(translation);
+    const int status = build.finish(translation);
+    reportHints(translation.hints);
+    return status;
 }
 
 } // namespace pozhil

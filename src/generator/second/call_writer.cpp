@@ -42,6 +42,14 @@ bool isWritingMethod(const std::string& member) {
     return row != nullptr && row->writesFirst;
 }
 
+/// The name of a variable that is called and hides a function of the language; null if it hides none.
+const std::string* hiddenBuiltin(const Expression& callee) {
+    using namespace language::second;
+    const auto* const read = dynamic_cast<const VariableRead*>(&callee);
+    const bool hides = read != nullptr && findBuiltin(BuiltinForm::Call, read->variable->name) != nullptr;
+    return hides ? &read->variable->name : nullptr;
+}
+
 } // namespace
 
 const Function* constructorOf(const Structure& structure) {
@@ -222,8 +230,12 @@ std::string CallWriter::write(const ValueCall& call) {
     const bool withPlaces = hasPlaces(call.arguments);
     operands_.add(*call.callee, Wanted::AsIs, withPlaces);
     operands_.beginBraces();
-    const std::vector<Given> given = give(call.arguments);
-    const std::string callee = operands_.text(0);
+    addArguments(call.arguments);
+    operands_.evaluate();
+    std::string callee = operands_.text(0);
+    if (const std::string* const name = hiddenBuiltin(*call.callee)) {
+        callee = "calledVariable(\"" + *name + "\", " + callee + ", " + place + ")";
+    }
     if (!withPlaces) {
         return operands_.whole("call(" + callee + ", {" + listed(given) + "}, " + place + ")");
     }

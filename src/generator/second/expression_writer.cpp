@@ -41,11 +41,11 @@ Type ExpressionWriter::typeWanted(const Expression& expression, Wanted wanted) {
     }
 }
 
-std::string ExpressionWriter::condition(const Expression& expression) {
+std::string ExpressionWriter::condition(const Expression& expression, const char* function) {
     if (typeOf(expression) == Type::Truth) {
         return write(expression);
     }
-    return "truth(" + write(expression, Wanted::Value) + ", " + placeOf(expression.place) + ")";
+    return std::string(function) + "(" + write(expression, Wanted::Value) + ", " + placeOf(expression.place) + ")";
 }
 
 std::string ExpressionWriter::wholeNumber(const Expression& expression) {
@@ -163,7 +163,9 @@ void ExpressionWriter::visit(const BuiltinValue& value) {
 void ExpressionWriter::visit(const Unary& unary) {
     const std::string place = placeOf(unary.place);
     switch (unary.op) {
-    case UnaryOperator::Not: text_ = "!" + condition(*unary.operand); break;
+    case UnaryOperator::Not:
+        text_ = "!" + condition(*unary.operand, unary.deniesComparison ? "deniedTruth" : "truth");
+        break;
     case UnaryOperator::BitNot: text_ = "bitNot(" + write(*unary.operand) + ", " + place + ")"; break;
     case UnaryOperator::Plus:
         text_ = "plus(" + write(*unary.operand, Wanted::NumberOrValue) + ", " + place + ")";
@@ -212,7 +214,7 @@ void ExpressionWriter::visit(const Logical& logical) {
 
 void ExpressionWriter::visit(const Conditional& conditional) {
     const Wanted wanted = wantedAs(typeOf(conditional));
-    const std::string test = condition(*conditional.condition);
+    const std::string test = condition(*conditional.condition, conditional.mayBeReversed ? "choiceTruth" : "truth");
     const std::string thenText = write(*conditional.thenValue, wanted);
     const std::string elseText = write(*conditional.elseValue, wanted);
     // g++ 12 fails in a list in braces that holds a choice between a constant and itself.

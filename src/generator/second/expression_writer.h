@@ -23,7 +23,8 @@ public:
     static Type typeWanted(const Expression& expression, Wanted wanted);
 
     /// A truth value of C++: எனில், சுற்று.
-    std::string condition(const Expression& expression);
+    /// \param function of the engine, which makes one of any other value or tells that it can't
+    std::string condition(const Expression& expression, const char* function = "truth");
     /// A whole number of C++: bounds of a counting loop.
     std::string wholeNumber(const Expression& expression);
 

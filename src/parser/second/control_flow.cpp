@@ -133,7 +133,7 @@ std::string ControlFlowGrammar::parseErrorName(ByteRange& range) {
         range = tokens_.rangeOf(tokens_.position());
         name = consumeName("பிழையின் பெயர்").value;
     }
-    consumeClosing(TokenType::RPAREN, opening);
+    consumeClosingOfOne(TokenType::RPAREN, opening);
     return name;
 }
 

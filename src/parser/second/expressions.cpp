@@ -203,7 +203,7 @@ ExpressionPtr ExpressionGrammar::parsePostfix() {
         } else if (tokens_.accept(TokenType::LBRACKET)) {
             wrap(links);
             ExpressionPtr index = parseInner();
-            consumeClosing(TokenType::RBRACKET, opening);
+            consumeClosingOfOne(TokenType::RBRACKET, opening);
             left = make<IndexExpression>(first, std::move(left), std::move(index));
         } else if (tokens_.accept(TokenType::DOT)) {
             wrap(links);

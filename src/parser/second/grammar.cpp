@@ -4,6 +4,13 @@
 #include "parser/second/names.h"
 
 namespace pozhil::second {
+namespace {
+
+std::string closingText(TokenType type) {
+    return type == TokenType::RPAREN ? ")" : type == TokenType::RBRACKET ? "]" : "}";
+}
+
+} // namespace
 
 Grammar::Grammar(FileParse& parse)
     : parse_(parse), tokens_(parse.tokens), recovery_(parse.recovery), height_(parse.height) {}
@@ -48,23 +55,33 @@ Token Grammar::consumeName(const char* what) {
     failHere(fault::NO_NAME, {what, std::move(shown)});
 }
 
-/// What stands on another line was most likely never meant to be in the bracket.
 void Grammar::consumeClosing(TokenType type, std::size_t opening) {
     if (tokens_.accept(type)) {
         return;
     }
-    const std::string bracket = tokens_.at(opening).value;
-    const char* const closing = type == TokenType::RPAREN ? ")" : type == TokenType::RBRACKET ? "]" : "}";
+    failIfLeftOpen(type, opening);
+    failHere(fault::NO_COMMA, {closingText(type), tokens_.shown(tokens_.position())});
+}
+
+void Grammar::consumeClosingOfOne(TokenType type, std::size_t opening) {
+    if (tokens_.accept(type)) {
+        return;
+    }
+    failIfLeftOpen(type, opening);
+    failHere(fault::NO_COLON, {"'" + closingText(type) + "'", tokens_.shown(tokens_.position())});
+}
+
+/// What stands on another line was most likely never meant to be in the bracket.
+void Grammar::failIfLeftOpen(TokenType type, std::size_t opening) const {
     const bool isOnLine = tokens_.peek().line == tokens_.previous().line && !tokens_.isAtEnd();
     if (!isOnLine || (tokens_.isAtLineEnd() && tokens_.peek().value != ";")) {
-        fail(fault::OPEN_BRACKET, tokens_.rangeOf(opening), {bracket, closing});
+        fail(fault::OPEN_BRACKET, tokens_.rangeOf(opening), {tokens_.at(opening).value, closingText(type)});
     }
-    failHere(fault::NO_COMMA, {closing, tokens_.shown(tokens_.position())});
 }
 
 void Grammar::consumeOpening(const char* what) {
     if (!tokens_.accept(TokenType::LPAREN)) {
-        failHere(fault::NO_SIGN, {what, tokens_.shown(tokens_.position())});
+        failHere(fault::NO_COLON, {what, tokens_.shown(tokens_.position())});
     }
 }
 

@@ -61,6 +61,8 @@ protected:
     [[noreturn]] void fail(int number, ByteRange range, std::vector<std::string> values = {}) const;
     /// A fault at the next token.
     [[noreturn]] void failHere(int number, std::vector<std::string> values = {}) const;
+    /// A fault if the line ends and nothing closes the bracket at \p opening.
+    void failIfLeftOpen(TokenType type, std::size_t opening) const;
     /// Keeps a fault and goes on.
     void note(int number, ByteRange range, std::vector<std::string> values = {});
 
@@ -70,10 +72,10 @@ protected:
     /// \param what it is the name of, for the message
     /// \return its token, as a plain name
     Token consumeName(const char* what);
-    /// Takes the bracket that closes the one at \p opening, or tells that it is missing.
+    /// Takes the bracket that closes the one at \p opening, or tells that it is missing after one of several parts.
     void consumeClosing(TokenType type, std::size_t opening);
-    /// Takes the bracket '(', or tells that it is missing.
-    /// \param what where it belongs, for the message
+    /// The same of a bracket around one part, in which no comma can stand.
+    void consumeClosingOfOne(TokenType type, std::size_t opening);
     void consumeOpening(const char* what);
     /// Takes a colon. One that is missing before a block is told, and taken for written.
     void consumeColon();

@@ -10,7 +10,7 @@ namespace pozhil::second {
 ///
 /// Places are noted for all nodes, and by their addresses for names and operators that are parts of nodes.
 /// \param[out] places takes the places of nodes
-/// \param[out] faults takes what is wrong, in the order of the text, until it holds MAX_TOLD_FAULTS
+/// \param[out] faults takes what is wrong, in the order of the text, until it holds MAX_FOUND_FAULTS
 /// \return what could be parsed
 Program parseFile(const SourcePtr& source, NodePlaces& places, SecondFaults& faults);
 

@@ -49,7 +49,7 @@ ExpressionPtr PrimaryGrammar::parseGrouping() {
     const std::size_t first = tokens_.position();
     tokens_.advance();
     ExpressionPtr inner = parseExpression();
-    consumeClosing(TokenType::RPAREN, first);
+    consumeClosingOfOne(TokenType::RPAREN, first);
     return make<GroupingExpression>(first, std::move(inner));
 }
 

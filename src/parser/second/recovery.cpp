@@ -2,6 +2,7 @@
 
 #include "base/letters.h"
 #include "base/text.h"
+#include "parser/second/foreign_habits.h"
 #include "scanner/second/fault_numbers.h"
 #include "scanner/second/words.h"
 
@@ -25,6 +26,12 @@ bool mayComeOfSlip(int number) {
     }
 }
 
+/// Faults that tell of something that can't stand where it stands.
+bool mayComeOfHabit(int number) {
+    return mayComeOfSlip(number) || number == fault::NO_COMMA || number == fault::NO_NAME ||
+           number == fault::PART_WITHOUT_STATEMENT;
+}
+
 } // namespace
 
 void Recovery::note(SecondFault fault) {
@@ -32,7 +39,10 @@ void Recovery::note(SecondFault fault) {
     if (isEcho(fault)) {
         return;
     }
-    if (fault.suggestion.empty() && mayComeOfSlip(fault.number)) {
+    if (mayComeOfHabit(fault.number)) {
+        fault.remedy = habitRemedy(tokens_, statement_, fault);
+    }
+    if (fault.remedy.empty() && mayComeOfSlip(fault.number)) {
         fault.suggestion = suggestionFor(fault);
     }
     add(std::move(fault));
@@ -46,10 +56,10 @@ void Recovery::noteLast(SecondFault fault) {
 }
 
 void Recovery::add(SecondFault fault) {
-    if (faults_.size() < MAX_TOLD_FAULTS) {
+    if (faults_.size() < MAX_FOUND_FAULTS) {
         faults_.push_back(std::move(fault));
     }
-    if (faults_.size() >= MAX_TOLD_FAULTS) {
+    if (faults_.size() >= MAX_FOUND_FAULTS) {
         throw Done();
     }
 }
@@ -64,12 +74,15 @@ void Recovery::finish() {
     addScanFaultsBefore(TokenReader::NONE);
 }
 
-/// What can't be parsed in a statement that the scanner found fault with is most likely the same mistake. So are parts of
-/// a statement whose block couldn't be found.
+/// What can't be parsed in a statement that the scanner found fault with is most likely the same mistake, unless the
+/// statement is foreign from its first word on. So are parts of a statement whose block couldn't be found.
 bool Recovery::isEcho(const SecondFault& fault) const {
     const bool isAfterMissingBlock = !faults_.empty() && faults_.back().number == fault::NO_BLOCK;
     if (fault.number == fault::PART_WITHOUT_STATEMENT && isAfterMissingBlock) {
         return true;
+    }
+    if (beginsForeign(tokens_, statement_)) {
+        return false;
     }
     const std::size_t lastLine = lines_.lineAt(fault.place.range.begin);
     const std::size_t begin = lines_.beginOf(lines_.lineAt(tokens_.rangeOf(statement_).begin));

@@ -17,7 +17,7 @@ StatementPtr StructureGrammar::parseStructure() {
     if (hasParent) {
         parentRange = tokens_.rangeOf(tokens_.position());
         parent = consumeName("பெற்றோரின் பெயர்");
-        consumeClosing(TokenType::RPAREN, opening);
+        consumeClosingOfOne(TokenType::RPAREN, opening);
     }
     auto structure = std::make_unique<StructDefinitionStatement>(std::move(name), std::move(parent), hasParent);
     parse_.blocks.parseLines([&] { parseMember(*structure); });

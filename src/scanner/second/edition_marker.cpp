@@ -1,10 +1,12 @@
 #include "scanner/second/edition_marker.h"
 
+#include "base/letters.h"
 #include "base/number_text.h"
 #include "base/text.h"
 #include "scanner/second/normal_form.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace pozhil::second {
 namespace {
@@ -27,11 +29,53 @@ bool take(std::string_view& text, std::string_view beginning) {
     return begins;
 }
 
+/// Takes what stands before the next blank.
+std::string_view takeWord(std::string_view& text) {
+    skipBlanks(text);
+    const std::string_view word = text.substr(0, text.find_first_of(BLANKS));
+    text.remove_prefix(word.size());
+    return word;
+}
+
+/// Whether a word is the name of the language, or a slip of it.
+bool isLanguageName(std::string_view word) {
+    return letterDistance(splitLetters(word), splitLetters(LANGUAGE), 1) <= 1;
+}
+
+/// Whether a word says that something is the second.
+bool isTwo(std::string_view word) {
+    constexpr std::string_view WORDS[] = {"இரண்டு", "இரண்டாம்", "இரண்டாவது", "II"};
+    return startsWith(toAsciiDigits(word), "2") ||
+           std::find(std::begin(WORDS), std::end(WORDS), word) != std::end(WORDS);
+}
+
 bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
 } // namespace
+
+bool isAlmostMarker(std::string_view line) {
+    constexpr std::string_view SIGNS[] = {"ஃஃ", COMMENT, "//", "#"};
+    constexpr std::string_view EDITION = "பதிப்பு";
+    if (markedEdition(line)) {
+        return false;
+    }
+    take(line, BYTE_ORDER_MARK);
+    const std::string normal = normalForm(line);
+    std::string_view text = normal;
+    skipBlanks(text);
+    const bool hasSign =
+        std::any_of(std::begin(SIGNS), std::end(SIGNS), [&](std::string_view sign) { return take(text, sign); });
+    const std::string_view name = takeWord(text);
+    std::string_view number = takeWord(text);
+    if (number == EDITION) {
+        number = takeWord(text);
+    }
+    // Without a sign of comments the line is code, so that nothing else may stand on it.
+    skipBlanks(text);
+    return isLanguageName(name) && isTwo(number) && (hasSign || text.empty());
+}
 
 std::optional<std::string> markedEdition(std::string_view line) {
     take(line, BYTE_ORDER_MARK);

@@ -25,6 +25,12 @@ char closingOf(char opening) {
     }
 }
 
+/// What to do about a bracket that is closed by one of another kind.
+std::string otherClosingRemedy(char opening, char written, char fitting) {
+    return std::string("முன்னாடி '") + opening + "' திறந்திருக்கு; அதை மூட '" + written + "'-க்குப் பதில் '" + fitting +
+           "' போடு மச்சி!";
+}
+
 TokenType typeOf(char bracket) {
     switch (bracket) {
     case '(': return TokenType::LPAREN;
@@ -213,8 +219,10 @@ void Layout::closeBracket(char bracket, std::size_t position) {
                 pushClosing(closingOf(brackets_.back().sign), position);
             }
         } else {
-            tokens_.fault(fault::CLOSING_BRACKET, position, position + 1, {std::string(1, bracket)});
-            bracket = closingOf(brackets_.back().sign);
+            const char fitting = closingOf(brackets_.back().sign);
+            tokens_.fault(fault::CLOSING_BRACKET, position, position + 1, {std::string(1, bracket)},
+                          otherClosingRemedy(brackets_.back().sign, bracket, fitting));
+            bracket = fitting;
         }
     }
     popBracket(position);

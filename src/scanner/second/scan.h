@@ -48,8 +48,8 @@ private:
     void push(TokenType type, std::string value, std::size_t begin) {
         tokens_.push(type, std::move(value), begin, position_);
     }
-    void fault(int number, std::size_t begin, std::vector<std::string> values = {}) {
-        tokens_.fault(number, begin, position_, std::move(values));
+    void fault(int number, std::size_t begin, std::vector<std::string> values = {}, std::string remedy = {}) {
+        tokens_.fault(number, begin, position_, std::move(values), std::move(remedy));
     }
     void skipLinesSince(std::size_t begin);
 

@@ -3,7 +3,9 @@
 #include "scanner/second/fault_numbers.h"
 #include "scanner/second/scan.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 
 namespace pozhil::second {
 namespace {
@@ -11,22 +13,62 @@ namespace {
 /// A sign of other languages, and the word to use. Those of operators stand in the table of operators.
 struct ForeignSign {
     std::string_view sign;
-    std::string_view word;
+    /// What to write in its place.
+    std::string_view own;
     /// The kind of the token in its place; NEWLINE for the beginning of a comment.
     TokenType kind;
+    /// The value of that token; empty if it is what to write.
+    std::string_view token = {};
+    /// What to do about it if that takes more than writing something else in its place.
+    const char* remedy = "";
 };
+
+constexpr const char* POWER_REMEDY = "அடுக்கு ஒரு செயல்: 'அ ** ஆ' என்பதை 'அடுக்கு(அ, ஆ)' என்று எழுது மச்சி!";
+constexpr const char* SLASHES_REMEDY =
+    "குறிப்புன்னா 'ஃ' போட்டு ஒரு இடைவெளி விடு; முழு எண்ணாக வகுக்கணும்னா 'கீழ்எண்(அ வகு ஆ)' என்று எழுது மச்சி!";
+constexpr const char* ARROW_REMEDY =
+    "வினைக்கு '(அ) => அ கூட்டு 1' மாதிரி '=>' எழுது; செயல் தரும் மதிப்பின் வகையை எழுத வேண்டாம் மச்சி!";
 
 // Longer signs come before those that they begin with.
 constexpr ForeignSign FOREIGN_SIGNS[] = {
-    {"===", "சமம்", TokenType::OPERATOR},     {"!==", "சமமில்லை", TokenType::OPERATOR},
-    {"**", "அடுக்கு", TokenType::OPERATOR},   {"//", "ஃ", TokenType::NEWLINE},
-    {"/*", "ஃஃ", TokenType::NEWLINE},        {"->", "=>", TokenType::OPERATOR},
-    {"#", "ஃ", TokenType::NEWLINE},          {"≤", "சிறிதுசமம்", TokenType::OPERATOR},
-    {"≥", "பெரிதுசமம்", TokenType::OPERATOR}, {"≠", "சமமில்லை", TokenType::OPERATOR},
-    {"×", "பெருக்கு", TokenType::OPERATOR},   {"÷", "வகு", TokenType::OPERATOR},
-    {"−", "கழி", TokenType::OPERATOR},       {"–", "கழி", TokenType::OPERATOR},
+    {"===", "சமம்", TokenType::OPERATOR},
+    {"!==", "சமமில்லை", TokenType::OPERATOR},
+    {"++", "கூட்டிசேர் 1", TokenType::COMPOUND_ASSIGN, "ஒன்றுசேர்"},
+    {"--", "கழிசேர் 1", TokenType::COMPOUND_ASSIGN, "ஒன்றுகழி"},
+    {"**", "அடுக்கு", TokenType::OPERATOR, "பெருக்கு", POWER_REMEDY},
+    {"//", "ஃ", TokenType::NEWLINE, {}, SLASHES_REMEDY},
+    {"/*", "ஃஃ", TokenType::NEWLINE},
+    {"->", "=>", TokenType::ARROW, {}, ARROW_REMEDY},
+    {"#", "ஃ", TokenType::NEWLINE},
+    {"≤", "சிறிதுசமம்", TokenType::OPERATOR},
+    {"≥", "பெரிதுசமம்", TokenType::OPERATOR},
+    {"≠", "சமமில்லை", TokenType::OPERATOR},
+    {"×", "பெருக்கு", TokenType::OPERATOR},
+    {"÷", "வகு", TokenType::OPERATOR},
+    {"−", "கழி", TokenType::OPERATOR},
+    {"–", "கழி", TokenType::OPERATOR},
     {"—", "கழி", TokenType::OPERATOR},
 };
+
+/// What to do about a character that means nothing, where a habit of other languages tells what was meant.
+struct ForeignCharacter {
+    char character;
+    const char* remedy;
+};
+
+constexpr ForeignCharacter FOREIGN_CHARACTERS[] = {
+    {'\\', "அடுத்த வரியிலும் தொடரணும்னா '\\' வேண்டாம்; முழுசையும் அடைப்புக்குறிக்குள்ள ( ) போடு மச்சி!"},
+    {'`', "உரையை இரட்டை மேற்கோள் குறிகளுக்குள்ள (\") எழுது; மதிப்பைச் சேர்க்க 'இணை' எழுது மச்சி!"},
+    {'@', "செயலுக்கு மேல '@' வரியை எழுத முடியாது; அந்த வரியை நீக்கு மச்சி!"},
+};
+
+/// What to do about such a character; empty if that is what the catalogue says.
+std::string remedyFor(Character character) {
+    const auto* const row =
+        std::find_if(std::begin(FOREIGN_CHARACTERS), std::end(FOREIGN_CHARACTERS),
+                     [&](const ForeignCharacter& one) { return one.character == character.codePoint; });
+    return row == std::end(FOREIGN_CHARACTERS) ? "" : row->remedy;
+}
 
 /// The operator with the longest symbol that \p text begins with, null if there is none.
 /// \param isUnary whether it stands before its only operand
@@ -144,13 +186,11 @@ bool Scan::scanForeignSign() {
         }
         const std::size_t begin = position_;
         position_ += foreign.sign.size();
-        fault(fault::SIGN_FOR_WORD, begin, {std::string(foreign.sign), std::string(foreign.word)});
+        fault(fault::SIGN_FOR_WORD, begin, {std::string(foreign.sign), std::string(foreign.own)}, foreign.remedy);
         if (foreign.kind == TokenType::NEWLINE) {
             skipToLineEnd();
-        } else if (foreign.word == "=>") {
-            push(TokenType::ARROW, "=>", begin);
         } else {
-            push(foreign.kind, foreign.word == "அடுக்கு" ? "பெருக்கு" : std::string(foreign.word), begin);
+            push(foreign.kind, std::string(foreign.token.empty() ? foreign.own : foreign.token), begin);
         }
         return true;
     }
@@ -193,7 +233,7 @@ void Scan::scanUnknown() {
     while (!isAtEnd() && characterAt(text_, position_).codePoint == first.codePoint) {
         position_ += first.size;
     }
-    fault(fault::UNKNOWN_CHARACTER, begin, {shown(first, text_.substr(begin, first.size))});
+    fault(fault::UNKNOWN_CHARACTER, begin, {shown(first, text_.substr(begin, first.size))}, remedyFor(first));
 }
 
 } // namespace pozhil::second

@@ -1,6 +1,7 @@
 #include "base/script_checks.h"
 #include "base/utf8.h"
 #include "scanner/second/fault_numbers.h"
+#include "scanner/second/grantha.h"
 #include "scanner/second/normal_form.h"
 #include "scanner/second/scan.h"
 #include "scanner/second/words.h"
@@ -96,7 +97,8 @@ void Scan::checkLetters(std::string_view written, std::size_t begin) {
             if (!toldWords_.emplace(written).second) {
                 return;
             }
-            tokens_.fault(number, begin + offset, begin + offset + letter.size(), {std::string(letter)});
+            tokens_.fault(number, begin + offset, begin + offset + letter.size(),
+                          {std::string(letter), withoutGrantha(normalForm(written))});
             return;
         }
         offset += letter.size();

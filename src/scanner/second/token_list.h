@@ -26,10 +26,12 @@ public:
     }
 
     /// Keeps a fault of the text from \p begin to \p end.
-    /// \throws Full if it is the last that anybody is told
-    void fault(int number, std::size_t begin, std::size_t end, std::vector<std::string> values = {}) {
-        faults_.push_back({number, {scanned_.source, range(begin, end)}, std::move(values), ""});
-        if (faults_.size() == MAX_TOLD_FAULTS) {
+    /// \param remedy what to do about it, if that isn't what the catalogue says
+    /// \throws Full if nobody asks for more
+    void fault(int number, std::size_t begin, std::size_t end, std::vector<std::string> values = {},
+               std::string remedy = {}) {
+        faults_.push_back({number, {scanned_.source, range(begin, end)}, std::move(values), "", std::move(remedy)});
+        if (faults_.size() == MAX_FOUND_FAULTS) {
             throw Full();
         }
     }

@@ -70,6 +70,8 @@ enum class UnaryOperator : std::uint8_t { Not, Minus, Plus, BitNot };
 struct Unary : Expression {
     UnaryOperator op = UnaryOperator::Not;
     ExpressionPtr operand;
+    /// இல்லை stands before a comparison without brackets, so that it may look as if it denied all of that.
+    bool deniesComparison = false;
 };
 
 enum class BinaryOperator : std::uint8_t {
@@ -110,6 +112,8 @@ struct Conditional : Expression {
     ExpressionPtr condition;
     ExpressionPtr thenValue;
     ExpressionPtr elseValue;
+    /// The first value is a comparison: other languages have the condition there.
+    bool mayBeReversed = false;
 };
 
 // Parts of values.

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "language/rows.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// Words that people bring along from other languages, and what to write in this one.
+
+namespace pozhil::language::second {
+
+/// Where such a word stands.
+enum class ForeignPlace : std::uint8_t {
+    Statement, ///< begins a statement
+    Inside,    ///< stands within a statement, beside values
+    Name,      ///< is a value or a function
+    Member     ///< stands after a dot
+};
+
+struct ForeignWord {
+    std::string_view word;
+    ForeignPlace place;
+    /// What to write in its place; empty if there is nothing of the kind.
+    std::string_view own;
+    /// What else there is to say, a whole sentence; may be empty.
+    std::string_view remark;
+};
+
+/// All of them.
+Rows<ForeignWord> foreignWords();
+
+/// The row of a word of this place, null if there is none.
+const ForeignWord* findForeignWord(std::string_view word, ForeignPlace place);
+/// The row of a word that stands anywhere but after a dot, null if there is none.
+const ForeignWord* findForeignWord(std::string_view word);
+
+/// What to do about the word, for the user.
+std::string remedyOf(const ForeignWord& foreign);
+
+} // namespace pozhil::language::second
