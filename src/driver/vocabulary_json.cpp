@@ -5,6 +5,7 @@
 #include "diagnostics/fault.h"
 #include "error_codes.h"
 #include "front_end/front_end.h"
+#include "front_end/second_edition.h"
 #include "language/alignments.h"
 #include "language/builtins.h"
 #include "language/colours.h"
@@ -64,11 +65,17 @@ bool isReserved(std::string_view word) {
     return false;
 }
 
+/// The same in the second edition.
+bool isReservedInSecondEdition(std::string_view word) {
+    return !parseSecondEdition(makeSource("word", "ஃ பொழில் 2\n" + std::string(word) + " = 1\n"), {}).faults.empty();
+}
+
 std::string keyword(const language::Keyword& row) {
     return json::object({{"word", text(row.word)},
                          {"kind", number(row.type)},
                          {"group", nameOf(row.group, KEYWORD_GROUPS)},
-                         {"reserved", json::truth(isReserved(row.word))}});
+                         {"reserved", json::truth(isReserved(row.word))},
+                         {"reserved_in_second", json::truth(isReservedInSecondEdition(row.word))}});
 }
 
 std::string operatorRow(const language::Operator& row) {

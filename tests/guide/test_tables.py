@@ -31,7 +31,19 @@ def test_reserved_words_are_those_that_are_refused():
     assert refused == sorted(listed)
 
 
-def _is_refused(word):
+def test_reserved_words_of_the_second_edition_are_those_that_are_refused():
+    words = sorted({row["word"] for row in vocabulary()["keywords"]})
+    listed = guide.words(guide.GUIDE / "15_இரண்டாம்_பதிப்பு.md")
+    with ThreadPoolExecutor() as workers:
+        refused = [word for word, bad in zip(words, workers.map(_is_refused_in_second, words)) if bad]
+    assert refused == sorted(listed)
+
+
+def _is_refused_in_second(word):
+    return _is_refused(word, first_line="ஃ பொழில் 2\n")
+
+
+def _is_refused(word, first_line=""):
     path = REPOSITORY / f"நிரல்{cf.SOURCE_SUFFIX}"  # isn't written: the case holds its source
-    case = cf.Case(path, f"{word} = 1\n".encode(), cf.Expectation(), None)
+    case = cf.Case(path, f"{first_line}{word} = 1\n".encode(), cf.Expectation(), None)
     return run_case(case, compiler_path(), with_program=False).diagnostic is not None

@@ -1,4 +1,4 @@
-"""Every tests/mistakes/<mistake>.பொழில் is one test: see README.md beside this file."""
+"""Every tests/mistakes/<mistake>.பொழில், and every one in இரண்டாம்_பதிப்பு, is one test: see README.md beside this file."""
 
 import re
 import tempfile
@@ -13,6 +13,7 @@ from support.console import without_colours
 from support.workplace import Workplace
 
 MISTAKES = Path(__file__).parent
+FOLDERS = (MISTAKES, MISTAKES / "இரண்டாம்_பதிப்பு")
 
 _ENTRY = re.compile(r"^ஃ> (வர வேண்டும்|வரக் கூடாது): (.*)$", re.MULTILINE)
 
@@ -47,7 +48,7 @@ def troubles(mistake, shown):
 
 
 def pytest_collect_file(file_path, parent):
-    if file_path.suffix == ".பொழில்" and file_path.parent == MISTAKES:
+    if file_path.suffix == ".பொழில்" and file_path.parent in FOLDERS:
         return MistakeFile.from_parent(parent, path=file_path)
     return None
 

@@ -42,6 +42,20 @@ TEST(Marker, IsNothingElse) {
     }
 }
 
+TEST(Marker, IsAlmostThere) {
+    const auto isAlmost = [](const std::string& text) { return isAlmostMarked(*makeSource("நிரல்.பொழில்", text)); };
+    for (const char* text :
+         {"ஃ பொழில் 2 நிரல்\n", "ஃஃ பொழில் 2\n", "# பொழில் 2\n", "// பொழில் 2", "பொழில் 2\n", "ஃ பொழில் இரண்டு\n",
+          "ஃ பொழில் இரண்டாம் பதிப்பு\n", "ஃ பொழில் பதிப்பு 2\n", "ஃ பொழில் 2.0\n", "ஃ பொழிள் 2\n", "ஃ பொழில் ௨ நிரல்"}) {
+        EXPECT_TRUE(isAlmost(text)) << text;
+    }
+    for (const char* text :
+         {"", "\n", "ஃ பொழில் 2\n", "ஃ பொழில் 3\n", "ஃ பொழில்\n", "ஃ வணக்கம் 2\n", "அ = 2\n", "ஃ பொழில் நிரல் 2\n",
+          "ஃ பொழிலில் 2 செயல்கள்\n", "ஃ பொழிலை 2 முறை ஓட்டு\n", "அ = 1\nஃ பொழில் இரண்டு\n", "பொழில் 2 கூட்டு 1\n"}) {
+        EXPECT_FALSE(isAlmost(text)) << text;
+    }
+}
+
 TEST(Marker, IsFaulty) {
     EXPECT_EQ(edition("ஃ பொழில் 3\n"), "first 501 1");
     EXPECT_EQ(edition("ஃ பொழில் ௨௦\n"), "first 501 1");

@@ -72,9 +72,10 @@ bool isAlmostMarker(std::string_view line) {
     if (number == EDITION) {
         number = takeWord(text);
     }
-    // Without a sign of comments the line is code, so that nothing else may stand on it.
+    // Code, and a comment with another word, mean nothing of the kind if more stands on the line.
     skipBlanks(text);
-    return isLanguageName(name) && isTwo(number) && (hasSign || text.empty());
+    const bool mayGoOn = hasSign && name == LANGUAGE;
+    return isLanguageName(name) && isTwo(number) && (mayGoOn || text.empty());
 }
 
 std::optional<std::string> markedEdition(std::string_view line) {
