@@ -3,9 +3,10 @@
 #include "engine/operations.h"
 #include "engine/raise.h"
 #include "engine/value_faults.h"
+#include "report/remedies.h"
 
 #include <cmath>
-#include <cstdint>
+#include <string_view>
 
 namespace pozhil::engine {
 namespace {
@@ -32,7 +33,8 @@ bool areWhole(const Value& left, const Value& right) {
 [[noreturn]] void raiseWrongOperands(const char* operation, const Value& left, const Value& right, Place place) {
     const bool mixed = (isNumber(left) && right.is(Tag::Text)) || (left.is(Tag::Text) && isNumber(right));
     raise(WRONG_OPERANDS, place, {operation, kindWord(left), kindWord(right)},
-          mixed ? "உரையில் உள்ள எண்ணோடு கணக்கிட 'எண்(…)' என்று எழுது." : "");
+          mixed ? "உரையில் உள்ள எண்ணோடு கணக்கிட 'எண்(…)' என்று எழுது." : "",
+          mixed && std::string_view(operation) == "பெருக்கு" ? report::remedy::REPEATED_TEXT : "");
 }
 
 void checkNumbers(const char* operation, const Value& left, const Value& right, Place place) {

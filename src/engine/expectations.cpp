@@ -13,7 +13,8 @@ namespace pozhil::engine {
 
 bool truthOf(const Value& value, Place place) {
     if (!value.is(Tag::Truth)) {
-        raise(NO_TRUTH, place, {kindWord(value)});
+        const bool isContainer = value.is(Tag::Text) || value.is(Tag::List) || value.is(Tag::Map);
+        raise(NO_TRUTH, place, {kindWord(value)}, "", isContainer ? report::remedy::CONTAINER_AS_CONDITION : "");
     }
     return value.truth();
 }

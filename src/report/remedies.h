@@ -13,6 +13,26 @@ constexpr const char* DENIED_VALUE =
 /// "பெரிய" எனில் அ பெரிது 3 இல்லைஎனில் "சிறிய"
 constexpr const char* REVERSED_CHOICE = "தெரிவுல நிபந்தனை முதல்ல வரணும்: 'நிபந்தனை எனில் அ இல்லைஎனில் ஆ' என்று எழுது மச்சி!";
 
+/// எனில் ப, where ப is a text, a list or a map.
+constexpr const char* CONTAINER_AS_CONDITION = "அதில எதுவும் இருக்கான்னு பார்க்க 'நீளம்(…) பெரிது 0' என்று எழுது மச்சி!";
+
+/// அ சமம் 1 அல்லது 2
+constexpr const char* HALF_COMPARISON =
+    "'மற்றும்', 'அல்லது' சொல்லுக்கு ரெண்டு பக்கமும் முழு ஒப்பீடு வேணும்: 'அ சமம் 1 அல்லது அ சமம் 2' மாதிரி மச்சி!";
+
+/// "அ" பெருக்கு 3
+constexpr const char* REPEATED_TEXT =
+    "உரையைத் திரும்பத் திரும்பச் சேர்க்க 'உரை_மீண்டும்(உரை, தடவை)' என்று எழுது; அதைப் பெற, கோப்பின் தொடக்கத்துல 'நூஇறக்கி \"உரை\"' "
+    "என்று எழுது மச்சி!";
+
+/// நபர்("மலர்") of a structure without துவக்கம்: {1} is its name.
+constexpr const char* NO_CONSTRUCTOR =
+    "மதிப்புகளை வாங்கிக்க '{1}' கட்டமைப்பில் 'செயல் துவக்கம்(தான், …):' எழுது; இல்லைன்னா '{1}()' என்று மட்டும் எழுது மச்சி!";
+
+/// நாய்.பெயர் without an object: {1} is the structure, {2} the field.
+constexpr const char* FIELD_OF_STRUCTURE =
+    "பண்பு ஒவ்வொரு பொருளுக்கும் உரியது, கட்டமைப்புக்கு அல்ல: 'அ = {1}(…)' என்று ஒரு பொருளை உருவாக்கி, 'அ.{2}' என்று எழுது மச்சி!";
+
 /// A variable that is called: {1} is its name and that of a function of the language.
 constexpr const char* HIDDEN_FUNCTION =
     "இங்க '{1}' உன் மாறி; அதே பெயருள்ள மொழியின் செயலை அது மறைக்குது. மாறிக்கு வேற பெயர் வை மச்சி!";

@@ -5,6 +5,8 @@
 #include "analysis/second/suggestions.h"
 #include "base/scoped_increment.h"
 #include "language/second/builtins.h"
+#include "report/catalogue.h"
+#include "report/remedies.h"
 
 #include <algorithm>
 #include <string>
@@ -33,7 +35,9 @@ const resolved::Function* methodByName(Resolution& resolution, const GetExpressi
                 methods.push_back(one);
             }
         }
-        tellUnknownMember(resolution.model, structure.name, name, methods, place);
+        const bool isField = findField(structure, name).field != nullptr;
+        tellUnknownMember(resolution.model, structure.name, name, methods, place,
+                          isField ? report::filled(report::remedy::FIELD_OF_STRUCTURE, {structure.name, name}) : "");
     } else if (method->isPrivate && !maySeePrivate(resolution.inside, method->structure)) {
         resolution.model.faults.add(fault::PRIVATE_MEMBER, place, {method->structure->name, name});
     } else if (resolution.model.scopeOfFunction.at(method)->body == nullptr) {
@@ -64,11 +68,12 @@ resolved::ExpressionPtr enumerationMember(Resolution& resolution, const GetExpre
 }
 
 /// A fault if a call doesn't give the number of arguments that is asked for.
+/// \param remedy what to do about it, if that isn't what the catalogue says
 void checkCount(Resolution& resolution, const CallExpression& call, std::string_view name, std::size_t fewest,
-                std::size_t most) {
+                std::size_t most, std::string remedy = {}) {
     const std::size_t given = call.arguments.size();
     if (given < fewest || given > most) {
-        tellWrongCount(resolution.model, name, fewest, most, given, resolution.placeOf(&call));
+        tellWrongCount(resolution.model, name, fewest, most, given, resolution.placeOf(&call), std::move(remedy));
     }
 }
 
@@ -164,7 +169,9 @@ resolved::ExpressionPtr construct(Resolution& resolution, const CallExpression& 
     } else {
         const std::size_t asked = constructor == nullptr ? 0 : constructor->parameters.size();
         const std::size_t count = asked == 0 ? 0 : asked - 1;
-        checkCount(resolution, call, structure->name, count, count);
+        const bool isUnasked = constructor == nullptr && !call.arguments.empty();
+        checkCount(resolution, call, structure->name, count, count,
+                   isUnasked ? report::filled(report::remedy::NO_CONSTRUCTOR, {structure->name}) : "");
     }
     result->arguments = resolveArguments(resolution, call.arguments, parametersOf(constructor, 1));
     return result;

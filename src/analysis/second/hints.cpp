@@ -19,12 +19,22 @@ namespace {
 
 using Form = resolved::TargetPlace::Form;
 
-/// What a program reads: its variables, and the names of members.
+/// What a program reads: its variables, and the names of members; and what it writes where arguments stand.
 class Reads : public Walk<Reads> {
 public:
     using Walk::visit;
     using Walk::walk;
 
+    void walk(resolved::Argument& argument) {
+        noteNamedArgument(argument.value.get());
+        Walk::walk(argument);
+    }
+    void visit(resolved::Print& node) {
+        for (const auto& value : node.values) {
+            noteNamedArgument(value.get());
+        }
+        Walk::visit(node);
+    }
     void visit(resolved::VariableRead& node) { variables.insert(node.variable); }
     void visit(resolved::TargetPlace& node) {
         // Of a place that is written, only what holds it is read.
@@ -47,6 +57,16 @@ public:
 
     std::unordered_set<const resolved::Variable*> variables;
     std::unordered_set<std::string_view> members;
+    /// Assignments to variables that stand as arguments, as other languages name them.
+    std::vector<const resolved::AssignmentValue*> namedArguments;
+
+private:
+    void noteNamedArgument(const resolved::Expression* value) {
+        const auto* const assignment = nodeCast<resolved::AssignmentValue>(value);
+        if (assignment != nullptr && !assignment->isCompound && assignment->target->form == Form::Variable) {
+            namedArguments.push_back(assignment);
+        }
+    }
 };
 
 /// The word without its digits, by which names are told apart on purpose.
@@ -77,6 +97,12 @@ public:
         }
         for (const auto& structure : model_.program.structures) {
             checkFields(*structure);
+        }
+        for (const resolved::AssignmentValue* argument : reads_.namedArguments) {
+            found_.emplace_back(argument->place,
+                                "'" + argument->target->variable->name +
+                                    " = …' இங்கே உள்ளீட்டின் பெயரைச் சொல்வதில்லை, அந்த மாறிக்கு மதிப்பு வைக்கிறது; பெயர் இல்லாமல் "
+                                    "மதிப்பை மட்டும் எழுதவும்.");
         }
         const auto order = [](const Found& found) { return std::tie(found.first.file, found.first.range.begin); };
         std::sort(found_.begin(), found_.end(), [&](const Found& a, const Found& b) { return order(a) < order(b); });

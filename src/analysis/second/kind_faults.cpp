@@ -27,10 +27,19 @@ bool isOrdering(resolved::BinaryOperator op) {
            op == resolved::BinaryOperator::Greater || op == resolved::BinaryOperator::GreaterEqual;
 }
 
+bool isTextWithNumber(Kind left, Kind right) {
+    return (left == Kind::Text && isNumber(right)) || (isNumber(left) && right == Kind::Text);
+}
+
+bool isComparison(const resolved::Expression& value) {
+    const auto* const binary = nodeCast<resolved::Binary>(&value);
+    return binary != nullptr && (isOrdering(binary->op) || binary->op == resolved::BinaryOperator::Equal ||
+                                 binary->op == resolved::BinaryOperator::NotEqual);
+}
+
 /// A number and a text meet: the number may stand in the text.
 std::string numberSuggestion(Kind left, Kind right) {
-    const bool isMixed = (left == Kind::Text && isNumber(right)) || (isNumber(left) && right == Kind::Text);
-    return isMixed ? "உரையில் உள்ள எண்ணோடு கணக்கிட 'எண்(…)' என்று எழுது." : "";
+    return isTextWithNumber(left, right) ? "உரையில் உள்ள எண்ணோடு கணக்கிட 'எண்(…)' என்று எழுது." : "";
 }
 
 /// What to do about a variable that is called, and whose name hides a function of the language; empty if it hides none.
@@ -74,7 +83,7 @@ public:
     }
     void visit(resolved::Logical& node) {
         checkCondition(node.left);
-        checkCondition(node.right);
+        checkCondition(node.right, isComparison(*node.left) ? report::remedy::HALF_COMPARISON : "");
         Walk::visit(node);
     }
     void visit(resolved::Unary& node) {
@@ -159,15 +168,21 @@ private:
 
     /// \param remedy what to do if it is none, if that isn't what the catalogue says
     void checkCondition(const resolved::ExpressionPtr& condition, const char* remedy = "") {
-        if (condition->kind != Kind::Any && condition->kind != Kind::Truth) {
-            tell(fault::NO_TRUTH, condition->place, {wordOf(condition->kind)}, "", remedy);
+        const Kind kind = condition->kind;
+        if (kind != Kind::Any && kind != Kind::Truth) {
+            const bool isContainer = kind == Kind::Text || kind == Kind::List || kind == Kind::Map;
+            tell(fault::NO_TRUTH, condition->place, {wordOf(kind)}, "",
+                 *remedy == '\0' && isContainer ? report::remedy::CONTAINER_AS_CONDITION : remedy);
         }
     }
 
     void checkOperands(resolved::BinaryOperator op, Kind left, Kind right, resolved::Place place) {
         if (!mayApply(op, left, right)) {
             tell(isOrdering(op) ? fault::WRONG_ORDERING : fault::WRONG_OPERANDS, place,
-                 {wordOf(op), wordOf(left), wordOf(right)}, numberSuggestion(left, right));
+                 {wordOf(op), wordOf(left), wordOf(right)}, numberSuggestion(left, right),
+                 op == resolved::BinaryOperator::Multiply && isTextWithNumber(left, right)
+                     ? report::remedy::REPEATED_TEXT
+                     : "");
         }
     }
 

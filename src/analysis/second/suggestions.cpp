@@ -70,7 +70,8 @@ std::string remedyForName(const Resolution& resolution, std::string_view name) {
         return importRemedyOf(*function);
     }
     if (const auto* const foreign = language::second::findForeignWord(name)) {
-        return remedyOf(*foreign);
+        const auto* const parent = resolution.inside == nullptr ? nullptr : resolution.inside->parent;
+        return parent == nullptr ? remedyOf(*foreign) : remedyOf(*foreign, parent->name);
     }
     return language::second::isModule(name)
                ? "'" + std::string(name) + "' ஒரு தொகுப்பு; கோப்பின் தொடக்கத்துல 'நூஇறக்கி \"" + std::string(name) +
@@ -180,10 +181,11 @@ std::string fileName(const std::string& path) {
 }
 
 void tellWrongCount(Model& model, std::string_view name, std::size_t fewest, std::size_t most, std::size_t given,
-                    resolved::Place place) {
+                    resolved::Place place, std::string remedy) {
     const std::string asked =
         fewest == most ? std::to_string(most) : std::to_string(fewest) + " முதல் " + std::to_string(most) + " வரை";
-    model.faults.add(fault::WRONG_COUNT, place, {std::string(name), asked, std::to_string(given)});
+    model.faults.add(fault::WRONG_COUNT, place, {std::string(name), asked, std::to_string(given)}, "",
+                     std::move(remedy));
 }
 
 } // namespace pozhil::second

@@ -32,7 +32,8 @@ void tellUnknownMember(Model& model, std::string_view what, std::string_view mem
 std::string fileName(const std::string& path);
 
 /// Tells that a call gives another number of arguments than is asked for.
+/// \param remedy what to do about it, if that isn't what the catalogue says
 void tellWrongCount(Model& model, std::string_view name, std::size_t fewest, std::size_t most, std::size_t given,
-                    resolved::Place place);
+                    resolved::Place place, std::string remedy = {});
 
 } // namespace pozhil::second

@@ -49,7 +49,7 @@ constexpr ForeignWord ROWS[] = {
     {"not",      Place::Inside, "இல்லை", "ஒப்பீட்டை மறுக்க 'இல்லை (அ சமம் ஆ)' என்று அடைப்புக்குள்ள போடு."},
     {"in",       Place::Inside, "பட்டியல்.கொண்டுள்ளது(மதிப்பு)", "சுற்றுல மட்டும் 'இல்' வரும்: 'ஒவ்வொன்றாக உறுப்பு இல் பட்டியல்:'."},
     {"of",       Place::Inside, "ஒவ்வொன்றாக உறுப்பு இல் பட்டியல்:", ""},
-    {"is",       Place::Inside, "சமம்", "மதிப்பு இல்லையான்னு பார்க்க 'அ சமம் வெறுமை'."},
+    {"is",       Place::Inside, "சமம்", "'is not'-க்கு 'சமமில்லை'; மதிப்பு இல்லையான்னு பார்க்க 'அ சமம் வெறுமை'."},
     {"mod",      Place::Inside, "மீதி", ""},
 
     // Functions, structures, files.
@@ -97,8 +97,8 @@ constexpr ForeignWord ROWS[] = {
     {"undefined", Place::Name, "வெறுமை", ""},
     {"self",      Place::Name, "தான்", "கட்டமைப்பின் ஒவ்வொரு செயலிலும் முதல் பராமீட்டர் 'தான்'."},
     {"this",      Place::Name, "தான்", "கட்டமைப்பின் ஒவ்வொரு செயலிலும் முதல் பராமீட்டர் 'தான்'."},
-    {"super",     Place::Name, "பெற்றோர்_பெயர்.துவக்கம்(தான், …)", "பெற்றோரின் செயலைப் பெற்றோர்க் கட்டமைப்பின் பெயரால் அழை."},
-    {"பெற்றோர்",   Place::Name, "பெற்றோர்_பெயர்.துவக்கம்(தான், …)", "பெற்றோரின் செயலைப் பெற்றோர்க் கட்டமைப்பின் பெயரால் அழை."},
+    {"super",     Place::Name, "{1}.துவக்கம்(தான், …)", "பெற்றோரின் செயலைப் பெற்றோர்க் கட்டமைப்பின் பெயரால் அழை."},
+    {"பெற்றோர்",   Place::Name, "{1}.துவக்கம்(தான், …)", "பெற்றோரின் செயலைப் பெற்றோர்க் கட்டமைப்பின் பெயரால் அழை."},
 
     // Functions.
     {"print",     Place::Name, "அச்சிடு(மதிப்பு)", ""},
@@ -136,10 +136,19 @@ constexpr ForeignWord ROWS[] = {
     {"max",       Place::Name, "பட்டியல்_பெரியது(அ)", "இரண்டே எண்கள்னா 'அ பெரிது ஆ எனில் அ இல்லைஎனில் ஆ'."},
     {"min",       Place::Name, "பட்டியல்_சிறியது(அ)", "இரண்டே எண்கள்னா 'அ சிறிது ஆ எனில் அ இல்லைஎனில் ஆ'."},
     {"sorted",    Place::Name, "பட்டியல்_வரிசை(அ)", ""},
+    {"reversed",  Place::Name, "பட்டியல்_தலைகீழ்(அ)", ""},
+    {"map",       Place::Name, "பட்டியல்_மாற்று(அ, விதி)", ""},
+    {"filter",    Place::Name, "பட்டியல்_வடிகட்டு(அ, விதி)", ""},
+    {"set",       Place::Name, "பட்டியல்_தனித்தவை(அ)", ""},
+    {"tuple",     Place::Name, "[ ]", ""},
     {"open",      Place::Name, "கோப்பு_படி(\"பெயர்.txt\")", "எழுத 'கோப்பு_எழுது', சேர்க்க 'கோப்பு_சேர்'."},
     {"sleep",     Place::Name, "காத்திரு 1.5", ""},
 
     // Members.
+    {"with",      Place::Statement, "", "கோப்பைத் திறந்து மூட வேண்டாம்; 'கோப்பு_படி(\"பெயர்.txt\")' முழுக் கோப்பையும் படிக்கும் மச்சி!"},
+    {"private",   Place::Statement, "ரகசிய பெயர் = மதிப்பு", ""},
+    {"public",    Place::Statement, "பெயர் = மதிப்பு", ""},
+    {"end",       Place::Statement, "", "பிளாக்கை முடிக்கச் சொல் வேண்டாம்; அடுத்த வரியை உள்ள தள்ளாம எழுதினாலே போதும் மச்சி!"},
     {"append",     Place::Member, "அ.சேர்(மதிப்பு)", ""},
     {"push",       Place::Member, "அ.சேர்(மதிப்பு)", ""},
     {"add",        Place::Member, "அ.சேர்(மதிப்பு)", ""},
@@ -147,6 +156,15 @@ constexpr ForeignWord ROWS[] = {
     {"pop",        Place::Member, "பட்டியல்_அகற்று(அ, இடம்)", "கடைசி உறுப்பு 'அ[நீளம்(அ) கழி 1]'."},
     {"insert",     Place::Member, "பட்டியல்_செருகு(அ, இடம், மதிப்பு)", ""},
     {"sort",       Place::Member, "அ = பட்டியல்_வரிசை(அ)", ""},
+    {"forEach",    Place::Member, "ஒவ்வொன்றாக உறுப்பு இல் அ:", ""},
+    {"map",        Place::Member, "பட்டியல்_மாற்று(அ, விதி)", ""},
+    {"filter",     Place::Member, "பட்டியல்_வடிகட்டு(அ, விதி)", ""},
+    {"reduce",     Place::Member, "பட்டியல்_திரட்டு(அ, தொடக்கம், விதி)", ""},
+    {"slice",      Place::Member, "பட்டியல்_பகுதி(அ, தொடக்கம், முடிவு)", ""},
+    {"extend",     Place::Member, "அ = அ கூட்டு ஆ", ""},
+    {"concat",     Place::Member, "அ = அ கூட்டு ஆ", ""},
+    {"count",      Place::Member, "பட்டியல்_எத்தனை(அ, மதிப்பு)", ""},
+    {"size",       Place::Member, "நீளம்(அ)", ""},
     {"reverse",    Place::Member, "அ = பட்டியல்_தலைகீழ்(அ)", ""},
     {"index",      Place::Member, "பட்டியல்_இடம்(அ, மதிப்பு)", ""},
     {"indexOf",    Place::Member, "பட்டியல்_இடம்(அ, மதிப்பு)", ""},
@@ -155,6 +173,12 @@ constexpr ForeignWord ROWS[] = {
     {"split",      Place::Member, "பிளவு(உரை, பிரிப்பான்)", ""},
     {"join",       Place::Member, "உரை_இணை(பட்டியல், இடையில்)", ""},
     {"replace",    Place::Member, "பதில்(உரை, தேடுவது, புதியது)", ""},
+    {"find",       Place::Member, "உரை_இடம்(உரை, பகுதி)", ""},
+    {"format",     Place::Member, "\"வணக்கம் \" இணை பெயர்", ""},
+    {"isdigit",    Place::Member, "உரை_எண்ணா(உரை)", ""},
+    {"toString",   Place::Member, "\"\" இணை அ", ""},
+    {"toUpperCase", Place::Member, "பெரியஎ(உரை)", ""},
+    {"toLowerCase", Place::Member, "சிறியஎ(உரை)", ""},
     {"upper",      Place::Member, "பெரியஎ(உரை)", ""},
     {"lower",      Place::Member, "சிறியஎ(உரை)", ""},
     {"strip",      Place::Member, "உரை.சுத்தம்()", ""},
@@ -188,10 +212,15 @@ const ForeignWord* findForeignWord(std::string_view word) {
     return found == std::end(ROWS) ? nullptr : found;
 }
 
-std::string remedyOf(const ForeignWord& foreign) {
+std::string remedyOf(const ForeignWord& foreign, std::string_view parent) {
+    constexpr std::string_view PARENT = "{1}";
+    std::string own(foreign.own);
+    if (const std::size_t hole = own.find(PARENT); hole != std::string::npos) {
+        own.replace(hole, PARENT.size(), parent);
+    }
     std::string remedy = "'" + std::string(foreign.word) + "' பொழிலின் சொல் அல்ல";
-    if (!foreign.own.empty()) {
-        remedy += "; '" + std::string(foreign.own) + "' என்று எழுது மச்சி!";
+    if (!own.empty()) {
+        remedy += "; '" + own + "' என்று எழுது மச்சி!";
     } else {
         remedy += ".";
     }

@@ -21,7 +21,7 @@ enum class ForeignPlace : std::uint8_t {
 struct ForeignWord {
     std::string_view word;
     ForeignPlace place;
-    /// What to write in its place; empty if there is nothing of the kind.
+    /// What to write in its place, with {1} for the parent of the structure around; empty if there is nothing of the kind.
     std::string_view own;
     /// What else there is to say, a whole sentence; may be empty.
     std::string_view remark;
@@ -36,6 +36,7 @@ const ForeignWord* findForeignWord(std::string_view word, ForeignPlace place);
 const ForeignWord* findForeignWord(std::string_view word);
 
 /// What to do about the word, for the user.
-std::string remedyOf(const ForeignWord& foreign);
+/// \param parent the name of the parent of the structure around, for words that mean it
+std::string remedyOf(const ForeignWord& foreign, std::string_view parent = "பெற்றோர்_பெயர்");
 
 } // namespace pozhil::language::second

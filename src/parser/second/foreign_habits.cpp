@@ -133,6 +133,13 @@ bool isVariableKind(const Site& site) {
            site.has(TokenType::ASSIGN, site.faulty(), TO_LINE_END);
 }
 
+// """பல வரிகள்"""
+bool isTripleQuote(const Site& site) {
+    const Token& before = site.at(site.before());
+    return before.type == TokenType::STRING && before.value.empty() && site.isFaulty(TokenType::STRING) &&
+           site.touches(site.before(), site.faulty());
+}
+
 // "அவள் "வா" என்றாள்"
 bool isQuoteInText(const Site& site) {
     return site.at(site.before()).type == TokenType::STRING && site.touches(site.before(), site.faulty()) &&
@@ -149,7 +156,8 @@ bool isFormattedText(const Site& site) {
 // சொல் = "அ" பெயர்
 bool isTextBesideValue(const Site& site) {
     const bool isText = site.isFaulty(TokenType::STRING) || site.at(site.before()).type == TokenType::STRING;
-    return site.hasNumber(fault::NO_STATEMENT_END) && isText && canBeginValue(site.at(site.faulty()));
+    return site.hasNumber(fault::NO_STATEMENT_END) && site.faulty() > site.statement() + 1 && isText &&
+           canBeginValue(site.at(site.faulty()));
 }
 
 // அ, ஆ = 1, 2
@@ -198,6 +206,17 @@ bool isElseOfChoice(const Site& site) {
            site.has(TokenType::KEYWORD, site.statement() + 1, site.faulty());
 }
 
+// இல்லை அ சமம் 1:
+bool isElseWithCondition(const Site& site) {
+    return site.hasNumber(fault::NO_STATEMENT_END) && site.beginsWith("இல்லை") && site.isFaulty(TokenType::COLON);
+}
+
+// (அ) => { திரும்பு அ }
+bool isBlockOfArrow(const Site& site) {
+    return site.hasNumber(fault::NO_VALUE) && site.at(site.faulty()).type == TokenType::KEYWORD &&
+           site.has(TokenType::ARROW, site.statement(), site.faulty());
+}
+
 // எனில் அ ஆ:
 bool isValueAfterCondition(const Site& site) {
     const bool isHead = site.beginsWith("எனில்") || site.beginsWith("இல்லைஎனில்") || site.beginsWith("சுற்று");
@@ -235,17 +254,20 @@ constexpr Habit HABITS[] = {
     {isDefaultValue, "பராமீட்டருக்கு இயல்பு மதிப்பு கிடையாது; பெயரை மட்டும் எழுதி, அழைக்கும்போது எல்லா மதிப்புகளையும் கொடு மச்சி!"},
     {isParameterKind, "பராமீட்டரின் வகையை எழுத வேண்டாம்; பெயர் மட்டும் போதும் மச்சி!"},
     {isVariableKind, "மாறியின் வகையை எழுத வேண்டாம்: '{1} = …' என்று எழுது மச்சி!"},
+    {isTripleQuote, "மூன்று மேற்கோள் குறிகள் வேண்டாம்; ஒரே குறிக்குள்ள உரை பல வரிகளில் போகலாம். குறிப்புன்னா ஒவ்வொரு வரிக்கும் முன்னாடி 'ஃ' போடு மச்சி!"},
     {isQuoteInText, "உரைக்குள்ள மேற்கோள் குறி வேணும்னா அதுக்கு முன்னாடி பின்சாய்வு போடு: \"அவள் \\\"வா\\\" என்றாள்\" மாதிரி மச்சி!"},
     {isFormattedText, "உரையோடு மதிப்பைச் சேர்க்க 'இணை' எழுது: \"வணக்கம் \" இணை பெயர் மாதிரி; மேற்கோள் குறிக்கு முன்னாடி எழுத்து வேண்டாம் மச்சி!"},
     {isTextBesideValue, "உரையையும் மதிப்பையும் ஒன்றாக்க நடுவுல 'இணை' எழுது: \"வணக்கம் \" இணை பெயர் மாதிரி மச்சி!"},
-    {isParallelAssignment, "ஒரு கூற்று ஒரு மாறிக்குத்தான் மதிப்பு வைக்கும்; ஒவ்வொரு மாறிக்கும் தனி வரி எழுது: 'அ = 1', அடுத்த வரியில 'ஆ = 2' மாதிரி மச்சி!"},
+    {isParallelAssignment, "ஒரு கூற்று ஒரு மாறிக்குத்தான் மதிப்பு வைக்கும்; ஒவ்வொரு மாறிக்கும் தனி வரி எழுது: 'அ = 1', அடுத்த வரியில 'ஆ = 2' மாதிரி. இரண்டையும் இடம் மாத்தணும்னா மூணாவது மாறி ஒன்று வேணும் மச்சி!"},
     {isValueList, "இங்க ஒரே மதிப்புதான் வரலாம்; பலவற்றை ஒரு பட்டியலா எழுது: '[1, 2]' மாதிரி மச்சி!"},
     {isStrayComma, "இங்க காற்புள்ளி வராது; அதை நீக்கு, இல்லைன்னா அடுத்ததைத் தனி வரியில எழுது மச்சி!"},
     {isDefinitionWithoutWord, "புதுச் செயல்னா முன்னாடி 'செயல்' எழுது: 'செயல் {1}(…):'. இருக்கும் செயலை அழைக்கணும்னா ':' வேண்டாம் மச்சி!"},
     {goesOnBelow, "அடுத்த வரியிலும் தொடரணும்னா முழுசையும் அடைப்புக்குறிக்குள்ள ( ) போடு; இல்லைன்னா விடுபட்ட மதிப்பை இதே வரியில எழுது மச்சி!"},
     {goesOnFromAbove, "இது முந்தைய வரியின் தொடர்ச்சின்னா முழுசையும் அடைப்புக்குறிக்குள்ள ( ) போடு, இல்லைன்னா ஒரே வரியில எழுது மச்சி!"},
     {isElseOfChoice, "நிபந்தனையை முதல்ல எழுது: 'நிபந்தனை எனில் அ இல்லைஎனில் ஆ' மாதிரி மச்சி!"},
+    {isElseWithCondition, "நிபந்தனை இருந்தா 'இல்லைஎனில் நிபந்தனை:' என்று எழுது; இல்லைன்னா 'இல்லை:' மட்டும் போதும் மச்சி!"},
     {isConditionAsValue, "மதிப்பைத் தேர்ந்தெடுக்க நிபந்தனை முன்னாடி வரணும்: 'நிபந்தனை எனில் அ இல்லைஎனில் ஆ' மாதிரி மச்சி!"},
+    {isBlockOfArrow, "'=>'-க்கு அப்புறம் ஒரே மதிப்புதான் வரும்; பல கூற்றுகள்னா 'வினை(அ):' என்று எழுதி, அவற்றைக் கீழ உள்ள தள்ளி எழுது மச்சி!"},
     {isValueAfterCondition, "நிபந்தனை இங்க முடிஞ்சா ':' போடு; முடியலைன்னா நடுவுல 'சமம்', 'மற்றும்' மாதிரி ஒரு சொல் விட்டுப்போயிருக்கு மச்சி!"},
     {isNameAlone, "'{1}' செயல்னா அடைப்புக்குறி போட்டு அழை: '{1}()'. மாறின்னா 'அச்சிடு({1})' என்று அச்சிடு மச்சி!"},
 };
@@ -263,8 +285,10 @@ const ForeignWord* foreignBeginning(const TokenReader& tokens, std::size_t state
     case TokenType::COMPOUND_ASSIGN:
     case TokenType::LBRACKET:
     case TokenType::DOT: return nullptr;
-    default: return foreignWordAt(tokens, statement, ForeignPlace::Statement);
+    default: break;
     }
+    const bool isElseIf = tokens.at(statement).value == "else" && tokens.at(statement + 1).value == "if";
+    return isElseIf ? findForeignWord("elif") : foreignWordAt(tokens, statement, ForeignPlace::Statement);
 }
 
 /// The row of a word within the statement that the fault comes of; null if there is none.

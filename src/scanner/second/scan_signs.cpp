@@ -26,6 +26,9 @@ struct ForeignSign {
 constexpr const char* POWER_REMEDY = "அடுக்கு ஒரு செயல்: 'அ ** ஆ' என்பதை 'அடுக்கு(அ, ஆ)' என்று எழுது மச்சி!";
 constexpr const char* SLASHES_REMEDY =
     "குறிப்புன்னா 'ஃ' போட்டு ஒரு இடைவெளி விடு; முழு எண்ணாக வகுக்கணும்னா 'கீழ்எண்(அ வகு ஆ)' என்று எழுது மச்சி!";
+constexpr const char* BRACES_REMEDY =
+    "'{'-க்குப் பதில் ':' எழுதி, பிளாக்கின் வரிகளை நான்கு இடைவெளி உள்ள தள்ளு; இறுதியில '}' வேண்டாம் மச்சி!";
+constexpr const char* STAR_REMEDY = "பல மதிப்புகளை ஒன்றா வாங்கவோ பிரிக்கவோ '*' உதவாது; ஒரு பட்டியலைக் கொடு மச்சி!";
 constexpr const char* ARROW_REMEDY =
     "வினைக்கு '(அ) => அ கூட்டு 1' மாதிரி '=>' எழுது; செயல் தரும் மதிப்பின் வகையை எழுத வேண்டாம் மச்சி!";
 
@@ -170,7 +173,7 @@ bool Scan::scanForeignBlock() {
     const bool opens = text_[position_++] == '{';
     foreignBlocks_ += opens ? 1 : -1;
     if (opens) {
-        fault(fault::NO_SIGN, begin, {"':'", "'{'"});
+        fault(fault::NO_COLON, begin, {"':'", "'{'"}, BRACES_REMEDY);
     }
     if (opens && !tokens_.isAtLineStart()) {
         push(TokenType::COLON, ":", begin);
@@ -204,7 +207,9 @@ bool Scan::scanForeignOperator() {
     }
     const std::size_t begin = position_;
     position_ += found->symbol.size();
-    fault(fault::SIGN_FOR_WORD, begin, {std::string(found->symbol), std::string(found->word)});
+    const bool isStar = found->symbol == "*" && !endsOperand();
+    fault(fault::SIGN_FOR_WORD, begin, {std::string(found->symbol), std::string(found->word)},
+          isStar ? STAR_REMEDY : "");
     push(found->token, std::string(found->word), begin);
     return true;
 }
