@@ -36,6 +36,20 @@ TEST(Hints, TellASlipInAField) {
                 ElementsAre(HasSubstr("'வயது'")));
 }
 
+TEST(Hints, TellAFieldThatIsWrittenWithoutItsObject) {
+    EXPECT_THAT(hints("கட்டமைப்பு நபர்:\n    வயது = 0\n    செயல் f(தான், எ):\n        வயது = எ\n"),
+                ElementsAre(HasSubstr("'தான்.வயது'")));
+    EXPECT_THAT(hints("கட்டமைப்பு நபர்:\n    வயது = 0\n    செயல் f(தான், எ):\n        வயது = எ\n        திரும்பு வயது\n"),
+                IsEmpty())
+        << "a variable of its own";
+}
+
+TEST(Hints, TellArgumentsGivenByName) {
+    EXPECT_THAT(hints("செயல் f(எ):\n    விடு\nf(எ = 1)\nஅச்சிடு(1, end = \"\")\n"),
+                ElementsAre(HasSubstr("எ = 1: 'எ = …'"), HasSubstr("'end = …'")));
+    EXPECT_THAT(hints("எ = 1\nஅச்சிடு(எ கூட்டு 1)\nஎ = எ = 2\n"), IsEmpty());
+}
+
 TEST(Hints, AreSilentWhenInDoubt) {
     EXPECT_THAT(hints("மொத்தம் = 0\nமொததம் = 1\nஅச்சிடு(மொத்தம், மொததம்)\n"), IsEmpty()) << "both are read";
     EXPECT_THAT(hints("மொததம் = 1\n"), IsEmpty()) << "no name is near";

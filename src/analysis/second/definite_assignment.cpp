@@ -2,6 +2,7 @@
 
 #include "analysis/second/calls_ahead.h"
 #include "analysis/second/fault_numbers.h"
+#include "analysis/second/structures.h"
 #include "analysis/second/walk.h"
 
 #include <algorithm>
@@ -282,6 +283,11 @@ private:
             (facts != knowledge_.model.variables.end() && facts->second.isAssignedByPublic);
         if (mayBeAssigned_.count(variable) != 0 || isAssignedElsewhere ||
             !knowledge_.toldUnset.insert(variable).second) {
+            return;
+        }
+        const auto* const inside = function_ == nullptr ? nullptr : function_->structure;
+        if (inside != nullptr && findField(*inside, variable->name).field != nullptr) {
+            knowledge_.model.faults.add(fault::BARE_MEMBER, place, {variable->name, inside->name, "பண்பு"});
             return;
         }
         const bool hidesFileVariable =

@@ -128,6 +128,11 @@ private:
         if (isRead(variable) || !isAssigned(variable)) {
             return;
         }
+        const resolved::Structure* const inside = variable.owner == nullptr ? nullptr : variable.owner->structure;
+        if (inside != nullptr && findField(*inside, variable.name).field != nullptr) {
+            tell(variable.place, variable.name, "மாறி", std::string(SELF_NAME) + "." + variable.name);
+            return;
+        }
         std::vector<std::string_view> known;
         for (const auto& other : model_.program.variables) {
             const bool isNear =

@@ -17,6 +17,7 @@ constexpr const char* NO_FINALLY =
     "எப்படியும் நடக்க வேண்டியதை 'முயற்சி' … 'பிடி' பிளாக்குகளுக்குக் கீழ, அவற்றுக்கு நேரா எழுது மச்சி!";
 constexpr const char* NO_NAMESPACES =
     "இறக்கிய கோப்பின் எல்லாச் செயல்களும் அவற்றின் பெயராலேயே கிடைக்கும்; ஒவ்வொன்றா இறக்க வேண்டாம் மச்சி!";
+constexpr const char* OWN_FUNCTIONS = "'வர்க்கமூலம்', 'சீரற்ற_எண்', 'இப்போதுநேரம்' மாதிரியானவை இறக்காமலே கிடைக்கும்.";
 constexpr const char* NO_REMOVING = "ஒரு மாறியை நீக்க வேண்டாம்; அகராதியின் சாவியை 'நீக்கு(அகராதி, சாவி)' என்று நீக்கலாம் மச்சி!";
 constexpr const char* OUTER_VARIABLES = "வெளிச் செயலின் மாறியை உட்செயல் நேராவே மாத்தலாம்; கோப்பின் மாறிக்கு மட்டும் 'பொது' வேணும்.";
 constexpr const char* DECIMALS_TOO = "தசம எண்ணையும் 'எண்' படிக்கும்.";
@@ -50,6 +51,7 @@ constexpr ForeignWord ROWS[] = {
     {"in",       Place::Inside, "பட்டியல்.கொண்டுள்ளது(மதிப்பு)", "சுற்றுல மட்டும் 'இல்' வரும்: 'ஒவ்வொன்றாக உறுப்பு இல் பட்டியல்:'."},
     {"of",       Place::Inside, "ஒவ்வொன்றாக உறுப்பு இல் பட்டியல்:", ""},
     {"is",       Place::Inside, "சமம்", "'is not'-க்கு 'சமமில்லை'; மதிப்பு இல்லையான்னு பார்க்க 'அ சமம் வெறுமை'."},
+    {"then",     Place::Inside, ":", ""},
     {"mod",      Place::Inside, "மீதி", ""},
 
     // Functions, structures, files.
@@ -58,12 +60,12 @@ constexpr ForeignWord ROWS[] = {
     {"func",     Place::Statement, "செயல் பெயர்(அ, ஆ):", ""},
     {"fn",       Place::Statement, "செயல் பெயர்(அ, ஆ):", ""},
     {"return",   Place::Statement, "திரும்பு மதிப்பு", ""},
-    {"yield",    Place::Statement, "திரும்பு மதிப்பு", "பல மதிப்புகளைப் பட்டியலா சேர்த்துத் திருப்பு."},
+    {"yield",    Place::Statement, "திரும்பு மதிப்பு", "பல மதிப்புகளைப் பட்டியலாச் சேர்த்துத் திருப்பு."},
     {"class",    Place::Statement, "கட்டமைப்பு பெயர்:", ""},
     {"struct",   Place::Statement, "கட்டமைப்பு பெயர்:", ""},
     {"enum",     Place::Statement, "வகை பெயர்:", ""},
     {"interface", Place::Statement, "வடிவமைப்பு பெயர்:", ""},
-    {"import",   Place::Statement, "நூஇறக்கி \"கோப்பு\"", ""},
+    {"import",   Place::Statement, "நூஇறக்கி \"கோப்பு\"", OWN_FUNCTIONS},
     {"include",  Place::Statement, "நூஇறக்கி \"கோப்பு\"", ""},
     {"from",     Place::Statement, "நூஇறக்கி \"கோப்பு\"", NO_NAMESPACES},
     {"global",   Place::Statement, "பொது பெயர்", ""},
