@@ -32,7 +32,8 @@ def test_reserved_words_are_those_that_are_refused():
 
 
 def test_reserved_words_of_the_second_edition_are_those_that_are_refused():
-    words = sorted({row["word"] for row in vocabulary()["keywords"]})
+    # With a dot in it, a word is a member of a name.
+    words = sorted({row["word"] for row in vocabulary()["keywords"] if "." not in row["word"]})
     listed = guide.words(guide.GUIDE / "15_இரண்டாம்_பதிப்பு.md")
     with ThreadPoolExecutor() as workers:
         refused = [word for word, bad in zip(words, workers.map(_is_refused_in_second, words)) if bad]

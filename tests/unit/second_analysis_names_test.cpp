@@ -283,5 +283,5 @@ TEST(SecondNames, OneFaultMoreIsFoundThanAreTold) {
     for (int count = 0; count < 12; ++count) {
         text += "நிறுத்து\n";
     }
-    EXPECT_EQ(meaningFaults(text).size(), MAX_FOUND_FAULTS);
+    EXPECT_EQ(meaningFaults(text).size(), pozhil::MAX_FOUND_FAULTS);
 }
