@@ -7,8 +7,7 @@ from contextlib import ExitStack, contextmanager
 import pytest
 
 from support import texts as t
-from support.console import animation_line, behind_animation, output_error_line
-from support.process import run
+from support.console import animation_line, behind_animation, hint_lines
 from support.second_box import split_boxes
 from support.toolchain import PROGRAM_OUTPUT
 
@@ -19,6 +18,9 @@ FAULTY = MARKER + "அச்சிடு(இல்லாதது)\nஅச்ச
 ARCHIVE = "libpozhil_engine.a"
 
 NO_WEB = "பிழை: வலைச் செயலிகளுக்கு இரண்டாம் பதிப்பு இன்னும் இல்லை!"
+MORE_FAULTS = (
+    f"{t.GOLD}  இன்னும் பிழைகள் உள்ளன; முதல் 10 மட்டும் மேலே உள்ளன. இவற்றைச் சரி செய்துவிட்டு மீண்டும் ஓட்டு மச்சி!{t.RESET}\n\n"
+)
 OUR_FAULT = "பிழை: இது பொழிலின் தவறு, உன் நிரலின் தவறு அல்ல"
 NO_ARCHIVE = "கிடைக்கவில்லை! பொழிலை மீண்டும் நிறுவிக்கொள்."
 
@@ -116,10 +118,43 @@ def test_faults_are_boxes_and_nothing_is_built(place, tools):
     assert tools.calls() == []
 
 
-def test_ten_faults_are_told(place):
-    place.write(SOURCE, MARKER + "".join(f"அச்சிடு(இல்லாதது{number})\n" for number in range(15)))
+@pytest.mark.parametrize("count, note", [(10, ""), (11, MORE_FAULTS), (15, MORE_FAULTS)])
+def test_ten_faults_are_told_and_that_there_are_more(place, count, note):
+    place.write(SOURCE, MARKER + "".join(f"அச்சிடு(இல்லாதது{number})\n" for number in range(count)))
     result = place.run(SOURCE)
-    assert [box.line for box in split_boxes(result.out)[1]] == list(range(2, 12))
+    assert result.out.endswith(note)
+    assert [box.line for box in split_boxes(result.out.removesuffix(note))[1]] == list(range(2, 12))
+
+
+# What the first line asks for.
+
+
+def test_banner_names_the_edition(place):
+    for text, version in ((HELLO, t.BANNER_SECOND_VERSION), (HELLO.removeprefix(MARKER), t.BANNER_VERSION)):
+        place.write(SOURCE, text)
+        assert f"பதிப்பு: {version}  |" in place.run(SOURCE).out
+
+
+ALMOST_MARKED = ["ஃ பொழில் 2 என் நிரல்", "ஃ பொழில் இரண்டு", "ஃ பொழில் பதிப்பு 2"]
+
+
+@pytest.mark.parametrize("line", ALMOST_MARKED)
+@pytest.mark.parametrize("value, count", [("1", 1), ("0", 0)])
+def test_a_line_that_almost_asks_for_the_edition_is_a_hint(place, line, value, count):
+    place.env["POZHIL_HINTS"] = value
+    place.write(SOURCE, f"{line}\nஅச்சிடு(1)\n")
+    result = place.run(SOURCE)
+    shown_hints, rest = hint_lines(result.err, SOURCE)
+    assert (result.status, len(shown_hints), rest) == (0, count, "")
+    assert all(hint.startswith("வரி 1: ") and "'ஃ பொழில் 2' என்று மட்டும்" in hint for hint in shown_hints)
+    assert f"பதிப்பு: {t.BANNER_VERSION}  |" in result.out
+
+
+def test_it_is_a_hint_beside_the_fault_that_it_brings(place):
+    place.write(SOURCE, "# பொழில் 2\nஅச்சிடு(1)\n")
+    result = place.run(SOURCE)
+    assert (result.status, len(hint_lines(result.err, SOURCE)[0])) == (1, 1)
+    assert "பொழி-101" in result.out
 
 
 def test_a_number_that_no_edition_has(place, tools):

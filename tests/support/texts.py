@@ -67,6 +67,7 @@ CANNOT_WRITE_BEHIND = "' கோப்பில் எழுத முடிய�
 FILE_LIMIT = "கோப்புகளின் அளவுக்குக் கணினி வைத்த வரம்பை மீறுகிறது; அதை உயர்த்தவும் (ulimit -f).\n"
 BANNER_NAME = "பொ ழி ல்"
 BANNER_VERSION = "0.2-முதல்_பதிப்பு"
+BANNER_SECOND_VERSION = "0.2-இரண்டாம்_பதிப்பு"
 ANIMATION_BEFORE = "✨ பொழில் -> "
 ANIMATION_BEHIND = " தொகுக்கப்படுகிறது..."
 OBJECT_NOTE = "⚙️ சிஸ்டம் ஆப்ஜெக்ட் ஃபைல் புதிதாக உருவாக்கப்படுகிறது...\n"
