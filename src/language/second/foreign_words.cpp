@@ -30,6 +30,7 @@ constexpr ForeignWord ROWS[] = {
     {"if",       Place::Statement, "எனில் நிபந்தனை:", ""},
     {"elif",     Place::Statement, "இல்லைஎனில் நிபந்தனை:", ""},
     {"elseif",   Place::Statement, "இல்லைஎனில் நிபந்தனை:", ""},
+    {"else if",  Place::Statement, "இல்லைஎனில் நிபந்தனை:", ""},
     {"else",     Place::Statement, "இல்லை:", ""},
     {"while",    Place::Statement, "சுற்று நிபந்தனை:", ""},
     {"for",      Place::Statement, "ஒவ்வொன்றாக உறுப்பு இல் பட்டியல்:", "எண்ணிக்கைக்கு 'ஒவ்வொன்றாக எ இல் வரம்பு(10):'."},

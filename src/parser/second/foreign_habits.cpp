@@ -288,7 +288,7 @@ const ForeignWord* foreignBeginning(const TokenReader& tokens, std::size_t state
     default: break;
     }
     const bool isElseIf = tokens.at(statement).value == "else" && tokens.at(statement + 1).value == "if";
-    return isElseIf ? findForeignWord("elif") : foreignWordAt(tokens, statement, ForeignPlace::Statement);
+    return isElseIf ? findForeignWord("else if") : foreignWordAt(tokens, statement, ForeignPlace::Statement);
 }
 
 /// The row of a word within the statement that the fault comes of; null if there is none.
