@@ -28,10 +28,10 @@ const NODE = readonly(['AbortController', 'Buffer', 'URL', 'clearInterval', 'cle
     'performance', 'process', 'setImmediate', 'setInterval', 'setTimeout']);
 // Functions that a test hands to its page run there.
 const PAGE = readonly(['CanvasRenderingContext2D', 'CustomEvent', 'Event', 'FS', 'FontFace', 'HTMLCanvasElement',
-    'HTMLElement', 'HTMLInputElement', 'Image', 'KeyboardEvent', 'Module', 'Node', 'OffscreenCanvas',
+    'HTMLElement', 'HTMLInputElement', 'Image', 'KeyboardEvent', 'WheelEvent', 'Module', 'Node', 'OffscreenCanvas',
     'WebGL2RenderingContext', 'WebGLRenderingContext', 'atob', 'createImageBitmap', 'devicePixelRatio', 'document',
     'firebase', 'getComputedStyle', 'innerHeight', 'innerWidth', 'localStorage', 'location', 'navigator',
-    'requestAnimationFrame', 'structuredClone', 'window']);
+    'requestAnimationFrame', 'structuredClone', 'visualViewport', 'window']);
 
 export default [
     { ignores: ['build/**', 'third_party/**', '**/node_modules/**', '**/வெளியீடு/**'] },
@@ -45,5 +45,16 @@ export default [
         languageOptions: { ecmaVersion: 2022, sourceType: 'script', globals: { ...NODE, ...PAGE } },
         // A hole looks like a name, and what stands in a <script> is global.
         rules: { ...RULES, 'no-undef': 'off', 'no-implicit-globals': 'off' },
+    },
+    {
+        // They share the page with each other and with what em++ makes: what they define is global on purpose.
+        files: ['உள்ளடக்கம்/page/*.js'],
+        languageOptions: {
+            ecmaVersion: 2022, sourceType: 'script',
+            globals: { ...NODE, ...PAGE, ...readonly(['Browser', 'GL', 'GLFW', 'pozhilFrames', 'pozhilPointer', 'HTMLScriptElement', 'TextDecoder',
+                'URL', 'Blob', 'WebAssembly', 'currentVersion', 'history', 'matchMedia', 'screen', 'sessionStorage']) },
+        },
+        rules: { ...RULES, 'no-redeclare': 'off', 'no-implicit-globals': 'off',
+                 'no-unused-vars': ['error', { caughtErrors: 'none', varsIgnorePattern: '^(Module|pozhil)' }] },
     },
 ];

@@ -90,6 +90,16 @@ TEST_F(PageTemplate, IsReadFromTheInstallation) {
     EXPECT_EQ(readTemplate("நிறுவல்"), "a\r\nb");
 }
 
+TEST_F(PageTemplate, ScriptsComeInTheirPlaces) {
+    write("நிறுவல்/உள்ளடக்கம்/template.html",
+          R"(a<script src="page/ஒன்று.js"></script>b<script src="page/two.js"></script>c<script src="x.js"></script>)");
+    write("நிறுவல்/உள்ளடக்கம்/page/ஒன்று.js", "f('<script src=\"page/ஒன்று.js\"></scr');\n");
+    EXPECT_EQ(readTemplate("நிறுவல்"), std::nullopt);
+    write("நிறுவல்/உள்ளடக்கம்/page/two.js", "g();\n");
+    EXPECT_EQ(readTemplate("நிறுவல்"), "a<script>\nf('<script src=\"page/ஒன்று.js\"></scr');\n</script>b<script>\ng();\n"
+                                      "</script>c<script src=\"x.js\"></script>");
+}
+
 TEST_F(PageTemplate, FolderInItsPlaceCannotBeRead) {
     std::filesystem::create_directories("நிறுவல்/உள்ளடக்கம்/template.html");
     EXPECT_EQ(readTemplate("நிறுவல்"), std::nullopt);
@@ -105,6 +115,7 @@ TEST_F(PageTemplate, OfTheInstallationHasEveryPlaceholder) {
     EXPECT_THAT(*page, HasSubstr(R"(<canvas id="canvas")"));
     EXPECT_THAT(*page, HasSubstr(R"(<html lang="ta">)"));
     EXPECT_THAT(filled(*page), Not(HasSubstr("{{{")));
+    EXPECT_THAT(*page, Not(HasSubstr("src=\"page/")));
 }
 
 TEST_F(EmbeddedIcon, TypeFollowsTheEnding) {

@@ -48,6 +48,32 @@ void insertBeforeEndOfBody(std::string& page, const std::string& text) {
     }
 }
 
+std::string textOf(const std::vector<unsigned char>& bytes) {
+    return {bytes.begin(), bytes.end()};
+}
+
+/// Puts the scripts that a template names in the place of their names, so that the page comes as one file.
+/// \return nothing if one of them can't be read
+std::optional<std::string> withScripts(std::string page, const fs::path& directory) {
+    constexpr std::string_view BEFORE = R"(<script src="page/)";
+    constexpr std::string_view AFTER = R"("></script>)";
+    for (std::size_t begin = page.find(BEFORE); begin != std::string::npos; begin = page.find(BEFORE, begin)) {
+        const std::size_t name = begin + BEFORE.size();
+        const std::size_t end = page.find(AFTER, name);
+        if (end == std::string::npos) {
+            break;
+        }
+        const auto script = readBytes(directory / "page" / fs::u8path(page.substr(name, end - name)));
+        if (!script) {
+            return std::nullopt;
+        }
+        const std::string text = "<script>\n" + textOf(*script) + "</script>";
+        page.replace(begin, end + AFTER.size() - begin, text);
+        begin += text.size();
+    }
+    return page;
+}
+
 std::string reloadScript(int version) {
     constexpr std::size_t INDENTATION = 12;
     std::ostringstream script;
@@ -70,8 +96,9 @@ std::string imageType(const std::string& path) {
 } // namespace
 
 std::optional<std::string> readTemplate(const fs::path& appDirectory) {
-    const auto bytes = readBytes(appDirectory / "உள்ளடக்கம்" / "template.html");
-    return bytes ? std::optional<std::string>(std::in_place, bytes->begin(), bytes->end()) : std::nullopt;
+    const fs::path directory = appDirectory / "உள்ளடக்கம்";
+    const auto bytes = readBytes(directory / "template.html");
+    return bytes ? withScripts(textOf(*bytes), directory) : std::nullopt;
 }
 
 std::string fillTemplate(std::string page, const PageValues& values) {

@@ -18,7 +18,8 @@ struct PageValues {
     int version = 0;
 };
 
-/// The page template of an installation, nothing if it can't be read.
+/// The page template of an installation with the scripts that it names (\c page/<name>, beside it) inside it; nothing if
+/// any of these files can't be read.
 std::optional<std::string> readTemplate(const std::filesystem::path& appDirectory);
 
 /// Fills the placeholders of a page template, and adds the script that reloads the page when the server tells of a

@@ -77,6 +77,20 @@ export class AppPage {
 
     // --- pixels ---
 
+    /// What the screen shows, as a base64 text.
+    async #screenshot(scale) {
+        if (scale === 'device' && this.isRescaled) {
+            // Playwright goes on counting in the pixels that the window began with.
+            return (await (await this.devtools()).send('Page.captureScreenshot')).data;
+        }
+        return (await this.page.screenshot({ scale })).toString('base64');
+    }
+
+    async devtools() {
+        this.session ??= await this.page.context().newCDPSession(this.page);
+        return this.session;
+    }
+
     /// The colours, [red, green, blue], of pixels of the screen, counted in CSS pixels.
     async pixels(points) {
         await this.frames();
@@ -94,10 +108,11 @@ export class AppPage {
         return (await this.pixels([[x, y]]))[0];
     }
 
-    /// The smallest rectangle that holds all pixels of the screen of exactly this colour; null if there are none.
-    async area(colour) {
+    /// The smallest rectangle that holds all pixels of the screen of exactly this colour; null if there are none. It is
+    /// counted in CSS pixels, or in those of the device with the scale 'device'.
+    async area(colour, scale = 'css') {
         await this.frames();
-        const image = (await this.page.screenshot({ scale: 'css' })).toString('base64');
+        const image = await this.#screenshot(scale);
         return this.page.evaluate(async ([data, [red, green, blue]]) => {
             const blob = await (await fetch(`data:image/png;base64,${data}`)).blob();
             const bitmap = await createImageBitmap(blob);
@@ -116,6 +131,20 @@ export class AppPage {
             }
             return right < 0 ? null : { x: left, y: top, width: right - left + 1, height: bottom - top + 1 };
         }, [image, colour]);
+    }
+
+    /// The colours of a row of pixels of the device.
+    async deviceRow(y) {
+        await this.frames();
+        const image = await this.#screenshot('device');
+        return this.page.evaluate(async ([data, row]) => {
+            const blob = await (await fetch(`data:image/png;base64,${data}`)).blob();
+            const bitmap = await createImageBitmap(blob);
+            const context = new OffscreenCanvas(bitmap.width, 1).getContext('2d');
+            context.drawImage(bitmap, 0, -row);
+            const bytes = Array.from(context.getImageData(0, 0, bitmap.width, 1).data);
+            return Array.from({ length: bitmap.width }, (_, x) => bytes.slice(4 * x, 4 * x + 3));
+        }, [image, y]);
     }
 
     // --- the user's hands ---
@@ -146,9 +175,56 @@ export class AppPage {
         await this.frames(4);
     }
 
+    async #touch(type, points) {
+        await (await this.devtools()).send('Input.dispatchTouchEvent',
+                                           { type, touchPoints: points.map(([x, y], id) => ({ x, y, id })) });
+    }
+
+    /// Puts fingers down at these points; `moveFingers` moves them, `liftFingers` takes them away.
+    async putFingers(...points) {
+        await this.#touch('touchStart', points);
+    }
+
+    async moveFingers(...points) {
+        await this.#touch('touchMove', points);
+    }
+
+    async liftFingers() {
+        await this.#touch('touchEnd', []);
+    }
+
+    async tap(x, y) {
+        await this.putFingers([x, y]);
+        await this.liftFingers();
+        await this.frames(3);
+    }
+
+    /// Moves a finger in steps and leaves it there for a moment, so that nothing glides.
+    async swipe([fromX, fromY], [toX, toY], { steps = 5, rest = 150 } = {}) {
+        await this.putFingers([fromX, fromY]);
+        for (let step = 1; step <= steps; step++) {
+            await this.moveFingers([fromX + (toX - fromX) * step / steps, fromY + (toY - fromY) * step / steps]);
+            await this.page.waitForTimeout(16);
+        }
+        await this.page.waitForTimeout(rest);
+        await this.liftFingers();
+        await this.frames(3);
+    }
+
     async resize(width, height) {
         await this.page.setViewportSize({ width, height });
         await this.page.waitForFunction(size => innerWidth === size[0] && innerHeight === size[1], [width, height]);
+        await this.frames(3);
+    }
+
+    /// The window as browsers leave it when the user zooms the page, moves it to another screen, or turns a phone.
+    async rescale(width, height, scale) {
+        this.isRescaled = true;
+        await (await this.devtools()).send('Emulation.setDeviceMetricsOverride',
+                                           { width, height, deviceScaleFactor: scale, mobile: false });
+        await this.page.waitForFunction(
+            wanted => innerWidth === wanted[0] && innerHeight === wanted[1] && devicePixelRatio === wanted[2],
+            [width, height, scale]);
         await this.frames(3);
     }
 

@@ -14,6 +14,9 @@ const TIMEOUT = 300_000;
 // Small, since the machine's processor draws the pages.
 const WINDOW = { width: 500, height: 400 };
 
+/// A phone, as the options of a test.
+export const PHONE = { viewport: { width: 390, height: 844 }, deviceScaleFactor: 3, isMobile: true, hasTouch: true };
+
 const server = new PageServer();
 let browser;
 

@@ -1,0 +1,159 @@
+// The scripts of the page, run without a browser.
+
+import assert from 'node:assert/strict';
+import { readFileSync } from 'node:fs';
+import { test } from 'node:test';
+import vm from 'node:vm';
+
+const PAGE = new URL('../../உள்ளடக்கம்/page/', import.meta.url);
+
+/// A window with these scripts of the page. `send` hands an event to their listeners, `frame` lets time pass and draws by
+/// `draw`; it tells whether the page wants that.
+function page(...scripts) {
+    const listeners = [];
+    const element = {
+        addEventListener() {}, matches: () => false, blur() {},
+        getBoundingClientRect: () => ({ left: 0, top: 0 }),
+    };
+    const window = {
+        innerWidth: 500, innerHeight: 400, devicePixelRatio: 1, mouseX: 0, mouseY: 0, wheelDelta: 0, wheelDeltaX: 0,
+        addEventListener: (type, listener) => { listeners.push([type, listener]); },
+        document: { documentElement: element, activeElement: element, getElementById: () => element, addEventListener() {} },
+        GLFW: { active: { buttons: 0 } }, HTMLElement: class {}, now: 0, draw() {},
+    };
+    window.window = window;
+    window.performance = { now: () => window.now };
+    vm.createContext(window);
+    for (const name of scripts) {
+        vm.runInContext(readFileSync(new URL(`${name}.js`, PAGE), 'utf8'), window, { filename: `${name}.js` });
+    }
+    window.send = (type, event) => {
+        const sent = { type, target: element, stopPropagation() {}, stopImmediatePropagation() {}, preventDefault() {},
+                       ...event };
+        listeners.filter(([wanted]) => wanted === type).forEach(([, listener]) => listener(sent));
+    };
+    window.frame = milliseconds => {
+        window.now += milliseconds;
+        const { preMainLoop, postMainLoop } = window.pozhilFrames.hooks;
+        const draws = preMainLoop() !== false;
+        if (draws) {
+            window.draw();
+            postMainLoop();
+        }
+        return draws;
+    };
+    return window;
+}
+
+test('a canvas has whole pixels, and as many points as these take or a little more', () => {
+    const { pozhilScreen } = page('frames', 'screen');
+    for (const ratio of [1, 1.1, 1.25, 1.5, 1.75, 2, 2.625, 3]) {
+        for (let points = 1; points < 2000; points += 7) {
+            const size = pozhilScreen.sizeOf(points, ratio, ratio);
+            assert.ok(Number.isInteger(size.pixels) && size.pixels >= points * ratio - 1 / 32, `${points} at ${ratio}`);
+            assert.ok(size.pixels < points * ratio + 1, `${points} at ${ratio}`);
+            // The text canvas takes the whole pixels of these points.
+            assert.equal(Math.floor(Math.fround(size.points) * ratio), size.pixels, `${points} at ${ratio}`);
+            assert.equal(size.points * 64 % 1, 0);
+        }
+    }
+});
+
+test('a canvas takes no more pixels than can be told apart, held, and drawn', () => {
+    const { pozhilScreen } = page('frames', 'screen');
+    assert.equal(pozhilScreen.pixelsAPoint(390, 844, 3, 8192), 3);
+    assert.equal(pozhilScreen.pixelsAPoint(390, 844, 5, 8192), 3);
+    assert.equal(pozhilScreen.pixelsAPoint(390, 844, 0.25, 8192), 0.25);
+    assert.equal(pozhilScreen.pixelsAPoint(5000, 100, 2, 8192), 8192 / 5000);
+    const huge = pozhilScreen.pixelsAPoint(5000, 5000, 5, 16384);
+    assert.ok(huge < 3 && (5000 * huge) ** 2 <= 32 * 1024 * 1024 + 1);
+    assert.deepEqual({ ...pozhilScreen.sizeOf(100, 5, 3) }, { pixels: 300, points: 100 });
+    assert.deepEqual({ ...pozhilScreen.sizeOf(1, 0.25, 0.1) }, { pixels: 1, points: 1 });
+});
+
+const touches = (...points) => points.map(([clientX, clientY]) => ({ clientX, clientY }));
+
+test('a finger that shakes presses; one that moves on scrolls by all of its way', () => {
+    const tab = page('frames', 'pointer', 'touch');
+    tab.send('touchstart', { touches: touches([100, 200]), timeStamp: 0 });
+    assert.deepEqual([tab.mouseX, tab.mouseY], [100, 200]);
+    tab.send('touchmove', { touches: touches([104, 196]), timeStamp: 10 });
+    assert.deepEqual([tab.wheelDelta, tab.mouseClicked], [0, undefined]);
+    tab.send('touchmove', { touches: touches([104, 170]), timeStamp: 20 });
+    assert.equal(tab.wheelDelta, 30);
+    tab.send('touchend', { touches: [], timeStamp: 500 });
+    assert.equal(tab.mouseClicked, undefined);
+    assert.equal(tab.mouseX, -9999);
+
+    tab.send('touchstart', { touches: touches([50, 60]), timeStamp: 600 });
+    tab.send('touchend', { touches: [], timeStamp: 900 });
+    assert.deepEqual([tab.mouseClicked, tab.mouseX, tab.GLFW.active.buttons], [1, 50, 1]);
+    tab.frame(16);
+    assert.deepEqual([tab.mouseX, tab.GLFW.active.buttons, tab.mouseDownState], [-9999, 0, 0]);
+});
+
+test('a glide goes as far as its speed says, whatever the frames, and ends', () => {
+    const ways = [8, 16, 50].map(milliseconds => {
+        const tab = page('frames', 'pointer', 'touch');
+        tab.send('touchstart', { touches: touches([100, 300]), timeStamp: 0 });
+        for (let time = 10; time <= 100; time += 10) {
+            tab.now = time;
+            tab.send('touchmove', { touches: touches([100, 300 - time]), timeStamp: time });
+        }
+        tab.send('touchend', { touches: [], timeStamp: 100 });
+        let way = 0;
+        tab.wheelDelta = 0;
+        tab.draw = () => {
+            way += tab.wheelDelta;
+            tab.wheelDelta = 0;
+        };
+        for (let frames = 0; frames < 3000 / milliseconds; frames++) {
+            tab.frame(milliseconds);
+        }
+        assert.equal(tab.pozhilTouch.isMoving(), false);
+        assert.equal(tab.mouseX, -9999);
+        return way;
+    });
+    // A point in a millisecond, which fades with a time of 325.
+    ways.forEach(way => assert.ok(way > 310 && way <= 325, String(ways)));
+});
+
+test('a finger taken away by the system presses nothing', () => {
+    const tab = page('frames', 'pointer', 'touch');
+    tab.send('touchstart', { touches: touches([100, 200]), timeStamp: 0 });
+    tab.send('touchcancel', { touches: [], timeStamp: 10 });
+    assert.equal(tab.mouseClicked, undefined);
+    assert.equal(tab.mouseX, -9999);
+});
+
+test('what browsers do for a mouse after a touch is not done twice', () => {
+    const tab = page('frames', 'pointer', 'touch');
+    const stopped = (type, timeStamp) => {
+        let count = 0;
+        tab.send(type, { timeStamp, stopImmediatePropagation: () => { count++; } });
+        return count > 0;
+    };
+    assert.equal(stopped('mousedown', 50), false);
+    tab.send('touchstart', { touches: touches([100, 200]), timeStamp: 100 });
+    tab.send('touchend', { touches: [], timeStamp: 150 });
+    assert.deepEqual([stopped('mousedown', 200), stopped('mouseup', 500), stopped('mousedown', 1500)],
+                     [true, true, false]);
+});
+
+test('a wheel waits three frames for somebody to take it', () => {
+    const tab = page('frames', 'pointer');
+    tab.wheelDelta = 100;
+    tab.frame(16);
+    tab.frame(16);
+    assert.equal(tab.wheelDelta, 100);
+    tab.frame(16);
+    assert.equal(tab.wheelDelta, 0);
+    assert.equal(tab.wheelDeltaX, 0);
+});
+
+test('without a size nothing is drawn', () => {
+    const tab = page('frames');
+    assert.equal(tab.frame(16), true);
+    tab.innerHeight = 0;
+    assert.equal(tab.frame(16), false);
+});

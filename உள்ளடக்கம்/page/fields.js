@@ -1,0 +1,106 @@
+// Fields are elements of the browser over the canvas. They keep to the page: none shows through a dialog, and none that the
+// keyboard reaches pulls the page out of its window.
+(() => {
+    // What lies higher isn't dimmed with the texts.
+    const TEXT_LAYER = 1000;
+    const MARGIN = 16;
+
+    const fields = () => document.querySelectorAll('.pozhil-input');
+
+    // --- under dialogs ---
+
+    /// Of this frame: for each field the dialogs that were drawn over it, each as the corners of its place.
+    let under = new Map();
+    let corners = [];
+
+    /// A dialog dims the whole page and then cuts out its own place. All fields drawn before lie under it.
+    function watchDialogs(context) {
+        const { fillRect, quadraticCurveTo } = context;
+        context.fillRect = function (...area) {
+            corners = [];
+            fields().forEach(field => {
+                if (field.dataset.touched === '1') {
+                    under.set(field, [...under.get(field) ?? [], corners]);
+                }
+            });
+            return fillRect.apply(this, area);
+        };
+        context.quadraticCurveTo = function (...curve) {
+            corners.push(curve);
+            return quadraticCurveTo.apply(this, curve);
+        };
+    }
+
+    function overlaps(field, dialog) {
+        const { left, right, top, bottom } = field.getBoundingClientRect();
+        const across = dialog.map(([x]) => x);
+        const down = dialog.map(([, y]) => y);
+        return left < Math.max(...across) && right > Math.min(...across)
+            && top < Math.max(...down) && bottom > Math.min(...down);
+    }
+
+    /// What lies under a dialog can't be reached, and is seen only where it is dimmed.
+    function cover() {
+        fields().forEach(field => {
+            const dialogs = under.get(field) ?? [];
+            const isUnder = dialogs.length > 0;
+            if (field.inert !== isUnder) {
+                field.inert = isUnder;
+            }
+            field.classList.toggle('pozhil-under', isUnder && (
+                Number(field.style.zIndex) > TEXT_LAYER || dialogs.some(dialog => overlaps(field, dialog))));
+        });
+        under.clear();
+    }
+
+    let watched = null;
+    pozhilFrames.before(() => {
+        const canvas = document.getElementById('textCanvas');
+        if (canvas && canvas !== watched) {
+            watched = canvas;
+            watchDialogs(canvas.getContext('2d'));
+        }
+    });
+    pozhilFrames.after(cover);
+
+    // --- in the window ---
+
+    /// The program scrolls, not the browser, which would move the canvas out of its window.
+    function stayInPlace() {
+        document.documentElement.scrollTo(0, 0);
+        document.body.scrollTo(0, 0);
+    }
+
+    window.addEventListener('scroll', event => {
+        if (event.target === document || event.target === document.body) {
+            stayInPlace();
+        }
+    }, true);
+
+    let pointer = null;
+
+    /// Turns the wheel over the middle of the window as far as the field is from there.
+    function bringIn(field) {
+        stayInPlace();
+        const { left, top, bottom } = field.getBoundingClientRect();
+        if (top >= MARGIN && bottom <= window.innerHeight - MARGIN) {
+            return;
+        }
+        pointer ??= [window.mouseX, window.mouseY];
+        const middle = window.innerHeight / 2;
+        pozhilPointer.moveTo(Math.max(MARGIN, left + MARGIN), middle);
+        pozhilPointer.turnWheel(0, (top + bottom) / 2 - middle);
+    }
+
+    window.addEventListener('focusin', event => {
+        if (event.target.matches('.pozhil-input')) {
+            bringIn(event.target);
+        }
+    });
+    pozhilFrames.after(() => {
+        if (pointer) {
+            [window.mouseX, window.mouseY] = pointer;
+            pointer = null;
+        }
+    });
+})();
