@@ -81,18 +81,22 @@ add_web_program_file(
     ${web_precompiled_headers} ${shared_templates} -x c++-header -fpch-instantiate-templates -fpch-codegen -std=c++17
     -finput-charset=UTF-8 ${includes})
 
-# Beside the reporter, its object holds the code of the precompiled headers, which programs that use them leave out.
+# Beside the reporter, its object holds what pages ask of their programs, and the code of the precompiled headers, which
+# programs that use them leave out.
 set(web_reporter ${web_parts}/web_reporter.o)
 set(web_headers_code ${web_parts}/web_headers.o)
 set(web_reporter_object ${web_parts}/error_handler_web.o)
 add_web_program_file(
     ${web_reporter} ${PROJECT_SOURCE_DIR}/src/diagnostics/error_handler.cpp -x c++ -O2 -std=c++17
     -I ${PROJECT_SOURCE_DIR}/உள்ளடக்கம்)
+set(web_page_state ${web_parts}/web_page_state.o)
+add_web_program_file(
+    ${web_page_state} ${PROJECT_SOURCE_DIR}/src/installation/web_page_state.cpp -x c++ -O2 -std=c++17)
 add_custom_command(
     OUTPUT ${web_reporter_object}
     COMMAND ${POZHIL_EMXX} -c -x none ${web_precompiled_headers} -o ${web_headers_code} -O2 ${exceptions}
-    COMMAND ${POZHIL_EMXX} -r -nostdlib ${web_reporter} ${web_headers_code} -o ${web_reporter_object}
-    DEPENDS ${web_reporter} ${web_precompiled_headers}
+    COMMAND ${POZHIL_EMXX} -r -nostdlib ${web_reporter} ${web_page_state} ${web_headers_code} -o ${web_reporter_object}
+    DEPENDS ${web_reporter} ${web_page_state} ${web_precompiled_headers}
     BYPRODUCTS ${web_headers_code}
     COMMENT "Compiling ${web_reporter_object}"
     VERBATIM)

@@ -31,7 +31,7 @@ const PAGE = readonly(['CanvasRenderingContext2D', 'CustomEvent', 'Event', 'FS',
     'HTMLElement', 'HTMLInputElement', 'Image', 'KeyboardEvent', 'WheelEvent', 'Module', 'Node', 'OffscreenCanvas',
     'WebGL2RenderingContext', 'WebGLRenderingContext', 'atob', 'createImageBitmap', 'devicePixelRatio', 'document',
     'firebase', 'getComputedStyle', 'innerHeight', 'innerWidth', 'localStorage', 'location', 'navigator',
-    'requestAnimationFrame', 'structuredClone', 'visualViewport', 'window']);
+    'requestAnimationFrame', 'sessionStorage', 'structuredClone', 'visualViewport', 'window']);
 
 export default [
     { ignores: ['build/**', 'third_party/**', '**/node_modules/**', '**/வெளியீடு/**'] },
@@ -51,8 +51,9 @@ export default [
         files: ['உள்ளடக்கம்/page/*.js'],
         languageOptions: {
             ecmaVersion: 2022, sourceType: 'script',
-            globals: { ...NODE, ...PAGE, ...readonly(['Browser', 'GL', 'GLFW', 'pozhilFrames', 'pozhilPointer', 'HTMLScriptElement', 'TextDecoder',
-                'URL', 'Blob', 'WebAssembly', 'currentVersion', 'history', 'matchMedia', 'screen', 'sessionStorage']) },
+            globals: { ...NODE, ...PAGE, currentVersion: 'writable', ...readonly(['Browser', 'GL', 'GLFW', 'pozhilDrawing', 'pozhilFrames',
+                'pozhilLoading', 'pozhilPointer', 'ErrorEvent', 'HTMLScriptElement', 'TextDecoder',
+                'URL', 'Blob', 'WebAssembly', 'history', 'matchMedia', 'screen', 'sessionStorage']) },
         },
         rules: { ...RULES, 'no-redeclare': 'off', 'no-implicit-globals': 'off',
                  'no-unused-vars': ['error', { caughtErrors: 'none', varsIgnorePattern: '^(Module|pozhil)' }] },

@@ -136,10 +136,10 @@ void explain(const RefusedLine& line, const std::string& file) {
 
 } // namespace
 
-void reportRefusals(const ParsedSource& source, const OutputText& output, const std::string& file,
-                    std::string_view written) {
+ShownPlace reportRefusals(const ParsedSource& source, const OutputText& output, const std::string& file,
+                          std::string_view written) {
     if (written.empty()) {
-        return;
+        return {};
     }
     RefusedLines refused(source, output);
     for (const ToolchainError& error : readToolchainErrors(written, file)) {
@@ -155,6 +155,7 @@ void reportRefusals(const ParsedSource& source, const OutputText& output, const 
     if (lines.size() > MOST_EXPLAINED) {
         std::cerr << "  … இன்னும் " << lines.size() - MOST_EXPLAINED << " வரிகள் மறுக்கப்பட்டன." << std::endl;
     }
+    return lines.empty() ? ShownPlace() : placeOf(lines.front());
 }
 
 } // namespace pozhil

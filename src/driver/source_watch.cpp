@@ -24,6 +24,9 @@ void rebuild(const std::string& sourcePath, const FrontEndOptions& options, cons
         const ParsedSource parsed = parseSource(std::move(source), options);
         steps.build(parsed, generateText(parsed));
     } catch (const Fault& fault) {
+        if (steps.prepareEnd) {
+            steps.prepareEnd(fault);
+        }
         reportFault(fault);
     } catch (const StageFailure& failure) {
         steps.reportFailure(failure);

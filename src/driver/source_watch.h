@@ -17,6 +17,8 @@ struct WatchSteps {
     std::function<void(const ParsedSource&, const OutputText&)> build;
     /// Takes the failure of a stage in place of the build
     std::function<void(const StageFailure&)> reportFailure;
+    /// Takes the fault that is about to end the process; may be empty
+    std::function<void(const Fault&)> prepareEnd{};
 };
 
 /// Whether a changed source is still of the edition that it is watched in, which can't change while it is. Tells it if not,

@@ -3,7 +3,8 @@
 (() => {
     // What lies higher isn't dimmed with the texts.
     const TEXT_LAYER = 1000;
-    const MARGIN = 16;
+    // Beside the left edge of a field.
+    const INSET = 16;
 
     const fields = () => document.querySelectorAll('.pozhil-input');
 
@@ -78,22 +79,27 @@
     }, true);
 
     let pointer = null;
+    let isByKeyboard = false;
 
     /// Turns the wheel over the middle of the window as far as the field is from there.
     function bringIn(field) {
         stayInPlace();
         const { left, top, bottom } = field.getBoundingClientRect();
-        if (top >= MARGIN && bottom <= window.innerHeight - MARGIN) {
+        if (top >= 0 && bottom <= window.innerHeight) {
             return;
         }
         pointer ??= [window.mouseX, window.mouseY];
         const middle = window.innerHeight / 2;
-        pozhilPointer.moveTo(Math.max(MARGIN, left + MARGIN), middle);
+        pozhilPointer.moveTo(Math.max(INSET, left + INSET), middle);
         pozhilPointer.turnWheel(0, (top + bottom) / 2 - middle);
     }
 
+    window.addEventListener('keydown', () => { isByKeyboard = true; }, true);
+    for (const press of ['mousedown', 'touchstart']) {
+        window.addEventListener(press, () => { isByKeyboard = false; }, true);
+    }
     window.addEventListener('focusin', event => {
-        if (event.target.matches('.pozhil-input')) {
+        if (isByKeyboard && event.target.matches('.pozhil-input')) {
             bringIn(event.target);
         }
     });

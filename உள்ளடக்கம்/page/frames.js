@@ -1,34 +1,43 @@
 // What happens around each frame of the program. The scripts of the page meet here.
 var pozhilFrames = (() => {
+    const starts = [];
+    const readies = [];
+    const ticks = [];
+    const conditions = [() => window.innerWidth > 0 && window.innerHeight > 0];
+    const wakings = [];
     const before = [];
     const after = [];
-    const starts = [];
+    const doAll = works => works.forEach(work => work());
     return {
-        /// Calls `work` before each frame.
-        before(work) {
-            before.push(work);
-        },
-        /// Calls `work` after each frame.
-        after(work) {
-            after.push(work);
-        },
-        /// Calls `work` when the program is there but has not begun.
-        atStart(work) {
-            starts.push(work);
-        },
+        /// Calls `work` when the libraries of the program are there.
+        atStart: work => { starts.push(work); },
+        /// Calls `work` when the program itself is there, before it begins.
+        whenReady: work => { readies.push(work); },
+        /// Calls `work` whenever the browser could show a frame.
+        tick: work => { ticks.push(work); },
+        /// Only when all conditions hold, a frame is drawn.
+        drawWhen: condition => { conditions.push(condition); },
+        /// Something has happened: the page draws, if it rested.
+        wake: () => doAll(wakings),
+        /// Calls `work` whenever something has happened.
+        whenWoken: work => { wakings.push(work); },
+        /// Calls `work` before each frame that is drawn.
+        before: work => { before.push(work); },
+        /// Calls `work` after each frame that has been drawn.
+        after: work => { after.push(work); },
         // What index.js looks for in Module.
         hooks: {
-            preRun: [() => starts.forEach(work => work())],
+            preRun: [() => doAll(starts)],
+            onRuntimeInitialized: () => doAll(readies),
             preMainLoop() {
-                if (window.innerWidth === 0 || window.innerHeight === 0) {
-                    return false;
+                doAll(ticks);
+                const isDrawn = conditions.every(holds => holds());
+                if (isDrawn) {
+                    doAll(before);
                 }
-                before.forEach(work => work());
-                return true;
+                return isDrawn;
             },
-            postMainLoop() {
-                after.forEach(work => work());
-            },
+            postMainLoop: () => doAll(after),
         },
     };
 })();

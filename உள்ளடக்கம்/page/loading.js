@@ -1,9 +1,10 @@
-// index.js takes over whatever stands in Module.
-var Module = (() => {
+// The card that is shown while the program is on its way, and in its place where it can't run.
+var pozhilLoading = (() => {
     const find = selector => document.querySelector(selector);
     const status = find('#pozhil-status');
     let parts = 0;
     let failed = false;
+    let isReady = false;
 
     find('#pozhil-title').textContent = document.title;
 
@@ -36,7 +37,14 @@ var Module = (() => {
             + 'வகையில் இருக்காது, அல்லது வகுக்கும் எண் சுழியமாக (0) இருக்கும்.';
     }
 
+    const INCOMPLETE = 'நிரலின் கோப்புகள் முழுமையாக வந்து சேரவில்லை. பக்கத்தைப் புதுப்பிக்கவும்; மீண்டும் இப்படியே நேர்ந்தால் '
+        + 'சேவையகத்தில் உள்ள கோப்புகளைச் சரிபார்க்கவும்.';
+
     function die(fault) {
+        if (!isReady) {
+            fail(INCOMPLETE);
+            return;
+        }
         const word = 'நிரல் இடையிலேயே நின்றுவிட்டது: ' + causeOf(fault);
         if (!failed) {
             console.error('🚨 ' + word);
@@ -53,28 +61,35 @@ var Module = (() => {
         return Boolean(context);
     }
 
-    // Tamil names of the program arrive byte by byte; scripts of the page call them as they are written.
-    function nameExports() {
-        for (const name of Object.keys(Module).filter(key => /^[\x00-\xff]*[\x80-\xff]/.test(key))) {
-            try {
-                const bytes = Uint8Array.from(name, letter => letter.charCodeAt(0));
-                Module[new TextDecoder('utf-8', { fatal: true }).decode(bytes)] = Module[name];
-            } catch (error) {
-                // not the bytes of a UTF-8 name
-            }
+    /// The server has not built this version. It reloads the page for a later one; once it is built, this one is.
+    function waitForBuild() {
+        fail('நிரல் கிடைக்கவில்லை. தொகுப்பு வெற்றியடைந்ததா என்று முனையத்தில் பார்க்கவும்; '
+            + 'பிழையைத் திருத்தியதும் இந்தப் பக்கம் தானாகப் புதுப்பிக்கப்படும்.');
+        if (document.readyState === 'loading') {
+            document.addEventListener('DOMContentLoaded', countBack);
+        } else {
+            countBack();
         }
-        if (Module._set_input_value && !Module.set_input_value) {
-            Module.set_input_value = (id, value) =>
-                Module.ccall('set_input_value', null, ['string', 'string'], [id, value]);
+    }
+
+    function countBack() {
+        if (typeof currentVersion === 'number') {
+            currentVersion--;
         }
     }
 
     window.addEventListener('error', event => {
         if (event.target instanceof HTMLScriptElement && event.target.src.endsWith('/index.js')) {
-            fail('நிரல் கிடைக்கவில்லை. தொகுப்பு வெற்றியடைந்ததா என்று முனையத்தில் பார்க்கவும்; '
-                + 'பிழையைத் திருத்தியதும் இந்தப் பக்கம் தானாகப் புதுப்பிக்கப்படும்.');
+            waitForBuild();
+        } else if (event instanceof ErrorEvent && !isReady) {
+            fail(INCOMPLETE);
         }
     }, true);
+
+    pozhilFrames.whenReady(() => {
+        isReady = true;
+        status.hidden = !failed;
+    });
 
     if (typeof WebAssembly !== 'object') {
         fail('இந்த உலாவியில் WebAssembly இல்லை. உலாவியின் புதிய பதிப்பில் இந்தப் பக்கத்தைத் திறக்கவும்.');
@@ -84,33 +99,31 @@ var Module = (() => {
     }
 
     return {
-        canvas: find('#canvas'),
-        noInitialRun: failed,
-        ...pozhilFrames.hooks,
-        setStatus(text) {
-            const counts = /\((\d+(?:\.\d+)?)\/(\d+)\)/.exec(text);
-            if (counts && Number(counts[2]) > 0) {
-                progress(counts[1] / counts[2]);
-            }
-        },
-        monitorRunDependencies(left) {
-            parts = Math.max(parts, left);
-            if (parts > 0) {
-                progress((parts - left) / parts);
-            }
-        },
-        onRuntimeInitialized() {
-            nameExports();
-            status.hidden = !failed;
-        },
-        onAbort: die,
-        quit(code, reason) {
-            if (!reason || reason.name !== 'ExitStatus') {
-                die(reason);
-            } else if (code !== 0) {
-                fail('நிரல் பிழையோடு முடிந்தது. காரணத்தை உலாவியின் பணியகத்தில் (console) காணலாம்.');
-            }
-            throw reason;
+        fail,
+        // What index.js looks for in Module.
+        hooks: {
+            noInitialRun: failed,
+            setStatus(text) {
+                const counts = /\((\d+(?:\.\d+)?)\/(\d+)\)/.exec(text);
+                if (counts && Number(counts[2]) > 0) {
+                    progress(counts[1] / counts[2]);
+                }
+            },
+            monitorRunDependencies(left) {
+                parts = Math.max(parts, left);
+                if (parts > 0) {
+                    progress((parts - left) / parts);
+                }
+            },
+            onAbort: die,
+            quit(code, reason) {
+                if (!reason || reason.name !== 'ExitStatus') {
+                    die(reason);
+                } else if (code !== 0) {
+                    fail('நிரல் பிழையோடு முடிந்தது. காரணத்தை உலாவியின் பணியகத்தில் (console) காணலாம்.');
+                }
+                throw reason;
+            },
         },
     };
 })();

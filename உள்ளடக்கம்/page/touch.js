@@ -151,8 +151,9 @@ var pozhilTouch = (() => {
             }
         }, true);
     }
-    pozhilFrames.before(() => {
+    pozhilFrames.tick(() => {
         if (glide) {
+            pozhilFrames.wake();
             step(performance.now());
         }
     });

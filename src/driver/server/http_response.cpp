@@ -1,5 +1,6 @@
 #include "driver/server/http_response.h"
 
+#include "driver/server/build_fault.h"
 #include "driver/server/web_state.h"
 
 #include <algorithm>
@@ -101,6 +102,9 @@ std::optional<HttpResponse> HttpResponse::to(const std::string& path) {
     if (path == "/version") {
         return withVersion();
     }
+    if (path == "/version/fault") {
+        return withBuildFault();
+    }
     if (path == "/" || path == "/index.html") {
         return withPage();
     }
@@ -110,6 +114,11 @@ std::optional<HttpResponse> HttpResponse::to(const std::string& path) {
 HttpResponse HttpResponse::withVersion() {
     const std::string version = std::to_string(g_appVersion.load());
     return HttpResponse(headOf("text/plain", version.size()) + version);
+}
+
+HttpResponse HttpResponse::withBuildFault() {
+    const std::string fault = answerToPage();
+    return HttpResponse(headOf(getMimeType(".json"), fault.size()) + fault);
 }
 
 HttpResponse HttpResponse::withPage() {

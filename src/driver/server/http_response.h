@@ -28,7 +28,7 @@ std::string servedFile(const std::string& path);
 /// An answer, given away piece by piece, so that a large file never lies in memory as a whole.
 class HttpResponse {
 public:
-    /// The answer to a requested path: the version, the page, a file, or that there is no such file.
+    /// The answer to a requested path: the version, what is wrong with it, the page, a file, or that there is no such file.
     /// \return nothing if the file is there but can't be read
     static std::optional<HttpResponse> to(const std::string& path);
 
@@ -39,6 +39,7 @@ private:
     explicit HttpResponse(std::string head) : piece_(std::move(head)) {}
 
     static HttpResponse withVersion();
+    static HttpResponse withBuildFault();
     static HttpResponse withPage();
     static std::optional<HttpResponse> withFile(const std::string& path);
     /// Puts more of the file after the piece. False if the file is shorter than it was.

@@ -8,4 +8,7 @@ namespace pozhil::driver_text {
 /// The script that reloads the page when the server tells of a newer build. Hole: the version of this page.
 extern const Block reload;
 
+/// The script that shows in the page why the last build failed.
+extern const Block build_fault;
+
 } // namespace pozhil::driver_text

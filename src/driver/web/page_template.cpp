@@ -74,11 +74,11 @@ std::optional<std::string> withScripts(std::string page, const fs::path& directo
     return page;
 }
 
-std::string reloadScript(int version) {
+std::string servedScript(const Block& text, const Holes& holes) {
     constexpr std::size_t INDENTATION = 12;
     std::ostringstream script;
     script << "\n        <script>\n";
-    writeBlock(script, driver_text::reload, {{"version", std::to_string(version)}}, INDENTATION);
+    writeBlock(script, text, holes, INDENTATION);
     script << "        </script>\n            ";
     return script.str();
 }
@@ -108,7 +108,8 @@ std::string fillTemplate(std::string page, const PageValues& values) {
     if (!replaceFirst(page, "{{{ SCRIPT }}}", SCRIPT)) {
         insertBeforeEndOfBody(page, std::string(SCRIPT) + "\n");
     }
-    insertBeforeEndOfBody(page, reloadScript(values.version));
+    insertBeforeEndOfBody(page, servedScript(driver_text::reload, {{"version", std::to_string(values.version)}}));
+    insertBeforeEndOfBody(page, servedScript(driver_text::build_fault, {}));
     return page;
 }
 

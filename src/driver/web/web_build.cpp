@@ -2,6 +2,7 @@
 
 #include "driver/output_stage.h"
 #include "driver/refusal_report.h"
+#include "driver/server/build_fault.h"
 #include "driver/server/web_state.h"
 #include "driver/settings.h"
 #include "driver/web/page_template.h"
@@ -63,12 +64,17 @@ bool WebBuild::run(const ParsedSource& source, const OutputText& output) {
     if (compiled.status != 0) {
         const bool isKnown = toldCause();
         printCompilationFailure();
+        BuildFault fault = {"பொழி-404", "", 0, BUILD_FAILURE};
         if (!isKnown) {
-            reportRefusals(source, output, source_.u8string(), compiled.errors);
+            const ShownPlace place = reportRefusals(source, output, source_.u8string(), compiled.errors);
+            fault.file = place.file;
+            fault.line = place.line;
         }
+        tellPages(fault);
         return false;
     }
     // Last of all, since the page reloads as soon as it sees the new number.
+    tellPagesOfSuccess();
     g_appVersion = version;
     return true;
 }

@@ -31,6 +31,9 @@ void printMissingTemplate(const std::string& path);
 /// Tells that the video behind a page is missing.
 void printMissingVideo(const std::string& path);
 
+/// What pages tell of a build that failed for a reason that is told on the console alone.
+constexpr const char* BUILD_FAILURE = "மாற்றத்தைத் தொகுக்க முடியவில்லை; காரணத்தை முனையத்தில் பார்க்கவும்.";
+
 /// Tells that em++ failed.
 void printCompilationFailure();
 

@@ -2,16 +2,29 @@
 
 #include "driver/console/stage_report.h"
 #include "driver/hint_report.h"
+#include "driver/server/build_fault.h"
 #include "driver/server/local_server.h"
 #include "driver/source_watch.h"
 #include "driver/web/web_build.h"
 #include "driver/web/web_messages.h"
 #include "platform/browser.h"
 
+#include <chrono>
+#include <cstdlib>
 #include <iostream>
 #include <thread>
 
 namespace pozhil {
+namespace {
+
+/// Pages ask twice a second.
+constexpr std::chrono::milliseconds LONGEST_FAREWELL{1000};
+
+BuildFault faultForPages(const Fault& fault) {
+    return {fault.code, fault.file, fault.line, descriptionOf(fault)};
+}
+
+} // namespace
 
 void runWeb(const ParsedSource& source, const OutputText& output, const FrontEndOptions& options,
             const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory) {
@@ -35,7 +48,14 @@ void runWeb(const ParsedSource& source, const OutputText& output, const FrontEnd
         }
         reportHints(changed);
     };
-    steps.reportFailure = reportWebWatchFailure;
+    steps.reportFailure = [](const StageFailure& failure) {
+        reportWebWatchFailure(failure);
+        tellPages(failure.fault ? faultForPages(*failure.fault) : BuildFault{"", "", 0, BUILD_FAILURE});
+    };
+    steps.prepareEnd = [](const Fault& fault) {
+        tellPages(faultForPages(fault));
+        std::atexit([] { waitForPages(LONGEST_FAREWELL); });
+    };
     watchSource(source.source->path, options, steps);
 }
 

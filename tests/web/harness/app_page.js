@@ -40,7 +40,11 @@ export class AppPage {
 
     /// Waits until so many more frames have been drawn: one shows the state of now, the next what it led to.
     async frames(count = 2) {
-        const end = await this.page.evaluate(() => window.recorded.frames) + count;
+        const end = await this.page.evaluate(() => {
+            // A page where nothing happens draws none.
+            window.pozhilFrames.wake();
+            return window.recorded.frames;
+        }) + count;
         await this.page.waitForFunction(last => window.recorded.frames >= last, end, { timeout: 60_000 });
     }
 

@@ -7,5 +7,8 @@ setInterval(() => {
                 location.reload();
             }
         })
-        .catch(() => {});
+        .catch(() => {
+            // A server that comes back counts anew; before its first good build it tells a 1.
+            currentVersion = 1;
+        });
 }, 500);

@@ -1,0 +1,121 @@
+// Pages where nothing happens draw nothing; what moves, and what anybody does, is drawn at once.
+
+import { PHONE, application, assert, near, webTest } from './harness/index.js';
+
+const counting = application(`
+        நெடுவரிசை(உருளும்பட்டை: மெய், இடைவெளி: 20)(
+            உரை(எண்ணிக்கை),
+            பொத்தான்(உரை: "கூட்டு", பொ_பாணி(அகலம்: 200, உயரம்: 40, பொபின்னணி: "#00FF00", மேம்படுத்தப்பட்ட_நிறம்: "#0000FF"),
+                    அழுத்தினால்: () => கூட்டு_செய்()),
+            உரைபெட்டி(அடையாளம்: "பெயர்"),
+            உரை("கீழே", உரைபாணி(அளவு: 900))
+        )`, { logic: `
+        எண்ணிக்கை = 0
+        செயல் கூட்டு_செய்():
+            எண்ணிக்கை = எண்ணிக்கை கூட்டு 1` });
+
+const drawn = page => page.page.evaluate(() => window.recorded.frames);
+
+/// Waits until the page rests; false if it doesn't in this time.
+async function rests(page, limit = 8000) {
+    const end = Date.now() + limit;
+    while (Date.now() < end) {
+        const before = await drawn(page);
+        await page.page.waitForTimeout(400);
+        if (await drawn(page) === before) {
+            return true;
+        }
+    }
+    return false;
+}
+
+const shown = page => page.page.evaluate(() => window.recorded.texts.map(({ text }) => text));
+
+for (const [screen, context] of [['desktop', {}], ['phone', { ...PHONE, deviceScaleFactor: 1 }]]) {
+    webTest(`a page at rest draws nothing, and what is done is seen at once (${screen})`, counting, context,
+            async page => {
+        assert.ok(await rests(page), 'rests');
+        const before = await drawn(page);
+        await page.page.waitForTimeout(1000);
+        assert.equal(await drawn(page), before);
+
+        await page.page.mouse.move(100, 50);
+        await page.page.waitForFunction(() => document.body.style.cursor === 'pointer', undefined, { timeout: 3000 });
+        assert.ok(await rests(page), 'rests under the pointer');
+        await page.page.mouse.down();
+        await page.page.waitForFunction(() => window.recorded.texts[0].text === '1', undefined, { timeout: 3000 });
+        await page.page.mouse.up();
+        assert.ok(await rests(page), 'rests after a press');
+        const { y } = await page.page.evaluate(() => window.recorded.texts.at(-1));
+        await page.page.mouse.wheel(0, 50);
+        await page.page.waitForFunction(top => window.recorded.texts.at(-1).y === top - 50, y, { timeout: 3000 });
+        assert.ok(await rests(page), 'rests after a scroll');
+        await page.page.setViewportSize({ width: 450, height: 500 });
+        await page.page.waitForFunction(() => document.getElementById('canvas').width === 450, undefined,
+                                        { timeout: 3000 });
+        assert.ok(await rests(page), 'rests in a new window');
+        assert.deepEqual(await shown(page), ['1', 'கூட்டு', 'கீழே']);
+    });
+}
+
+webTest('scripts of the page wake it', counting, async page => {
+    assert.ok(await rests(page));
+    let before = await drawn(page);
+    await page.page.evaluate(() => Module['நகர்த்து']('இல்லாதது'));
+    await page.page.waitForFunction(count => window.recorded.frames > count, before, { timeout: 3000 });
+    assert.ok(await rests(page));
+    before = await drawn(page);
+    await page.page.evaluate(() => Module.ccall('set_input_value', null, ['string', 'string'], ['பெயர்', 'அ']));
+    await page.page.waitForFunction(count => window.recorded.frames > count, before, { timeout: 3000 });
+    assert.ok(await rests(page));
+    before = await drawn(page);
+    await page.page.evaluate(() => Module.cwrap('clear_input_error', null, ['string'])('பெயர்'));
+    await page.page.waitForFunction(count => window.recorded.frames > count, before, { timeout: 3000 });
+});
+
+webTest('a font that arrives late is drawn', counting, async page => {
+    assert.ok(await rests(page));
+    const before = await drawn(page);
+    await page.page.evaluate(() => document.fonts.add(new FontFace('எழுத்து', 'local("Noto Sans Tamil")')));
+    await page.page.waitForFunction(count => window.recorded.frames > count, before, { timeout: 3000 });
+});
+
+for (const [what, widget] of [
+    ['a spinner', 'சுழல்_காட்டி()'],
+    ['a bar without an end', 'முன்னேற்றவரி(அகலம்: 200)'],
+    ['a clock', 'உரை(நேரம்.வினாடிகள்())'],
+    ['a count of frames', 'உரை(எண்ணு())'],
+]) {
+    webTest(`${what} keeps a page awake`, application(`
+        நெடுவரிசை(${widget}, உரை("அ"))`, { logic: `
+        எத்தனை = 0
+        செயல் எண்ணு():
+            எத்தனை = எத்தனை கூட்டு 1
+            திரும்பு எத்தனை` }), async page => {
+        assert.ok(!(await rests(page, 4000)));
+    });
+}
+
+webTest('an animation goes to its end before the page rests', application(`
+        நெடுவரிசை(
+            பெட்டி(பெட்டி_பாணி(அகலம்: 100, உயரம்: 60, பின்னணி: "#FF0000"),
+                  அசைவூட்டம்(நிபந்தனை: "சுட்டி_மேல்", காலம்: 1500, அகலம்: 300))
+        )`), async page => {
+    assert.ok(await rests(page));
+    await page.page.mouse.move(50, 30);
+    await page.page.waitForTimeout(300);
+    assert.ok(await rests(page), 'rests at the end');
+    const box = await page.area([255, 0, 0]);
+    near(box.width, 300, 1);
+});
+
+webTest('a snack bar comes and goes on a page that rested', application(`
+        பொத்தான்(உரை: "சொல்", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்: அறிவிப்பு_பட்டை(செய்தி: "வணக்கம்"))`),
+        async page => {
+    assert.ok(await rests(page));
+    await page.page.mouse.click(100, 20, { delay: 100 });
+    await page.waitForText('வணக்கம்');
+    await page.page.waitForFunction(() => window.recorded.texts.every(({ text }) => text !== 'வணக்கம்'), undefined,
+                                    { timeout: 10_000 });
+    assert.ok(await rests(page));
+});
