@@ -52,6 +52,22 @@ TEST_F(PageTemplate, BackgroundThatNamesItsOwnPlaceholderIsFilledInOnce) {
     EXPECT_EQ(fillTemplate("a{{{ பின்னணி_நிறம் }}}b", values), "a{{{ பின்னணி_நிறம் }}}b");
 }
 
+TEST_F(PageTemplate, DescriptionIsTheTitleAsAnAttribute) {
+    PageValues values;
+    values.title = R"(அ & "ஆ" <இ>)";
+    EXPECT_EQ(fillTemplate("{{{ விளக்கம் }}}|{{{ இணைய_தலைப்பு }}}", values),
+              R"(அ &amp; &quot;ஆ&quot; &lt;இ>|அ & "ஆ" <இ>)");
+    EXPECT_EQ(fillTemplate("{{{ விளக்கம் }}}", {}), "பொழில் தளம்");
+}
+
+TEST_F(PageTemplate, DataIsFetchedEarlyIfThereIsAny) {
+    PageValues values;
+    EXPECT_EQ(fillTemplate("{{{ தரவு_முன்னேற்றம் }}}", values), "");
+    values.hasData = true;
+    EXPECT_EQ(fillTemplate("{{{ தரவு_முன்னேற்றம் }}}", values),
+              R"(<link rel="preload" href="index.data" as="fetch" crossorigin>)");
+}
+
 TEST_F(PageTemplate, PlaceholdersAreFoundByEveryLetter) {
     EXPECT_EQ(filled("{{{இணைய_தலைப்பு}}} {{ SCRIPT }}"), "{{{இணைய_தலைப்பு}}} {{ SCRIPT }}");
 }

@@ -98,8 +98,8 @@ for (const [what, widget] of [
 
 webTest('an animation goes to its end before the page rests', application(`
         நெடுவரிசை(
-            பெட்டி(பெட்டி_பாணி(அகலம்: 100, உயரம்: 60, பின்னணி: "#FF0000"),
-                  அசைவூட்டம்(நிபந்தனை: "சுட்டி_மேல்", காலம்: 1500, அகலம்: 300))
+            பெட்டி(அகலம்: 100, உயரம்: 60, பெட்டி_பாணி(பெட்டிபின்னணி: "#FF0000"),
+                அசைவூட்டம்(நிலைமை: "hover", காலம்: 1500, வகை: "சாதாரண", இலக்கு(அகலம்: 300)))
         )`), async page => {
     assert.ok(await rests(page));
     await page.page.mouse.move(50, 30);

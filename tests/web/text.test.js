@@ -115,7 +115,7 @@ webTest('உரை is drawn in its own font once that has come', application(`
     }, SERIF.toString('base64'));
     assert.equal(own, expected);
     assert.notEqual(expected, usual);
-    assert.ok(page.console.every(line => !line.includes('Font load error')), page.console.join('\n'));
+    assert.ok(page.console.every(line => !line.includes('எழுத்துருவை ஏற்ற முடியவில்லை')), page.console.join('\n'));
 });
 
 webTest('உரை keeps the usual font where its own is none', application(`
@@ -126,7 +126,7 @@ webTest('உரை keeps the usual font where its own is none', application(`
         )`), {
     files: { 'fonts/broken.ttf': 'இது எழுத்துரு அல்ல' },
 }, async page => {
-    const faults = () => page.console.filter(line => line.startsWith('Font load error:')).length;
+    const faults = () => page.console.filter(line => line.startsWith('எழுத்துருவை ஏற்ற முடியவில்லை:')).length;
     for (let waited = 0; waited < 50 && faults() < 2; waited++) {
         await page.frames();
     }

@@ -15,6 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view SCRIPT = R"(<script async type="text/javascript" src="index.js"></script>)";
+constexpr std::string_view DATA_PRELOAD = R"(<link rel="preload" href="index.data" as="fetch" crossorigin>)";
 constexpr std::string_view END_OF_BODY = "</body>";
 
 std::optional<std::vector<unsigned char>> readBytes(const fs::path& path) {
@@ -83,6 +84,20 @@ std::string servedScript(const Block& text, const Holes& holes) {
     return script.str();
 }
 
+/// \p text as the value of an attribute.
+std::string escaped(const std::string& text) {
+    std::string value;
+    for (const char c : text) {
+        switch (c) {
+        case '&': value += "&amp;"; break;
+        case '"': value += "&quot;"; break;
+        case '<': value += "&lt;"; break;
+        default: value += c;
+        }
+    }
+    return value;
+}
+
 std::string imageType(const std::string& path) {
     const auto endsWith = [&](std::string_view ending) {
         return path.size() >= ending.size() && path.compare(path.size() - ending.size(), ending.size(), ending) == 0;
@@ -102,7 +117,10 @@ std::optional<std::string> readTemplate(const fs::path& appDirectory) {
 }
 
 std::string fillTemplate(std::string page, const PageValues& values) {
-    replaceFirst(page, "{{{ இணைய_தலைப்பு }}}", values.title.empty() ? "பொழில் தளம்" : values.title);
+    const std::string title = values.title.empty() ? "பொழில் தளம்" : values.title;
+    replaceFirst(page, "{{{ விளக்கம் }}}", escaped(title));
+    replaceFirst(page, "{{{ தரவு_முன்னேற்றம் }}}", values.hasData ? DATA_PRELOAD : "");
+    replaceFirst(page, "{{{ இணைய_தலைப்பு }}}", title);
     replaceFirst(page, "{{{ சின்னம் }}}", embeddedIcon(values.icon));
     replaceAll(page, "{{{ பின்னணி_நிறம் }}}", values.background.empty() ? "#ffffff" : values.background);
     if (!replaceFirst(page, "{{{ SCRIPT }}}", SCRIPT)) {

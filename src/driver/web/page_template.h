@@ -14,6 +14,8 @@ struct PageValues {
     std::string icon;
     /// A colour of CSS
     std::string background;
+    /// Whether files are packed beside the program
+    bool hasData = false;
     /// The number that the server tells once this build is in place
     int version = 0;
 };

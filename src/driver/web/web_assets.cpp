@@ -47,18 +47,32 @@ void addVideo(std::vector<std::string>& arguments, const std::string& path) {
     }
 }
 
+/// Of the files that widgets show, those that are packed one by one.
+std::vector<std::string> singleFiles(const Application& application) {
+    std::vector<std::string> files;
+    for (const std::string& path : application.files) {
+        const bool isInDirectory = path.rfind("assets/", 0) == 0;
+        if (!isInDirectory && isPackable(path) && fileExists(path)) {
+            files.push_back(path);
+        }
+    }
+    return files;
+}
+
 } // namespace
+
+bool hasFilesToPack(const Application& application) {
+    const bool hasVideo = !application.video.empty() && fileExists(application.video);
+    return hasVideo || fileExists(ASSET_DIRECTORY) || !singleFiles(application).empty();
+}
 
 std::vector<std::string> packingArguments(const Application& application) {
     std::vector<std::string> arguments;
     if (fileExists(ASSET_DIRECTORY)) {
         addFile(arguments, ASSET_DIRECTORY);
     }
-    for (const std::string& path : application.files) {
-        const bool isInDirectory = path.rfind("assets/", 0) == 0;
-        if (!isInDirectory && isPackable(path) && fileExists(path)) {
-            addFile(arguments, path);
-        }
+    for (const std::string& path : singleFiles(application)) {
+        addFile(arguments, path);
     }
     addVideo(arguments, application.video);
     return arguments;

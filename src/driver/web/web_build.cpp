@@ -90,6 +90,7 @@ bool WebBuild::makePage(const Application& application, int version) const {
     values.title = application.title;
     values.icon = application.icon;
     values.background = application.background;
+    values.hasData = hasFilesToPack(application);
     values.version = version;
     g_web_html.store(fillTemplate(*page, values));
     return true;

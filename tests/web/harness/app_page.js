@@ -11,12 +11,7 @@ export class AppPage {
 
     constructor(page) {
         this.page = page;
-        page.on('console', message => {
-            // A page without an icon of its own names one that isn't there.
-            if (!message.location().url.endsWith('/file-icon.png')) {
-                this.console.push(message.text());
-            }
-        });
+        page.on('console', message => this.console.push(message.text()));
         page.on('pageerror', error => this.errors.push(String(error)));
     }
 
@@ -40,12 +35,12 @@ export class AppPage {
 
     /// Waits until so many more frames have been drawn: one shows the state of now, the next what it led to.
     async frames(count = 2) {
-        const end = await this.page.evaluate(() => {
+        const end = await this.page.evaluate(() => window.recorded.frames) + count;
+        await this.page.waitForFunction(last => {
             // A page where nothing happens draws none.
             window.pozhilFrames.wake();
-            return window.recorded.frames;
-        }) + count;
-        await this.page.waitForFunction(last => window.recorded.frames >= last, end, { timeout: 60_000 });
+            return window.recorded.frames >= last;
+        }, end, { timeout: 60_000 });
     }
 
     // --- texts ---
