@@ -1,5 +1,6 @@
 #include "driver/server/http_response.h"
 
+#include "driver/server/build_fault.h"
 #include "driver/server/web_state.h"
 #include "support/working_folder.h"
 
@@ -159,6 +160,14 @@ TEST_F(Answers, VersionIsTheNumberOfTheLastGoodBuildPlusOne) {
     EXPECT_EQ(answerTo("/version"), head("text/plain", 1) + "1");
     g_appVersion = 120;
     EXPECT_EQ(answerTo("/version"), head("text/plain", 3) + "120");
+}
+
+TEST_F(Answers, FaultOfTheLastBuildIsToldBesideTheVersion) {
+    EXPECT_EQ(answerTo("/version/fault"), head("application/json", 2) + "{}");
+    tellPages({"பொழி-1", "", 0, "ஏதோ"});
+    const std::string told = answerToPage();
+    EXPECT_EQ(answerTo("/version/fault"), head("application/json", told.size()) + told);
+    tellPagesOfSuccess();
 }
 
 TEST_F(Answers, VersionGoesInOnePiece) {

@@ -154,6 +154,26 @@ TEST_F(PackingArguments, AreNoneWithoutFiles) {
     EXPECT_THAT(packed("இல்லை.png"), IsEmpty());
 }
 
+TEST_F(PackingArguments, AreThereExactlyIfThereIsDataToFetch) {
+    Application application;
+    EXPECT_FALSE(hasFilesToPack(application));
+    application.files = {"இல்லை.png", "assets/a.png", "a.txt"};
+    application.video = "இல்லை.mp4";
+    write("a.txt", "");
+    EXPECT_FALSE(hasFilesToPack(application));
+    write("காணொளி.mp4", "");
+    application.video = "காணொளி.mp4";
+    EXPECT_TRUE(hasFilesToPack(application));
+    application.video = "";
+    write("b.png", "");
+    application.files.insert("b.png");
+    EXPECT_TRUE(hasFilesToPack(application));
+    application.files.clear();
+    EXPECT_FALSE(hasFilesToPack(application));
+    write("assets/a.txt", "");
+    EXPECT_TRUE(hasFilesToPack(application));
+}
+
 TEST_F(PackingArguments, AssetDirectoryComesFirstThenFilesInOrder) {
     for (const char* file : {"assets/a.png", "b.png", "a.ttf", "ஆ.gif"}) {
         write(file, "");

@@ -1,5 +1,7 @@
 // What a page tells browsers of itself, what it fetches, and what it says.
 
+import { readFileSync } from 'node:fs';
+
 import { PHONE, application, assert, webTest } from './harness/index.js';
 
 const titled = application('        உரை("வணக்கம்")', { header: 'இணைய_தலைப்பு: "கடை & \'தோட்டம்\'", பின்னணி: "#123456"' });
@@ -86,4 +88,45 @@ webTest('what is said on the console is said in Tamil', application(`
 webTest('the icon of a header stays', application('', { header: 'சின்னம்: "சின்னம்.svg"' }),
         { files: { 'சின்னம்.svg': ICON } }, async page => {
     assert.match(await page.page.getAttribute('link[rel=icon]', 'href'), /^data:image\/svg\+xml;base64,/);
+});
+
+const SERIF = readFileSync('/usr/share/fonts/truetype/noto/NotoSerifTamil-Regular.ttf');
+const packedFont = { files: { 'assets/font/Tamil-Regular.ttf': SERIF }, open: false };
+
+/// How wide the page's own font and the packed one write the same.
+function widths(page) {
+    return page.page.evaluate(async file => {
+        const face = await new FontFace('expected', Uint8Array.from(atob(file), byte => byte.charCodeAt(0))).load();
+        document.fonts.add(face);
+        const context = document.createElement('canvas').getContext('2d');
+        return ['Noto Sans Tamil', 'expected'].map(family => {
+            context.font = `40px ${JSON.stringify(family)}`;
+            return context.measureText('வணக்கம்').width;
+        });
+    }, SERIF.toString('base64'));
+}
+
+webTest('without a network and a Tamil font of the system, texts take the packed one', titled, packedFont, async page => {
+    await page.page.addInitScript(() => {
+        const Native = window.FontFace;
+        window.FontFace = class extends Native {
+            constructor(family, source, ...more) {
+                super(family, String(source).startsWith('local(') ? 'local("இல்லாதது")' : source, ...more);
+            }
+        };
+    });
+    // Hosts that never answer
+    await page.page.route(url => /^https?:$/.test(url.protocol) && url.hostname !== '127.0.0.1', () => {});
+    await page.open(page.address);
+    await page.page.waitForFunction(() => [...document.fonts].some(({ status }) => status === 'loaded'));
+    const [own, expected] = await widths(page);
+    assert.equal(own, expected);
+    await page.text('வணக்கம்');
+});
+
+webTest('the Tamil font of the system goes before the packed one', titled, packedFont, async page => {
+    await page.open(page.address);
+    await page.page.waitForTimeout(500);
+    const [own, packed] = await widths(page);
+    assert.notEqual(own, packed);
 });
