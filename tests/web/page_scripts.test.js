@@ -18,15 +18,16 @@ function page(...scripts) {
     const window = {
         innerWidth: 500, innerHeight: 400, devicePixelRatio: 1, mouseX: 0, mouseY: 0, wheelDelta: 0, wheelDeltaX: 0,
         addEventListener: (type, listener) => { listeners.push([type, listener]); },
-        document: { documentElement: element, activeElement: element, getElementById: () => element, addEventListener() {} },
+        document: { documentElement: element, activeElement: element, getElementById: () => element, addEventListener() {},
+                    fonts: { addEventListener() {}, add() {} } },
         GLFW: { active: { buttons: 0 } }, HTMLElement: class {}, now: 0, draw() {},
     };
     window.window = window;
     window.performance = { now: () => window.now };
     vm.createContext(window);
-    for (const name of scripts) {
-        vm.runInContext(readFileSync(new URL(`${name}.js`, PAGE), 'utf8'), window, { filename: `${name}.js` });
-    }
+    window.load = name => vm.runInContext(readFileSync(new URL(`${name}.js`, PAGE), 'utf8'), window,
+                                          { filename: `${name}.js` });
+    scripts.forEach(window.load);
     window.send = (type, event) => {
         const sent = { type, target: element, stopPropagation() {}, stopImmediatePropagation() {}, preventDefault() {},
                        ...event };
@@ -149,6 +150,79 @@ test('a wheel waits three frames for somebody to take it', () => {
     tab.frame(16);
     assert.equal(tab.wheelDelta, 0);
     assert.equal(tab.wheelDeltaX, 0);
+});
+
+/// A page that draws what `drawn` tells, with the script that lets it rest.
+function restingPage(drawn) {
+    const tab = page('frames');
+    tab.pozhilDrawing = { sum: () => drawn.sum, watchSum(isWanted) { drawn.isWatched = isWanted; } };
+    tab.load('rest');
+    tab.draw = () => {
+        drawn.frames++;
+        if (drawn.asksForTime) {
+            tab.performance.now();
+        }
+    };
+    return tab;
+}
+
+/// How many frames are drawn in so many offers.
+function framesIn(tab, drawn, offers, milliseconds) {
+    const before = drawn.frames;
+    for (let offer = 0; offer < offers; offer++) {
+        tab.frame(milliseconds);
+    }
+    return drawn.frames - before;
+}
+
+test('a page rests after a second of the same, at any speed, until something happens', () => {
+    for (const [milliseconds, most] of [[16, 66], [7, 150], [300, 9]]) {
+        const drawn = { sum: 1, frames: 0 };
+        const tab = restingPage(drawn);
+        const count = framesIn(tab, drawn, 500, milliseconds);
+        assert.ok(count >= Math.min(most - 6, 1000 / milliseconds) && count <= most, `${count} frames`);
+        assert.equal(framesIn(tab, drawn, 500, milliseconds), 0);
+        tab.send('keydown', {});
+        assert.ok(framesIn(tab, drawn, 500, milliseconds) > 0);
+        tab.pozhilFrames.wake();
+        assert.ok(framesIn(tab, drawn, 500, milliseconds) > 0);
+        assert.equal(framesIn(tab, drawn, 10, milliseconds), 0);
+    }
+});
+
+test('a move of the pointer to where it is wakes nobody', () => {
+    const drawn = { sum: 1, frames: 0 };
+    const tab = restingPage(drawn);
+    tab.send('mousemove', { clientX: 5, clientY: 6 });
+    framesIn(tab, drawn, 500, 16);
+    tab.send('mousemove', { clientX: 5, clientY: 6 });
+    assert.equal(framesIn(tab, drawn, 500, 16), 0);
+    tab.send('mousemove', { clientX: 5, clientY: 7 });
+    assert.ok(framesIn(tab, drawn, 500, 16) > 0);
+});
+
+test('what changes, and what asks for the time, keeps a page awake', () => {
+    const changing = { sum: 1, frames: 0 };
+    let tab = restingPage(changing);
+    for (let frame = 0; frame < 300; frame++) {
+        changing.sum++;
+        assert.equal(tab.frame(16), true);
+    }
+    const asking = { sum: 1, frames: 0, asksForTime: true };
+    tab = restingPage(asking);
+    assert.equal(framesIn(tab, asking, 300, 16), 300);
+});
+
+test('frames are compared only while nothing happens', () => {
+    const drawn = { sum: 1, frames: 0 };
+    const tab = restingPage(drawn);
+    tab.frame(16);
+    assert.equal(drawn.isWatched, false);
+    tab.frame(16);
+    assert.equal(drawn.isWatched, true);
+    tab.send('wheel', {});
+    tab.frame(16);
+    assert.equal(drawn.isWatched, false);
 });
 
 test('without a size nothing is drawn', () => {

@@ -1,10 +1,14 @@
 // A page where nothing happens draws nothing. Whatever a user does wakes it, and so does whoever calls the program; what moves
 // by itself keeps it awake: it draws something else each time, or asks for the time.
 (() => {
-    // So many frames must be the same before the page rests: a second, for programs that count frames in silence.
-    const FRAMES_TO_REST = 60;
+    // For so long, in milliseconds, and for so many frames everything must be the same before the page rests: programs may
+    // count frames in silence.
+    const TIME_TO_REST = 1000;
+    const FRAMES_TO_REST = 5;
 
+    const clock = performance.now.bind(performance);
     let sameFrames = 0;
+    let sameSince = 0;
     let formerSum = 0;
     let isFresh = true;
     let isDrawing = false;
@@ -16,7 +20,7 @@
         sameFrames = 0;
         isFresh = true;
     });
-    pozhilFrames.drawWhen(() => sameFrames < FRAMES_TO_REST);
+    pozhilFrames.drawWhen(() => sameFrames < FRAMES_TO_REST || clock() - sameSince < TIME_TO_REST);
     pozhilFrames.before(() => {
         // While something happens the frames aren't compared, which would cost time.
         pozhilDrawing.watchSum(!isFresh);
@@ -28,13 +32,16 @@
         const sum = pozhilDrawing.sum();
         const isSame = !isFresh && !askedForTime && sum === formerSum;
         sameFrames = isSame ? sameFrames + 1 : 0;
+        if (!isSame) {
+            sameSince = clock();
+        }
         formerSum = sum;
         isFresh = false;
     });
 
-    for (const [clock, owner] of [['now', performance], ['now', Date]]) {
-        const ask = owner[clock].bind(owner);
-        owner[clock] = () => {
+    for (const owner of [performance, Date]) {
+        const ask = owner.now.bind(owner);
+        owner.now = () => {
             askedForTime ||= isDrawing;
             return ask();
         };
