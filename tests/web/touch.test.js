@@ -63,10 +63,18 @@ webTest('a finger scrolls a column by its own way, wherever it begins', form, PH
 webTest('a finger that is swept away lets the column glide, and the next one stops it', form,
         // Without a graphics card, frames of all these pixels come too late for a sweep.
         { ...PHONE, deviceScaleFactor: 1 }, async page => {
-    const before = await yOf(page, 'வரி 0');
-    await page.swipe([200, 700], [200, 600], { steps: 4, rest: 0 });
-    await page.page.waitForTimeout(250);
-    const gliding = await yOf(page, 'வரி 0');
+    // A machine with much to do may lift the finger so late that it has come to rest.
+    let [before, gliding] = [0, 0];
+    for (let sweep = 0; sweep < 5 && gliding >= before - 105; sweep++) {
+        // Longer than a mouse after a finger is taken for the finger.
+        await page.page.waitForTimeout(1100);
+        await page.moveTo(200, 600);
+        await page.wheel(0, -5000);
+        before = await yOf(page, 'வரி 0');
+        await page.swipe([200, 700], [200, 600], { steps: 4, rest: 0 });
+        await page.page.waitForTimeout(250);
+        gliding = await yOf(page, 'வரி 0');
+    }
     assert.ok(gliding < before - 105, `${gliding} after ${before}`);
     await page.putFingers([200, 600]);
     const stopped = await yOf(page, 'வரி 0');
