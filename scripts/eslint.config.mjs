@@ -31,7 +31,7 @@ const PAGE = readonly(['CanvasRenderingContext2D', 'CustomEvent', 'Event', 'FS',
     'HTMLElement', 'HTMLInputElement', 'Image', 'KeyboardEvent', 'WheelEvent', 'Module', 'Node', 'OffscreenCanvas',
     'WebGL2RenderingContext', 'WebGLRenderingContext', 'atob', 'createImageBitmap', 'devicePixelRatio', 'document',
     'firebase', 'getComputedStyle', 'innerHeight', 'innerWidth', 'localStorage', 'location', 'navigator',
-    'requestAnimationFrame', 'sessionStorage', 'structuredClone', 'visualViewport', 'window']);
+    'requestAnimationFrame', 'sessionStorage', 'structuredClone', 'visualViewport', 'window', 'Touch', 'TouchEvent']);
 
 export default [
     { ignores: ['build/**', 'third_party/**', '**/node_modules/**', '**/வெளியீடு/**'] },
