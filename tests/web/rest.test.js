@@ -119,3 +119,50 @@ webTest('a snack bar comes and goes on a page that rested', application(`
                                     { timeout: 10_000 });
     assert.ok(await rests(page));
 });
+
+/// Runs in the page before its own scripts: a machine that draws so few frames a second.
+function slowDown(framesASecond) {
+    window.requestAnimationFrame = work => setTimeout(() => work(performance.now()), 1000 / framesASecond);
+}
+
+/// The page's texts as they change until `wanted` is among them.
+async function changesUntil(page, wanted) {
+    const seen = [];
+    for (const end = Date.now() + 60_000; !seen.includes(wanted) && Date.now() < end;) {
+        const text = (await shown(page))[0];
+        if (text !== seen.at(-1)) {
+            seen.push(text);
+        }
+        await page.page.waitForTimeout(20);
+    }
+    return seen;
+}
+
+webTest('a counter that shows the same number for seconds goes on, on a slow machine too', application(`
+        நெடுவரிசை(சீரமைப்பு: மையம்)(
+            உரை("0", அசைவூட்டம்(நிலைமை: "தானாக", காலம்: 2000, வகை: "சாதாரண", இலக்கு(மதிப்பு: 3)))
+        )`), { open: false }, async page => {
+    await page.page.addInitScript(slowDown, 12);
+    await page.visit(page.address);
+    await page.waitForText('0');
+    assert.deepEqual(await changesUntil(page, '3'), ['0', '1', '2', '3']);
+    assert.ok(await rests(page));
+});
+
+webTest('what a program counts in silence comes out, however long it takes', application(`
+        உரை(சொல்())`, { logic: `
+        எத்தனை = 0
+        செயல் சொல்():
+            எத்தனை = எத்தனை கூட்டு 1
+            எனில் எத்தனை பெரிது 200:
+                திரும்பு "வந்தது"
+            திரும்பு "வரும்"` }), async page => {
+    assert.deepEqual(await changesUntil(page, 'வந்தது'), ['வரும்', 'வந்தது']);
+});
+
+webTest('a page rests soon on a slow machine too', counting, { open: false }, async page => {
+    await page.page.addInitScript(slowDown, 5);
+    await page.visit(page.address);
+    await page.ready();
+    assert.ok(await rests(page));
+});

@@ -68,6 +68,7 @@
     function turnAgain() {
         const [turn] = waiting.turns[shownPage]?.splice(0, 1) ?? [];
         if (turn) {
+            pozhilFrames.wake();
             pozhilPointer.moveTo(turn.x, turn.y);
             pozhilPointer.turnWheel(turn.axis === 'x' ? turn.way : 0, turn.axis === 'y' ? turn.way : 0);
         }

@@ -1,26 +1,54 @@
 // A page where nothing happens draws nothing. Whatever a user does wakes it, and so does whoever calls the program; what moves
-// by itself keeps it awake: it draws something else each time, or asks for the time.
+// by itself keeps it awake: it draws something else each time, asks for the time, or counts on in silence. A program whose
+// memory is as it was once before, and that has drawn the same ever since, will never draw anything else.
 (() => {
-    // For so long, in milliseconds, and for so many frames everything must be the same before the page rests: programs may
-    // count frames in silence.
-    const TIME_TO_REST = 1000;
-    const FRAMES_TO_REST = 5;
+    // So many frames what happened may take to show: wheels that nobody takes, dialogs, what comes to lie under the pointer.
+    const FRAMES_TO_SETTLE = 5;
+    // After so many looks at its memory a program is looked at more rarely, which costs time.
+    const EAGER_LOOKS = 30;
+    const FRAMES_BETWEEN_LOOKS = 60;
+    const MOST_KEPT = 1000;
 
-    const clock = performance.now.bind(performance);
     let sameFrames = 0;
-    let sameSince = 0;
     let formerSum = 0;
+    /// What the memory was after the frames that were the same.
+    const memories = new Set();
+    let sumMemory = null;
+    let isResting = false;
     let isFresh = true;
     let isDrawing = false;
     let askedForTime = false;
 
     const { wake } = pozhilFrames;
 
-    pozhilFrames.whenWoken(() => {
+    function beginAnew() {
         sameFrames = 0;
+        memories.clear();
+        isResting = false;
+    }
+
+    /// Whether the memory is as it was after one of the frames that were the same.
+    function returns() {
+        const look = sameFrames - FRAMES_TO_SETTLE;
+        if (look < 0 || (look > EAGER_LOOKS && look % FRAMES_BETWEEN_LOOKS !== 0)) {
+            return false;
+        }
+        const memory = sumMemory();
+        if (memories.has(memory)) {
+            return true;
+        }
+        if (memories.size === MOST_KEPT) {
+            memories.clear();
+        }
+        memories.add(memory);
+        return false;
+    }
+
+    pozhilFrames.whenWoken(() => {
+        beginAnew();
         isFresh = true;
     });
-    pozhilFrames.drawWhen(() => sameFrames < FRAMES_TO_REST || clock() - sameSince < TIME_TO_REST);
+    pozhilFrames.drawWhen(() => !isResting);
     pozhilFrames.before(() => {
         // While something happens the frames aren't compared, which would cost time.
         pozhilDrawing.watchSum(!isFresh);
@@ -30,10 +58,11 @@
     pozhilFrames.after(() => {
         isDrawing = false;
         const sum = pozhilDrawing.sum();
-        const isSame = !isFresh && !askedForTime && sum === formerSum;
-        sameFrames = isSame ? sameFrames + 1 : 0;
-        if (!isSame) {
-            sameSince = clock();
+        if (isFresh || askedForTime || sum !== formerSum) {
+            beginAnew();
+        } else {
+            sameFrames++;
+            isResting = returns();
         }
         formerSum = sum;
         isFresh = false;
@@ -83,6 +112,7 @@
     }
 
     pozhilFrames.whenReady(() => {
+        sumMemory = Module._pozhil_memory_sum;
         const { cwrap } = Module;
         Module.cwrap = (...signature) => waking(cwrap(...signature));
         for (const name of Object.keys(Module)) {
