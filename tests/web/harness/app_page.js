@@ -76,8 +76,23 @@ export class AppPage {
 
     // --- pixels ---
 
-    /// What the screen shows, as a base64 text.
+    /// What the screen shows, as a base64 text: the frame of now, however long the picture takes.
     async #screenshot(scale) {
+        await this.page.evaluate(() => {
+            const { recorded, pozhilFrames } = window;
+            if (recorded.isHeld === undefined) {
+                pozhilFrames?.drawWhen(() => !recorded.isHeld);
+            }
+            recorded.isHeld = true;
+        });
+        try {
+            return await this.#capture(scale);
+        } finally {
+            await this.page.evaluate(() => { window.recorded.isHeld = false; });
+        }
+    }
+
+    async #capture(scale) {
         if (scale === 'device' && this.isRescaled) {
             // Playwright goes on counting in the pixels that the window began with.
             return (await (await this.devtools()).send('Page.captureScreenshot')).data;
@@ -93,7 +108,7 @@ export class AppPage {
     /// The colours, [red, green, blue], of pixels of the screen, counted in CSS pixels.
     async pixels(points) {
         await this.frames();
-        const image = (await this.page.screenshot({ scale: 'css' })).toString('base64');
+        const image = await this.#screenshot('css');
         return this.page.evaluate(async ([data, wanted]) => {
             const blob = await (await fetch(`data:image/png;base64,${data}`)).blob();
             const bitmap = await createImageBitmap(blob);
