@@ -28,9 +28,9 @@ const NODE = readonly(['AbortController', 'Buffer', 'URL', 'clearInterval', 'cle
     'performance', 'process', 'setImmediate', 'setInterval', 'setTimeout']);
 // Functions that a test hands to its page run there.
 const PAGE = readonly(['CanvasRenderingContext2D', 'CustomEvent', 'Event', 'FS', 'FontFace', 'HTMLCanvasElement',
-    'HTMLElement', 'HTMLInputElement', 'Image', 'KeyboardEvent', 'WheelEvent', 'Module', 'Node', 'OffscreenCanvas',
+    'HTMLElement', 'HTMLInputElement', 'Image', 'KeyboardEvent', 'MutationObserver', 'WheelEvent', 'Module', 'Node', 'OffscreenCanvas',
     'WebGL2RenderingContext', 'WebGLRenderingContext', 'atob', 'createImageBitmap', 'devicePixelRatio', 'document',
-    'firebase', 'getComputedStyle', 'innerHeight', 'innerWidth', 'localStorage', 'location', 'navigator',
+    'firebase', 'getComputedStyle', 'getSelection', 'innerHeight', 'innerWidth', 'localStorage', 'location', 'navigator',
     'requestAnimationFrame', 'sessionStorage', 'structuredClone', 'visualViewport', 'window', 'Touch', 'TouchEvent']);
 
 export default [
@@ -51,8 +51,9 @@ export default [
         files: ['உள்ளடக்கம்/page/*.js'],
         languageOptions: {
             ecmaVersion: 2022, sourceType: 'script',
-            globals: { ...NODE, ...PAGE, currentVersion: 'writable', ...readonly(['Browser', 'GL', 'GLFW', 'pozhilDrawing', 'pozhilFrames',
-                'pozhilLoading', 'pozhilPointer', 'ErrorEvent', 'HTMLScriptElement', 'TextDecoder',
+            globals: { ...NODE, ...PAGE, currentVersion: 'writable', ...readonly(['Browser', 'GL', 'GLFW', 'HEAP32', 'HEAPF32',
+                'HTMLImageElement', 'pozhilDrawing', 'pozhilFrames', 'pozhilLoading', 'pozhilPointer',
+                'pozhilShown', 'ErrorEvent', 'HTMLScriptElement', 'TextDecoder',
                 'URL', 'Blob', 'WebAssembly', 'history', 'matchMedia', 'screen', 'sessionStorage']) },
         },
         rules: { ...RULES, 'no-redeclare': 'off', 'no-implicit-globals': 'off',

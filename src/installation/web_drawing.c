@@ -2,7 +2,91 @@
  * for the code of these headers itself; those of the installation then only declare. With headers from elsewhere the
  * program has the code too, so what both would define gives way here. */
 
+/* What is drawn is noted down on the way, for the page: by the shapes of a frame it tells those who can't see them what
+ * stands where. */
+#define nvgBeginFrame pozhilBeginFrame
+#define nvgRect pozhilRect
+#define nvgRoundedRect pozhilRoundedRect
+#define nvgCircle pozhilCircle
+#define nvgMoveTo pozhilMoveTo
+#define nvgTextBounds pozhilTextBounds
 #include "nanovg.c"
+#undef nvgBeginFrame
+#undef nvgRect
+#undef nvgRoundedRect
+#undef nvgCircle
+#undef nvgMoveTo
+#undef nvgTextBounds
+
+#include <emscripten.h>
+
+/* A circle has its centre in x and y and its radius in width, a line its beginning in x and y, a measured text its width. */
+enum ShapeKind { RECT, ROUNDED_RECT, CIRCLE, LINE, MEASURED_TEXT };
+
+struct Shape {
+    float kind;
+    float x;
+    float y;
+    float width;
+    float height;
+    float radius;
+};
+
+/* Those of the current frame in the order of drawing. */
+static struct {
+    int count;
+    struct Shape* first;
+} shapes;
+static int most_shapes = 0;
+
+/* Where the page reads them. */
+EMSCRIPTEN_KEEPALIVE const void* pozhil_drawn_shapes(void) {
+    return &shapes;
+}
+
+static void note(struct Shape shape) {
+    if (shapes.count == most_shapes) {
+        const int more = most_shapes == 0 ? 1024 : 2 * most_shapes;
+        struct Shape* first = realloc(shapes.first, (size_t)more * sizeof shape);
+        if (first == NULL) {
+            return;
+        }
+        shapes.first = first;
+        most_shapes = more;
+    }
+    shapes.first[shapes.count++] = shape;
+}
+
+void nvgBeginFrame(NVGcontext* context, float width, float height, float ratio) {
+    shapes.count = 0;
+    pozhilBeginFrame(context, width, height, ratio);
+}
+
+void nvgRect(NVGcontext* context, float x, float y, float width, float height) {
+    note((struct Shape){RECT, x, y, width, height, 0});
+    pozhilRect(context, x, y, width, height);
+}
+
+void nvgRoundedRect(NVGcontext* context, float x, float y, float width, float height, float radius) {
+    note((struct Shape){ROUNDED_RECT, x, y, width, height, radius});
+    pozhilRoundedRect(context, x, y, width, height, radius);
+}
+
+void nvgCircle(NVGcontext* context, float x, float y, float radius) {
+    note((struct Shape){CIRCLE, x, y, radius, 0, 0});
+    pozhilCircle(context, x, y, radius);
+}
+
+void nvgMoveTo(NVGcontext* context, float x, float y) {
+    note((struct Shape){LINE, x, y, 0, 0, 0});
+    pozhilMoveTo(context, x, y);
+}
+
+float nvgTextBounds(NVGcontext* context, float x, float y, const char* text, const char* end, float* bounds) {
+    const float advance = pozhilTextBounds(context, x, y, text, end, bounds);
+    note((struct Shape){MEASURED_TEXT, x, y, bounds == NULL ? advance : bounds[2] - bounds[0], 0, 0});
+    return advance;
+}
 
 #pragma weak nsvgParse
 #pragma weak nsvgParseFromFile

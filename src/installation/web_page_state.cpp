@@ -1,14 +1,17 @@
-/// What a page asks of the application that runs in it, whichever it is: the page of the application that is shown, and
-/// whether the program still counts on in silence.
+/// What a page asks of the application that runs in it, whichever it is: the page of the application that is shown, what
+/// its variables show, and whether the program still counts on in silence.
 
+#include <any>
 #include <cstdint>
 #include <cstring>
 #include <emscripten.h>
+#include <map>
 #include <string>
 #include <unistd.h>
 
 /// Of the generated program; missing in one without pages.
 extern std::string g_currentPage __attribute__((weak));
+extern std::map<std::string, std::any> global_vars __attribute__((weak));
 
 extern "C" {
 /// Of the linker: the bounds of what the program holds outside of its stack, which is empty between frames.
@@ -51,5 +54,19 @@ EMSCRIPTEN_KEEPALIVE void pozhil_show_page(const char* name) {
     if (&g_currentPage != nullptr) {
         g_currentPage = name;
     }
+}
+
+/// Whether the variable shows the widgets that name it.
+/// \param atFirst whether they are there while the variable has no value
+EMSCRIPTEN_KEEPALIVE int pozhil_shows(const char* name, int atFirst) {
+    if (&global_vars == nullptr) {
+        return atFirst;
+    }
+    const auto found = global_vars.find(name);
+    if (found == global_vars.end()) {
+        return atFirst;
+    }
+    const bool* value = std::any_cast<bool>(&found->second);
+    return value != nullptr && *value ? 1 : 0;
 }
 }

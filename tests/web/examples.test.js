@@ -1,12 +1,8 @@
 // The larger examples, in a desktop's window and in a phone's: every page is reached by presses and does what it says.
 
-import { readFileSync, readdirSync } from 'node:fs';
-import path from 'node:path';
-import { fileURLToPath } from 'node:url';
-
+import * as examples from './harness/examples.js';
 import { assert, near, webTest } from './harness/index.js';
 
-const EXAMPLES = path.resolve(path.dirname(fileURLToPath(import.meta.url)), '../../எடுத்துக்காட்டுகள்');
 const DESKTOP = { width: 1280, height: 800 };
 const PHONE = { width: 390, height: 844 };
 
@@ -28,17 +24,7 @@ const FAMILIES = [
     ['அசைவு', 'அசைவூட்டம்', [131, 24, 67]],
 ];
 
-function source(name) {
-    return readFileSync(path.join(EXAMPLES, `${name}.பொழில்`), 'utf8');
-}
-
-function assets(folder) {
-    return Object.fromEntries(readdirSync(path.join(EXAMPLES, 'assets', folder)).map(
-        name => [`assets/${folder}/${name}`, readFileSync(path.join(EXAMPLES, 'assets', folder, name))]));
-}
-
-// Text buttons are as wide as the fonts say that scripts/setup-web has put there.
-const files = { ...assets('படங்கள்'), ...assets('சின்னங்கள்'), ...assets('font') };
+const files = examples.files();
 
 /// Presses where the last text that reads so stands: what lies on top is drawn last.
 async function press(page, wanted) {
@@ -68,7 +54,7 @@ async function expectPage(page, title, colour, size) {
     await expectInside(page, size);
 }
 
-webTest('gallery, phone: each page leads to the next', source('காட்சியகம்'), { files, viewport: PHONE },
+webTest('gallery, phone: each page leads to the next', examples.source('காட்சியகம்'), { files, viewport: PHONE },
         async page => {
     await expectInside(page, PHONE);
     await press(page, FAMILIES[0][0]);
@@ -80,7 +66,7 @@ webTest('gallery, phone: each page leads to the next', source('காட்ச�
     assert.deepEqual(page.errors, []);
 });
 
-webTest('gallery, phone: a form, a dialog and a message', source('காட்சியகம்'), { files, viewport: PHONE },
+webTest('gallery, phone: a form, a dialog and a message', examples.source('காட்சியகம்'), { files, viewport: PHONE },
         async page => {
     await press(page, 'உள்ளீடு');
     await press(page, 'வணங்கு');
@@ -99,7 +85,7 @@ webTest('gallery, phone: a form, a dialog and a message', source('காட்�
     assert.deepEqual(page.errors, []);
 });
 
-webTest('gallery, desktop: a tile leads to its page', source('காட்சியகம்'), { files, viewport: DESKTOP },
+webTest('gallery, desktop: a tile leads to its page', examples.source('காட்சியகம்'), { files, viewport: DESKTOP },
         async page => {
     await expectInside(page, DESKTOP);
     const [tile, title, colour] = FAMILIES[3];
@@ -117,7 +103,7 @@ async function expectSun(page, viewport, { width, height }) {
     near(blue, 195, 3);
 }
 
-webTest('photo gallery, phone', source('ஓவியக்கூடம்'), { files, viewport: PHONE }, async page => {
+webTest('photo gallery, phone', examples.source('ஓவியக்கூடம்'), { files, viewport: PHONE }, async page => {
     await expectInside(page, PHONE);
     await page.click(PHONE.width / 5, 300);
     await page.waitForText('கடலில் ஒரு நாளின் தொடக்கம்');
@@ -133,7 +119,7 @@ webTest('photo gallery, phone', source('ஓவியக்கூடம்'), { f
     assert.deepEqual(page.errors, []);
 });
 
-webTest('photo gallery, desktop', source('ஓவியக்கூடம்'), { files, viewport: DESKTOP }, async page => {
+webTest('photo gallery, desktop', examples.source('ஓவியக்கூடம்'), { files, viewport: DESKTOP }, async page => {
     await expectInside(page, DESKTOP);
     await page.click(DESKTOP.width / 5, 300);
     await page.waitForText('கடலில் ஒரு நாளின் தொடக்கம்');
@@ -141,7 +127,7 @@ webTest('photo gallery, desktop', source('ஓவியக்கூடம்'), {
     assert.deepEqual(page.errors, []);
 });
 
-webTest('dashboard, phone', source('கடை_நிலவரம்'), { files, viewport: PHONE }, async page => {
+webTest('dashboard, phone', examples.source('கடை_நிலவரம்'), { files, viewport: PHONE }, async page => {
     await page.waitForText('348 பேர்');
     await expectInside(page, PHONE);
     await press(page, 'புதிய ஆணை');
@@ -157,7 +143,7 @@ webTest('dashboard, phone', source('கடை_நிலவரம்'), { files, 
     assert.deepEqual(page.errors, []);
 });
 
-webTest('dashboard, desktop', source('கடை_நிலவரம்'), { files, viewport: DESKTOP }, async page => {
+webTest('dashboard, desktop', examples.source('கடை_நிலவரம்'), { files, viewport: DESKTOP }, async page => {
     await page.waitForText('கடை நிலவரம்');
     await expectInside(page, DESKTOP);
     assert.deepEqual(page.errors, []);

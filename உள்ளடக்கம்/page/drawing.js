@@ -7,9 +7,15 @@ var pozhilDrawing = (() => {
     let sum = 0;
     let isSumming = false;
     let hasShapes = false;
+    /// What this frame draws that isn't a shape, while somebody wants to know: { kind, shapes, ... } with the number of
+    /// shapes drawn before it.
+    let notes = [];
+    let isNoting = false;
 
     const number = new Float64Array(1);
     const partsOfNumber = new Int32Array(number.buffer);
+
+    const SIZE_IN_FONT = /([\d.e+-]+)px/;
 
     function add(part) {
         sum = Math.imul(sum ^ part, 0x01000193) + 1 | 0;
@@ -34,10 +40,66 @@ var pozhilDrawing = (() => {
         }
     }
 
+    // --- shapes, as the drawing library notes them down: a count and a place, of six numbers each ---
+
+    const KINDS = ['rect', 'round', 'circle', 'line', 'measure'];
+    const NUMBERS = 6;
+    let shapesAt = 0;
+    pozhilFrames.whenReady(() => { shapesAt = Module._pozhil_drawn_shapes() >> 2; });
+    const shapeCount = () => HEAP32[shapesAt];
+
+    /// The numbers of this frame's shapes. They hold until the next frame.
+    function shapes() {
+        const begin = HEAP32[shapesAt + 1] >> 2;
+        return HEAPF32.subarray(begin, begin + NUMBERS * shapeCount());
+    }
+
+    function noteThat(kind, details) {
+        if (isNoting) {
+            notes.push({ kind, shapes: shapeCount(), ...details });
+        }
+    }
+
+    /// All that this frame has drawn, in order: shapes as { kind, x, y, width, height, radius }, texts and notes.
+    function marks() {
+        const numbers = shapes();
+        const all = [];
+        let next = 0;
+        const addShapesTo = end => {
+            for (; next < end; next++) {
+                const [kind, x, y, width, height, radius] = numbers.subarray(NUMBERS * next, NUMBERS * (next + 1));
+                all.push({ kind: KINDS[kind], x, y, width, height, radius });
+            }
+        };
+        for (const note of notes) {
+            addShapesTo(note.shapes);
+            all.push(note);
+        }
+        addShapesTo(numbers.length / NUMBERS);
+        return all;
+    }
+
+    // --- texts and paints ---
+
     function watchTexts(context) {
-        const { fillText } = context;
+        const { clearRect, fillRect, fillText } = context;
+        // A dialog dims the page; a message clears its place of texts.
+        context.fillRect = function (...area) {
+            noteThat('dim');
+            return fillRect.apply(this, area);
+        };
+        context.clearRect = function (left, top, ...size) {
+            if (left !== 0 || top !== 0) {
+                noteThat('message');
+            }
+            return clearRect.call(this, left, top, ...size);
+        };
         context.fillText = function (text, left, top, ...more) {
             texts.push(text, left, top);
+            if (isNoting) {
+                const { font, textAlign: align, fillStyle: colour } = this;
+                noteThat('text', { text, x: left, y: top, font, size: parseFloat(font.match(SIZE_IN_FONT)[1]), align, colour });
+            }
             if (isSumming) {
                 addText(text + this.font + this.fillStyle + this.textAlign);
                 [left, top, this.globalAlpha].forEach(addNumber);
@@ -64,6 +126,22 @@ var pozhilDrawing = (() => {
         };
     }
 
+    /// Widgets that can be pressed ask where the pointer is.
+    function watchPointer() {
+        let { mouseX } = window;
+        Object.defineProperty(window, 'mouseX', {
+            configurable: true,
+            get() {
+                // Before the first shape, the background, the frame itself asks.
+                if (isNoting && shapeCount() > 0) {
+                    noteThat('ask');
+                }
+                return mouseX;
+            },
+            set(x) { mouseX = x; },
+        });
+    }
+
     let watched = null;
     pozhilFrames.before(() => {
         const canvas = document.getElementById('textCanvas');
@@ -74,6 +152,8 @@ var pozhilDrawing = (() => {
         }
         [formerTexts, texts] = [texts, []];
         sum = 0;
+        notes = [];
+        HEAP32[shapesAt] = 0;
         hasShapes = false;
     });
 
@@ -88,8 +168,13 @@ var pozhilDrawing = (() => {
         return 0;
     }
 
+    pozhilFrames.whenReady(watchPointer);
+
     return {
-        shift,
+        shift, shapes, marks,
+        texts: () => texts,
+        /// Whether the next frame is to be kept for `marks`, which costs time.
+        watchMarks: isWanted => { isNoting = isWanted; },
         /// Whether this frame has drawn nothing at all, not even a background.
         isBlank: () => !hasShapes && texts.length === 0,
         sum: () => sum,

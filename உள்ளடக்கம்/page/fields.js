@@ -1,5 +1,5 @@
 // Fields are elements of the browser over the canvas. They keep to the page: none shows through a dialog, and none that the
-// keyboard reaches pulls the page out of its window.
+// keyboard reaches pulls the page out of its window; nor does what a search finds.
 (() => {
     // What lies higher isn't dimmed with the texts.
     const TEXT_LAYER = 1000;
@@ -67,43 +67,55 @@
     // --- in the window ---
 
     /// The program scrolls, not the browser, which would move the canvas out of its window.
-    function stayInPlace() {
-        document.documentElement.scrollTo(0, 0);
-        document.body.scrollTo(0, 0);
-    }
+    const scrolled = [document.documentElement, document.body, document.getElementById('pozhil-shown')];
+    const isIn = ({ top, bottom }) => top >= 0 && bottom <= window.innerHeight;
 
-    window.addEventListener('scroll', event => {
-        if (event.target === document || event.target === document.body) {
-            stayInPlace();
-        }
-    }, true);
+    function stayInPlace() {
+        scrolled.forEach(element => element.scrollTo(0, 0));
+    }
 
     let pointer = null;
     let isByKeyboard = false;
+    let isFocusing = false;
 
-    /// Turns the wheel over the middle of the window as far as the field is from there.
-    function bringIn(field) {
-        stayInPlace();
-        const { left, top, bottom } = field.getBoundingClientRect();
-        if (top >= 0 && bottom <= window.innerHeight) {
-            return;
-        }
+    /// Turns the wheel over the middle of the window as far as the place is from there.
+    function bringIn({ left, top, bottom }) {
         pointer ??= [window.mouseX, window.mouseY];
         const middle = window.innerHeight / 2;
         pozhilPointer.moveTo(Math.max(INSET, left + INSET), middle);
         pozhilPointer.turnWheel(0, (top + bottom) / 2 - middle);
     }
 
+    // Browsers scroll to what a search finds, and to what gets the focus or is typed in, which is seen to otherwise.
+    window.addEventListener('scroll', event => {
+        if (event.target !== document && !scrolled.includes(event.target)) {
+            return;
+        }
+        const way = scrolled.reduce((sum, { scrollTop }) => sum + scrollTop, 0);
+        stayInPlace();
+        if (way !== 0 && !isFocusing && !document.activeElement.matches('.pozhil-input')) {
+            const middle = window.innerHeight / 2 + way;
+            bringIn({ left: window.innerWidth / 2, top: middle, bottom: middle });
+            pozhilFrames.wake();
+        }
+    }, true);
+
     window.addEventListener('keydown', () => { isByKeyboard = true; }, true);
     for (const press of ['mousedown', 'touchstart']) {
         window.addEventListener(press, () => { isByKeyboard = false; }, true);
     }
     window.addEventListener('focusin', event => {
-        if (isByKeyboard && event.target.matches('.pozhil-input')) {
-            bringIn(event.target);
+        isFocusing = true;
+        if (isByKeyboard && event.target.matches('.pozhil-input, .pozhil-widget')) {
+            stayInPlace();
+            const place = event.target.getBoundingClientRect();
+            if (!isIn(place)) {
+                bringIn(place);
+            }
         }
     });
     pozhilFrames.after(() => {
+        isFocusing = false;
         if (pointer) {
             [window.mouseX, window.mouseY] = pointer;
             pointer = null;

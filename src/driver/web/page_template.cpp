@@ -98,6 +98,12 @@ std::string escaped(const std::string& text) {
     return value;
 }
 
+/// JSON that can stand in a script of its own: nothing in it ends that.
+std::string scriptData(std::string json) {
+    replaceAll(json, "<", "\\u003c");
+    return json;
+}
+
 std::string imageType(const std::string& path) {
     const auto endsWith = [&](std::string_view ending) {
         return path.size() >= ending.size() && path.compare(path.size() - ending.size(), ending.size(), ending) == 0;
@@ -122,6 +128,7 @@ std::string fillTemplate(std::string page, const PageValues& values) {
     replaceFirst(page, "{{{ தரவு_முன்னேற்றம் }}}", values.hasData ? DATA_PRELOAD : "");
     replaceFirst(page, "{{{ இணைய_தலைப்பு }}}", title);
     replaceFirst(page, "{{{ சின்னம் }}}", embeddedIcon(values.icon));
+    replaceFirst(page, "{{{ விட்ஜெட்டுகள் }}}", scriptData(values.widgets));
     replaceAll(page, "{{{ பின்னணி_நிறம் }}}", values.background.empty() ? "#ffffff" : values.background);
     if (!replaceFirst(page, "{{{ SCRIPT }}}", SCRIPT)) {
         insertBeforeEndOfBody(page, std::string(SCRIPT) + "\n");

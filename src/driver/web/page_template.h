@@ -16,6 +16,8 @@ struct PageValues {
     std::string background;
     /// Whether files are packed beside the program
     bool hasData = false;
+    /// What the page is told of its widgets, as JSON
+    std::string widgets = "{}";
     /// The number that the server tells once this build is in place
     int version = 0;
 };

@@ -5,6 +5,7 @@
 #include "driver/server/build_fault.h"
 #include "driver/server/web_state.h"
 #include "driver/settings.h"
+#include "driver/web/outline_json.h"
 #include "driver/web/page_template.h"
 #include "driver/web/web_assets.h"
 #include "driver/web/web_directory.h"
@@ -14,6 +15,7 @@
 #include <cstdint>
 #include <iostream>
 #include <system_error>
+#include <utility>
 
 namespace pozhil {
 namespace {
@@ -55,7 +57,7 @@ bool WebBuild::run(const ParsedSource& source, const OutputText& output) {
     }
     const int version = g_appVersion + 1;
     const Application application = readApplication(source.program);
-    if (!makePage(application, version)) {
+    if (!makePage(application, outlineJson(outlineOf(source.program)), version)) {
         return false;
     }
     const std::vector<std::string> packing = packingArguments(application);
@@ -80,7 +82,7 @@ bool WebBuild::run(const ParsedSource& source, const OutputText& output) {
 }
 
 /// Makes the page for the server, which hands it out from now on, also if em++ then fails.
-bool WebBuild::makePage(const Application& application, int version) const {
+bool WebBuild::makePage(const Application& application, std::string widgets, int version) const {
     const auto page = readTemplate(appDirectory_);
     if (!page) {
         printMissingTemplate(appDirectory_.u8string() + "/உள்ளடக்கம்/template.html");
@@ -91,6 +93,7 @@ bool WebBuild::makePage(const Application& application, int version) const {
     values.icon = application.icon;
     values.background = application.background;
     values.hasData = hasFilesToPack(application);
+    values.widgets = std::move(widgets);
     values.version = version;
     g_web_html.store(fillTemplate(*page, values));
     return true;

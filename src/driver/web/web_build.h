@@ -26,7 +26,7 @@ public:
     bool run(const ParsedSource& source, const OutputText& output);
 
 private:
-    bool makePage(const Application& application, int version) const;
+    bool makePage(const Application& application, std::string widgets, int version) const;
     PrecompiledHeaders headersFor(const OutputText& output);
     void prepareRuntime(const OutputText& output);
     platform::CommandResult compile(const OutputText& output, const std::vector<std::string>& packing);
