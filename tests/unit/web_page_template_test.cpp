@@ -52,6 +52,13 @@ TEST_F(PageTemplate, BackgroundThatNamesItsOwnPlaceholderIsFilledInOnce) {
     EXPECT_EQ(fillTemplate("a{{{ பின்னணி_நிறம் }}}b", values), "a{{{ பின்னணி_நிறம் }}}b");
 }
 
+TEST_F(PageTemplate, WhatIsToldOfWidgetsEndsNoScript) {
+    PageValues values;
+    values.widgets = R"({"</script>":[]})";
+    EXPECT_EQ(fillTemplate("{{{ விட்ஜெட்டுகள் }}}", values), R"({"\u003c/script>":[]})");
+    EXPECT_EQ(fillTemplate("{{{ விட்ஜெட்டுகள் }}}", {}), "{}");
+}
+
 TEST_F(PageTemplate, DescriptionIsTheTitleAsAnAttribute) {
     PageValues values;
     values.title = R"(அ & "ஆ" <இ>)";
