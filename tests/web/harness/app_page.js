@@ -59,10 +59,10 @@ export class AppPage {
         return found[0];
     }
 
-    /// Waits until a text that reads so is drawn.
+    /// Waits until a text that reads so is drawn. An animation counts frames, and a busy machine draws one a second.
     async waitForText(wanted) {
         await this.page.waitForFunction(text => window.recorded?.texts.some(drawn => drawn.text === text), wanted,
-                                        { timeout: 60_000 });
+                                        { timeout: 200_000 });
     }
 
     /// The width that the browser itself gives the text on the text canvas.
