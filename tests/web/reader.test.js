@@ -1,5 +1,7 @@
 // What the canvas shows is in the document too: for screen readers, search, copies and the keyboard.
 
+import { readFileSync } from 'node:fs';
+
 import axe from 'axe-core';
 
 import { PHONE, application, assert, near, webTest } from './harness/index.js';
@@ -295,3 +297,13 @@ for (const name of ['காட்சியகம்', 'பதிவுப்_ப
             .filter(text => /^(serious|critical)/.test(text)), []);
     });
 }
+
+const guide = readFileSync(new URL('../../docs/வலை/அணுகல்.md', import.meta.url), 'utf8');
+
+webTest('the page of the guide is read as the guide says', /^```பொழில்-வலை\n([^]*?)^```$/m.exec(guide)[1], async page => {
+    await waitForLine(page, '- slider "ஒலியின் அளவு"');
+    const names = await namesInBrowser(page);
+    for (const wanted of ['switch இருள் பயன்முறை', 'slider ஒலியின் அளவு', 'textbox பெயர்']) {
+        assert.ok(names.includes(wanted), `${wanted} in ${names.join(', ')}`);
+    }
+});
