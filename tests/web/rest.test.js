@@ -17,7 +17,7 @@ const counting = application(`
 const drawn = page => page.page.evaluate(() => window.recorded.frames);
 
 /// Waits until the page rests; false if it doesn't in this time.
-async function rests(page, limit = 8000) {
+async function rests(page, limit = 60_000) {
     const end = Date.now() + limit;
     while (Date.now() < end) {
         const before = await drawn(page);

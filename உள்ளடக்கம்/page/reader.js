@@ -4,6 +4,8 @@
     // What moves by itself is followed at these intervals, in milliseconds, and for so small a part of the time.
     const INTERVAL = 200;
     const PART_OF_TIME = 40;
+    // After so many frames in which nothing happens the next change may be far off.
+    const QUIET = 2;
     // A slider goes so far at a stroke of a key.
     const STEPS = 20;
 
@@ -19,45 +21,55 @@
     let isLooking = false;
     let lastLook = -Infinity;
     let cost = 0;
-    let timer = 0;
-    let isOwnWaking = false;
-    /// What the last frame that was looked at has drawn.
-    let seenTexts = [];
-    let seenShapes = new Float32Array(0);
+    /// Frames since something has happened or moved.
+    let quietFrames = 0;
+    /// What the last frame has drawn.
+    let formerTexts = [];
+    let formerShapes = new Float32Array(0);
 
-    const isSameList = (one, other) => one.length === other.length && one.every((value, index) => value === other[index]);
-    const hasMoved = () => !isSameList(pozhilDrawing.texts(), seenTexts) || !isSameList(pozhilDrawing.shapes(), seenShapes);
-
-    function wakeForMyself() {
-        timer = 0;
-        isOwnWaking = true;
-        pozhilFrames.wake();
-        isOwnWaking = false;
+    function isSameList(one, other) {
+        if (one.length !== other.length) {
+            return false;
+        }
+        for (let index = 0; index < one.length; index++) {
+            if (one[index] !== other[index]) {
+                return false;
+            }
+        }
+        return true;
     }
 
-    const nextLook = () => lastLook + Math.max(INTERVAL, PART_OF_TIME * cost);
+    function noticeMoves() {
+        const texts = pozhilDrawing.texts();
+        const shapes = pozhilDrawing.shapes();
+        quietFrames++;
+        if (!isSameList(texts, formerTexts) || !isSameList(shapes, formerShapes)) {
+            isStale = true;
+            quietFrames = 0;
+            formerShapes = shapes.slice();
+        }
+        formerTexts = texts;
+    }
 
-    pozhilFrames.whenWoken(() => { isStale ||= !isOwnWaking; });
+    pozhilFrames.whenWoken(() => {
+        isStale = true;
+        quietFrames = 0;
+    });
     pozhilFrames.before(() => {
-        isLooking = isStale && clock() >= nextLook();
+        // A page that becomes quiet is looked at before it rests.
+        isLooking = isStale && (quietFrames >= QUIET || clock() >= lastLook + Math.max(INTERVAL, PART_OF_TIME * cost));
         pozhilDrawing.watchMarks(isLooking);
     });
     pozhilFrames.after(() => {
+        noticeMoves();
         if (isLooking) {
             look();
-        } else {
-            isStale ||= hasMoved();
-        }
-        if (isStale && !timer) {
-            timer = setTimeout(wakeForMyself, Math.max(0, nextLook() - clock()));
         }
     });
 
     function look() {
         const begin = clock();
         isStale = false;
-        seenTexts = pozhilDrawing.texts();
-        seenShapes = pozhilDrawing.shapes().slice();
         const marks = pozhilDrawing.marks();
         mirror(pozhilShown.read(marks, notesOfNow()), marks);
         lastLook = clock();
@@ -288,7 +300,7 @@
             const { x, y, width, height } = itemOf.get(waiting.element);
             pozhilPointer.moveTo(x + width * waiting.ratio, y + height / 2);
             pozhilPointer.tap();
-            isStale = true;
+            pozhilFrames.wake();
         }
         waiting = null;
     }
