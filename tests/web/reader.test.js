@@ -221,9 +221,12 @@ webTest('of a dialog nothing is seen but the dialog, and messages are said', for
         ['textbox உன் ஊர்', false]]) {
         assert.equal(names.includes(wanted), isThere, `${wanted} in ${names.join(', ')}`);
     }
-    await widget(page, 'button', 'மூடு').press('Enter');
+    const focused = () => page.page.evaluate(() => document.activeElement.textContent);
+    assert.equal(await focused(), 'மூடு');
+    await page.page.keyboard.press('Enter');
     await page.page.waitForFunction(() => !document.querySelector('[role=dialog]'), undefined, { timeout: 10_000 });
     assert.ok((await namesInBrowser(page)).includes('button கூட்டு'));
+    assert.equal(await focused(), 'திற');
 });
 
 webTest('a screen reader presses without a pointer', form, async page => {

@@ -148,10 +148,13 @@
         'aria-selected': item.role === 'tab' || item.role === 'option' ? item.selected + '' : null,
         'aria-expanded': item.opens ? item.expanded + '' : null, 'aria-haspopup': item.opens,
         'aria-modal': item.role === 'dialog' ? 'true' : null, 'aria-current': item.current ? 'page' : null, 'aria-disabled': item.disabled ? 'true' : null,
-        ...item.role === 'slider' || item.role === 'progressbar' ? valueOf(item) : {},
+        ...valueOf(item),
     });
 
     function valueOf({ ratio, least = 0, largest = 100 }) {
+        if (ratio === undefined) {
+            return { 'aria-valuemin': null, 'aria-valuemax': null, 'aria-valuenow': null };
+        }
         return { 'aria-valuemin': least, 'aria-valuemax': largest,
                  'aria-valuenow': ratio === null ? null : Math.round((least + ratio * (largest - least)) * 100) / 100 };
     }
@@ -264,19 +267,37 @@
         });
     }
 
+    // --- dialogs ---
+
+    let layers = [page];
+    /// What had the focus before each of the dialogs came.
+    const left = [];
+
+    /// Only what lies on top can be reached. Whoever goes by the keyboard goes on there, and comes back.
+    function leadFocus(hasOpened) {
+        const active = document.activeElement;
+        const isOurs = root.contains(active);
+        layers.forEach((layer, place) => { layer.inert = place < layers.length - 1; });
+        if (hasOpened) {
+            left.push(isOurs ? active : null);
+            if (isOurs) {
+                layers.at(-1).querySelector('.pozhil-widget[tabindex], .pozhil-input')?.focus();
+            }
+        } else {
+            left.splice(layers.length - 1)[0]?.focus();
+        }
+    }
+
     function mirror(shown, marks) {
         addFields(shown, marks);
         nameFields([...shown.page, ...shown.dialogs]);
+        const former = layers.length;
         showAll(page, shown.page);
         showAll(root, shown.dialogs);
-        // Only what lies on top can be reached.
-        const layers = [page, ...[...root.children].filter(element => itemOf.has(element))];
-        layers.forEach((layer, place) => {
-            const isUnder = place < layers.length - 1;
-            if (layer.inert !== isUnder) {
-                layer.inert = isUnder;
-            }
-        });
+        layers = [page, ...[...root.children].filter(element => itemOf.has(element))];
+        if (layers.length !== former) {
+            leadFocus(layers.length > former);
+        }
         const message = shown.messages.map(textOf).join(' ');
         if (said.textContent !== message) {
             said.textContent = message;
