@@ -26,7 +26,7 @@ std::string namesJson(const std::vector<std::string>& names) {
 std::string widgetJson(const OutlinedWidget& widget) {
     std::string members = "\"kind\":" + json::text(widget.kind);
     if (widget.use != WidgetUse::None) {
-        members += widget.use == WidgetUse::Link ? ",\"use\":\"link\"" : ",\"use\":\"press\"";
+        members += widget.use == WidgetUse::Link ? R"(,"use":"link")" : R"(,"use":"press")";
     }
     if (widget.least && widget.largest) {
         members += ",\"least\":" + numberText(*widget.least) + ",\"largest\":" + numberText(*widget.largest);
