@@ -87,3 +87,11 @@ test('of controls in a row each is called by the text on its left, and no text n
     assert.deepEqual(read([text('ஒன்று', 0, 14), ...control(60), text('இரண்டு', 130, 14), ...control(200), ...control(260)]),
                      ['text "ஒன்று"', 'switch "ஒன்று"', 'text "இரண்டு"', 'switch "இரண்டு"', 'switch "மாற்றி"']);
 });
+
+test('a label may stand at the other end of the line, but one above is nearer', () => {
+    const control = [ask, round(400, 10, 48, 28, 14), rect(400, 7, 34, 34), circle(414, 24, 12)];
+    assert.deepEqual(read([text('ஒலி', 0, 14), ...control]), ['text "ஒலி"', 'switch "ஒலி"']);
+    assert.deepEqual(read([text('வேறு', 0, 14), text('ஒலி', 400, -20), ...control]),
+                     ['text "வேறு"', 'text "ஒலி"', 'switch "ஒலி"']);
+    assert.deepEqual(read([text('ஒலி', 400, -100), ...control]), ['text "ஒலி"', 'switch "மாற்றி"']);
+});

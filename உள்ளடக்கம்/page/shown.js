@@ -312,15 +312,16 @@ var pozhilShown = (() => {
         x: text.x + (text.align === 'center' ? 0 : 0.3 * text.size * text.text.length), y: text.y + text.size / 2,
     });
 
-    // So far a label may be from what it is for.
-    const REACH = 60;
+    // So far a label may stand beside what it is for, and above it.
+    const REACH_ACROSS = 600;
+    const REACH_DOWN = 60;
 
     /// The text that most likely says what the item at this place is: beside it, else above it.
     function labelOf(items, place) {
         const AROUND = 4;
         const { x: left, y: top, width, height } = items[place];
         const middle = middleOf(items[place]);
-        let best = { text: null, distance: REACH };
+        let best = { text: null, distance: REACH_ACROSS };
         for (let other = Math.max(0, place - AROUND); other < Math.min(items.length, place + AROUND); other++) {
             const [text] = items[other].role === 'text' ? items[other].texts : [];
             if (!text || text.isLabel || text.text.trim() === '') {
@@ -331,7 +332,7 @@ var pozhilShown = (() => {
             const across = Math.max(0, left - text.x - 2 * (centre.x - text.x), text.x - left - width);
             const isAbove = centre.y < top && across === 0;
             const distance = isBeside ? across : Math.max(0, top - text.y - text.size);
-            if (distance < best.distance && (isBeside || isAbove)) {
+            if (distance < best.distance && (isBeside || (isAbove && distance < REACH_DOWN))) {
                 best = { text, distance };
             }
         }
