@@ -41,6 +41,15 @@ bool showsHints() {
     return platform::environmentVariable("POZHIL_HINTS").value_or("") != "0";
 }
 
+std::string serverHost() {
+    const std::string host = platform::environmentVariable("POZHIL_HOST").value_or("");
+    return host == "localhost" ? "127.0.0.1" : host;
+}
+
+bool isServerStrict() {
+    return platform::environmentVariable("POZHIL_STRICT") == "1";
+}
+
 std::vector<std::string> moduleDirectories(const std::string& appDirectory) {
     return {platform::environmentVariable("POZHIL_MODULES").value_or(DEFAULT_MODULES), appDirectory + "/தொகுப்புகள்"};
 }

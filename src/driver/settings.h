@@ -29,6 +29,12 @@ ToolchainWords toolchainWords();
 /// Whether hints are shown: POZHIL_HINTS, unless it is 0.
 bool showsHints();
 
+/// The address that the server of web applications listens on: POZHIL_HOST; empty for all that this machine has.
+std::string serverHost();
+
+/// Whether that server answers its own pages alone, on this machine alone: POZHIL_STRICT, only if it is 1.
+bool isServerStrict();
+
 /// Where imports are looked for after the working directory, in order: POZHIL_MODULES or its default, then the
 /// installation's own modules.
 /// \param appDirectory the installation

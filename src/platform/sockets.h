@@ -42,11 +42,15 @@ public:
     const ListenStep failedStep;
 };
 
-/// Opens a port on all interfaces. Programs that this process starts don't inherit it.
+/// Whether \p text is an address in numbers, as a port can be opened on.
+bool isAddress(const std::string& text);
+
+/// Opens a port. Programs that this process starts don't inherit it.
 /// \param port 0 for any that is free
 /// \param backlog how many connections the system holds until they are accepted
+/// \param address of this machine, in numbers; empty for all that it has
 /// \throws ListenFailure
-Socket listenOnPort(int port, int backlog);
+Socket listenOnPort(int port, int backlog, const std::string& address = {});
 
 /// The port of a listening socket.
 int portOf(const Socket& listener);

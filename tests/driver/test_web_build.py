@@ -37,7 +37,8 @@ def serving(place):
 
 
 def outputs(place):
-    return sorted(path.name for path in place.web_directory.iterdir())
+    """What em++ has made; the compressed copies of it come whenever they are ready."""
+    return sorted(path.name for path in place.web_directory.iterdir() if ".gz" not in path.name)
 
 
 def page_version():

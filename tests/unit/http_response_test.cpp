@@ -6,7 +6,9 @@
 
 #include <sys/stat.h>
 
+#include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -23,9 +25,9 @@ std::string head(const std::string& type, std::size_t length) {
 
 const std::string NOT_FOUND = "HTTP/1.1 404 Not Found\r\nContent-Length: 26\r\n\r\n404 - பக்கம் காணவில்லை";
 
-/// All that is sent for \p path.
-std::string answerTo(const std::string& path) {
-    auto response = HttpResponse::to(path);
+/// All that is sent for a request.
+std::string answerTo(const HttpRequest& request, Access access = Access::Open) {
+    auto response = HttpResponse::to(request, access);
     if (!response) {
         return "nothing";
     }
@@ -36,53 +38,20 @@ std::string answerTo(const std::string& path) {
     return answer;
 }
 
+/// All that is sent for \p path.
+std::string answerTo(const std::string& path) {
+    return answerTo(HttpRequest{path});
+}
+
 /// Page and version as they are before the first build.
 class Answers : public test::WorkingFolder {
 protected:
     void TearDown() override {
         g_appVersion = 1;
-        g_web_html.store("");
+        g_web_html.store({});
         WorkingFolder::TearDown();
     }
 };
-
-TEST(UrlDecode, CopiesWhatNeedsNoDecoding) {
-    EXPECT_EQ(urlDecode(""), "");
-    EXPECT_EQ(urlDecode("/assets/a-b_c.png?x=1&y=2#z"), "/assets/a-b_c.png?x=1&y=2#z");
-    EXPECT_EQ(urlDecode("/படம்.png"), "/படம்.png");
-}
-
-TEST(UrlDecode, MakesAPlusABlank) {
-    EXPECT_EQ(urlDecode("/a+b++"), "/a b  ");
-    EXPECT_EQ(urlDecode("/a%2Bb"), "/a+b");
-}
-
-TEST(UrlDecode, MakesBytesOfNumbers) {
-    EXPECT_EQ(urlDecode("/%E0%AE%85.png"), "/அ.png");
-    EXPECT_EQ(urlDecode("/%e0%ae%85.png"), "/அ.png");
-    EXPECT_EQ(urlDecode("%41"), "A");
-    EXPECT_EQ(urlDecode("/a%20b"), "/a b");
-    EXPECT_EQ(urlDecode("%00"), "\0"s);
-}
-
-TEST(UrlDecode, DecodesOnlyOnce) {
-    EXPECT_EQ(urlDecode("%2541"), "%41");
-}
-
-TEST(UrlDecode, KeepsAPercentSignWithoutANumber) {
-    EXPECT_EQ(urlDecode("/100%"), "/100%");
-    EXPECT_EQ(urlDecode("/100%4"), "/100%4");
-    EXPECT_EQ(urlDecode("/%zz"), "/%zz");
-    EXPECT_EQ(urlDecode("/%z1"), "/%z1");
-    EXPECT_EQ(urlDecode("%%41"), "%A");
-    EXPECT_EQ(urlDecode("%"), "%");
-}
-
-TEST(UrlDecode, TakesANumberThatEndsEarly) {
-    EXPECT_EQ(urlDecode("/%1z"), "/\x01");
-    EXPECT_EQ(urlDecode("/%-1"), "/\xff");
-    EXPECT_EQ(urlDecode("/%0x"), "/\0"s);
-}
 
 TEST(MimeType, FollowsTheEnding) {
     EXPECT_EQ(getMimeType("/a.html"), "text/html; charset=utf-8");
@@ -110,36 +79,6 @@ TEST(MimeType, IsThatOfAnyBytesOtherwise) {
 
 TEST(MimeType, TheEndingMayBeAll) {
     EXPECT_EQ(getMimeType(".png"), "image/png");
-}
-
-TEST(RequestedPath, StandsBetweenTheFirstTwoBlanks) {
-    EXPECT_EQ(requestedPath("GET /a.png HTTP/1.1\r\nHost: x\r\n\r\n"), "/a.png");
-    EXPECT_EQ(requestedPath("GET /a.png "), "/a.png");
-    EXPECT_EQ(requestedPath(" / "), "/");
-    EXPECT_EQ(requestedPath("GET  /a HTTP/1.1"), "");
-    EXPECT_EQ(requestedPath("GET /a\r\nHost: x y"), "/a\r\nHost:");
-}
-
-TEST(RequestedPath, NeedsTwoBlanks) {
-    for (const char* text : {"", "GET", "GET ", "GET /", "GET /version", "\r\n\r\n", "GET /version\r\n\r\n"}) {
-        EXPECT_EQ(requestedPath(text), std::nullopt) << text;
-    }
-}
-
-TEST(RequestedPath, EndsWithTheTextAtANullByte) {
-    EXPECT_EQ(requestedPath("GET / HTTP\0 x"s), "/");
-    EXPECT_EQ(requestedPath("GET /\0 HTTP/1.1"s), std::nullopt);
-    EXPECT_EQ(requestedPath("\0GET / HTTP/1.1"s), std::nullopt);
-}
-
-TEST(RequestedPath, IsDecodedBehindTheCut) {
-    EXPECT_EQ(requestedPath("GET /a%20b+c HTTP/1.1"), "/a b c");
-    EXPECT_EQ(requestedPath("GET /%E0%AE%85 HTTP/1.1"), "/அ");
-}
-
-TEST(RequestedPath, AnyMethodWillDo) {
-    EXPECT_EQ(requestedPath("HEAD /x HTTP/1.1"), "/x");
-    EXPECT_EQ(requestedPath("எதுவும் /x y"), "/x");
 }
 
 TEST(ServedFile, LiesBelowTheCurrentFolder) {
@@ -171,7 +110,7 @@ TEST_F(Answers, FaultOfTheLastBuildIsToldBesideTheVersion) {
 }
 
 TEST_F(Answers, VersionGoesInOnePiece) {
-    auto response = HttpResponse::to("/version");
+    auto response = HttpResponse::to({"/version"});
     ASSERT_TRUE(response);
     EXPECT_EQ(response->nextPiece(), head("text/plain", 1) + "1");
     EXPECT_EQ(response->nextPiece(), "");
@@ -180,23 +119,23 @@ TEST_F(Answers, VersionGoesInOnePiece) {
 TEST_F(Answers, PageIsThatOfTheLastBuild) {
     write("index.html", "a file of this name counts for nothing");
     EXPECT_EQ(answerTo("/"), head("text/html; charset=utf-8", 0));
-    g_web_html.store("<p>வணக்கம்</p>");
+    g_web_html.store({"<p>வணக்கம்</p>"});
     EXPECT_EQ(answerTo("/"), head("text/html; charset=utf-8", 28) + "<p>வணக்கம்</p>");
     EXPECT_EQ(answerTo("/index.html"), answerTo("/"));
 }
 
 TEST_F(Answers, PageStaysWhatItWasWhenTheAnswerBegan) {
-    g_web_html.store("பழையது");
-    auto response = HttpResponse::to("/");
+    g_web_html.store({"பழையது"});
+    auto response = HttpResponse::to({"/"});
     ASSERT_TRUE(response);
     EXPECT_EQ(response->nextPiece(), head("text/html; charset=utf-8", 18));
-    g_web_html.store("புதிது");
+    g_web_html.store({"புதிது"});
     EXPECT_EQ(response->nextPiece(), "பழையது");
     EXPECT_EQ(response->nextPiece(), "");
 }
 
 TEST_F(Answers, QueryBelongsToTheName) {
-    g_web_html.store("page");
+    g_web_html.store({"page"});
     EXPECT_EQ(answerTo("/?x"), NOT_FOUND);
     EXPECT_EQ(answerTo("/index.html?x"), NOT_FOUND);
     EXPECT_EQ(answerTo("/version?x"), NOT_FOUND);
@@ -259,14 +198,14 @@ TEST_F(Answers, LargeFileGoesPieceByPiece) {
     }
     write("large.mp4", text);
     EXPECT_TRUE(answerTo("/large.mp4") == head("video/mp4", text.size()) + text);
-    auto response = HttpResponse::to("/large.mp4");
+    auto response = HttpResponse::to({"/large.mp4"});
     ASSERT_TRUE(response);
     EXPECT_LT(response->nextPiece().size(), text.size() / 2);
 }
 
 TEST_F(Answers, FileThatShrinksMeanwhileBreaksOff) {
     write("large.mp4", std::string(1024 * 1024, 'x'));
-    auto response = HttpResponse::to("/large.mp4");
+    auto response = HttpResponse::to({"/large.mp4"});
     ASSERT_TRUE(response);
     EXPECT_FALSE(response->nextPiece().empty());
     std::filesystem::resize_file("large.mp4", 10);
@@ -275,7 +214,7 @@ TEST_F(Answers, FileThatShrinksMeanwhileBreaksOff) {
 
 TEST_F(Answers, FileThatGrowsMeanwhileKeepsItsLength) {
     write("large.mp4", std::string(300 * 1024, 'x'));
-    auto response = HttpResponse::to("/large.mp4");
+    auto response = HttpResponse::to({"/large.mp4"});
     ASSERT_TRUE(response);
     std::string answer(response->nextPiece());
     write("large.mp4", std::string(900 * 1024, 'x'));
@@ -283,6 +222,163 @@ TEST_F(Answers, FileThatGrowsMeanwhileKeepsItsLength) {
         answer += piece;
     }
     EXPECT_EQ(answer.size(), head("video/mp4", 300 * 1024).size() + 300 * 1024);
+}
+
+HttpRequest asking(const std::string& path, const std::string& range) {
+    HttpRequest request{path};
+    request.range = range;
+    return request;
+}
+
+HttpRequest takingGzip(const std::string& path) {
+    HttpRequest request{path};
+    request.acceptsGzip = true;
+    return request;
+}
+
+HttpRequest headOnly(const std::string& path) {
+    HttpRequest request{path};
+    request.isHead = true;
+    return request;
+}
+
+std::string headWith(const std::string& line, const std::string& type, std::size_t length,
+                     const std::string& status = "200 OK") {
+    return "HTTP/1.1 " + status + "\r\nContent-Type: " + type + "\r\nContent-Length: " + std::to_string(length) +
+           "\r\n" + line + "\r\nConnection: close\r\nAccess-Control-Allow-Origin: *\r\n\r\n";
+}
+
+const std::string GZIP_LINES = "Content-Encoding: gzip\r\nVary: Accept-Encoding";
+
+TEST_F(Answers, HeadIsThatOfTheWholeAnswer) {
+    g_web_html.store({"page"});
+    write("large.mp4", std::string(300 * 1024, 'x'));
+    EXPECT_EQ(answerTo(headOnly("/version")), head("text/plain", 1));
+    EXPECT_EQ(answerTo(headOnly("/version/fault")), head("application/json", 2));
+    EXPECT_EQ(answerTo(headOnly("/")), head("text/html; charset=utf-8", 4));
+    EXPECT_EQ(answerTo(headOnly("/large.mp4")), head("video/mp4", 300 * 1024));
+    EXPECT_EQ(answerTo(headOnly("/no")), "HTTP/1.1 404 Not Found\r\nContent-Length: 26\r\n\r\n");
+}
+
+TEST_F(Answers, PartOfAFileIsSentAlone) {
+    std::string text(300 * 1024, '\0');
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        text[i] = static_cast<char>(i * 31 >> 7);
+    }
+    write("a.mp4", text);
+    const auto part = [&](std::size_t first, std::size_t last) {
+        const std::string place = std::to_string(first) + "-" + std::to_string(last) + "/307200";
+        return headWith("Content-Range: bytes " + place, "video/mp4", last - first + 1, "206 Partial Content") +
+               text.substr(first, last - first + 1);
+    };
+    EXPECT_EQ(answerTo(asking("/a.mp4", "bytes=0-0")), part(0, 0));
+    EXPECT_EQ(answerTo(asking("/a.mp4", "bytes=10-19")), part(10, 19));
+    EXPECT_TRUE(answerTo(asking("/a.mp4", "bytes=0-")) == part(0, 307199));
+    EXPECT_TRUE(answerTo(asking("/a.mp4", "bytes=100-200000")) == part(100, 200000));
+    EXPECT_EQ(answerTo(asking("/a.mp4", "bytes=-5")), part(307195, 307199));
+    EXPECT_EQ(answerTo(asking("/a.mp4", "bytes=307199-99999999999999999999999999")), part(307199, 307199));
+}
+
+TEST_F(Answers, PartThatTheFileDoesNotHave) {
+    write("a.mp4", "0123456789");
+    write("empty.mp4", "");
+    const auto impossible = [](const std::string& size) {
+        return headWith("Content-Range: bytes */" + size, "video/mp4", 0, "416 Range Not Satisfiable");
+    };
+    EXPECT_EQ(answerTo(asking("/a.mp4", "bytes=10-")), impossible("10"));
+    EXPECT_EQ(answerTo(asking("/a.mp4", "bytes=-0")), impossible("10"));
+    EXPECT_EQ(answerTo(asking("/empty.mp4", "bytes=0-")), impossible("0"));
+}
+
+TEST_F(Answers, WholeFileWhereThePartsMakeNoSense) {
+    write("a.mp4", "0123456789");
+    for (const char* range :
+         {"bytes=5-2", "bytes=0-3,5-7", "bytes=0-,0-,0-", "lines=1-2", "bytes", "bytes=-", "bytes=a-b"}) {
+        EXPECT_EQ(answerTo(asking("/a.mp4", range)), head("video/mp4", 10) + "0123456789") << range;
+    }
+    EXPECT_EQ(answerTo(asking("/version", "bytes=0-0")), head("text/plain", 1) + "1");
+}
+
+TEST_F(Answers, CompressedPageGoesToWhoeverTakesIt) {
+    g_web_html.store({"a long page", "short"});
+    EXPECT_EQ(answerTo(takingGzip("/")), headWith(GZIP_LINES, "text/html; charset=utf-8", 5) + "short");
+    EXPECT_EQ(answerTo("/"), head("text/html; charset=utf-8", 11) + "a long page");
+    g_web_html.store({"a long page"});
+    EXPECT_EQ(answerTo(takingGzip("/")), head("text/html; charset=utf-8", 11) + "a long page");
+}
+
+/// Gives the copy the time of the original, as gzip does.
+void writeCopy(const std::string& name, const std::string& text) {
+    std::ofstream(name + ".gz") << text;
+    std::filesystem::last_write_time(name + ".gz", std::filesystem::last_write_time(name));
+}
+
+TEST_F(Answers, CompressedCopyGoesToWhoeverTakesIt) {
+    write("வெளியீடு/index.wasm", "a long program");
+    EXPECT_EQ(answerTo(takingGzip("/index.wasm")), answerTo("/index.wasm"));
+    writeCopy("வெளியீடு/index.wasm", "short");
+    EXPECT_EQ(answerTo(takingGzip("/index.wasm")), headWith(GZIP_LINES, "application/wasm", 5) + "short");
+    EXPECT_EQ(answerTo("/index.wasm"), head("application/wasm", 14) + "a long program");
+    HttpRequest part = takingGzip("/index.wasm");
+    part.range = "bytes=0-0";
+    EXPECT_THAT(answerTo(part), testing::EndsWith("\r\n\r\na"));
+    HttpRequest headAlone = takingGzip("/index.wasm");
+    headAlone.isHead = true;
+    EXPECT_EQ(answerTo(headAlone), headWith(GZIP_LINES, "application/wasm", 5));
+}
+
+TEST_F(Answers, CopyOfAnotherBuildIsNoCopy) {
+    write("வெளியீடு/index.js", "a newer program");
+    writeCopy("வெளியீடு/index.js", "older");
+    const auto time = std::filesystem::last_write_time("வெளியீடு/index.js");
+    std::filesystem::last_write_time("வெளியீடு/index.js", time + std::chrono::milliseconds(1));
+    EXPECT_EQ(answerTo(takingGzip("/index.js")), head("application/javascript", 15) + "a newer program");
+}
+
+TEST_F(Answers, OnlyWhatIsBuiltHasCopies) {
+    write("assets/a.js", "a long script");
+    writeCopy("assets/a.js", "short");
+    EXPECT_EQ(answerTo(takingGzip("/assets/a.js")), head("application/javascript", 13) + "a long script");
+    EXPECT_THAT(answerTo("/assets/a.js.gz"), testing::EndsWith("short"));
+}
+
+/// What a page of this server sends.
+HttpRequest own(const std::string& path) {
+    HttpRequest request{path};
+    request.host = "127.0.0.1:6931";
+    return request;
+}
+
+std::string strictHead(const std::string& type, std::size_t length) {
+    return "HTTP/1.1 200 OK\r\nContent-Type: " + type + "\r\nContent-Length: " + std::to_string(length) +
+           "\r\nConnection: close\r\nCross-Origin-Resource-Policy: same-origin\r\n\r\n";
+}
+
+TEST_F(Answers, StrictOnesAreForNoOtherPages) {
+    g_web_html.store({"page"});
+    EXPECT_EQ(answerTo(own("/"), Access::Strict), strictHead("text/html; charset=utf-8", 4) + "page");
+    EXPECT_EQ(answerTo(own("/version"), Access::Strict), strictHead("text/plain", 1) + "1");
+    HttpRequest foreign = own("/");
+    foreign.host = "attacker.example";
+    EXPECT_THAT(answerTo(foreign, Access::Strict), testing::StartsWith("HTTP/1.1 403 Forbidden\r\n"));
+    EXPECT_THAT(answerTo(foreign, Access::Strict), testing::EndsWith("\r\n\r\n403 - அனுமதி இல்லை"));
+    EXPECT_EQ(answerTo(foreign), head("text/html; charset=utf-8", 4) + "page");
+}
+
+TEST_F(Answers, StrictOnesAreOfTheApplicationAlone) {
+    write("assets/a.png", "png");
+    write("secret.txt", "secret");
+    write("video.mp4", "video");
+    write("வெளியீடு/index.js", "script");
+    write("வெளியீடு/other.txt", "other");
+    g_web_html.store({"page", "", {"assets", "video.mp4", "../up.png", "/etc/passwd"}});
+    EXPECT_EQ(answerTo(own("/assets/a.png"), Access::Strict), strictHead("image/png", 3) + "png");
+    EXPECT_EQ(answerTo(own("/video.mp4"), Access::Strict), strictHead("video/mp4", 5) + "video");
+    EXPECT_EQ(answerTo(own("/index.js"), Access::Strict), strictHead("application/javascript", 6) + "script");
+    for (const char* path : {"/secret.txt", "/வெளியீடு/other.txt", "/assets/../secret.txt", "/../up.png", "//etc/passwd",
+                             "/etc/passwd", "/video.mp4/../secret.txt", "/assets", "/assets2/a.png", ""}) {
+        EXPECT_EQ(answerTo(own(path), Access::Strict), NOT_FOUND) << path;
+    }
 }
 
 } // namespace

@@ -102,8 +102,12 @@ TEST_F(RunningServer, AnswersAndCloses) {
     EXPECT_THAT(answerTo("GET /no HTTP/1.1\r\n\r\n"), EndsWith("\r\n\r\n404 - பக்கம் காணவில்லை"));
 }
 
-TEST_F(RunningServer, AnyMethodIsAnsweredLikeGet) {
-    EXPECT_EQ(answerTo("HEAD /version HTTP/1.1\r\n\r\n"), VERSION_ANSWER);
+TEST_F(RunningServer, HeadIsAnsweredWithoutTheText) {
+    EXPECT_EQ(answerTo("HEAD /version HTTP/1.1\r\n\r\n"), VERSION_ANSWER.substr(0, VERSION_ANSWER.size() - 1));
+}
+
+TEST_F(RunningServer, AnyOtherMethodIsAnsweredLikeGet) {
+    EXPECT_EQ(answerTo("DELETE /version HTTP/1.1\r\n\r\n"), VERSION_ANSWER);
     EXPECT_EQ(answerTo("POST /version HTTP/1.1\r\nContent-Length: 4\r\n\r\nbody"), VERSION_ANSWER);
 }
 
@@ -197,12 +201,12 @@ TEST_F(RunningServer, ManyClientsAtATime) {
 TEST_F(RunningServer, PageMayChangeWhileItIsServed) {
     const std::string even(100'000, '0');
     const std::string odd(200'000, '1');
-    g_web_html.store(even);
+    g_web_html.store({even});
     std::atomic<bool> isDone{false};
     std::thread build([&] {
         while (!isDone) {
-            g_web_html.store(odd);
-            g_web_html.store(even);
+            g_web_html.store({odd});
+            g_web_html.store({even});
         }
     });
     for (int i = 0; i < 200; ++i) {
@@ -213,7 +217,7 @@ TEST_F(RunningServer, PageMayChangeWhileItIsServed) {
     }
     isDone = true;
     build.join();
-    g_web_html.store("");
+    g_web_html.store({});
 }
 
 TEST_F(RunningServer, SilentClientsHoldUpNobody) {
@@ -363,11 +367,11 @@ TEST_F(RunningServer, UnreadableFileIsClosedWithoutAnAnswer) {
 
 TEST(StartFailure, EachStepHasItsText) {
     using platform::ListenStep;
-    EXPECT_EQ(startFailureText(ListenStep::Library, 6931), "🚨 விண்டோஸ் சாக்கெட் (WSAStartup) பிழை!\n");
-    EXPECT_EQ(startFailureText(ListenStep::Socket, 6931), "🚨 சாக்கெட் உருவாக்க முடியவில்லை!\n");
-    EXPECT_EQ(startFailureText(ListenStep::Option, 6931), "🚨 சாக்கெட் ஆப்ஷன் பிழை!\n");
-    EXPECT_EQ(startFailureText(ListenStep::Bind, 6931), "🚨 6931 போர்ட்டில் சர்வரைத் தொடங்க முடியவில்லை!\n");
-    EXPECT_EQ(startFailureText(ListenStep::Listen, 6931), "🚨 சர்வர் கவனிப்பதில் பிழை!\n");
+    EXPECT_EQ(startFailureText(ListenStep::Library, "6931"), "🚨 விண்டோஸ் சாக்கெட் (WSAStartup) பிழை!\n");
+    EXPECT_EQ(startFailureText(ListenStep::Socket, "6931"), "🚨 சாக்கெட் உருவாக்க முடியவில்லை!\n");
+    EXPECT_EQ(startFailureText(ListenStep::Option, "6931"), "🚨 சாக்கெட் ஆப்ஷன் பிழை!\n");
+    EXPECT_EQ(startFailureText(ListenStep::Bind, "6931"), "🚨 6931 போர்ட்டில் சர்வரைத் தொடங்க முடியவில்லை!\n");
+    EXPECT_EQ(startFailureText(ListenStep::Listen, "6931"), "🚨 சர்வர் கவனிப்பதில் பிழை!\n");
 }
 
 TEST(StartFailure, IsToldAndTheServerReturns) {
@@ -403,7 +407,7 @@ TEST(Interrupt, SaysGoodbyeAndEndsWell) {
     const LocalServer other(0);
     for (const int port : {0, other.port()}) {
         const ChildResult result = runInChild([port] {
-            std::thread(runLocalServer, port).detach();
+            std::thread([port] { runLocalServer(port); }).detach();
             struct sigaction current = {};
             while (sigaction(SIGINT, nullptr, &current) == 0 && current.sa_handler == SIG_DFL) {
                 std::this_thread::sleep_for(10ms);

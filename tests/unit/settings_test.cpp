@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include <utility>
+
 #include <gmock/gmock.h>
 
 using namespace pozhil;
@@ -57,6 +59,29 @@ TEST(WordsOfTheCompiler, AreShownAndHiddenAsTheUserSays) {
         EXPECT_EQ(settings::toolchainWords(), ToolchainWords::Default) << value;
     }
     unsetenv("POZHIL_SHOW_CXX");
+}
+
+TEST(Server, ListensWhereTheUserSays) {
+    unsetenv("POZHIL_HOST");
+    EXPECT_EQ(settings::serverHost(), "");
+    for (const auto& [value, host] :
+         {std::pair{"", ""}, {"127.0.0.1", "127.0.0.1"}, {"localhost", "127.0.0.1"}, {"x", "x"}}) {
+        setenv("POZHIL_HOST", value, 1);
+        EXPECT_EQ(settings::serverHost(), host);
+    }
+    unsetenv("POZHIL_HOST");
+}
+
+TEST(Server, IsStrictOnlyIfTheUserSaysSo) {
+    unsetenv("POZHIL_STRICT");
+    EXPECT_FALSE(settings::isServerStrict());
+    setenv("POZHIL_STRICT", "1", 1);
+    EXPECT_TRUE(settings::isServerStrict());
+    for (const char* value : {"", "0", "11", "yes"}) {
+        setenv("POZHIL_STRICT", value, 1);
+        EXPECT_FALSE(settings::isServerStrict()) << value;
+    }
+    unsetenv("POZHIL_STRICT");
 }
 
 } // namespace

@@ -61,26 +61,29 @@ var pozhilLoading = (() => {
         return Boolean(context);
     }
 
-    /// The server has not built this version. It reloads the page for a later one; once it is built, this one is.
-    function waitForBuild() {
+    /// Without its program: the server of the compiler has not built this version. It reloads the page for a later one; once
+    /// it is built, this one is. A page that another host serves has no such server, as its last script tells.
+    function missProgram() {
+        if (typeof currentVersion !== 'number') {
+            fail(INCOMPLETE);
+            return;
+        }
         fail('நிரல் கிடைக்கவில்லை. தொகுப்பு வெற்றியடைந்ததா என்று முனையத்தில் பார்க்கவும்; '
             + 'பிழையைத் திருத்தியதும் இந்தப் பக்கம் தானாகப் புதுப்பிக்கப்படும்.');
-        if (document.readyState === 'loading') {
-            document.addEventListener('DOMContentLoaded', countBack);
-        } else {
-            countBack();
-        }
+        currentVersion--;
     }
 
-    function countBack() {
-        if (typeof currentVersion === 'number') {
-            currentVersion--;
+    function whenRead(act) {
+        if (document.readyState === 'loading') {
+            document.addEventListener('DOMContentLoaded', act);
+        } else {
+            act();
         }
     }
 
     window.addEventListener('error', event => {
         if (event.target instanceof HTMLScriptElement && event.target.src.endsWith('/index.js')) {
-            waitForBuild();
+            whenRead(missProgram);
         } else if (event instanceof ErrorEvent && !isReady) {
             fail(INCOMPLETE);
         }

@@ -1,12 +1,12 @@
 #include "driver/server/http_response.h"
 
 #include "driver/server/build_fault.h"
-#include "driver/server/web_state.h"
+#include "driver/server/byte_range.h"
 
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <stdexcept>
+#include <system_error>
 #include <utility>
 
 namespace pozhil {
@@ -33,13 +33,40 @@ constexpr std::array<std::pair<std::string_view, const char*>, 14> TYPES = {{
 /// The length is less than that of the text, so a client shows its beginning.
 constexpr const char* NOT_FOUND = "HTTP/1.1 404 Not Found\r\nContent-Length: 26\r\n\r\n404 - பக்கம் காணவில்லை";
 
+/// What the build makes for the page.
+constexpr std::array<std::string_view, 3> BUILT_FILES = {"/index.js", "/index.wasm", "/index.data"};
+
+constexpr const char* COMPRESSED_ENDING = ".gz";
+constexpr const char* COMPRESSED = "Content-Encoding: gzip\r\nVary: Accept-Encoding\r\n";
+
 bool endsWith(std::string_view text, std::string_view ending) {
     return text.size() >= ending.size() && text.substr(text.size() - ending.size()) == ending;
 }
 
-std::string headOf(const std::string& type, std::uint64_t length) {
-    return "HTTP/1.1 200 OK\r\nContent-Type: " + type + "\r\nContent-Length: " + std::to_string(length) +
-           "\r\nConnection: close\r\nAccess-Control-Allow-Origin: *\r\n\r\n";
+/// What an answer's head says beside the length of what follows it.
+struct Head {
+    std::string type;
+    const char* status = "200 OK";
+    /// Further lines
+    std::string more{};
+};
+
+/// Pages of other hosts may read what is open to all.
+std::string textOf(const Head& head, std::uint64_t length, Access access) {
+    const char* const others =
+        access == Access::Open ? "Access-Control-Allow-Origin: *" : "Cross-Origin-Resource-Policy: same-origin";
+    return std::string("HTTP/1.1 ") + head.status + "\r\nContent-Type: " + head.type +
+           "\r\nContent-Length: " + std::to_string(length) + "\r\n" + head.more + "Connection: close\r\n" + others +
+           "\r\n\r\n";
+}
+
+std::string withText(const std::string& type, const std::string& text, Access access) {
+    return textOf({type}, text.size(), access) + text;
+}
+
+std::string refusal() {
+    const std::string text = "403 - அனுமதி இல்லை";
+    return textOf({"text/plain; charset=utf-8", "403 Forbidden"}, text.size(), Access::Strict) + text;
 }
 
 /// Opened if it is a file. Folders can't be sent; pipes and devices might never end.
@@ -53,29 +80,19 @@ std::ifstream openFile(const std::string& path) {
     return std::ifstream(file, std::ios::binary);
 }
 
-} // namespace
-
-std::string urlDecode(const std::string& text) {
-    constexpr std::size_t DIGITS = 2;
-    constexpr int HEXADECIMAL = 16;
-    std::string decoded;
-    decoded.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '+') {
-            decoded += ' ';
-        } else if (text[i] == '%' && i + DIGITS < text.size()) {
-            try {
-                decoded += static_cast<char>(std::stoi(text.substr(i + 1, DIGITS), nullptr, HEXADECIMAL));
-                i += DIGITS;
-            } catch (const std::invalid_argument&) {
-                decoded += '%';
-            }
-        } else {
-            decoded += text[i];
-        }
-    }
-    return decoded;
+/// gzip gives what it makes the time of the file that it was made of; whatever has another is older or unfinished.
+bool hasCompressedCopy(const std::string& path) {
+    std::error_code error;
+    const auto original = std::filesystem::last_write_time(std::filesystem::u8path(path), error);
+    const auto copy = std::filesystem::last_write_time(std::filesystem::u8path(path + COMPRESSED_ENDING), error);
+    return !error && copy == original;
 }
+
+bool isBuilt(const std::string& path) {
+    return std::find(BUILT_FILES.begin(), BUILT_FILES.end(), path) != BUILT_FILES.end();
+}
+
+} // namespace
 
 std::string getMimeType(const std::string& path) {
     const auto* const type =
@@ -83,69 +100,88 @@ std::string getMimeType(const std::string& path) {
     return type != TYPES.end() ? type->second : "application/octet-stream";
 }
 
-std::optional<std::string> requestedPath(std::string_view received) {
-    const std::string_view text = received.substr(0, received.find('\0'));
-    const std::size_t before = text.find(' ');
-    const std::size_t after = before == std::string_view::npos ? before : text.find(' ', before + 1);
-    if (after == std::string_view::npos) {
-        return std::nullopt;
-    }
-    return urlDecode(std::string(text.substr(before + 1, after - before - 1)));
-}
-
 std::string servedFile(const std::string& path) {
-    const bool isBuilt = path == "/index.js" || path == "/index.wasm" || path == "/index.data";
-    return (isBuilt ? "./வெளியீடு" : ".") + path;
+    return (isBuilt(path) ? "./வெளியீடு" : ".") + path;
 }
 
-std::optional<HttpResponse> HttpResponse::to(const std::string& path) {
-    if (path == "/version") {
-        return withVersion();
+std::optional<HttpResponse> HttpResponse::to(const HttpRequest& request, Access access) {
+    const bool isRefused = access == Access::Strict && !comesFromOwnPage(request);
+    auto response = isRefused ? HttpResponse(refusal()) : whole(request, access);
+    if (response && request.isHead) {
+        response->keepHead();
     }
-    if (path == "/version/fault") {
-        return withBuildFault();
+    return response;
+}
+
+std::optional<HttpResponse> HttpResponse::whole(const HttpRequest& request, Access access) {
+    if (request.path == "/version") {
+        return HttpResponse(withText("text/plain", std::to_string(g_appVersion.load()), access));
     }
-    if (path == "/" || path == "/index.html") {
-        return withPage();
+    if (request.path == "/version/fault") {
+        return HttpResponse(withText(getMimeType(".json"), answerToPage(), access));
     }
-    return withFile(path);
+    if (request.path == "/" || request.path == "/index.html") {
+        return withPage(request, access);
+    }
+    const bool isOpen = access == Access::Open || isBuilt(request.path);
+    return isOpen || isApplicationFile(request.path, g_web_html.load()->files) ? withFile(request, access)
+                                                                               : HttpResponse(NOT_FOUND);
 }
 
-HttpResponse HttpResponse::withVersion() {
-    const std::string version = std::to_string(g_appVersion.load());
-    return HttpResponse(headOf("text/plain", version.size()) + version);
-}
-
-HttpResponse HttpResponse::withBuildFault() {
-    const std::string fault = answerToPage();
-    return HttpResponse(headOf(getMimeType(".json"), fault.size()) + fault);
-}
-
-HttpResponse HttpResponse::withPage() {
+HttpResponse HttpResponse::withPage(const HttpRequest& request, Access access) {
     auto page = g_web_html.load();
-    HttpResponse response(headOf(getMimeType(".html"), page->size()));
-    response.unsentPage_ = *page;
+    const bool isCompressed = request.acceptsGzip && !page->compressed.empty();
+    const std::string& sent = isCompressed ? page->compressed : page->text;
+    HttpResponse response(
+        textOf({getMimeType(".html"), "200 OK", isCompressed ? COMPRESSED : ""}, sent.size(), access));
+    response.unsentPage_ = sent;
     response.page_ = std::move(page);
     return response;
 }
 
-std::optional<HttpResponse> HttpResponse::withFile(const std::string& path) {
-    std::ifstream file = openFile(servedFile(path));
+std::optional<HttpResponse> HttpResponse::withFile(const HttpRequest& request, Access access) {
+    std::string path = servedFile(request.path);
+    Head head = {getMimeType(request.path)};
+    if (request.acceptsGzip && request.range.empty() && isBuilt(request.path) && hasCompressedCopy(path)) {
+        path += COMPRESSED_ENDING;
+        head.more = COMPRESSED;
+    }
+    std::ifstream file = openFile(path);
     if (!file.is_open()) {
         return HttpResponse(NOT_FOUND);
     }
-    const std::streamoff size = file.seekg(0, std::ios::end).tellg();
-    file.seekg(0);
-    if (!file || size < 0) {
+    const std::streamoff end = file.seekg(0, std::ios::end).tellg();
+    if (!file || end < 0) {
         return std::nullopt;
     }
-    HttpResponse response(headOf(getMimeType(path), static_cast<std::uint64_t>(size)));
+    const auto size = static_cast<std::uint64_t>(end);
+    ByteRange range = rangeOf(request.range, size);
+    switch (range.kind) {
+    case ByteRange::Kind::Whole: range.length = size; break;
+    case ByteRange::Kind::Part:
+        head.status = "206 Partial Content";
+        head.more = "Content-Range: bytes " + std::to_string(range.first) + "-" +
+                    std::to_string(range.first + range.length - 1) + "/" + std::to_string(size) + "\r\n";
+        break;
+    case ByteRange::Kind::Impossible:
+        head.status = "416 Range Not Satisfiable";
+        head.more = "Content-Range: bytes */" + std::to_string(size) + "\r\n";
+    }
+    HttpResponse response(textOf(head, range.length, access));
     response.file_ = std::move(file);
-    response.unread_ = static_cast<std::uint64_t>(size);
+    response.file_.seekg(static_cast<std::streamoff>(range.first));
+    response.unread_ = range.length;
     if (!response.appendFromFile()) {
         return std::nullopt;
     }
     return response;
+}
+
+void HttpResponse::keepHead() {
+    constexpr std::string_view END = "\r\n\r\n";
+    piece_.resize(piece_.find(END) + END.size());
+    page_.reset();
+    unread_ = 0;
 }
 
 std::string_view HttpResponse::nextPiece() {

@@ -17,8 +17,8 @@ constexpr std::size_t REQUEST_BYTES = 4096;
 
 } // namespace
 
-LocalServer::LocalServer(int port, const ServerLimits& limits)
-    : limits_(limits), listener_(platform::listenOnPort(port, BACKLOG)) {}
+LocalServer::LocalServer(int port, const ServerLimits& limits, const ServerSettings& settings)
+    : limits_(limits), access_(settings.access), listener_(platform::listenOnPort(port, BACKLOG, settings.host)) {}
 
 int LocalServer::port() const {
     return platform::portOf(listener_);
@@ -90,11 +90,11 @@ bool LocalServer::takeRequest(Client& client) const {
     if (received.empty()) {
         return false;
     }
-    const auto path = requestedPath(received);
-    if (!path) {
+    const auto request = readRequest(received);
+    if (!request) {
         return bidFarewell(client);
     }
-    client.response = HttpResponse::to(*path);
+    client.response = HttpResponse::to(*request, access_);
     client.deadline = Clock::now() + limits_.standstill;
     return client.response && sendOn(client);
 }
@@ -131,32 +131,36 @@ bool LocalServer::bidFarewell(Client& client) const {
     return true;
 }
 
-std::string startFailureText(platform::ListenStep step, int port) {
+std::string placeOf(int port, const ServerSettings& settings) {
+    return (settings.host.empty() ? "" : settings.host + ":") + std::to_string(port);
+}
+
+std::string startFailureText(platform::ListenStep step, const std::string& place) {
     switch (step) {
     case platform::ListenStep::Library: return "🚨 விண்டோஸ் சாக்கெட் (WSAStartup) பிழை!\n";
     case platform::ListenStep::Socket: return "🚨 சாக்கெட் உருவாக்க முடியவில்லை!\n";
     case platform::ListenStep::Option: return "🚨 சாக்கெட் ஆப்ஷன் பிழை!\n";
-    case platform::ListenStep::Bind: return "🚨 " + std::to_string(port) + " போர்ட்டில் சர்வரைத் தொடங்க முடியவில்லை!\n";
+    case platform::ListenStep::Bind: return "🚨 " + place + " போர்ட்டில் சர்வரைத் தொடங்க முடியவில்லை!\n";
     case platform::ListenStep::Listen: break;
     }
     return "🚨 சர்வர் கவனிப்பதில் பிழை!\n";
 }
 
-void startLocalServer(int port) {
+void startLocalServer(int port, const ServerSettings& settings) {
     constexpr std::chrono::hours LONG{1};
     try {
-        LocalServer server(port);
+        LocalServer server(port, {}, settings);
         while (true) {
             server.serve(LONG);
         }
     } catch (const platform::ListenFailure& failure) {
-        std::cerr << startFailureText(failure.failedStep, port) << std::flush;
+        std::cerr << startFailureText(failure.failedStep, placeOf(port, settings)) << std::flush;
     }
 }
 
-void runLocalServer(int port) {
+void runLocalServer(int port, const ServerSettings& settings) {
     platform::endOnInterrupt("\n👋 சேவையகம் நிறுத்தப்பட்டது \n");
-    startLocalServer(port);
+    startLocalServer(port, settings);
 }
 
 } // namespace pozhil

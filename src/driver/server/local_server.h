@@ -27,15 +27,22 @@ struct ServerLimits {
     std::size_t clients = 256;
 };
 
+/// Where the server listens, and to whom.
+struct ServerSettings {
+    /// An address of this machine, in numbers; empty for all that it has
+    std::string host{};
+    Access access = Access::Open;
+};
+
 /// Serves page, version and files of the application to the browser: one request a connection. What a client has sent
 /// with its first packet is its request. Answers are given away piece by piece, to whoever takes some at the moment, so
 /// that a slow client delays nobody and a large file never lies in memory as a whole.
 class LocalServer {
 public:
-    /// Opens the port on all interfaces.
+    /// Opens the port.
     /// \param port 0 for any that is free
     /// \throws platform::ListenFailure
-    explicit LocalServer(int port, const ServerLimits& limits = {});
+    explicit LocalServer(int port, const ServerLimits& limits = {}, const ServerSettings& settings = {});
 
     int port() const;
 
@@ -65,18 +72,23 @@ private:
     bool bidFarewell(Client& client) const;
 
     ServerLimits limits_;
+    Access access_;
     platform::Socket listener_;
     /// Each stays where it is, since what is unsent points into its response.
     std::list<Client> clients_;
 };
 
+/// What the user is told the server listens on: its port, with its address if that was set.
+std::string placeOf(int port, const ServerSettings& settings);
+
 /// What the user is told of a port that couldn't be opened.
-std::string startFailureText(platform::ListenStep step, int port);
+/// \param place as above
+std::string startFailureText(platform::ListenStep step, const std::string& place);
 
 /// Serves for ever. If the port can't be opened, tells so on standard error and returns.
-void startLocalServer(int port);
+void startLocalServer(int port, const ServerSettings& settings = {});
 
 /// The server's thread: from now on an interrupt says goodbye and ends the process with status 0; then serves.
-void runLocalServer(int port = LOCAL_SERVER_PORT);
+void runLocalServer(int port = LOCAL_SERVER_PORT, const ServerSettings& settings = {});
 
 } // namespace pozhil

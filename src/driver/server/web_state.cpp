@@ -9,12 +9,12 @@ std::atomic<std::int32_t> g_appVersion{1};
 // Never destroyed: a diagnostic ends the process while the server may be reading the page.
 SharedPage& g_web_html = *new SharedPage;
 
-void SharedPage::store(std::string html) {
-    std::atomic_store(&html_, std::make_shared<const std::string>(std::move(html)));
+void SharedPage::store(ServedPage page) {
+    std::atomic_store(&page_, std::make_shared<const ServedPage>(std::move(page)));
 }
 
-std::shared_ptr<const std::string> SharedPage::load() const {
-    return std::atomic_load(&html_);
+std::shared_ptr<const ServedPage> SharedPage::load() const {
+    return std::atomic_load(&page_);
 }
 
 } // namespace pozhil

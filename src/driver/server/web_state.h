@@ -4,19 +4,29 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 /// What the web build hands to the local server, which runs on a thread of its own.
 namespace pozhil {
 
+/// A page and what belongs to it.
+struct ServedPage {
+    std::string text{};
+    /// The same, compressed by gzip; empty if it isn't
+    std::string compressed{};
+    /// What the application is packed of, seen from the current directory: files, and directories with all in them
+    std::vector<std::string> files{};
+};
+
 /// The page of a web application. It is replaced as a whole: whoever loads it keeps what was loaded.
 class SharedPage {
 public:
-    void store(std::string html);
+    void store(ServedPage page);
     /// \return never null; empty before the first store
-    std::shared_ptr<const std::string> load() const;
+    std::shared_ptr<const ServedPage> load() const;
 
 private:
-    std::shared_ptr<const std::string> html_ = std::make_shared<const std::string>();
+    std::shared_ptr<const ServedPage> page_ = std::make_shared<const ServedPage>();
 };
 
 /// Number of the last good build plus one. Raised after a good build, when all its files are in place: pages in the

@@ -133,8 +133,10 @@ std::string fillTemplate(std::string page, const PageValues& values) {
     if (!replaceFirst(page, "{{{ SCRIPT }}}", SCRIPT)) {
         insertBeforeEndOfBody(page, std::string(SCRIPT) + "\n");
     }
-    insertBeforeEndOfBody(page, servedScript(driver_text::reload, {{"version", std::to_string(values.version)}}));
-    insertBeforeEndOfBody(page, servedScript(driver_text::build_fault, {}));
+    if (values.version) {
+        insertBeforeEndOfBody(page, servedScript(driver_text::reload, {{"version", std::to_string(*values.version)}}));
+        insertBeforeEndOfBody(page, servedScript(driver_text::build_fault, {}));
+    }
     return page;
 }
 

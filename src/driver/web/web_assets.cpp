@@ -66,6 +66,17 @@ bool hasFilesToPack(const Application& application) {
     return hasVideo || fileExists(ASSET_DIRECTORY) || !singleFiles(application).empty();
 }
 
+std::vector<std::string> applicationFiles(const Application& application) {
+    std::vector<std::string> files = singleFiles(application);
+    files.emplace_back(ASSET_DIRECTORY);
+    for (const std::string& path : {application.video, application.icon}) {
+        if (!path.empty()) {
+            files.push_back(path);
+        }
+    }
+    return files;
+}
+
 std::vector<std::string> packingArguments(const Application& application) {
     std::vector<std::string> arguments;
     if (fileExists(ASSET_DIRECTORY)) {

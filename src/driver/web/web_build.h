@@ -1,12 +1,13 @@
 #pragma once
 
 #include "driver/translation.h"
+#include "driver/web/compressed_copies.h"
 #include "driver/web/emscripten_environment.h"
 #include "driver/web/precompiled_runtime.h"
+#include "driver/web/web_compiler.h"
 #include "generator/web/page/application.h"
 #include "platform/process.h"
 
-#include <array>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -27,19 +28,18 @@ public:
 
 private:
     bool makePage(const Application& application, std::string widgets, int version) const;
+    void clearOutput();
     PrecompiledHeaders headersFor(const OutputText& output);
     void prepareRuntime(const OutputText& output);
     platform::CommandResult compile(const OutputText& output, const std::vector<std::string>& packing);
-    platform::Command command(const std::vector<std::string>& packing, const PrecompiledHeaders& headers) const;
-    bool toldCause() const;
 
     std::filesystem::path appDirectory_;
-    std::string compiler_;
     std::filesystem::path source_;
-    std::array<std::filesystem::path, 2> objects_;
     std::filesystem::path outputDirectory_;
+    WebCompiler compiler_;
     PrecompiledHeaders headers_;
     PrecompiledRuntime runtime_;
+    CompressedCopies copies_;
 };
 
 } // namespace pozhil

@@ -36,13 +36,17 @@ void printWebPacking() {
     std::cout << "🌍 நவீன வலைத்தளம் முழுமையாகத் தொகுக்கப்படுகிறது...      " << std::endl;
 }
 
-void printWebSuccess(const std::string& address) {
+void printWebSuccess(const std::string& place, const std::string& address) {
     std::cout << "வெற்றி!\n"
-              << rule() << "🚀 " << GREEN << "உள்ளூர் சேவையகம் 6931-ல் கெத்தாக இயங்குகிறது..." << RESET << "\n"
+              << rule() << "🚀 " << GREEN << "உள்ளூர் சேவையகம் " << place << "-ல் கெத்தாக இயங்குகிறது..." << RESET << "\n"
               << "👉 " << CYAN << address << RESET << "\n"
               << "👀 கோப்பு கண்காணிக்கப்படுகிறது... (நிறுத்த Ctrl+C அழுத்தவும்)\n"
               << rule();
     std::cout << "🌍 பிரவுசர் தானாகவே திறக்கப்படுகிறது..." << std::endl;
+}
+
+void printInvalidHost(const std::string& host) {
+    std::cerr << "பிழை: POZHIL_HOST-இல் உள்ள '" << host << "' முகவரி அல்ல! 127.0.0.1 போல எண்களால் எழுதவும்." << std::endl;
 }
 
 void printWebFailure() {

@@ -17,7 +17,11 @@ void printWebGenerated();
 void printWebPacking();
 
 /// Tells where the finished application is served, and that the browser opens it.
-void printWebSuccess(const std::string& address);
+/// \param place what the server listens on
+void printWebSuccess(const std::string& place, const std::string& address);
+
+/// Tells that the address set for the server is none.
+void printInvalidHost(const std::string& host);
 
 /// Tells that the first build failed.
 void printWebFailure();

@@ -4,10 +4,12 @@
 #include "driver/hint_report.h"
 #include "driver/server/build_fault.h"
 #include "driver/server/local_server.h"
+#include "driver/settings.h"
 #include "driver/source_watch.h"
 #include "driver/web/web_build.h"
 #include "driver/web/web_messages.h"
 #include "platform/browser.h"
+#include "platform/sockets.h"
 
 #include <chrono>
 #include <cstdlib>
@@ -24,21 +26,38 @@ BuildFault faultForPages(const Fault& fault) {
     return {fault.code, fault.file, fault.line, descriptionOf(fault)};
 }
 
+ServerSettings serverSettings() {
+    constexpr const char* THIS_MACHINE_ALONE = "127.0.0.1";
+    const bool isStrict = settings::isServerStrict();
+    return {isStrict ? THIS_MACHINE_ALONE : settings::serverHost(), isStrict ? Access::Strict : Access::Open};
+}
+
+/// Where a browser of this machine finds the server.
+std::string addressOf(const ServerSettings& server) {
+    const bool isEverywhere = server.host.empty() || server.host == "0.0.0.0";
+    return "http://" + (isEverywhere ? "127.0.0.1" : server.host) + ":" + std::to_string(LOCAL_SERVER_PORT);
+}
+
 } // namespace
 
 void runWeb(const ParsedSource& source, const OutputText& output, const FrontEndOptions& options,
             const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory) {
-    const std::string address = "http://127.0.0.1:" + std::to_string(LOCAL_SERVER_PORT);
+    const ServerSettings server = serverSettings();
+    if (!server.host.empty() && !platform::isAddress(server.host)) {
+        // Whoever names an address doesn't want to be reached at all others.
+        printInvalidHost(server.host);
+        std::exit(1);
+    }
     WebBuild build(appDirectory, temporaryDirectory);
     printWebPacking();
     if (build.run(source, output)) {
-        printWebSuccess(address);
-        platform::openInBrowser(address);
+        printWebSuccess(placeOf(LOCAL_SERVER_PORT, server), addressOf(server));
+        platform::openInBrowser(addressOf(server));
     } else {
         printWebFailure();
     }
     reportHints(source);
-    std::thread(runLocalServer, LOCAL_SERVER_PORT).detach();
+    std::thread(runLocalServer, LOCAL_SERVER_PORT, server).detach();
 
     WatchSteps steps;
     steps.changeNote = "\n🔄 மாற்றம் கண்டறியப்பட்டது! வலைத்தளம் புதுப்பிக்கப்படுகிறது...";

@@ -1,5 +1,6 @@
 #include "platform/sockets.h"
 
+#include <arpa/inet.h>
 #include <cerrno>
 #include <cstdint>
 #include <cstring>
@@ -53,7 +54,12 @@ Socket& Socket::operator=(Socket&& other) noexcept {
     return *this;
 }
 
-Socket listenOnPort(int port, int backlog) {
+bool isAddress(const std::string& text) {
+    in_addr ignored{};
+    return inet_pton(AF_INET, text.c_str(), &ignored) == 1;
+}
+
+Socket listenOnPort(int port, int backlog, const std::string& address) {
     Socket listener(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
     if (!listener.isOpen()) {
         failAt(ListenStep::Socket);
@@ -62,11 +68,12 @@ Socket listenOnPort(int port, int backlog) {
     if (setsockopt(listener.descriptor(), SOL_SOCKET, SO_REUSEADDR, &SWITCHED_ON, sizeof SWITCHED_ON) != 0) {
         failAt(ListenStep::Option);
     }
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_ANY);
-    address.sin_port = htons(static_cast<std::uint16_t>(port));
-    if (bind(listener.descriptor(), commonForm(address), sizeof address) != 0) {
+    sockaddr_in place{};
+    place.sin_family = AF_INET;
+    place.sin_addr.s_addr = htonl(INADDR_ANY);
+    place.sin_port = htons(static_cast<std::uint16_t>(port));
+    const bool isKnown = address.empty() || inet_pton(AF_INET, address.c_str(), &place.sin_addr) == 1;
+    if (!isKnown || bind(listener.descriptor(), commonForm(place), sizeof place) != 0) {
         failAt(ListenStep::Bind);
     }
     if (listen(listener.descriptor(), backlog) != 0) {

@@ -62,10 +62,10 @@ class PortTaken extends Error {
 /// A compiler that builds, serves and watches one application. At most one runs at a time on a machine.
 export class Compiler {
     /// `files`: contents by the name under which they stand beside the source. `tools`: shell texts by the name of the
-    /// program that each stands in for.
-    static async start(source, { files = {}, tools = {} } = {}) {
+    /// program that each stands in for. `variables` join its environment.
+    static async start(source, { files = {}, tools = {}, variables = {} } = {}) {
         const folder = await mkdtemp(path.join(tmpdir(), 'pozhil-web-'));
-        const compiler = new Compiler(folder);
+        const compiler = new Compiler(folder, variables);
         for (const [name, contents] of Object.entries({ [SOURCE]: source, ...files })) {
             await compiler.write(name, contents);
         }
@@ -81,9 +81,11 @@ export class Compiler {
     /// The exit status, once the process has ended by itself.
     status = null;
     #process = null;
+    #variables;
 
-    constructor(folder) {
+    constructor(folder, variables) {
         this.folder = folder;
+        this.#variables = variables;
         this.tools = path.join(folder, '.tools');
     }
 
@@ -115,7 +117,7 @@ export class Compiler {
     }
 
     #run() {
-        const env = environment(this.folder, { PATH: `${this.tools}:${process.env.PATH}` });
+        const env = environment(this.folder, { PATH: `${this.tools}:${process.env.PATH}`, ...this.#variables });
         const command = ['--no-fork', PORT_LOCK, compilerPath(), SOURCE];
         // A group of its own, so that nothing it started outlives the test.
         this.#process = spawn('flock', command, { cwd: this.folder, env, detached: true,

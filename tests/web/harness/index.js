@@ -85,10 +85,10 @@ export function webTest(name, source, ...rest) {
 /// A test with a compiler that goes on serving and watching. `check` gets the `Compiler` and a page not yet opened.
 export function liveTest(name, source, ...rest) {
     const check = rest.pop();
-    const { files, tools, ...context } = rest[0] ?? {};
+    const { files, tools, variables, ...context } = rest[0] ?? {};
     test(name, { timeout: TIMEOUT }, async () => {
         await withPage(context, async page => {
-            const compiler = await Compiler.start(source, { files, tools });
+            const compiler = await Compiler.start(source, { files, tools, variables });
             try {
                 await check(compiler, page);
             } finally {
