@@ -1,9 +1,11 @@
-# `cpack --preset debian` puts the installation into a Debian package, below /usr/lib/pozhil, with a link in /usr/bin.
+# `cpack --preset debian` puts the installation into a Debian package, below /usr/lib/pozhil, with links in /usr/bin.
 
-set(link ${PROJECT_BINARY_DIR}/generated/பொழி)
-file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/generated)
-file(CREATE_LINK ../lib/pozhil/பொழி ${link} SYMBOLIC)
-install(FILES ${link} DESTINATION . COMPONENT link EXCLUDE_FROM_ALL)
+foreach(name பொழி பொழில் pozhil)
+    set(link ${PROJECT_BINARY_DIR}/generated/links/${name})
+    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/generated/links)
+    file(CREATE_LINK ../lib/pozhil/${name} ${link} SYMBOLIC)
+    install(FILES ${link} DESTINATION . COMPONENT link EXCLUDE_FROM_ALL)
+endforeach()
 
 set(CPACK_PACKAGE_NAME pozhil)
 set(CPACK_PACKAGE_VENDOR "பொழில்")
@@ -15,6 +17,6 @@ set(CPACK_INSTALL_CMAKE_PROJECTS
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS g++)
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS emscripten)
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "emscripten, brotli")
 set(CPACK_DEBIAN_PACKAGE_SECTION devel)
 include(CPack)

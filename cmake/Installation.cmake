@@ -2,7 +2,12 @@
 
 set(CMAKE_INSTALL_MESSAGE LAZY)
 
-install(TARGETS pozhil DESTINATION .)
+install(TARGETS pozhil pozhil_command DESTINATION .)
+# The command's name in letters that every keyboard has.
+set(command_link ${PROJECT_BINARY_DIR}/generated/pozhil)
+file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/generated)
+file(CREATE_LINK பொழில் ${command_link} SYMBOLIC)
+install(FILES ${command_link} DESTINATION .)
 install(DIRECTORY உள்ளடக்கம்/ DESTINATION உள்ளடக்கம்)
 install(FILES ${precompiled_headers} ${web_precompiled_headers} DESTINATION உள்ளடக்கம்)
 install(FILES ${web_headers} DESTINATION உள்ளடக்கம்/nanovg)
@@ -27,7 +32,7 @@ add_custom_command(
     COMMAND ${CMAKE_COMMAND} -E rm -rf ${stage}/உள்ளடக்கம் ${stage}/திரட்டு ${stage}/src ${stage}/தொகுப்புகள்
     COMMAND ${CMAKE_COMMAND} -E env --unset=DESTDIR ${CMAKE_COMMAND} --install ${PROJECT_BINARY_DIR} --prefix ${stage}
     COMMAND ${CMAKE_COMMAND} -E touch ${stage}/பொழி
-    DEPENDS pozhil ${precompiled_headers} ${reporter_object} ${reporter_source} ${last_word_sources}
+    DEPENDS pozhil pozhil_command ${precompiled_headers} ${reporter_object} ${reporter_source} ${last_word_sources}
             ${engine_archive} ${engine_headers}
             ${web_objects} ${web_headers} ${web_precompiled_headers}
             ${installed_files} ${PROJECT_BINARY_DIR}/generated/installed_files.txt

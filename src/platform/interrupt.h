@@ -1,5 +1,8 @@
 #pragma once
 
+#include <filesystem>
+#include <string>
+
 namespace pozhil::platform {
 
 /// From now on a signal that asks this process alone to end (TERM, HUP, INT, QUIT; none that is ignored) reaches the
@@ -21,6 +24,20 @@ public:
     ~EndingText();
     EndingText(const EndingText&) = delete;
     EndingText& operator=(const EndingText&) = delete;
+};
+
+/// While it lives, a signal that ends this process has a directory removed with all in it, once the programs that this
+/// process runs have ended. One at a time.
+class EndingRemoval {
+public:
+    explicit EndingRemoval(const std::filesystem::path& directory);
+    ~EndingRemoval();
+    EndingRemoval(const EndingRemoval&) = delete;
+    EndingRemoval& operator=(const EndingRemoval&) = delete;
+
+private:
+    /// A signal handler may read it, but not make it.
+    std::string directory_;
 };
 
 } // namespace pozhil::platform

@@ -94,8 +94,21 @@ ROOMS = {
         "src/driver",
         "src/driver/server",
     ],
-    # main.cpp alone: the order of the stages.
-    "src": [*SYSTEM, "src/front_end", "src/driver/console", "src/driver", "src/driver/native", "src/driver/web"],
+    # The command beside the compiler, a tool for each of its words.
+    "src/tools": [*SYSTEM, "src/driver/console"],
+    "src/tools/publish": [
+        *SYSTEM,
+        "src/front_end",
+        "src/generator/web/page",
+        "src/driver/console",
+        "src/driver",
+        "src/driver/web",
+        "src/tools",
+    ],
+    # main.cpp and tools_main.cpp alone: the order of the stages, and the beginning of the other command.
+    "src": [
+        *SYSTEM, "src/front_end", "src/driver/console", "src/driver", "src/driver/native", "src/driver/web", "src/tools",
+    ],
 }
 
 # Who may know more than the C++ library: the operating system, the browser.

@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace pozhil::platform {
@@ -17,6 +18,7 @@ constexpr std::size_t MOST_PROGRAMS = 8;
 // Lock-free, and so the one way to share values with a signal handler, which may run on any thread.
 std::atomic<const char*> farewell{nullptr};
 std::atomic<const char*> endingText{nullptr};
+std::atomic<const char*> endingRemoval{nullptr};
 std::atomic<int> endSignal{0};
 std::atomic<int> programs{0};
 std::array<std::atomic<pid_t>, MOST_PROGRAMS> targets{};
@@ -28,10 +30,24 @@ void writeOut(const char* text) {
     }
 }
 
+/// By a program of its own, since a signal handler may start one, but not read a directory.
+void removeDirectory(const char* directory) {
+    const pid_t child = fork();
+    if (child == 0) {
+        execl("/bin/rm", "rm", "-rf", "--", directory, nullptr);
+        _exit(1);
+    }
+    while (child > 0 && waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
+    }
+}
+
 /// Only what a signal handler may call: streams and exit() could wait for ever for the thread that was interrupted.
 [[noreturn]] void endBy(int signal) {
     constexpr int SIGNALLED = 128;
     writeOut(endingText.load());
+    if (const char* directory = endingRemoval.exchange(nullptr)) {
+        removeDirectory(directory);
+    }
     if (signal == SIGINT && farewell.load() != nullptr) {
         writeOut(farewell.load());
         _exit(0);
@@ -94,6 +110,17 @@ EndingText::EndingText(const char* text) {
 
 EndingText::~EndingText() {
     endingText.store(nullptr);
+}
+
+EndingRemoval::EndingRemoval(const std::filesystem::path& directory) : directory_(directory.u8string()) {
+    endingRemoval.store(directory_.c_str());
+}
+
+/// If a signal has taken it already, the process is about to end, and nothing may go on with what is being removed.
+EndingRemoval::~EndingRemoval() {
+    while (endingRemoval.exchange(nullptr) == nullptr) {
+        pause();
+    }
 }
 
 /// Either the handler sees that a program is about to run, or the signal is seen here.

@@ -1,0 +1,111 @@
+#include "tools/publish/font_licence.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace pozhil::tools {
+namespace {
+
+/// Numbers of a font have their highest byte first. What lies beyond the end is zero.
+std::uint32_t numberAt(std::string_view bytes, std::size_t place, std::size_t length) {
+    std::uint32_t number = 0;
+    for (std::size_t i = 0; i < length; ++i) {
+        const auto byte = place + i < bytes.size() ? static_cast<unsigned char>(bytes[place + i]) : 0U;
+        number = number << 8U | byte;
+    }
+    return number;
+}
+
+std::uint32_t shortAt(std::string_view bytes, std::size_t place) {
+    return numberAt(bytes, place, 2);
+}
+
+std::uint32_t longAt(std::string_view bytes, std::size_t place) {
+    return numberAt(bytes, place, 4);
+}
+
+std::string_view part(std::string_view bytes, std::size_t begin, std::size_t length = std::string_view::npos) {
+    return begin <= bytes.size() ? bytes.substr(begin, length) : std::string_view();
+}
+
+bool isFont(std::string_view bytes) {
+    constexpr std::string_view TRUE_TYPE{"\0\1\0\0", 4};
+    const std::string_view kind = bytes.substr(0, TRUE_TYPE.size());
+    return kind == TRUE_TYPE || kind == "OTTO" || kind == "true";
+}
+
+std::string_view tableOf(std::string_view font, std::string_view tag) {
+    constexpr std::size_t HEAD_BYTES = 12;
+    constexpr std::size_t ROW_BYTES = 16;
+    const std::size_t count = shortAt(font, 4);
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::string_view row = part(font, HEAD_BYTES + i * ROW_BYTES, ROW_BYTES);
+        if (row.substr(0, tag.size()) == tag) {
+            return part(font, longAt(row, 8), longAt(row, 12));
+        }
+    }
+    return {};
+}
+
+void appendUtf8(std::string& text, std::uint32_t letter) {
+    constexpr std::uint32_t ONE_BYTE = 0x80;
+    constexpr std::uint32_t TWO_BYTES = 0x800;
+    const auto tail = [&](unsigned shift) { text += static_cast<char>(0x80U | (letter >> shift & 0x3FU)); };
+    if (letter < ONE_BYTE) {
+        text += static_cast<char>(letter);
+    } else if (letter < TWO_BYTES) {
+        text += static_cast<char>(0xC0U | letter >> 6U);
+        tail(0);
+    } else {
+        text += static_cast<char>(0xE0U | letter >> 12U);
+        tail(6);
+        tail(0);
+    }
+}
+
+/// Text in units of two bytes. Pairs of them, for rare signs, become a question mark.
+std::string wideText(std::string_view bytes) {
+    constexpr std::uint32_t FIRST_OF_PAIRS = 0xD800;
+    constexpr std::uint32_t AFTER_PAIRS = 0xE000;
+    std::string text;
+    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        const std::uint32_t unit = shortAt(bytes, i);
+        const bool isOfPair = unit >= FIRST_OF_PAIRS && unit < AFTER_PAIRS;
+        appendUtf8(text, isOfPair ? '?' : unit);
+    }
+    return text;
+}
+
+/// One row of the table of names: the English text for Windows, which all fonts of today have.
+std::string nameOf(std::string_view names, std::uint32_t number) {
+    constexpr std::uint32_t WINDOWS = 3;
+    constexpr std::uint32_t ENGLISH = 0x409;
+    constexpr std::size_t HEAD_BYTES = 6;
+    constexpr std::size_t ROW_BYTES = 12;
+    const std::size_t count = shortAt(names, 2);
+    const std::string_view texts = part(names, shortAt(names, 4));
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::string_view row = part(names, HEAD_BYTES + i * ROW_BYTES, ROW_BYTES);
+        if (shortAt(row, 0) == WINDOWS && shortAt(row, 4) == ENGLISH && shortAt(row, 6) == number) {
+            return wideText(part(texts, shortAt(row, 10), shortAt(row, 8)));
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+std::optional<FontLicence> readFontLicence(std::string_view font) {
+    if (!isFont(font)) {
+        return std::nullopt;
+    }
+    constexpr std::uint32_t COPYRIGHT = 0;
+    constexpr std::uint32_t FULL_NAME = 4;
+    constexpr std::uint32_t LICENCE = 13;
+    constexpr std::uint32_t ADDRESS = 14;
+    const std::string_view names = tableOf(font, "name");
+    return FontLicence{nameOf(names, FULL_NAME), nameOf(names, COPYRIGHT), nameOf(names, LICENCE),
+                       nameOf(names, ADDRESS)};
+}
+
+} // namespace pozhil::tools

@@ -1,0 +1,95 @@
+#include "tools/publish/licences.h"
+
+#include "tools/publish/font_licence.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <system_error>
+
+namespace pozhil::tools {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool isFont(const fs::path& path) {
+    const std::string ending = path.extension().u8string();
+    return ending == ".ttf" || ending == ".otf" || ending == ".woff" || ending == ".woff2";
+}
+
+bool isLicence(const fs::path& path) {
+    constexpr std::array<const char*, 4> BEGINNINGS = {"OFL", "LICENSE", "LICENCE", "COPYING"};
+    const std::string name = path.filename().u8string();
+    return std::any_of(BEGINNINGS.begin(), BEGINNINGS.end(),
+                       [&](const char* beginning) { return name.rfind(beginning, 0) == 0; });
+}
+
+std::string readAll(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+std::set<fs::path> fontsIn(const std::vector<std::string>& places) {
+    std::set<fs::path> fonts;
+    for (const std::string& name : places) {
+        const fs::path place = fs::u8path(name);
+        std::error_code error;
+        if (isFont(place) && fs::is_regular_file(place, error)) {
+            fonts.insert(place);
+        }
+        for (fs::recursive_directory_iterator entry(place, error), end; !error && entry != end;
+             entry.increment(error)) {
+            if (isFont(entry->path())) {
+                fonts.insert(entry->path());
+            }
+        }
+    }
+    return fonts;
+}
+
+std::set<fs::path> licencesBeside(const std::set<fs::path>& fonts) {
+    std::set<fs::path> licences;
+    for (const fs::path& font : fonts) {
+        const fs::path folder = font.has_parent_path() ? font.parent_path() : fs::path(".");
+        std::error_code error;
+        for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+            std::error_code ignored;
+            if (isLicence(entry->path()) && entry->is_regular_file(ignored)) {
+                licences.insert(entry->path());
+            }
+        }
+    }
+    return licences;
+}
+
+std::string described(const fs::path& font) {
+    std::string text = font.u8string() + "\n";
+    if (const auto licence = readFontLicence(readAll(font))) {
+        for (const std::string& line : {licence->name, licence->copyright, licence->licence, licence->address}) {
+            text += line.empty() ? "" : "    " + line + "\n";
+        }
+    }
+    return text + "\n";
+}
+
+} // namespace
+
+std::string licencesOf(const std::vector<std::string>& files) {
+    const std::set<fs::path> fonts = fontsIn(files);
+    if (fonts.empty()) {
+        return {};
+    }
+    std::string text = "எழுத்துருக்களின் உரிமங்கள் · Licences of the fonts\n\n";
+    for (const fs::path& font : fonts) {
+        text += described(font);
+    }
+    for (const fs::path& licence : licencesBeside(fonts)) {
+        text += "--- " + licence.u8string() + "\n\n" + readAll(licence) + "\n";
+    }
+    return text;
+}
+
+} // namespace pozhil::tools

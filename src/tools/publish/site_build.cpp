@@ -1,0 +1,107 @@
+#include "tools/publish/site_build.h"
+
+#include "driver/output_stage.h"
+#include "driver/refusal_report.h"
+#include "driver/web/page_template.h"
+#include "driver/web/web_assets.h"
+#include "driver/web/web_compiler.h"
+#include "driver/web/web_messages.h"
+#include "generator/web/page/application.h"
+#include "platform/paths.h"
+#include "tools/publish/compression.h"
+#include "tools/publish/licences.h"
+#include "tools/publish/messages.h"
+#include "tools/publish/tidying.h"
+
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace pozhil::tools {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What makes the program smallest over the wire. It only runs in pages.
+const std::vector<std::string>& optimisation() {
+    static const std::vector<std::string> arguments = {"-Oz", "-s", "ENVIRONMENT=web"};
+    return arguments;
+}
+
+bool write(const fs::path& file, const std::string& text) {
+    std::ofstream out(file, std::ios::binary);
+    out << text;
+    out.close();
+    return static_cast<bool>(out);
+}
+
+/// The page as any host serves it: without the scripts that ask for newer builds.
+std::optional<std::string> pageOf(const Application& application, const fs::path& appDirectory) {
+    auto page = readTemplate(appDirectory);
+    if (!page) {
+        printMissingTemplate(appDirectory.u8string() + "/உள்ளடக்கம்/template.html");
+        return std::nullopt;
+    }
+    PageValues values;
+    values.title = application.title;
+    values.icon = application.icon;
+    values.background = application.background;
+    values.hasData = hasFilesToPack(application);
+    return tidiedPage(fillTemplate(std::move(*page), values));
+}
+
+bool tidyScript(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    const std::string script{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    return in && write(file, tidiedScript(script));
+}
+
+BuildResult compileProgram(const ParsedSource& source, const OutputText& output, const Application& application,
+                           const fs::path& workFolder, const fs::path& folder) {
+    const fs::path text = workFolder / "வலை_வெளியீடு.cpp";
+    if (!writeOutput(text, output.text)) {
+        return BuildResult::Failed;
+    }
+    const WebCompiler compiler(platform::executableDirectory(), text, folder);
+    const platform::CommandResult compiled =
+        platform::captureCommand(compiler.command(packingArguments(application), {}, optimisation()));
+    if (compiled.status == 0) {
+        return BuildResult::Done;
+    }
+    if (compiler.toldCause()) {
+        return BuildResult::Failed;
+    }
+    printCompilationFailure();
+    reportRefusals(source, output, text.u8string(), compiled.errors);
+    return BuildResult::Refused;
+}
+
+} // namespace
+
+BuildResult buildSite(const ParsedSource& source, const OutputText& output, const fs::path& workFolder,
+                      const fs::path& folder) {
+    const Application application = readApplication(source.program);
+    const auto page = pageOf(application, platform::executableDirectory());
+    if (!page) {
+        return BuildResult::Failed;
+    }
+    printStep("தொகுக்கப்படுகிறது; சில வினாடிகள் ஆகும்");
+    const BuildResult compiled = compileProgram(source, output, application, workFolder, folder);
+    if (compiled != BuildResult::Done) {
+        return compiled;
+    }
+    printStep("சுருக்கப்படுகிறது");
+    const std::string licences = licencesOf(applicationFiles(application));
+    const bool isWritten = write(folder / "index.html", *page) && tidyScript(folder / "index.js") &&
+                           (licences.empty() || write(folder / "licences.txt", licences)) && compressFiles(folder);
+    if (!isWritten) {
+        printUnfinished(folder);
+        return BuildResult::Failed;
+    }
+    return BuildResult::Done;
+}
+
+} // namespace pozhil::tools

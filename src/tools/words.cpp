@@ -1,0 +1,10 @@
+#include "tools/word.h"
+
+namespace pozhil::tools {
+
+const std::vector<const Word*>& words() {
+    static const std::vector<const Word*> all = {&PUBLISH};
+    return all;
+}
+
+} // namespace pozhil::tools

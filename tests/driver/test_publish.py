@@ -1,0 +1,306 @@
+"""The command பொழில் and its word வெளியிடு: command line, messages, exit status, and what stands on the disk afterwards.
+A stand-in for em++ makes the files."""
+
+import gzip
+import os
+import shutil
+import signal
+import stat
+
+import pytest
+
+from support import texts as t
+from support.process import Session, run
+from support.workplace import NOBODY
+
+SOURCE = "செயலி.பொழில்"
+SITE = "செயலி_தளம்"
+APPLICATION = 'வலைதளம் தளம்(\n    தலைமை(இணைய_தலைப்பு: "என் தளம்")\n    குமரி(உரை("வணக்கம்"))\n    வரையறை()\n)\n'
+MARKER = "pozhil-site.txt"
+MADE = ["index.data", "index.html", "index.js", "index.wasm"]
+
+OK, FAULT, WRONG_USE, FAILED = 0, 1, 2, 3
+
+
+@pytest.fixture
+def place(installed_place, tools):
+    """A working directory with an application, and an em++ that makes its files."""
+    tools.builds_pages()
+    installed_place.write(SOURCE, APPLICATION)
+    return installed_place
+
+
+@pytest.fixture
+def command(place):
+    return place.compiler.parent / "பொழில்"
+
+
+@pytest.fixture
+def publish(place, command):
+    """Runs the command in the working directory."""
+    def publish_with(*arguments, **settings):
+        return run([command, *arguments], cwd=place.folder, env=place.env, **settings)
+    return publish_with
+
+
+def names(folder):
+    return sorted(path.name for path in folder.iterdir() if path.suffix not in (".gz", ".br"))
+
+
+def nothing_left(place, *own):
+    """Beside the source and these there is nothing in the working directory."""
+    assert sorted(path.name for path in place.folder.iterdir()) == sorted([SOURCE, *own])
+
+
+# The command itself
+
+def test_without_a_word_the_help_comes_as_a_refusal(publish):
+    result = publish()
+    assert (result.status, result.out) == (WRONG_USE, "")
+    assert result.err.startswith("பொழில்: ")
+
+
+@pytest.mark.parametrize("arguments", [["உதவி"], ["help"], ["--உதவி"], ["--help"], ["-h"]])
+def test_help_is_in_tamil_first(publish, arguments):
+    result = publish(*arguments)
+    assert (result.status, result.err) == (OK, "")
+    assert result.out.index("பயன்பாடு: பொழில்") < result.out.index("usage: pozhil")
+    assert "  வெளியிடு " in result.out
+    assert "  publish " in result.out
+
+
+@pytest.mark.parametrize("arguments", [["உதவி", "வெளியிடு"], ["help", "publish"], ["வெளியிடு", "--உதவி"],
+                                       ["publish", SOURCE, "--help"]])
+def test_help_of_a_word(place, publish, arguments):
+    result = publish(*arguments)
+    assert (result.status, result.err) == (OK, "")
+    assert result.out.startswith("பொழில் வெளியிடு <கோப்பு.பொழில்> [--அடைவு <அடைவு>]\n")
+    nothing_left(place)
+
+
+def test_version(publish):
+    for switch in t.VERSION_SWITCHES:
+        assert t.VERSION_VALUE in publish(switch).out.replace("\033[0m", "")
+
+
+@pytest.mark.parametrize("word", ["வெளியீடு", "Publish", "", "--வலை", SOURCE])
+def test_unknown_word(publish, word):
+    result = publish(word)
+    assert (result.status, result.out) == (WRONG_USE, "")
+    assert f"'{word}' என்ற சொல் இங்கே இல்லை!" in result.err
+
+
+def test_ascii_name_is_the_same_command(place, command):
+    link = command.parent / "pozhil"
+    assert os.readlink(link) == "பொழில்"
+    assert run([link, "publish", SOURCE], cwd=place.folder, env=place.env).status == OK
+
+
+# Publishing
+
+@pytest.mark.parametrize("word, switch", [("வெளியிடு", "--அடைவு"), ("publish", "--dir")])
+def test_folder_holds_all_that_a_host_needs(place, publish, tools, word, switch):
+    result = publish(word, SOURCE, switch, "அ/தளம்")
+    assert (result.status, result.err) == (OK, "")
+    site = place.folder / "அ/தளம்"
+    assert names(site) == [*MADE, MARKER]
+    page = (site / "index.html").read_text()
+    assert "<title>என் தளம்</title>" in page
+    assert "/version" not in page
+    assert 'src="index.js"' in page
+    (call,) = tools.calls("em++")
+    assert "-Oz" in call
+    assert stat.S_IMODE(site.stat().st_mode) == 0o755
+    nothing_left(place, "அ")
+    assert names(place.folder / "அ") == ["தளம்"]
+
+
+def test_folder_is_named_after_the_source(place, publish):
+    assert publish("வெளியிடு", SOURCE).status == OK
+    assert names(place.folder / SITE) == [*MADE, MARKER]
+    nothing_left(place, SITE)
+
+
+def test_compressed_copies_stand_beside_the_files(place, publish, tools):
+    tools.stands_in_for("brotli", 'shift 3; for file in "$@"; do echo brotli > "$file.br"; done')
+    assert publish("வெளியிடு", SOURCE).status == OK
+    for name in MADE:
+        assert gzip.decompress((place.folder / SITE / f"{name}.gz").read_bytes()) == (place.folder / SITE / name).read_bytes()
+        assert (place.folder / SITE / f"{name}.br").read_text() == "brotli\n"
+    assert not list((place.folder / SITE).glob("*.gz.*"))
+
+
+def test_progress_and_sizes_are_told(place, publish):
+    result = publish("வெளியிடு", SOURCE)
+    steps = ["நிரல் படிக்கப்படுகிறது", "தொகுக்கப்படுகிறது", "சுருக்கப்படுகிறது", f"வெளியிடத் தயார்: {place.folder / SITE}"]
+    places = [result.out.index(step) for step in steps]
+    assert places == sorted(places)
+    for name in MADE:
+        assert f"  {name} " in result.out
+    assert "\033" not in result.out
+
+
+def test_licences_of_fonts_come_along(place, publish):
+    (place.folder / "assets").mkdir()
+    place.write("assets/எழுத்து.woff2", "wOF2")
+    place.write("assets/OFL.txt", "இலவசம்")
+    assert publish("வெளியிடு", SOURCE).status == OK
+    assert "இலவசம்" in (place.folder / SITE / "licences.txt").read_text()
+
+
+def test_own_folder_is_replaced(place, publish, tools):
+    assert publish("வெளியிடு", SOURCE).status == OK
+    tools.stands_in_for("em++", 'for kind in js wasm; do echo newer > "${out%.js}.$kind"; done')
+    assert publish("வெளியிடு", SOURCE).status == OK
+    assert (place.folder / SITE / "index.js").read_text() == "newer\n"
+    assert names(place.folder / SITE) == ["index.html", "index.js", "index.wasm", MARKER]
+    nothing_left(place, SITE)
+
+
+def test_folder_of_others_is_left_alone(place, publish, tools):
+    (place.folder / "என்_அடைவு").mkdir()
+    place.write("என்_அடைவு/கடிதம்.txt", "முக்கியம்")
+    result = publish("வெளியிடு", SOURCE, "--அடைவு", "என்_அடைவு")
+    assert result.status == WRONG_USE
+    assert "அதைப் பொழில் உருவாக்கவில்லை!" in result.err
+    assert names(place.folder / "என்_அடைவு") == ["கடிதம்.txt"]
+    assert not tools.calls("em++")
+
+
+def test_own_folder_with_a_file_of_others_is_left_alone(place, publish):
+    assert publish("வெளியிடு", SOURCE).status == OK
+    place.write(f"{SITE}/CNAME", "example")
+    result = publish("வெளியிடு", SOURCE)
+    assert result.status == WRONG_USE
+    assert f"'{place.folder / SITE / 'CNAME'}' பொழில் வைத்தது அல்ல" in result.err
+    assert (place.folder / SITE / "CNAME").read_text() == "example"
+
+
+@pytest.mark.parametrize("arguments, told", [
+    ([], "எந்தக் கோப்பை வெளியிட வேண்டும்?"),
+    ([SOURCE, "--அடைவு"], "ஓர் அடைவின் பெயர் வேண்டும்!"),
+    ([SOURCE, "--dir", ""], "ஓர் அடைவின் பெயர் வேண்டும்!"),
+    ([SOURCE, "--வலை"], "'--வலை' என்ற தேர்வு இங்கே இல்லை!"),
+    ([SOURCE, "இரண்டு.பொழில்"], "'இரண்டு.பொழில்' இரண்டாவது!"),
+    (["இல்லை.பொழில்"], "'இல்லை.பொழில்' என்ற கோப்பை திறக்க முடியவில்லை!"),
+])
+def test_wrong_use_is_told(place, publish, arguments, told):
+    result = publish("வெளியிடு", *arguments)
+    assert (result.status, result.out) == (WRONG_USE, "")
+    assert told in result.err
+    nothing_left(place)
+
+
+def test_program_without_an_application(place, publish):
+    place.write(SOURCE, 'அச்சிடு("வணக்கம்")\n')
+    result = publish("வெளியிடு", SOURCE)
+    assert result.status == WRONG_USE
+    assert "நிரலில் 'வலைதளம்' இல்லை!" in result.err
+    nothing_left(place)
+
+
+def test_second_edition_has_no_applications_yet(place, publish):
+    place.write(SOURCE, "ஃ பொழில் 2\n" + APPLICATION)
+    result = publish("வெளியிடு", SOURCE)
+    assert result.status == FAULT
+    assert "இரண்டாம் பதிப்பு இன்னும் இல்லை!" in result.err
+    nothing_left(place)
+
+
+# Faults
+
+@pytest.mark.parametrize("source, code", [
+    (APPLICATION.replace("உரை(", "உரை"), "பொழி-203"), (APPLICATION.replace('"வணக்கம்"', '"வணக்கம்'), "பொழி-102"),
+])
+def test_fault_in_the_source_shows_its_box(place, publish, source, code):
+    place.write(SOURCE, source)
+    result = publish("வெளியிடு", SOURCE)
+    assert result.status == FAULT
+    assert code in result.out
+    nothing_left(place)
+
+
+def test_program_that_em_refuses(place, publish, tools):
+    tools.stands_in_for("em++", "echo 'x.cpp:1:1: error: no' >&2; exit 1")
+    result = publish("வெளியிடு", SOURCE)
+    assert result.status == FAULT
+    assert t.WEB_COMPILATION_FAILED in result.out
+    nothing_left(place)
+
+
+def test_failure_leaves_the_former_folder(place, publish, tools):
+    assert publish("வெளியிடு", SOURCE).status == OK
+    before = {path.name: path.read_bytes() for path in (place.folder / SITE).iterdir()}
+    tools.stands_in_for("em++", 'echo half > "$out"; exit 1')
+    assert publish("வெளியிடு", SOURCE).status == FAULT
+    assert {path.name: path.read_bytes() for path in (place.folder / SITE).iterdir()} == before
+    nothing_left(place, SITE)
+
+
+def test_missing_compiler(place, publish, tools):
+    (tools.folder / "em++").unlink()
+    place.env["PATH"] = str(tools.folder)
+    result = publish("வெளியிடு", SOURCE)
+    assert result.status == FAILED
+    assert "'em++' கிடைக்கவில்லை!" in result.err
+    nothing_left(place)
+
+
+def test_incomplete_installation(place, publish):
+    (place.compiler.parent / "உள்ளடக்கம்/template.html").unlink()
+    result = publish("வெளியிடு", SOURCE)
+    assert result.status == FAILED
+    assert t.TEMPLATE_MISSING_BEFORE in result.err
+    nothing_left(place)
+
+
+def test_folder_that_cannot_be_written(place, publish):
+    (place.folder / "பூட்டியது").mkdir(mode=0o555)
+    result = publish("வெளியிடு", SOURCE, "--அடைவு", "பூட்டியது/தளம்", user=NOBODY)
+    assert result.status == FAILED
+    assert "அடைவில் எழுத முடியவில்லை!" in result.err
+    assert names(place.folder / "பூட்டியது") == []
+
+
+@pytest.mark.parametrize("tool", ["gzip", "brotli"])
+def test_disk_that_is_full_at_the_end(place, publish, tools, tool):
+    tools.stands_in_for(tool, "exit 1")
+    result = publish("வெளியிடு", SOURCE)
+    assert result.status == FAILED
+    assert f"'{place.folder}' அடைவில் கோப்புகளை எழுதி முடிக்க முடியவில்லை!" in result.err
+    nothing_left(place)
+
+
+def test_disk_that_is_full_from_the_start(place, publish):
+    """A small disk of its own, filled up."""
+    disk = place.folder / "வட்டு"
+    disk.mkdir()
+    if os.system(f"mount -t tmpfs -o size=64k tmpfs '{disk}' 2>/dev/null"):
+        pytest.skip("this user may not mount a disk")
+    try:
+        result = publish("வெளியிடு", SOURCE, "--அடைவு", "வட்டு/தளம்")
+        assert result.status == FAILED
+        assert "வட்டில் இடம்" in result.err
+        assert names(disk) == []
+    finally:
+        os.system(f"umount '{disk}'")
+
+
+@pytest.mark.parametrize("number", [signal.SIGINT, signal.SIGTERM, signal.SIGHUP])
+def test_interrupt_leaves_nothing(place, command, tools, number):
+    tools.stands_in_for("em++", 'echo half > "$out"; exec sleep 60')
+    with Session([command, "வெளியிடு", SOURCE], cwd=place.folder, env=place.env) as session:
+        session.wait_until(lambda: list(place.folder.glob(".pozhil-*/site/index.js")))
+        session.process.send_signal(number)
+        assert session.wait_for_end(10) == -number
+        assert "நிறுத்தப்பட்டது; எதுவும் வெளியிடப்படவில்லை.\n" in session.stdout.decode()
+    nothing_left(place)
+
+
+def test_assets_come_from_the_working_directory(place, publish, tools):
+    (place.folder / "assets").mkdir()
+    shutil.move(place.folder / SOURCE, place.folder.parent / SOURCE)
+    assert publish("வெளியிடு", f"../{SOURCE}").status == OK
+    (call,) = tools.calls("em++")
+    assert call[call.index("--preload-file") + 1] == "assets"
+    assert (place.folder / SITE / "index.html").exists()
