@@ -260,3 +260,38 @@ async function runNotedCall(compiler, flags) {
         throw new Error(`em++ ended with ${status}\n${said}`);
     }
 }
+
+const published = new Map();
+
+/// The files of the site that `source` is published as, by name; the same source is published once.
+export function publishPage(source, options = {}) {
+    const key = JSON.stringify([source, Object.keys(options.files ?? {})]);
+    if (!published.has(key)) {
+        published.set(key, publish(source, options));
+    }
+    return published.get(key);
+}
+
+async function publish(source, { files = {} }) {
+    const folder = await mkdtemp(path.join(tmpdir(), 'pozhil-site-'));
+    try {
+        for (const [name, contents] of Object.entries({ [SOURCE]: source, ...files })) {
+            await mkdir(path.dirname(path.join(folder, name)), { recursive: true });
+            await writeFile(path.join(folder, name), contents);
+        }
+        const command = path.join(path.dirname(compilerPath()), 'பொழில்');
+        const tool = spawn(command, ['வெளியிடு', SOURCE, '--அடைவு', 'தளம்'],
+                           { cwd: folder, env: environment(folder, {}), stdio: ['ignore', 'inherit', 'inherit'] });
+        const [status] = await once(tool, 'close');
+        if (status !== 0) {
+            throw new Error(`publishing ended with ${status}`);
+        }
+        const site = new Map();
+        for (const name of await readdir(path.join(folder, 'தளம்'))) {
+            site.set(name, await readFile(path.join(folder, 'தளம்', name)));
+        }
+        return site;
+    } finally {
+        await rm(folder, { recursive: true, force: true });
+    }
+}

@@ -5,12 +5,15 @@ import { after, test } from 'node:test';
 
 import { AppPage } from './app_page.js';
 import { launch } from './browser.js';
-import { Compiler, address, buildPage } from './compiler.js';
+import { Compiler, address, buildPage, publishPage } from './compiler.js';
 import { PageServer } from './page_server.js';
+import { StaticServer } from './static_server.js';
 
 export { assert, address, buildPage };
 
 const TIMEOUT = 300_000;
+// The smallest build takes longer than the first.
+const PUBLISHED_TIMEOUT = 600_000;
 // Small, since the machine's processor draws the pages.
 const WINDOW = { width: 500, height: 400 };
 
@@ -34,13 +37,14 @@ function sharedBrowser() {
 }
 
 /// Gives `use` a fresh page in a window of its own, and tells on a failure what the page said.
-async function withPage({ flags, ...context }, use) {
+async function withPage({ flags, offline = false, ...context }, use) {
     const shared = await sharedBrowser();
     const running = flags ? await launch(flags) : shared;
     const opened = await running.newContext({ viewport: WINDOW, ...context });
     // The web font comes from another host; the installed one of the same name serves.
     await opened.route(url => /^https?:$/.test(url.protocol) && url.hostname !== '127.0.0.1',
-                       route => route.fulfill({ status: 200, contentType: 'text/css', body: '' }));
+                       route => (offline ? route.abort()
+                                         : route.fulfill({ status: 200, contentType: 'text/css', body: '' })));
     const page = new AppPage(await opened.newPage());
     try {
         await use(page);
@@ -65,10 +69,15 @@ export function application(body, { header = '', logic = '' } = {}) {
 /// A test of the page that `source` becomes. `check` gets an `AppPage` that has drawn its first frames.
 ///
 /// Options: `files` stand beside the source; `open: false` leaves the opening to the test (`page.address`); `flags` start
-/// a browser of their own; all others are those of a browser context, such as `viewport`.
+/// a browser of their own; `published: true` tests the site that any server serves, from below its root, and without a
+/// network; all others are those of a browser context, such as `viewport`.
 export function webTest(name, source, ...rest) {
     const check = rest.pop();
-    const { files, open = true, ...context } = rest[0] ?? {};
+    const { files, open = true, published = false, ...context } = rest[0] ?? {};
+    if (published) {
+        publishedTest(name, source, files, context, check);
+        return;
+    }
     test(name, { timeout: TIMEOUT }, async () => {
         const built = await buildPage(source, { files });
         await withPage(context, async page => {
@@ -79,6 +88,24 @@ export function webTest(name, source, ...rest) {
             }
             await check(page);
         });
+    });
+}
+
+function publishedTest(name, source, files, context, check) {
+    test(name, { timeout: PUBLISHED_TIMEOUT }, async () => {
+        const site = await publishPage(source, { files });
+        const host = await new StaticServer().start();
+        try {
+            await withPage({ ...context, offline: true }, async page => {
+                page.address = host.add(site);
+                page.files = site;
+                await page.open(page.address);
+                await check(page);
+                assert.deepEqual(host.missing, []);
+            });
+        } finally {
+            host.stop();
+        }
     });
 }
 
