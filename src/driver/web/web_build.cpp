@@ -4,8 +4,8 @@
 #include "driver/refusal_report.h"
 #include "driver/server/build_fault.h"
 #include "driver/server/web_state.h"
-#include "driver/web/outline_json.h"
 #include "driver/web/page_template.h"
+#include "driver/web/page_values.h"
 #include "driver/web/web_assets.h"
 #include "driver/web/web_directory.h"
 #include "driver/web/web_messages.h"
@@ -35,7 +35,7 @@ bool WebBuild::run(const ParsedSource& source, const OutputText& output) {
     }
     const int version = g_appVersion + 1;
     const Application application = readApplication(source.program);
-    if (!makePage(application, outlineJson(outlineOf(source.program)), version)) {
+    if (!makePage(source.program, application, version)) {
         return false;
     }
     const std::vector<std::string> packing = packingArguments(application);
@@ -73,18 +73,13 @@ void WebBuild::clearOutput() {
 }
 
 /// Makes the page for the server, which hands it out from now on, also if em++ then fails.
-bool WebBuild::makePage(const Application& application, std::string widgets, int version) const {
+bool WebBuild::makePage(const Program& program, const Application& application, int version) const {
     const auto page = readTemplate(appDirectory_);
     if (!page) {
         printMissingTemplate(appDirectory_.u8string() + "/உள்ளடக்கம்/template.html");
         return false;
     }
-    PageValues values;
-    values.title = application.title;
-    values.icon = application.icon;
-    values.background = application.background;
-    values.hasData = hasFilesToPack(application);
-    values.widgets = std::move(widgets);
+    PageValues values = pageValuesOf(program);
     values.version = version;
     std::string text = fillTemplate(*page, values);
     std::string compressedText = compressed(text, source_.parent_path());

@@ -3,6 +3,7 @@
 #include "driver/output_stage.h"
 #include "driver/refusal_report.h"
 #include "driver/web/page_template.h"
+#include "driver/web/page_values.h"
 #include "driver/web/web_assets.h"
 #include "driver/web/web_compiler.h"
 #include "driver/web/web_messages.h"
@@ -39,18 +40,13 @@ bool write(const fs::path& file, const std::string& text) {
 }
 
 /// The page as any host serves it: without the scripts that ask for newer builds.
-std::optional<std::string> pageOf(const Application& application, const fs::path& appDirectory) {
+std::optional<std::string> pageOf(const Program& program, const fs::path& appDirectory) {
     auto page = readTemplate(appDirectory);
     if (!page) {
         printMissingTemplate(appDirectory.u8string() + "/உள்ளடக்கம்/template.html");
         return std::nullopt;
     }
-    PageValues values;
-    values.title = application.title;
-    values.icon = application.icon;
-    values.background = application.background;
-    values.hasData = hasFilesToPack(application);
-    return tidiedPage(fillTemplate(std::move(*page), values));
+    return tidiedPage(fillTemplate(std::move(*page), pageValuesOf(program)));
 }
 
 bool tidyScript(const fs::path& file) {
@@ -84,7 +80,7 @@ BuildResult compileProgram(const ParsedSource& source, const OutputText& output,
 BuildResult buildSite(const ParsedSource& source, const OutputText& output, const fs::path& workFolder,
                       const fs::path& folder) {
     const Application application = readApplication(source.program);
-    const auto page = pageOf(application, platform::executableDirectory());
+    const auto page = pageOf(source.program, platform::executableDirectory());
     if (!page) {
         return BuildResult::Failed;
     }
