@@ -34,7 +34,8 @@ std::string font(const std::u16string& licence, std::size_t language = 0x409) {
         text += shortNumber(unit);
     }
     const std::string names = shortNumber(0) + shortNumber(1) + shortNumber(18) + shortNumber(3) + shortNumber(1) +
-                              shortNumber(language) + shortNumber(13) + shortNumber(text.size()) + shortNumber(0) + text;
+                              shortNumber(language) + shortNumber(13) + shortNumber(text.size()) + shortNumber(0) +
+                              text;
     return "\0\1\0\0"s + shortNumber(1) + std::string(6, '\0') + "name" + std::string(4, '\0') + longNumber(28) +
            longNumber(names.size()) + names;
 }
@@ -168,7 +169,8 @@ TEST(TidiedPage, IsWithoutIndentationAndComments) {
 TEST(TidiedScript, DoesNotTellWhereItWasMade) {
     EXPECT_EQ(tidiedScript(R"(var PACKAGE_NAME="/home/me/x/index.data";f("datafile_/home/me/x/index.data"))"),
               R"(var PACKAGE_NAME="index.data";f("datafile_index.data"))");
-    for (const char* script : {"", "no data", "PACKAGE_NAME=\"", "PACKAGE_NAME=\"\"", "var PACKAGE_NAME=\"index.data\";"}) {
+    for (const char* script :
+         {"", "no data", "PACKAGE_NAME=\"", "PACKAGE_NAME=\"\"", "var PACKAGE_NAME=\"index.data\";"}) {
         EXPECT_EQ(tidiedScript(script), script);
     }
 }
