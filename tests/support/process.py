@@ -81,7 +81,10 @@ def spawn(command, *, cwd, env, stdin, stdout, stderr, user=None):
 
 
 def end_group(process):
-    """Kills whatever is left of the group that `process` leads and of those below it, and collects its status."""
+    """Kills whatever is left of the group that `process` leads and of those below it, and collects its status. It is held
+    first, so that it starts nothing new meanwhile."""
+    if process.poll() is None:
+        process.send_signal(signal.SIGSTOP)
     for group in [process.pid, *_groups_below(process.pid)]:
         try:
             os.killpg(group, signal.SIGKILL)
