@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <csignal>
 #include <cstddef>
 
 namespace pozhil::engine {
@@ -43,8 +42,6 @@ void openStandardStreams() {
     for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
         fillGap(stream);
     }
-    // Who prints for "| head" may still have files to write.
-    std::signal(SIGPIPE, SIG_IGN);
     isTerminal = isatty(STDOUT_FILENO) == 1;
 }
 
