@@ -124,7 +124,7 @@ for (const [screen, context] of [['desktop', {}], ['phone', { ...PHONE, deviceSc
         assert.deepEqual([(await page.element('#மேலே')).value, (await page.element('#உள்ளே')).value], ['அ', 'ஆ']);
 
         await press(...await place('மூடு'));
-        await page.frames(3);
+        await page.frames(5);
         for (const id of ['#மேலே', '#கீழே', '.pozhil-input[placeholder="கடவு"]']) {
             assert.equal(await seen(page, id), true, id);
         }

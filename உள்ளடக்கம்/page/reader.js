@@ -21,6 +21,9 @@
     let isLooking = false;
     let lastLook = -Infinity;
     let cost = 0;
+    /// A dialog has opened or closed: until the page is looked at, fields that can be seen again can't be reached.
+    let isUrgent = false;
+    let hadDialog = false;
     /// Frames since something has happened or moved.
     let quietFrames = 0;
     /// What the last frame has drawn.
@@ -49,6 +52,11 @@
             formerShapes = shapes.slice();
         }
         formerTexts = texts;
+        const hasDialog = Boolean(window.modalActive);
+        if (hasDialog !== hadDialog) {
+            hadDialog = hasDialog;
+            isStale = isUrgent = true;
+        }
     }
 
     pozhilFrames.whenWoken(() => {
@@ -57,7 +65,8 @@
     });
     pozhilFrames.before(() => {
         // A page that becomes quiet is looked at before it rests.
-        isLooking = isStale && (quietFrames >= QUIET || clock() >= lastLook + Math.max(INTERVAL, PART_OF_TIME * cost));
+        const isTime = clock() >= lastLook + Math.max(INTERVAL, PART_OF_TIME * cost);
+        isLooking = isStale && (isUrgent || quietFrames >= QUIET || isTime);
         pozhilDrawing.watchMarks(isLooking);
     });
     pozhilFrames.after(() => {
@@ -69,7 +78,7 @@
 
     function look() {
         const begin = clock();
-        isStale = false;
+        isStale = isUrgent = false;
         const marks = pozhilDrawing.marks();
         mirror(pozhilShown.read(marks, notesOfNow()), marks);
         lastLook = clock();
