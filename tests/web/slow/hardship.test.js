@@ -1,6 +1,6 @@
 // Windows, fingers, texts and hosts that nobody would wish a page: it goes on, or says in Tamil why it can't.
 
-import { PHONE, application, assert, near, webTest } from './harness/index.js';
+import { PHONE, application, assert, near, webTest } from '../harness/index.js';
 
 const page = application(`
         நெடுவரிசை(இடைவெளி: 0)(
