@@ -126,7 +126,7 @@ def test_a_million_circles_of_objects_take_little_memory(real_place):
 அச்சிடு("சரி")
 """
     assert outcome(real_place, program) == ("சரி\n", [], 0)
-    memory = ["/bin/sh", "-c", f"ulimit -v {300 * 1024} && exec {real_place.program}"]
+    memory = ["/bin/sh", "-c", f"ulimit -v {300 * 1024} && exec {real_place.program_of(SOURCE)}"]
     result = run(memory, cwd=real_place.folder, env=real_place.env)
     assert (result.status, result.out) == (0, "சரி\n")
 
@@ -220,7 +220,7 @@ def test_marks_without_end_on_one_letter(real_place):
 
 @pytest.mark.parametrize("source, box", [
     ("ஃ பொழில் 3\nஅச்சிடு(1)\n", (501, 1)), ("ஃ பொழில் 2\nஅ = 1\nஃ பொழில் 2\n", (502, 3)), ("\nஃ பொழில் 2\n", (503, 2)),
-    ("அ = 1\nஃ பொழில் 2\n", (503, 2)), ("ஃ பொழில் 99999999999999999999\n", (501, 1)),
+    ("ஃ குறிப்பு\n\nஃ பொழில் 2\n", (503, 3)), ("ஃ பொழில் 99999999999999999999\n", (501, 1)),
 ])
 def test_a_marker_that_is_wrong(place, source, box):
     assert outcome(place, source.encode()) == ("", [box], 1)

@@ -25,7 +25,7 @@ class Result:
 
 
 def emitted(directory):
-    return directory / BUILD_DIRECTORY / "generated.cpp"
+    return next((directory / BUILD_DIRECTORY).rglob("generated.cpp"))
 
 
 def call(command):
@@ -52,7 +52,7 @@ class Compilation:
             timeout=300,
             check=False,
         )
-        built = list((self.directory / BUILD_DIRECTORY).glob("பொழில்_செயலி"))
+        built = list((self.directory / BUILD_DIRECTORY).rglob("பொழில்_செயலி"))
         self.program = built[0] if built and finished.returncode == 0 else None
         return Result(finished)
 

@@ -58,10 +58,11 @@ def run(command, *, cwd, env, stdin=b"", timeout=60, stdout=None, stderr=None, u
 
 
 def _prepare_child():
-    """Bounds what the child writes; an interrupt ends it even where the tests themselves were told to ignore it, as in
-    a job in the background."""
+    """Bounds what the child writes; the keys of a terminal end it even where the tests themselves were told to ignore them,
+    as in a job in the background."""
     resource.setrlimit(resource.RLIMIT_FSIZE, (OUTPUT_LIMIT, OUTPUT_LIMIT))
     signal.signal(signal.SIGINT, signal.SIG_DFL)
+    signal.signal(signal.SIGQUIT, signal.SIG_DFL)
 
 
 def spawn(command, *, cwd, env, stdin, stdout, stderr, user=None):

@@ -16,7 +16,6 @@ RUNNING = [number for number in NUMBERS if number >= 601]
 
 WITHOUT_PROGRAM = {
     661: "the analysis knows every construction, and refuses that of an abstract structure",
-    664: "the analysis sees to it that children write every method of their abstract parents",
     699: "a mistake of the engine, which no program knows how to make",
 }
 

@@ -45,6 +45,10 @@ class Workplace:
         """Where a program of the second edition is built."""
         return self.work_directory / source
 
+    def program_of(self, source):
+        """The program that was built of a source of the second edition."""
+        return self.directory_of(source) / t.PROGRAM_NAME
+
     @property
     def emitted(self):
         return self.emitted_path.read_text(encoding="utf-8")

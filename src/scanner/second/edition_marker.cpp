@@ -102,21 +102,21 @@ std::optional<std::string> markedEdition(std::string_view line) {
 std::optional<ByteRange> lateMarker(std::string_view text) {
     std::size_t position = 0;
     while (position < text.size()) {
-        const std::size_t end = std::min(text.find('\n', position), text.size());
-        std::string_view line = text.substr(position, end - position);
+        const std::size_t begin = std::min(text.find_first_not_of(BLANKS, position), text.size());
+        if (startsWith(text.substr(begin), BLOCK_COMMENT)) {
+            const std::size_t closing = text.find(BLOCK_COMMENT, begin + BLOCK_COMMENT.size());
+            position = closing == std::string_view::npos ? text.size() : closing + BLOCK_COMMENT.size();
+            continue;
+        }
+        const std::size_t end = std::min(text.find('\n', begin), text.size());
+        const std::string_view line = text.substr(begin, end - begin);
         if (position > 0 && markedEdition(line) == SECOND_EDITION) {
             return ByteRange{static_cast<std::uint32_t>(position), static_cast<std::uint32_t>(end)};
         }
-        skipBlanks(line);
-        if (startsWith(line, BLOCK_COMMENT)) {
-            const std::size_t opening = end - line.size();
-            const std::size_t closing = text.find(BLOCK_COMMENT, opening + BLOCK_COMMENT.size());
-            position = closing == std::string_view::npos ? text.size() : closing + BLOCK_COMMENT.size();
-        } else if (line.empty() || startsWith(line, COMMENT)) {
-            position = end + 1;
-        } else {
+        if (!line.empty() && !startsWith(line, COMMENT)) {
             return std::nullopt;
         }
+        position = end + 1;
     }
     return std::nullopt;
 }
