@@ -72,23 +72,6 @@ void runNative(const Invocation& invocation, const FrontEndOptions& options, con
     build.finish(parsed, generated);
 }
 
-/// Compiles a program of the second edition, or tells what is wrong with the line that asks for an edition.
-int compileSecondEdition(const Invocation& invocation, const SourcePtr& source, const SecondFaults& faults,
-                         const FrontEndOptions& options, const std::filesystem::path& appDirectory) {
-    if (!faults.empty()) {
-        reportFaults(faults);
-        return 1;
-    }
-    if (invocation.web) {
-        std::cerr
-            << "பிழை: வலைச் செயலிகளுக்கு இரண்டாம் பதிப்பு இன்னும் இல்லை! '--வலை' இல்லாமல் ஓட்டு, அல்லது முதல் வரியில் உள்ள 'ஃ பொழில் 2' "
-               "என்பதை நீக்கு."
-            << std::endl;
-        return 1;
-    }
-    return runSecondEdition(source, options, appDirectory, invocation.watch);
-}
-
 /// Compiles a program of the first edition, and runs it.
 int compileFirstEdition(const Invocation& invocation, const SourcePtr& source, const FrontEndOptions& options,
                         const std::filesystem::path& appDirectory) {
@@ -123,8 +106,13 @@ int compile(const Invocation& invocation) {
         return 1;
     }
     SecondFaults editionFaults;
-    if (editionOf(source, editionFaults) == Edition::Second || !editionFaults.empty()) {
-        return compileSecondEdition(invocation, source, editionFaults, options, appDirectory);
+    const Edition edition = editionOf(source, editionFaults);
+    if (!editionFaults.empty()) {
+        reportFaults(editionFaults);
+        return 1;
+    }
+    if (edition == Edition::Second) {
+        return runSecondEdition(invocation, source, options, appDirectory);
     }
     try {
         return compileFirstEdition(invocation, source, options, appDirectory);

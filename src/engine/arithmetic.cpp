@@ -6,6 +6,7 @@
 #include "report/remedies.h"
 
 #include <cmath>
+#include <cstdint>
 #include <string_view>
 
 namespace pozhil::engine {

@@ -145,9 +145,6 @@ struct Structure {
 /// A new object, the fields of all its parents and its own initialised, before துவக்கம்.
 Value create(Structure& structure, Place place);
 
-/// object(arguments of துவக்கம்): creates the object and calls the துவக்கம் that it has, of its own or of a parent.
-Value construct(Structure& structure, std::initializer_list<Value> arguments, Place place);
-
 /// A source of the program, for its faults.
 struct Source {
     const char* path;

@@ -53,7 +53,10 @@ void raise(int number, Place place, std::initializer_list<std::string_view> valu
     details->values.assign(values.begin(), values.end());
     details->suggestion = suggestion;
     details->remedy = remedy;
-    noteWay(*details);
+    // Nobody is told the way to a fault that is caught, and it may be as long as the stack.
+    if (Attempt::running == 0) {
+        noteWay(*details);
+    }
     throw Fault(details.release());
 }
 

@@ -26,21 +26,4 @@ Value boundMethod(const FunctionInfo& info, const Value& self);
 /// \param arguments without the object
 Value callBound(const FunctionInfo& info, const Value& self, Value* arguments, int count, Place place);
 
-/// Arguments that came as a list, where functions can write to them.
-class ArgumentCopies {
-public:
-    explicit ArgumentCopies(std::initializer_list<Value> arguments);
-
-    Value* data() { return more_.empty() ? few_ : more_.data(); }
-    int count() const { return count_; }
-
-private:
-    static constexpr int FEW = 4;
-
-    int count_;
-    /// Calls with few arguments, nearly all, do without the heap.
-    Value few_[FEW];
-    std::vector<Value> more_;
-};
-
 } // namespace pozhil::engine

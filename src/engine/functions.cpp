@@ -108,14 +108,6 @@ void freeFunction(Counted* block) noexcept {
     delete closure;
 }
 
-ArgumentCopies::ArgumentCopies(std::initializer_list<Value> arguments) : count_(static_cast<int>(arguments.size())) {
-    if (count_ <= FEW) {
-        std::copy(arguments.begin(), arguments.end(), few_);
-    } else {
-        more_ = arguments;
-    }
-}
-
 Value callBound(const FunctionInfo& info, const Value& self, Value* arguments, int count, Place place) {
     return callWithObject(WITHOUT_VARIABLES, info, self, arguments, count, place);
 }
@@ -141,11 +133,6 @@ const Value& calledVariable(const char* name, const Value& held, Place place) {
         raise(NOT_A_FUNCTION, place, {kindWord(held)}, "", report::filled(report::remedy::HIDDEN_FUNCTION, {name}));
     }
     return held;
-}
-
-Value call(const Value& callee, std::initializer_list<Value> arguments, Place place) {
-    ArgumentCopies copies(arguments);
-    return callValue(callee, copies.data(), copies.count(), place);
 }
 
 unsigned mutableParameters(const Value& callee) {

@@ -10,7 +10,7 @@ namespace pozhil::engine {
 struct MemberSlot {
     /// Index among the fields of an object; negative for a method, and for a name that means nothing.
     int field = -1;
-    /// Null for a field, and for a method without a body.
+    /// Null for a field, and for a name that means nothing.
     const FunctionInfo* method = nullptr;
     /// The structure that declares it; null for a name that means nothing.
     const Structure* owner = nullptr;

@@ -70,17 +70,6 @@ Value create(Structure& structure, Place place) {
     return object;
 }
 
-Value construct(Structure& structure, std::initializer_list<Value> arguments, Place place) {
-    ArgumentCopies copies(arguments);
-    Value object = create(structure, place);
-    if (const FunctionInfo* const constructor = structure.table->constructor) {
-        callBound(*constructor, object, copies.data(), copies.count(), place);
-    } else if (copies.count() > 0) {
-        raise(WRONG_COUNT, place, {structure.name, "0", std::to_string(copies.count())});
-    }
-    return object;
-}
-
 Value memberValue(const Value& object, Member name, Place place, const Structure* inside) {
     if (object.is(Tag::Object)) {
         Object& block = objectBlock(object);

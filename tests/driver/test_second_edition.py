@@ -7,7 +7,8 @@ from contextlib import ExitStack, contextmanager
 import pytest
 
 from support import texts as t
-from support.console import animation_line, behind_animation, hint_lines
+from support.console import animation_line, behind_animation, hint_lines, output_error_line
+from support.process import run
 from support.second_box import split_boxes
 from support.toolchain import PROGRAM_OUTPUT
 

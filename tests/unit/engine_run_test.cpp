@@ -1,10 +1,6 @@
 #include "engine/list.h"
 #include "engine_run_support.h"
 
-#include <fcntl.h>
-#include <sys/resource.h>
-#include <unistd.h>
-
 #include <cstdlib>
 #include <string>
 
@@ -140,36 +136,6 @@ TEST(Run, EndlessCallsCanBeCaughtAgainAndAgain) {
         print({depthReached(1000, "1:0-3")});
     });
     EXPECT_EQ(result.output, "பிடித்தேன்\nபிடித்தேன்\n1000\n");
-}
-
-TEST(Run, AClosedOutputSwallowsWhatIsPrinted) {
-    // Of this process: others may run the same test.
-    static const std::string path = testing::TempDir() + "engine_run_test_closed." + std::to_string(getpid());
-    const ChildResult result = runInChild([] {
-        close(STDOUT_FILENO);
-        _exit(run(programOf([] {
-            print({text("யாரும் இல்லை")});
-            writeFile(text(path.data(), path.size()), text("கோப்பு"), "1:0-1");
-            print({text("யாரும் இல்லை")});
-        })));
-    });
-    EXPECT_EQ(result.exitStatus, 0);
-    std::FILE* const file = std::fopen(path.c_str(), "r");
-    ASSERT_NE(file, nullptr);
-    EXPECT_EQ(contentOf(file), "கோப்பு") << "what is printed must not get into a file of the program";
-    std::remove(path.c_str());
-}
-
-TEST(Run, AFullOutputIsNoFault) {
-    const ChildResult result = runInChild([] {
-        dup2(open("/dev/full", O_WRONLY), STDOUT_FILENO);
-        _exit(run(programOf([] {
-            for (int i = 0; i < 100'000; ++i) {
-                print({i});
-            }
-        })));
-    });
-    EXPECT_EQ(result.exitStatus, 0);
 }
 
 TEST(Run, ReadsLines) {

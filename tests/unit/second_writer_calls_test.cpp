@@ -37,7 +37,7 @@ TEST(SecondWriterCalls, WhatAVariableHoldsIsAskedForItsMutableParameters) {
 TEST(SecondWriterCalls, FunctionsThatAreValuesHaveAnAdapter) {
     const WrittenProgram program("செயல் f(அ, மாற்று ஆ):\n    திரும்பு அ\nவ = f\nஅச்சிடு(வ)\n");
     EXPECT_THAT(program.text(), HasSubstr("static const FunctionInfo info_f = {\"f\", call_f, 2, 2};"));
-    EXPECT_EQ(program.body("call_f"), "return f_f(arguments[0], arguments[1], at);\n");
+    EXPECT_EQ(program.body("call_f"), "return f_f(moved(arguments[0]), arguments[1], at);\n");
     EXPECT_THAT(program.statements(), HasSubstr("v_வ = function(info_f);"));
 }
 

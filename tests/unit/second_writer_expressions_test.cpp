@@ -72,6 +72,15 @@ TEST(SecondWriterExpressions, NothingIsHeldThatCannotChange) {
     EXPECT_EQ(printed("அ = 1\nஆ = 2\n", "அ கழி ஆ"), "subtract(v_அ, v_ஆ, @)");
 }
 
+TEST(SecondWriterExpressions, OfTwoOperandsThatMayFailTheLeftOneComesFirst) {
+    const std::string before = "ப = [1]\nம = {}\nஎ = 2\n";
+    EXPECT_EQ(printed(before, "ம[எ] கூட்டு ப[9]"), "({ Value t1 = get(v_ம, v_எ, @); add(t1, get(v_ப, 9LL, @), @); })");
+    EXPECT_EQ(printed(before, "(எ பெருக்கு 2) கழி (எ பெருக்கு 3)"),
+              "({ const Whole t1 = multiply(v_எ, 2LL, @); subtract(t1, multiply(v_எ, 3LL, @), @); })");
+    EXPECT_EQ(printed(before, "(எ பெருக்கு 2) கழி (எ பெருக்குஇருமை 3)"),
+              "subtract(multiply(v_எ, 2LL, @), bitAnd(v_எ, 3LL, @), @)");
+}
+
 TEST(SecondWriterExpressions, LongListsAndMapsAreMadePartByPart) {
     const auto items = [](const std::string& item, int count) {
         std::string text;

@@ -69,7 +69,7 @@ private:
             return;
         }
         const bool isOwn = first.place.file == file_;
-        const resolved::Place place = isOwn ? first.place : importStatement();
+        const resolved::Place place = isOwn ? first.place : model_.locations.of(file_, importStatement_);
         const std::string firstName = fileName(pathOf(first));
         const std::string secondName = fileName(pathOf(second));
         if (firstName == secondName) {

@@ -80,11 +80,11 @@ void SecondBuild::start(const SecondTranslation& translation) {
 
 platform::Command SecondBuild::command(const SecondTranslation& translation,
                                        const std::vector<std::string>& userFlags) const {
-    std::vector<std::string> arguments = programArguments(
-        {generatedSource_,
-         archive_,
-         program_.fresh,
-         {optimisationFor(translation.output.origins.size()), "-I" + (appDirectory_ / "உள்ளடக்கம்").u8string()}});
+    std::vector<std::string> arguments =
+        programArguments({generatedSource_,
+                          archive_,
+                          program_.fresh,
+                          {optimisationFor(translation.output), "-I" + (appDirectory_ / "உள்ளடக்கம்").u8string()}});
     arguments.insert(arguments.end(), userFlags.begin(), userFlags.end());
     return compilerCommand(std::move(arguments));
 }

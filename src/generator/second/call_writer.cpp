@@ -230,8 +230,7 @@ std::string CallWriter::write(const ValueCall& call) {
     const bool withPlaces = hasPlaces(call.arguments);
     operands_.add(*call.callee, Wanted::AsIs, withPlaces);
     operands_.beginBraces();
-    addArguments(call.arguments);
-    operands_.evaluate();
+    const std::vector<Given> given = give(call.arguments);
     std::string callee = operands_.text(0);
     if (const std::string* const name = hiddenBuiltin(*call.callee)) {
         callee = "calledVariable(\"" + *name + "\", " + callee + ", " + place + ")";

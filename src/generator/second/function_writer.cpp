@@ -146,10 +146,8 @@ void FunctionWriter::defineAdapter(const Function& function, EmittedLines& lines
     }
     std::string arguments = takesCaptures(function) ? "own, " : "";
     for (std::size_t index = 0; index < function.parameters.size(); ++index) {
-        std::string argument = "arguments[" + std::to_string(index) + "]";
-        if (!function.parameters[index].isMutable) {
-            argument = "moved(" + argument + ")";
-        }
+        const std::string element = "arguments[" + std::to_string(index) + "]";
+        const std::string argument = function.parameters[index].isMutable ? element : "moved(" + element + ")";
         arguments += converted(argument, Type::Value, typeOf(*function.parameters[index].variable)) + ", ";
     }
     lines.open(adapterHead(function) + " {");

@@ -170,7 +170,7 @@ bool isParallelAssignment(const Site& site) {
 /// A comma after a value that can't have another one beside it.
 bool isStrayComma(const Site& site) {
     return site.isFaulty(TokenType::COMMA) &&
-           (site.hasNumber(fault::NO_STATEMENT_END) || site.hasNumber(fault::NO_COLON));
+           (site.hasNumber(fault::NO_STATEMENT_END) || site.hasNumber(fault::NO_SIGN));
 }
 
 // அ = 1, 2
@@ -220,7 +220,7 @@ bool isBlockOfArrow(const Site& site) {
 // எனில் அ ஆ:
 bool isValueAfterCondition(const Site& site) {
     const bool isHead = site.beginsWith("எனில்") || site.beginsWith("இல்லைஎனில்") || site.beginsWith("சுற்று");
-    return site.hasNumber(fault::NO_COLON) && isHead && canBeginValue(site.at(site.faulty())) &&
+    return site.hasNumber(fault::NO_SIGN) && isHead && canBeginValue(site.at(site.faulty())) &&
            site.has(TokenType::COLON, site.faulty(), TO_LINE_END);
 }
 

@@ -68,7 +68,7 @@ void Grammar::consumeClosingOfOne(TokenType type, std::size_t opening) {
         return;
     }
     failIfLeftOpen(type, opening);
-    failHere(fault::NO_COLON, {"'" + closingText(type) + "'", tokens_.shown(tokens_.position())});
+    failHere(fault::NO_SIGN, {"'" + closingText(type) + "'", tokens_.shown(tokens_.position())});
 }
 
 /// What stands on another line was most likely never meant to be in the bracket.
@@ -81,7 +81,7 @@ void Grammar::failIfLeftOpen(TokenType type, std::size_t opening) const {
 
 void Grammar::consumeOpening(const char* what) {
     if (!tokens_.accept(TokenType::LPAREN)) {
-        failHere(fault::NO_COLON, {what, tokens_.shown(tokens_.position())});
+        failHere(fault::NO_SIGN, {what, tokens_.shown(tokens_.position())});
     }
 }
 

@@ -76,6 +76,8 @@ protected:
     void consumeClosing(TokenType type, std::size_t opening);
     /// The same of a bracket around one part, in which no comma can stand.
     void consumeClosingOfOne(TokenType type, std::size_t opening);
+    /// Takes the bracket '(', or tells that it is missing.
+    /// \param what where it belongs, for the message
     void consumeOpening(const char* what);
     /// Takes a colon. One that is missing before a block is told, and taken for written.
     void consumeColon();

@@ -173,7 +173,7 @@ bool Scan::scanForeignBlock() {
     const bool opens = text_[position_++] == '{';
     foreignBlocks_ += opens ? 1 : -1;
     if (opens) {
-        fault(fault::NO_COLON, begin, {"':'", "'{'"}, BRACES_REMEDY);
+        fault(fault::NO_SIGN, begin, {"':'", "'{'"}, BRACES_REMEDY);
     }
     if (opens && !tokens_.isAtLineStart()) {
         push(TokenType::COLON, ":", begin);
