@@ -43,6 +43,7 @@ void openStandardStreams() {
         fillGap(stream);
     }
     isTerminal = isatty(STDOUT_FILENO) == 1;
+    buffer(); // as long as there is memory for it: a program that prints nothing may end for want of memory
 }
 
 std::string& waitingOutput() {
