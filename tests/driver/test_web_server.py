@@ -250,7 +250,8 @@ def test_strict_server_has_the_files_of_the_application_alone(web_place):
     link = "%E0%AE%87%E0%AE%A3%E0%AF%88%E0%AE%AA%E0%AF%8D%E0%AE%AA%E0%AF%81.txt"
     with Serving(web_place, POZHIL_STRICT="1"):
         for path in (f"/{secret}", f"/assets/../{secret}", f"/assets/%2e%2e/{secret}", f"/assets/..%2f{secret}",
-                     f"/%2E%2E/{web_place.folder.name}/{secret}", "/../../etc/passwd", "//etc/passwd", "/etc/passwd", f"/assets/{link}",
+                     f"/%2E%2E/{web_place.folder.name}/{secret}", "/../../etc/passwd", "//etc/passwd",
+                     "/etc/passwd", f"/assets/{link}",
                      "/%E0%AE%85.%E0%AE%AA%E0%AF%8A%E0%AE%B4%E0%AE%BF%E0%AE%B2%E0%AF%8D", "/assets/", "/assets",
                      f"{MOVIE}/../../{secret}", f"{MOVIE}%00.png", "/.tools", f"/{t.WORK_DIRECTORY}/", "*"):
             status, _, body = ask(path, OWN)
