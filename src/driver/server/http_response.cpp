@@ -1,7 +1,7 @@
 #include "driver/server/http_response.h"
 
 #include "driver/server/build_fault.h"
-#include "driver/server/byte_range.h"
+#include "driver/server/file_part.h"
 
 #include <algorithm>
 #include <array>
@@ -155,15 +155,15 @@ std::optional<HttpResponse> HttpResponse::withFile(const HttpRequest& request, A
         return std::nullopt;
     }
     const auto size = static_cast<std::uint64_t>(end);
-    ByteRange range = rangeOf(request.range, size);
+    FilePart range = rangeOf(request.range, size);
     switch (range.kind) {
-    case ByteRange::Kind::Whole: range.length = size; break;
-    case ByteRange::Kind::Part:
+    case FilePart::Kind::Whole: range.length = size; break;
+    case FilePart::Kind::Part:
         head.status = "206 Partial Content";
         head.more = "Content-Range: bytes " + std::to_string(range.first) + "-" +
                     std::to_string(range.first + range.length - 1) + "/" + std::to_string(size) + "\r\n";
         break;
-    case ByteRange::Kind::Impossible:
+    case FilePart::Kind::Impossible:
         head.status = "416 Range Not Satisfiable";
         head.more = "Content-Range: bytes */" + std::to_string(size) + "\r\n";
     }

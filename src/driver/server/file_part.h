@@ -6,7 +6,7 @@
 namespace pozhil {
 
 /// Which part of a file is to be sent.
-struct ByteRange {
+struct FilePart {
     enum class Kind {
         Whole,     ///< nobody asked for a part, or not in a way that has an answer
         Part,      ///< some of its bytes
@@ -21,6 +21,6 @@ struct ByteRange {
 /// What a header Range asks for of a file with \p size bytes. Of several parts at a time none is sent, but the whole: it
 /// isn't more than they would be.
 /// \param header its value; empty if there is none
-ByteRange rangeOf(std::string_view header, std::uint64_t size);
+FilePart rangeOf(std::string_view header, std::uint64_t size);
 
 } // namespace pozhil

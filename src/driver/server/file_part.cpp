@@ -1,4 +1,4 @@
-#include "driver/server/byte_range.h"
+#include "driver/server/file_part.h"
 
 #include <algorithm>
 #include <cctype>
@@ -32,13 +32,13 @@ std::optional<std::uint64_t> numberOf(std::string_view digits) {
     return number;
 }
 
-ByteRange partOf(std::uint64_t first, std::uint64_t length) {
-    return {length == 0 ? ByteRange::Kind::Impossible : ByteRange::Kind::Part, first, length};
+FilePart partOf(std::uint64_t first, std::uint64_t length) {
+    return {length == 0 ? FilePart::Kind::Impossible : FilePart::Kind::Part, first, length};
 }
 
 } // namespace
 
-ByteRange rangeOf(std::string_view header, std::uint64_t size) {
+FilePart rangeOf(std::string_view header, std::uint64_t size) {
     if (!beginsWithUnit(header)) {
         return {};
     }
