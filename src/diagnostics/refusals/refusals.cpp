@@ -1,6 +1,7 @@
 #include "diagnostics/refusals/refusals.h"
 
 #include "base/text.h"
+#include "base/utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -84,25 +85,6 @@ std::string_view nameIn(std::string_view message) {
     }
     const std::size_t quote = message.find('\'');
     return quote == std::string_view::npos ? std::string_view() : nameAt(message, quote + 1);
-}
-
-void appendUtf8(std::string& text, std::uint32_t codePoint) {
-    const auto byte = [&](std::uint32_t bits) { text += static_cast<char>(bits); };
-    if (codePoint < 0x80) {
-        byte(codePoint);
-    } else if (codePoint < 0x800) {
-        byte(0xC0U | codePoint >> 6U);
-        byte(0x80U | (codePoint & 0x3FU));
-    } else if (codePoint < 0x10000) {
-        byte(0xE0U | codePoint >> 12U);
-        byte(0x80U | (codePoint >> 6U & 0x3FU));
-        byte(0x80U | (codePoint & 0x3FU));
-    } else {
-        byte(0xF0U | (codePoint >> 18U & 0x07U));
-        byte(0x80U | (codePoint >> 12U & 0x3FU));
-        byte(0x80U | (codePoint >> 6U & 0x3FU));
-        byte(0x80U | (codePoint & 0x3FU));
-    }
 }
 
 void replaceAll(std::string& text, std::string_view from, std::string_view to) {

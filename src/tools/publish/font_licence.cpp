@@ -1,5 +1,7 @@
 #include "tools/publish/font_licence.h"
 
+#include "base/utf8.h"
+
 #include <cstddef>
 #include <cstdint>
 
@@ -45,22 +47,6 @@ std::string_view tableOf(std::string_view font, std::string_view tag) {
         }
     }
     return {};
-}
-
-void appendUtf8(std::string& text, std::uint32_t letter) {
-    constexpr std::uint32_t ONE_BYTE = 0x80;
-    constexpr std::uint32_t TWO_BYTES = 0x800;
-    const auto tail = [&](unsigned shift) { text += static_cast<char>(0x80U | (letter >> shift & 0x3FU)); };
-    if (letter < ONE_BYTE) {
-        text += static_cast<char>(letter);
-    } else if (letter < TWO_BYTES) {
-        text += static_cast<char>(0xC0U | letter >> 6U);
-        tail(0);
-    } else {
-        text += static_cast<char>(0xE0U | letter >> 12U);
-        tail(6);
-        tail(0);
-    }
 }
 
 /// Text in units of two bytes. Pairs of them, for rare signs, become a question mark.
