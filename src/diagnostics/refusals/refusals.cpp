@@ -87,12 +87,6 @@ std::string_view nameIn(std::string_view message) {
     return quote == std::string_view::npos ? std::string_view() : nameAt(message, quote + 1);
 }
 
-void replaceAll(std::string& text, std::string_view from, std::string_view to) {
-    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
-    }
-}
-
 } // namespace
 
 /// g++ spells letters as \U00000b85 where the user's language settings know none but those of English.

@@ -1,5 +1,6 @@
 #include "driver/web/page_template.h"
 
+#include "base/text.h"
 #include "driver/web/driver_text.h"
 
 #include <algorithm>
@@ -33,13 +34,6 @@ bool replaceFirst(std::string& text, std::string_view placeholder, std::string_v
         text.replace(position, placeholder.size(), value);
     }
     return position != std::string::npos;
-}
-
-void replaceAll(std::string& text, std::string_view placeholder, std::string_view value) {
-    for (std::size_t position = text.find(placeholder); position != std::string::npos;
-         position = text.find(placeholder, position + value.size())) {
-        text.replace(position, placeholder.size(), value);
-    }
 }
 
 void insertBeforeEndOfBody(std::string& page, const std::string& text) {
@@ -85,17 +79,11 @@ std::string servedScript(const Block& text, const Holes& holes) {
 }
 
 /// \p text as the value of an attribute.
-std::string escaped(const std::string& text) {
-    std::string value;
-    for (const char c : text) {
-        switch (c) {
-        case '&': value += "&amp;"; break;
-        case '"': value += "&quot;"; break;
-        case '<': value += "&lt;"; break;
-        default: value += c;
-        }
-    }
-    return value;
+std::string escaped(std::string text) {
+    replaceAll(text, "&", "&amp;");
+    replaceAll(text, "\"", "&quot;");
+    replaceAll(text, "<", "&lt;");
+    return text;
 }
 
 /// JSON that can stand in a script of its own: nothing in it ends that.

@@ -1,5 +1,7 @@
 #include "tools/publish/tidying.h"
 
+#include "base/text.h"
+
 #include <cstddef>
 #include <sstream>
 #include <string_view>
@@ -31,9 +33,7 @@ std::string tidiedScript(std::string script) {
         return script;
     }
     const std::string place = script.substr(begin, end - begin);
-    for (std::size_t at = script.find(place); at != std::string::npos; at = script.find(place, at + NAME.size())) {
-        script.replace(at, place.size(), NAME);
-    }
+    replaceAll(script, place, NAME);
     return script;
 }
 
