@@ -1,6 +1,7 @@
 #include "driver/command_line.h"
 
 #include "base/source_text.h"
+#include "base/text.h"
 #include "driver/console/banner.h"
 #include "driver/vocabulary_json.h"
 
@@ -14,10 +15,6 @@ constexpr const char* SOURCE_ENDING = ".பொழில்";
 
 /// For documents, editors and tests, not for whoever writes programs: the help doesn't name it.
 constexpr const char* VOCABULARY_SWITCH = "--சொல்வளம்-json";
-
-bool hasEnding(const std::string& full, const std::string& ending) {
-    return full.size() >= ending.size() && full.compare(full.size() - ending.size(), ending.size(), ending) == 0;
-}
 
 bool isVersionSwitch(const std::string& argument) {
     return argument == "--பதிப்பு" || argument == "--version" || argument == "-v";
@@ -55,7 +52,7 @@ Invocation readCommandLine(const std::vector<std::string>& arguments) {
             invocation.web = true;
         } else if (argument == "--கண்காணி") {
             invocation.watch = true;
-        } else if (hasEnding(argument, SOURCE_ENDING)) {
+        } else if (endsWith(argument, SOURCE_ENDING)) {
             invocation.sourcePath = argument;
         }
     }

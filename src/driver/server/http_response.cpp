@@ -1,5 +1,6 @@
 #include "driver/server/http_response.h"
 
+#include "base/text.h"
 #include "driver/server/build_fault.h"
 #include "driver/server/file_part.h"
 
@@ -38,10 +39,6 @@ constexpr std::array<std::string_view, 3> BUILT_FILES = {"/index.js", "/index.wa
 
 constexpr const char* COMPRESSED_ENDING = ".gz";
 constexpr const char* COMPRESSED = "Content-Encoding: gzip\r\nVary: Accept-Encoding\r\n";
-
-bool endsWith(std::string_view text, std::string_view ending) {
-    return text.size() >= ending.size() && text.substr(text.size() - ending.size()) == ending;
-}
 
 /// What an answer's head says beside the length of what follows it.
 struct Head {

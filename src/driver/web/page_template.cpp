@@ -93,13 +93,10 @@ std::string scriptData(std::string json) {
 }
 
 std::string imageType(const std::string& path) {
-    const auto endsWith = [&](std::string_view ending) {
-        return path.size() >= ending.size() && path.compare(path.size() - ending.size(), ending.size(), ending) == 0;
-    };
-    if (endsWith(".svg")) {
+    if (endsWith(path, ".svg")) {
         return "image/svg+xml";
     }
-    return endsWith(".jpg") || endsWith(".jpeg") ? "image/jpeg" : "image/png";
+    return endsWith(path, ".jpg") || endsWith(path, ".jpeg") ? "image/jpeg" : "image/png";
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "driver/web/web_assets.h"
 
+#include "base/text.h"
 #include "driver/web/web_messages.h"
 
 #include <algorithm>
@@ -22,9 +23,7 @@ bool fileExists(std::string_view path) {
 bool isPackable(std::string_view path) {
     constexpr std::array<std::string_view, 9> ENDINGS = {".png", ".jpg", ".jpeg", ".mp4",  ".gif",
                                                          ".ttf", ".otf", ".woff", ".woff2"};
-    return std::any_of(ENDINGS.begin(), ENDINGS.end(), [&](std::string_view ending) {
-        return path.size() >= ending.size() && path.substr(path.size() - ending.size()) == ending;
-    });
+    return std::any_of(ENDINGS.begin(), ENDINGS.end(), [&](std::string_view ending) { return endsWith(path, ending); });
 }
 
 /// A path is cut at its blanks, as in any list of flags; it is the user's to choose a name without.
