@@ -16,10 +16,6 @@ constexpr const char* SOURCE_ENDING = ".பொழில்";
 /// For documents, editors and tests, not for whoever writes programs: the help doesn't name it.
 constexpr const char* VOCABULARY_SWITCH = "--சொல்வளம்-json";
 
-bool isVersionSwitch(const std::string& argument) {
-    return argument == "--பதிப்பு" || argument == "--version" || argument == "-v";
-}
-
 Invocation failure() {
     Invocation invocation;
     invocation.exitCode = 1;

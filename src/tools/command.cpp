@@ -4,7 +4,7 @@
 #include "tools/word.h"
 
 #include <algorithm>
-#include <array>
+#include <initializer_list>
 #include <iostream>
 #include <ostream>
 #include <string_view>
@@ -72,7 +72,7 @@ int runCommand(const std::vector<std::string>& arguments) {
     if (asksForHelp(name) || isOneOf(name, {"உதவி", "help"})) {
         return help(arguments);
     }
-    if (isOneOf(name, {"--பதிப்பு", "--version", "-v"})) {
+    if (isVersionSwitch(name)) {
         printVersionScreen();
         return DONE;
     }

@@ -57,6 +57,10 @@ void animateCompilation(const std::string& file, std::chrono::milliseconds delay
     std::cout << RESET << std::endl;
 }
 
+bool isVersionSwitch(std::string_view argument) {
+    return argument == "--பதிப்பு" || argument == "--version" || argument == "-v";
+}
+
 void printVersionScreen() {
     constexpr int INNER_COLUMNS = 44;
     std::string platformName = platform::systemName();
