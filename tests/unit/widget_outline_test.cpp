@@ -15,7 +15,8 @@ namespace {
 
 std::map<std::string, std::vector<OutlinedWidget>> outlineOfPage(const std::string& body,
                                                                  const std::string& header = "") {
-    return outlineOf(parseText("வலைதளம் (தலைமை(" + header + ") குமரி(\n" + body + ") வரையறை())"));
+    const Program program = parseText("வலைதளம் (தலைமை(" + header + ") குமரி(\n" + body + ") வரையறை())");
+    return outlineOf(readApplication(program));
 }
 
 /// Kind and use of each widget of a page without a name.

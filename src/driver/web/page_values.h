@@ -1,11 +1,11 @@
 #pragma once
 
 #include "driver/web/page_template.h"
-#include "parser/syntax_tree.h"
+#include "generator/web/page/application.h"
 
 namespace pozhil {
 
-/// What the application of a program puts into the page template, without the number of a build.
-PageValues pageValuesOf(const Program& program);
+/// What an application puts into the page template, without the number of a build.
+PageValues pageValuesOf(const Application& application);
 
 } // namespace pozhil

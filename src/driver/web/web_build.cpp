@@ -35,7 +35,7 @@ bool WebBuild::run(const ParsedSource& source, const OutputText& output) {
     }
     const int version = g_appVersion + 1;
     const Application application = readApplication(source.program);
-    if (!makePage(source.program, application, version)) {
+    if (!makePage(application, version)) {
         return false;
     }
     const std::vector<std::string> packing = packingArguments(application);
@@ -73,13 +73,13 @@ void WebBuild::clearOutput() {
 }
 
 /// Makes the page for the server, which hands it out from now on, also if em++ then fails.
-bool WebBuild::makePage(const Program& program, const Application& application, int version) const {
+bool WebBuild::makePage(const Application& application, int version) const {
     const auto page = readTemplate(appDirectory_);
     if (!page) {
         printMissingTemplate(appDirectory_.u8string() + "/உள்ளடக்கம்/template.html");
         return false;
     }
-    PageValues values = pageValuesOf(program);
+    PageValues values = pageValuesOf(application);
     values.version = version;
     std::string text = fillTemplate(*page, values);
     std::string compressedText = compressed(text, source_.parent_path());

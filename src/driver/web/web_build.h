@@ -27,7 +27,7 @@ public:
     bool run(const ParsedSource& source, const OutputText& output);
 
 private:
-    bool makePage(const Program& program, const Application& application, int version) const;
+    bool makePage(const Application& application, int version) const;
     void clearOutput();
     PrecompiledHeaders headersFor(const OutputText& output);
     void prepareRuntime(const OutputText& output);

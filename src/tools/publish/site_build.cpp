@@ -40,13 +40,13 @@ bool write(const fs::path& file, const std::string& text) {
 }
 
 /// The page as any host serves it: without the scripts that ask for newer builds.
-std::optional<std::string> pageOf(const Program& program, const fs::path& appDirectory) {
+std::optional<std::string> pageOf(const Application& application, const fs::path& appDirectory) {
     auto page = readTemplate(appDirectory);
     if (!page) {
         printMissingTemplate(appDirectory.u8string() + "/உள்ளடக்கம்/template.html");
         return std::nullopt;
     }
-    return tidiedPage(fillTemplate(std::move(*page), pageValuesOf(program)));
+    return tidiedPage(fillTemplate(std::move(*page), pageValuesOf(application)));
 }
 
 bool tidyScript(const fs::path& file) {
@@ -80,7 +80,7 @@ BuildResult compileProgram(const ParsedSource& source, const OutputText& output,
 BuildResult buildSite(const ParsedSource& source, const OutputText& output, const fs::path& workFolder,
                       const fs::path& folder) {
     const Application application = readApplication(source.program);
-    const auto page = pageOf(source.program, platform::executableDirectory());
+    const auto page = pageOf(application, platform::executableDirectory());
     if (!page) {
         return BuildResult::Failed;
     }

@@ -1,6 +1,5 @@
 #include "generator/web/page/widget_outline.h"
 
-#include "generator/web/page/application.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_properties.h"
 #include "language/widget_words.h"
@@ -130,9 +129,9 @@ private:
 
 } // namespace
 
-std::map<std::string, std::vector<OutlinedWidget>> outlineOf(const Program& program) {
+std::map<std::string, std::vector<OutlinedWidget>> outlineOf(const Application& application) {
     std::map<std::string, std::vector<OutlinedWidget>> pages;
-    for (const WebAppNode* app : readApplication(program).pages) {
+    for (const WebAppNode* app : application.pages) {
         if (const WidgetNode* root = asWidget(app->uiBody.get())) {
             std::vector<OutlinedWidget> widgets = OutlineWalk().outline(*root);
             std::vector<OutlinedWidget>& page = pages[pageName(*app)];

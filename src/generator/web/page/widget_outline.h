@@ -1,6 +1,6 @@
 #pragma once
 
-#include "parser/syntax_tree.h"
+#include "generator/web/page/application.h"
 
 #include <map>
 #include <optional>
@@ -35,8 +35,8 @@ struct OutlinedWidget {
     ShowingVariables variables{};
 };
 
-/// Boxes (those to tick as well), tiles, buttons and sliders of each page by the page's name, in the order in which a frame draws them: what stands
-/// in dialogs comes last.
-std::map<std::string, std::vector<OutlinedWidget>> outlineOf(const Program& program);
+/// Boxes (those to tick as well), tiles, buttons and sliders of each page by the page's name, in the order in which a frame
+/// draws them: what stands in dialogs comes last.
+std::map<std::string, std::vector<OutlinedWidget>> outlineOf(const Application& application);
 
 } // namespace pozhil
