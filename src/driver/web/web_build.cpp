@@ -76,7 +76,7 @@ void WebBuild::clearOutput() {
 bool WebBuild::makePage(const Application& application, int version) const {
     const auto page = readTemplate(appDirectory_);
     if (!page) {
-        printMissingTemplate(appDirectory_.u8string() + "/உள்ளடக்கம்/template.html");
+        printMissingTemplate(appDirectory_);
         return false;
     }
     PageValues values = pageValuesOf(application);

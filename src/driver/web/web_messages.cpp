@@ -57,8 +57,9 @@ void printWebUpdated() {
     std::cout << "✅ தளம் புதுப்பிக்கப்பட்டது! பிரவுசரில் பார்க்கவும்." << std::endl;
 }
 
-void printMissingTemplate(const std::string& path) {
-    std::cerr << "பிழை: template.html கோப்பு கிடைக்கவில்லை! '" << path << "' உள்ளதா எனச் சரிபார்க்கவும்.\n";
+void printMissingTemplate(const std::filesystem::path& appDirectory) {
+    std::cerr << "பிழை: template.html கோப்பு கிடைக்கவில்லை! '" << appDirectory.u8string()
+              << "/உள்ளடக்கம்/template.html' உள்ளதா எனச் சரிபார்க்கவும்.\n";
 }
 
 void printMissingVideo(const std::string& path) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 namespace pozhil {
@@ -30,7 +31,8 @@ void printWebFailure();
 void printWebUpdated();
 
 /// Tells that the template of the page is missing.
-void printMissingTemplate(const std::string& path);
+/// \param appDirectory the installation
+void printMissingTemplate(const std::filesystem::path& appDirectory);
 
 /// Tells that the video behind a page is missing.
 void printMissingVideo(const std::string& path);

@@ -43,7 +43,7 @@ bool write(const fs::path& file, const std::string& text) {
 std::optional<std::string> pageOf(const Application& application, const fs::path& appDirectory) {
     auto page = readTemplate(appDirectory);
     if (!page) {
-        printMissingTemplate(appDirectory.u8string() + "/உள்ளடக்கம்/template.html");
+        printMissingTemplate(appDirectory);
         return std::nullopt;
     }
     return tidiedPage(fillTemplate(std::move(*page), pageValuesOf(application)));
