@@ -10,8 +10,8 @@ namespace pozhil::platform {
 void passOnEndSignals();
 
 /// From now on an interrupt (Ctrl+C), unless it is ignored, writes \p message to standard output and ends the process with
-/// status 0, whatever any thread is doing, once the programs that it runs have ended too. What std::cout still holds is lost: flush it before
-/// waiting.
+/// status 0, whatever any thread is doing, once the programs that it runs have ended too. What std::cout still holds is
+/// lost: flush it before waiting.
 /// \param message must live as long as the process
 void endOnInterrupt(const char* message);
 

@@ -112,7 +112,7 @@ def test_copies_are_those_of_the_newest_build(web_place, tools):
     with Serving(web_place) as session:
         session.wait_until(lambda: list(web_place.web_directory.glob("*.data.gz")))
         tools.stands_in_for("em++", 'for kind in js wasm data; do echo newer $kind > "${out%.js}.$kind"; done')
-        web_place.change(SOURCE, APPLICATION + "\n")
+        web_place.change_until(session, SOURCE, APPLICATION + "\n")
         session.wait_for_output("✅")
         session.wait_until(_is_compressed)
         assert gzip.decompress(ask("/index.js", "Accept-Encoding: gzip")[2]) == b"newer js\n"

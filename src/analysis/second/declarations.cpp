@@ -2,7 +2,6 @@
 
 #include "analysis/second/fault_numbers.h"
 #include "analysis/second/suggestions.h"
-#include "base/text.h"
 #include "front_end/second_edition.h"
 
 #include <cstddef>

@@ -1,6 +1,7 @@
 #include "driver/native/build_failure.h"
 
 #include "driver/console/console_style.h"
+#include "driver/console/explanation.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "driver/console/explanation.h"
 #include "platform/process.h"
 
 #include <optional>

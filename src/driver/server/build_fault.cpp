@@ -10,11 +10,13 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+constexpr const char* NO_FAULT = "{}";
+
 /// Between the build, which tells, and the server's thread, which answers.
 struct Telling {
     std::mutex mutex;
     std::condition_variable answered;
-    std::string text = "{}";
+    std::string text = NO_FAULT;
     /// Whether a page was told what is to be told now.
     bool isTold = true;
     Clock::time_point lastQuestion;
@@ -42,7 +44,7 @@ void tellPages(const BuildFault& fault) {
 }
 
 void tellPagesOfSuccess() {
-    tell("{}");
+    tell(NO_FAULT);
 }
 
 std::string answerToPage() {

@@ -23,7 +23,7 @@ void tellPages(const BuildFault& fault);
 /// From now on pages that ask are told that all is well.
 void tellPagesOfSuccess();
 
-/// What a page that asks is told, as JSON: the members of the fault that are known, none if all is well.
+/// What a page that asks is told, as JSON: all members of the fault, those that nobody knows empty or 0; none if all is well.
 std::string answerToPage();
 
 /// Waits until the fault that was told last has reached a page, if there are pages that ask: without their server they could

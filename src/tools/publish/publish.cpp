@@ -81,7 +81,7 @@ std::optional<Order> readOrder(const std::vector<std::string>& arguments) {
     return order;
 }
 
-/// The source, if it is of the edition that has applications. What is wrong is told.
+/// The status to end with if the source isn't of the edition that has applications; what is wrong is told.
 std::optional<ExitStatus> refuseEdition(const SourcePtr& source) {
     SecondFaults faults;
     const bool isSecond = editionOf(source, faults) == Edition::Second;
