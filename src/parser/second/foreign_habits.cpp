@@ -1,5 +1,6 @@
 #include "parser/second/foreign_habits.h"
 
+#include "base/text.h"
 #include "language/second/foreign_words.h"
 #include "parser/second/names.h"
 #include "scanner/second/fault_numbers.h"
@@ -305,16 +306,6 @@ const ForeignWord* foreignInside(const TokenReader& tokens, const Site& site) {
     return isCallWithoutBracket ? foreignWordAt(tokens, site.statement(), ForeignPlace::Name) : nullptr;
 }
 
-/// \p remedy with the word in all of its holes.
-std::string filled(std::string remedy, const std::string& word) {
-    constexpr std::string_view HOLE = "{1}";
-    for (std::size_t hole = remedy.find(HOLE); hole != std::string::npos;
-         hole = remedy.find(HOLE, hole + word.size())) {
-        remedy.replace(hole, HOLE.size(), word);
-    }
-    return remedy;
-}
-
 } // namespace
 
 bool beginsForeign(const TokenReader& tokens, std::size_t statement) {
@@ -331,7 +322,12 @@ std::string habitRemedy(const TokenReader& tokens, std::size_t statement, const 
     }
     const auto* const habit =
         std::find_if(std::begin(HABITS), std::end(HABITS), [&](const Habit& row) { return row.isAt(site); });
-    return habit == std::end(HABITS) ? "" : filled(habit->remedy, tokens.at(statement).value);
+    if (habit == std::end(HABITS)) {
+        return "";
+    }
+    std::string remedy = habit->remedy;
+    replaceAll(remedy, "{1}", tokens.at(statement).value);
+    return remedy;
 }
 
 } // namespace pozhil::second
