@@ -4,7 +4,6 @@
 #include "generator/second/tree_walk.h"
 #include "generator/second/types.h"
 
-#include <algorithm>
 #include <unordered_map>
 
 namespace pozhil::resolved::writer {
@@ -70,9 +69,7 @@ private:
     /// Whether the variable ends with the call.
     bool dies(const Variable& variable) const {
         return variable.owner == &function_ && !variable.isShared && typeOf(variable) == Type::Value &&
-               std::none_of(function_.parameters.begin(), function_.parameters.end(), [&](const Parameter& parameter) {
-                   return parameter.isMutable && parameter.variable == &variable;
-               });
+               !variable.isReference;
     }
 
     const Function& function_;
