@@ -66,7 +66,7 @@ std::string ExpressionWriter::memberArguments(const std::string& member, const P
 
 std::string ExpressionWriter::cellOf(const Variable& variable) const {
     if (variable.owner == scope_.function) {
-        return "c" + nameOf(variable).substr(1) + ".cell()";
+        return cellName(nameOf(variable)) + ".cell()";
     }
     const std::vector<Variable*>& captures = scope_.function->captures;
     const auto found = std::find(captures.begin(), captures.end(), &variable);

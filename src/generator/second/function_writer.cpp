@@ -20,11 +20,6 @@ unsigned mutableMask(const Function& function) {
     return mask;
 }
 
-/// What holds on to the variable, where functions share it: "c_எ" for "v_எ".
-std::string cellName(const std::string& variable) {
-    return "c" + variable.substr(1);
-}
-
 /// "Shared c_எ(first); Value& v_எ = c_எ.value();"
 std::string sharedVariable(const std::string& name, const std::string& first) {
     const std::string cell = cellName(name);

@@ -48,6 +48,10 @@ std::string plainName(std::string_view name) {
     return plain;
 }
 
+std::string cellName(const std::string& variable) {
+    return "c" + variable.substr(1);
+}
+
 Names::Names(const Program& program) {
     for (const auto& structure : program.structures) {
         names_[structure.get()] = unique("s_" + plainName(structure->name), global_);

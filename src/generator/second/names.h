@@ -13,6 +13,9 @@ namespace pozhil::resolved::writer {
 /// \p name with what C++ doesn't take in a name written as the numbers of its characters.
 std::string plainName(std::string_view name);
 
+/// What holds on to a variable that functions share: c_எ for v_எ.
+std::string cellName(const std::string& variable);
+
 /// What everything of a program is called in the emitted text: its own name with a prefix that tells what it is, and a
 /// number where two would be called alike.
 class Names {
