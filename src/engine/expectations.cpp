@@ -11,26 +11,29 @@
 
 namespace pozhil::engine {
 
-bool truthOf(const Value& value, Place place) {
+namespace {
+
+/// \param remedy what is told of a value that is none; empty for what the catalogue says
+bool truthOr(const Value& value, Place place, const char* remedy) {
     if (!value.is(Tag::Truth)) {
-        const bool isContainer = value.is(Tag::Text) || value.is(Tag::List) || value.is(Tag::Map);
-        raise(NO_TRUTH, place, {kindWord(value)}, "", isContainer ? report::remedy::CONTAINER_AS_CONDITION : "");
+        raise(NO_TRUTH, place, {kindWord(value)}, "", remedy);
     }
     return value.truth();
+}
+
+} // namespace
+
+bool truthOf(const Value& value, Place place) {
+    const bool hasLength = value.is(Tag::Text) || value.is(Tag::List) || value.is(Tag::Map);
+    return truthOr(value, place, hasLength ? report::remedy::CONTAINER_AS_CONDITION : "");
 }
 
 bool deniedTruth(const Value& value, Place place) {
-    if (!value.is(Tag::Truth)) {
-        raise(NO_TRUTH, place, {kindWord(value)}, "", report::remedy::DENIED_VALUE);
-    }
-    return value.truth();
+    return truthOr(value, place, report::remedy::DENIED_VALUE);
 }
 
 bool choiceTruth(const Value& value, Place place) {
-    if (!value.is(Tag::Truth)) {
-        raise(NO_TRUTH, place, {kindWord(value)}, "", report::remedy::REVERSED_CHOICE);
-    }
-    return value.truth();
+    return truthOr(value, place, report::remedy::REVERSED_CHOICE);
 }
 
 Whole wholeOf(const Value& value, Place place) {
