@@ -197,8 +197,7 @@ std::string CallWriter::listed(const std::vector<Given>& given) {
 
 std::string CallWriter::argumentArray(const std::vector<Given>& given) {
     std::string array = writer_.temporary();
-    operands_.before(given.empty() ? "Value* " + array + " = nullptr;"
-                                   : "Value " + array + "[] = {" + listed(given) + "};");
+    operands_.before("Value " + array + "[] = {" + listed(given) + "};");
     return array;
 }
 
@@ -233,7 +232,7 @@ std::string CallWriter::write(const ValueCall& call) {
     const std::vector<Given> given = give(call.arguments);
     std::string callee = operands_.text(0);
     if (const std::string* const name = hiddenBuiltin(*call.callee)) {
-        callee = "calledVariable(\"" + *name + "\", " + callee + ", " + place + ")";
+        callee = "calledVariable(" + textLiteral(*name) + ", " + callee + ", " + place + ")";
     }
     if (!withPlaces) {
         return operands_.whole("call(" + callee + ", {" + listed(given) + "}, " + place + ")");

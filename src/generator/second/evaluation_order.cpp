@@ -35,8 +35,6 @@ class Effects : public TreeWalk {
 public:
     explicit Effects(const Expression& expression) { walk(&expression); }
 
-    /// It runs a function of the program, or does something outside.
-    bool runsCode() const { return runsCode_; }
     /// It reads elements or members.
     bool takesParts() const { return takesParts_; }
     bool changesSomething() const { return runsCode_ || !written_.empty(); }
