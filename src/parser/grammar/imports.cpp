@@ -12,7 +12,7 @@ namespace {
 
 /// Whether the first line asks for the second edition, which means other things by the same words.
 bool isOfSecondEdition(const SourceText& source) {
-    return second::markedEdition(lineOf(source.text, 1)) == "2";
+    return second::markedEdition(lineOf(source.text, 1)) == second::SECOND_EDITION;
 }
 
 } // namespace

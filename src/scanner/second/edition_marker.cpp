@@ -56,7 +56,7 @@ bool isDigit(char c) {
 } // namespace
 
 bool isAlmostMarker(std::string_view line) {
-    constexpr std::string_view SIGNS[] = {"ஃஃ", COMMENT, "//", "#"};
+    constexpr std::string_view SIGNS[] = {BLOCK_COMMENT, COMMENT, "//", "#"};
     constexpr std::string_view EDITION = "பதிப்பு";
     if (markedEdition(line)) {
         return false;
