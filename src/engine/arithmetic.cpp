@@ -12,9 +12,6 @@
 namespace pozhil::engine {
 namespace {
 
-/// 2 to the 53rd: below it, every whole number is a decimal.
-constexpr Decimal MANY = 9007199254740992.0;
-
 /// Processors take long to divide, less so for half as long numbers, and not at all for powers of two.
 Whole wholeRemainder(Whole dividend, Whole divisor) {
     if ((divisor & (divisor - 1)) == 0) {
@@ -110,6 +107,7 @@ Decimal decimalRemainder(Decimal left, Decimal right, Place place) {
         divisionByZero(place);
     }
     // Most decimals that come here are whole numbers, which divide far faster as such; only the sign of a 0 would be lost.
+    constexpr auto MANY = static_cast<Decimal>(EXACT_DECIMALS);
     if (left > 0 && left < MANY && right > 0 && right < MANY) {
         const auto dividend = static_cast<Whole>(left);
         const auto divisor = static_cast<Whole>(right);

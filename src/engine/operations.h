@@ -181,10 +181,12 @@ inline void addTo(Value& target, const Value& value, Place place) {
 }
 void joinTo(Value& target, const Value& value, Place place);
 
-/// Whether there is a decimal that is this number, neither more nor less, as there is up to 2 to the 53rd.
+/// 2 to the 53rd: up to it, of either sign, every whole number is a decimal.
+constexpr Whole EXACT_DECIMALS = Whole{1} << 53;
+
+/// Whether there surely is a decimal that is this number, neither more nor less.
 constexpr bool isExactDecimal(Whole number) {
-    constexpr Whole LIMIT = Whole{1} << 53;
-    return -LIMIT <= number && number <= LIMIT;
+    return -EXACT_DECIMALS <= number && number <= EXACT_DECIMALS;
 }
 
 /// சமம். Values of different kinds are unequal, but whole numbers and decimals compare as numbers. Lists and maps are equal
