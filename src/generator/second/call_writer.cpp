@@ -1,6 +1,7 @@
 #include "generator/second/call_writer.h"
 
 #include "generator/second/evaluation_order.h"
+#include "generator/second/literals.h"
 
 #include <algorithm>
 
