@@ -11,6 +11,7 @@ namespace pozhil::second {
 namespace {
 
 using Form = resolved::TargetPlace::Form;
+
 /// Constants that have a value, with the order in which they got it, so that a branch can be taken back.
 class Constants {
 public:

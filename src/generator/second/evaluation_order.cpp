@@ -75,6 +75,7 @@ private:
                            [&](const Variable* one) { return one != nullptr && mayBeSame(*one, variable); });
     }
 
+    /// It runs a function of the program, or does something outside.
     bool runsCode_ = false;
     bool takesParts_ = false;
     Variables read_;

@@ -19,6 +19,7 @@ std::optional<std::string> markedEdition(std::string_view line);
 /// Where a text asks for the second edition below its first line, with nothing but blank lines and comments before it.
 /// What stands further down, or in a comment over several lines, is a comment like any other.
 std::optional<ByteRange> lateMarker(std::string_view text);
+
 /// Whether a line that is no marker looks as if it was to ask for the second edition: with another sign before it, with
 /// more words after it, with its number as a word, with a slip in its word.
 bool isAlmostMarker(std::string_view line);
