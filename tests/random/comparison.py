@@ -59,20 +59,22 @@ def usable(seed, number):
     return program
 
 
+def pattern_of(predicted):
+    """What a predicted output is matched by: a group for each message of a fault, which may say whatever it says."""
+    return "(.*)".join(re.escape(part) for part in TOLD_KIND.split(predicted)[::2])
+
+
 def fits_line(predicted, got):
-    """Whether a line is as predicted, where messages of faults may say whatever they say."""
-    parts = TOLD_KIND.split(predicted)
-    return re.fullmatch("(.*)".join(re.escape(part) for part in parts[::2]), got) is not None
+    """Whether a line is as predicted, whatever messages of faults in it say."""
+    return re.fullmatch(pattern_of(predicted), got) is not None
 
 
 def difference(program, result):
     """What is wrong with a run of the program, in words; empty if it is as predicted."""
-    parts = TOLD_KIND.split(program.output)
-    pattern = "".join(re.escape(part) if at % 2 == 0 else "(.*)" for at, part in enumerate(parts))
-    found = re.fullmatch(pattern, result.output)
+    found = re.fullmatch(pattern_of(program.output), result.output)
     if found is None:
         return "output"
-    for kind, message in zip(parts[1::2], found.groups()):
+    for kind, message in zip(TOLD_KIND.findall(program.output), found.groups()):
         if not messages.fits(kind, message):
             return f"message of '{kind}': {message}"
     if program.fault is None:
