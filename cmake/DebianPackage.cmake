@@ -1,8 +1,8 @@
 # `cpack --preset debian` puts the installation into a Debian package, below /usr/lib/pozhil, with links in /usr/bin.
 
+file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/generated/links)
 foreach(name பொழி பொழில் pozhil)
     set(link ${PROJECT_BINARY_DIR}/generated/links/${name})
-    file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/generated/links)
     file(CREATE_LINK ../lib/pozhil/${name} ${link} SYMBOLIC)
     install(FILES ${link} DESTINATION . COMPONENT link EXCLUDE_FROM_ALL)
 endforeach()
