@@ -24,25 +24,30 @@ const RULES = {
 
 const readonly = names => Object.fromEntries(names.map(name => [name, 'readonly']));
 
-const NODE = readonly(['AbortController', 'Buffer', 'URL', 'clearInterval', 'clearTimeout', 'console', 'fetch',
-    'performance', 'process', 'setImmediate', 'setInterval', 'setTimeout']);
+const COMMON = readonly(['URL', 'console', 'fetch', 'performance', 'setInterval', 'setTimeout']);
+const NODE = readonly(['AbortController', 'Buffer', 'process', 'setImmediate']);
 // Functions that a test hands to its page run there.
-const PAGE = readonly(['CanvasRenderingContext2D', 'CustomEvent', 'Event', 'FS', 'FontFace', 'HTMLCanvasElement',
-    'HTMLElement', 'HTMLInputElement', 'Image', 'KeyboardEvent', 'MutationObserver', 'WheelEvent', 'Module', 'Node', 'OffscreenCanvas',
-    'WebGL2RenderingContext', 'WebGLRenderingContext', 'atob', 'createImageBitmap', 'devicePixelRatio', 'document',
-    'firebase', 'getComputedStyle', 'getSelection', 'innerHeight', 'innerWidth', 'localStorage', 'location', 'navigator',
-    'requestAnimationFrame', 'sessionStorage', 'structuredClone', 'visualViewport', 'window', 'Touch', 'TouchEvent']);
+const PAGE = readonly(['CanvasRenderingContext2D', 'Event', 'FS', 'FontFace', 'HTMLElement', 'Image', 'Module',
+    'MutationObserver', 'Node', 'OffscreenCanvas', 'Touch', 'TouchEvent', 'WheelEvent', 'atob', 'createImageBitmap',
+    'devicePixelRatio', 'document', 'firebase', 'getComputedStyle', 'getSelection', 'innerHeight', 'innerWidth',
+    'location', 'navigator', 'requestAnimationFrame', 'sessionStorage', 'structuredClone', 'visualViewport', 'window']);
+// What scripts of a page use beside: of the browser, of what em++ makes, and of each other.
+const PAGE_SCRIPTS = {
+    ...readonly(['ErrorEvent', 'GLFW', 'HEAP32', 'HEAPF32', 'HTMLImageElement', 'HTMLScriptElement', 'TextDecoder',
+        'WebAssembly', 'pozhilDrawing', 'pozhilFrames', 'pozhilLoading', 'pozhilPointer', 'pozhilShown']),
+    currentVersion: 'writable',
+};
 
 export default [
     { ignores: ['build/**', 'third_party/**', '**/node_modules/**', '**/வெளியீடு/**'] },
     {
         files: ['tests/web/**/*.js', 'benchmarks/*.mjs', 'docs/**/*.mjs', 'scripts/*.mjs'],
-        languageOptions: { ecmaVersion: 2022, sourceType: 'module', globals: { ...NODE, ...PAGE } },
+        languageOptions: { ecmaVersion: 2022, sourceType: 'module', globals: { ...COMMON, ...NODE, ...PAGE } },
         rules: RULES,
     },
     {
         files: ['src/**/*.js'],
-        languageOptions: { ecmaVersion: 2022, sourceType: 'script', globals: { ...NODE, ...PAGE } },
+        languageOptions: { ecmaVersion: 2022, sourceType: 'script' },
         // A hole looks like a name, and what stands in a <script> is global.
         rules: { ...RULES, 'no-undef': 'off', 'no-implicit-globals': 'off' },
     },
@@ -50,11 +55,7 @@ export default [
         // They share the page with each other and with what em++ makes: what they define is global on purpose.
         files: ['உள்ளடக்கம்/page/*.js'],
         languageOptions: {
-            ecmaVersion: 2022, sourceType: 'script',
-            globals: { ...NODE, ...PAGE, currentVersion: 'writable', ...readonly(['Browser', 'GL', 'GLFW', 'HEAP32', 'HEAPF32',
-                'HTMLImageElement', 'pozhilDrawing', 'pozhilFrames', 'pozhilLoading', 'pozhilPointer',
-                'pozhilShown', 'ErrorEvent', 'HTMLScriptElement', 'TextDecoder',
-                'URL', 'Blob', 'WebAssembly', 'history', 'matchMedia', 'screen', 'sessionStorage']) },
+            ecmaVersion: 2022, sourceType: 'script', globals: { ...COMMON, ...PAGE, ...PAGE_SCRIPTS },
         },
         rules: { ...RULES, 'no-redeclare': 'off', 'no-implicit-globals': 'off',
                  'no-unused-vars': ['error', { caughtErrors: 'none', varsIgnorePattern: '^(Module|pozhil)' }] },
