@@ -39,6 +39,7 @@ constexpr ForeignWord ROWS[] = {
     {"break",    Place::Statement, "நிறுத்து", ""},
     {"continue", Place::Statement, "தொடர்", ""},
     {"pass",     Place::Statement, "விடு", ""},
+    {"end",      Place::Statement, "", "பிளாக்கை முடிக்கச் சொல் வேண்டாம்; அடுத்த வரியை உள்ள தள்ளாம எழுதினாலே போதும் மச்சி!"},
     {"switch",   Place::Statement, "தேர்வு மதிப்பு:", ""},
     {"match",    Place::Statement, "தேர்வு மதிப்பு:", ""},
     {"case",     Place::Statement, "நிலை மதிப்பு:", ""},
@@ -66,6 +67,8 @@ constexpr ForeignWord ROWS[] = {
     {"struct",   Place::Statement, "கட்டமைப்பு பெயர்:", ""},
     {"enum",     Place::Statement, "வகை பெயர்:", ""},
     {"interface", Place::Statement, "வடிவமைப்பு பெயர்:", ""},
+    {"private",  Place::Statement, "ரகசிய பெயர் = மதிப்பு", ""},
+    {"public",   Place::Statement, "பெயர் = மதிப்பு", ""},
     {"import",   Place::Statement, "நூஇறக்கி \"கோப்பு\"", OWN_FUNCTIONS},
     {"include",  Place::Statement, "நூஇறக்கி \"கோப்பு\"", ""},
     {"from",     Place::Statement, "நூஇறக்கி \"கோப்பு\"", NO_NAMESPACES},
@@ -75,6 +78,7 @@ constexpr ForeignWord ROWS[] = {
     {"var",      Place::Statement, "", NO_DECLARING},
     {"const",    Place::Statement, "மாறிலி_பெயர் = மதிப்பு", "பெயரின் தொடக்கத்துல 'மாறிலி_' இருந்தா மதிப்பு மாறாது."},
     {"del",      Place::Statement, "", NO_REMOVING},
+    {"with",     Place::Statement, "", "கோப்பைத் திறந்து மூட வேண்டாம்; 'கோப்பு_படி(\"பெயர்.txt\")' முழுக் கோப்பையும் படிக்கும் மச்சி!"},
     {"lambda",   Place::Inside, "(அ, ஆ) => அ கூட்டு ஆ", ""},
     {"new",      Place::Inside, "நபர்(\"மலர்\")", "கட்டமைப்பின் பெயரும் அடைப்புக்குறியும் போதும்."},
 
@@ -148,10 +152,6 @@ constexpr ForeignWord ROWS[] = {
     {"sleep",     Place::Name, "காத்திரு 1.5", ""},
 
     // Members.
-    {"with",      Place::Statement, "", "கோப்பைத் திறந்து மூட வேண்டாம்; 'கோப்பு_படி(\"பெயர்.txt\")' முழுக் கோப்பையும் படிக்கும் மச்சி!"},
-    {"private",   Place::Statement, "ரகசிய பெயர் = மதிப்பு", ""},
-    {"public",    Place::Statement, "பெயர் = மதிப்பு", ""},
-    {"end",       Place::Statement, "", "பிளாக்கை முடிக்கச் சொல் வேண்டாம்; அடுத்த வரியை உள்ள தள்ளாம எழுதினாலே போதும் மச்சி!"},
     {"append",     Place::Member, "அ.சேர்(மதிப்பு)", ""},
     {"push",       Place::Member, "அ.சேர்(மதிப்பு)", ""},
     {"add",        Place::Member, "அ.சேர்(மதிப்பு)", ""},
