@@ -1,5 +1,6 @@
 #include "language/second/foreign_words.h"
 
+#include "base/text.h"
 #include "language/second/module_functions.h"
 
 #include <algorithm>
@@ -46,7 +47,7 @@ constexpr ForeignWord ROWS[] = {
     {"default",  Place::Statement, "மற்றவை:", ""},
     {"if",       Place::Inside, "நிபந்தனை எனில் அ இல்லைஎனில் ஆ", "நிபந்தனை முதல்ல வரணும்."},
     {"else",     Place::Inside, "நிபந்தனை எனில் அ இல்லைஎனில் ஆ", "நிபந்தனை முதல்ல வரணும்."},
-    {"for",      Place::Inside, "", "பட்டியலுக்குள்ள சுற்று எழுத முடியாது; வெற்றுப் பட்டியல்ல தொடங்கி, 'ஒவ்வொன்றாக' பிளாக்குக்குள்ள 'பட்டியல்.சேர்(மதிப்பு)' என்று சேர் மச்சி!"},
+    {"for",      Place::Inside, "", NO_COMPREHENSION},
     {"and",      Place::Inside, "மற்றும்", ""},
     {"or",       Place::Inside, "அல்லது", ""},
     {"not",      Place::Inside, "இல்லை", "ஒப்பீட்டை மறுக்க 'இல்லை (அ சமம் ஆ)' என்று அடைப்புக்குள்ள போடு."},
@@ -216,11 +217,8 @@ const ForeignWord* findForeignWord(std::string_view word) {
 }
 
 std::string remedyOf(const ForeignWord& foreign, std::string_view parent) {
-    constexpr std::string_view PARENT = "{1}";
     std::string own(foreign.own);
-    if (const std::size_t hole = own.find(PARENT); hole != std::string::npos) {
-        own.replace(hole, PARENT.size(), parent);
-    }
+    replaceAll(own, "{1}", parent);
     std::string remedy = "'" + std::string(foreign.word) + "' பொழிலின் சொல் அல்ல";
     if (!own.empty()) {
         remedy += "; '" + own + "' என்று எழுது மச்சி!";

@@ -27,11 +27,16 @@ struct ForeignWord {
     std::string_view remark;
 };
 
+/// What to do about a loop inside of a list, in whichever language's words it stands.
+constexpr const char* NO_COMPREHENSION =
+    "பட்டியலுக்குள்ள சுற்று எழுத முடியாது; வெற்றுப் பட்டியல்ல தொடங்கி, 'ஒவ்வொன்றாக' பிளாக்குக்குள்ள 'பட்டியல்.சேர்(மதிப்பு)' என்று சேர் மச்சி!";
+
 /// All of them.
 Rows<ForeignWord> foreignWords();
 
 /// The row of a word of this place, null if there is none.
 const ForeignWord* findForeignWord(std::string_view word, ForeignPlace place);
+
 /// The row of a word that stands anywhere but after a dot, null if there is none.
 const ForeignWord* findForeignWord(std::string_view word);
 

@@ -16,6 +16,7 @@ namespace {
 using language::second::findForeignWord;
 using language::second::ForeignPlace;
 using language::second::ForeignWord;
+using language::second::NO_COMPREHENSION;
 
 /// Where a fault stands among the tokens.
 class Site {
@@ -247,7 +248,7 @@ struct Habit {
 constexpr Habit HABITS[] = {
     {isMembership, "உள்ளதான்னு கேட்க 'பட்டியல்.கொண்டுள்ளது(மதிப்பு)' என்று எழுது மச்சி; 'இல்' சொல் 'ஒவ்வொன்றாக' சுற்றுல மட்டும் வரும்!"},
     {isForeignIn, "சுற்றுல 'இல்' என்று எழுது: 'ஒவ்வொன்றாக உறுப்பு இல் பட்டியல்:' மாதிரி மச்சி!"},
-    {isComprehension, "பட்டியலுக்குள்ள சுற்று எழுத முடியாது; வெற்றுப் பட்டியல்ல தொடங்கி, 'ஒவ்வொன்றாக' பிளாக்குக்குள்ள 'பட்டியல்.சேர்(மதிப்பு)' என்று சேர் மச்சி!"},
+    {isComprehension, NO_COMPREHENSION},
     {isCatchName, "பிழையின் பெயரை அடைப்புக்குறிக்குள்ள போடு: 'பிடி(பிழை):'. பெயர் வேண்டாம்னா 'பிடி:' போதும் மச்சி!"},
     {isCaseList, "ஒரு 'நிலை'-க்கு ஒரே மதிப்புதான்; ஒவ்வொரு மதிப்புக்கும் தனி 'நிலை' எழுது, இல்லைன்னா 'எனில் அ சமம் 1 அல்லது அ சமம் 2:' என்று எழுது மச்சி!"},
     {isPairLoop, "சுற்றுக்கு ஒரே பெயர்தான்: 'ஒவ்வொன்றாக சாவி இல் அகராதி:' என்று எழுதி, மதிப்பை 'அகராதி[சாவி]' என்று எடு மச்சி!"},
