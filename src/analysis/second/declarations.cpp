@@ -71,11 +71,10 @@ private:
         const resolved::Place place = isOwn ? first.place : model_.locations.of(file_, importStatement_);
         const std::string firstName = fileName(pathOf(first));
         const std::string secondName = fileName(pathOf(second));
-        if (firstName == secondName) {
-            model_.faults.add(fault::CLASHING_IMPORTS, place, {std::string(name), pathOf(first), pathOf(second)});
-        } else {
-            model_.faults.add(fault::CLASHING_IMPORTS, place, {std::string(name), firstName, secondName});
-        }
+        const bool areAlike = firstName == secondName;
+        model_.faults.add(
+            fault::CLASHING_IMPORTS, place,
+            {std::string(name), areAlike ? pathOf(first) : firstName, areAlike ? pathOf(second) : secondName});
     }
 
     Model& model_;

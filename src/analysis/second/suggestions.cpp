@@ -26,10 +26,11 @@ void addOwnWords(std::vector<std::string_view>& known) {
     known.insert(known.end(), words.begin(), words.end());
 }
 
-/// The function of this file that has a variable of this name, or one inside of which there is; null if there is none.
-const Scope* ownerElsewhere(const Model& model, std::size_t file, std::string_view name) {
+/// The scope of a function of this file that has this name among \p names; null if there is none.
+template <class Names>
+const Scope* ownerElsewhere(const Model& model, std::size_t file, std::string_view name, Names Scope::*names) {
     const auto found = std::find_if(model.scopes.begin(), model.scopes.end(), [&](const Scope& scope) {
-        return scope.file == file && scope.function != nullptr && scope.variables.count(name) != 0;
+        return scope.file == file && scope.function != nullptr && (scope.*names).count(name) != 0;
     });
     return found == model.scopes.end() ? nullptr : &*found;
 }
@@ -98,11 +99,8 @@ bool tellBareMember(Resolution& resolution, std::string_view name, resolved::Pla
 /// Tells a function of this file that stands inside another, and so isn't known elsewhere.
 /// \return whether there is one
 bool tellInnerFunction(Resolution& resolution, std::string_view name, resolved::Place place) {
-    const auto& scopes = resolution.model.scopes;
-    const auto owner = std::find_if(scopes.begin(), scopes.end(), [&](const Scope& scope) {
-        return scope.file == place.file && scope.function != nullptr && scope.functions.count(name) != 0;
-    });
-    if (owner == scopes.end()) {
+    const Scope* const owner = ownerElsewhere(resolution.model, place.file, name, &Scope::functions);
+    if (owner == nullptr) {
         return false;
     }
     resolution.model.faults.add(fault::INNER_FUNCTION, place, {std::string(name), owner->function->name});
@@ -133,7 +131,7 @@ void tellUnknownName(Resolution& resolution, std::string_view name, resolved::Pl
     if (tellBareMember(resolution, name, place) || tellInnerFunction(resolution, name, place)) {
         return;
     }
-    if (const Scope* const owner = ownerElsewhere(model, place.file, name)) {
+    if (const Scope* const owner = ownerElsewhere(model, place.file, name, &Scope::variables)) {
         model.faults.add(fault::NAME_OF_OTHER_FUNCTION, place, {std::string(name), owner->function->name});
         return;
     }
