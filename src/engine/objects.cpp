@@ -121,7 +121,7 @@ unsigned mutableParameters(const Value& object, Member name) {
         return 0;
     }
     Object& block = objectBlock(object);
-    const MemberSlot& slot = block.structure->table->slots[static_cast<std::size_t>(name)];
+    const MemberSlot& slot = block.structure->slots[name];
     if (slot.isField()) {
         return mutableParameters(block.fields()[slot.field]);
     }

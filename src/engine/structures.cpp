@@ -60,11 +60,11 @@ bool maySee(const MemberSlot& slot, Member name, const Structure* inside) {
     }
     // A child that declares it anew hides nothing from the parent's own methods.
     return descendsFrom(inside, slot.owner) ||
-           (slotAt(*inside->table, name).owner != nullptr && descendsFrom(slot.owner, inside));
+           (inside->slots[name].owner != nullptr && descendsFrom(slot.owner, inside));
 }
 
 const MemberSlot& slotOf(const Object& object, Member name, Place place, const Structure* inside) {
-    const MemberSlot& slot = slotAt(*object.structure->table, name);
+    const MemberSlot& slot = object.structure->slots[name];
     if (slot.owner == nullptr) {
         raiseMissingMember(object, name, place, inside);
     }
