@@ -76,9 +76,11 @@ Fault::~Fault() {
     }
 }
 
-Value Fault::message() const {
-    // பிடி begins with it: what runs there may want for memory as well.
+void Fault::beginHandler() const {
     putMemoryBy();
+}
+
+Value Fault::message() const {
     return makeText(filledText(entryOf(*details).message, details->values));
 }
 

@@ -7,6 +7,8 @@ namespace pozhil::engine {
 /// A fault of a running program on its way to பிடி, or to the end of the program. Its number is one of the catalogue of
 /// src/report; the way of calls is noted where it is raised.
 struct Fault {
+    /// What பிடி begins with: what runs there may want for memory as well, and is to be told so.
+    void beginHandler() const;
     /// What பிழை holds in பிடி: the message, without box and place.
     Value message() const;
 

@@ -48,6 +48,7 @@ TEST(WantOfMemory, CanBeCaughtAgainAndAgain) {
             try {
                 growForEver();
             } catch (const Fault& fault) {
+                fault.beginHandler();
                 print({fault.message()});
             }
         }
@@ -68,10 +69,12 @@ TEST(WantOfMemory, CanBeCaughtWhereItIsDealtWith) {
         try {
             growForEver();
         } catch (const Fault& fault) {
+            fault.beginHandler();
             print({fault.message()});
             try {
                 growForEver();
             } catch (const Fault& another) {
+                another.beginHandler();
                 print({another.message()});
             }
         }

@@ -214,12 +214,13 @@ void StatementWriter::visit(const Switch& statement) {
     lines_.close();
 }
 
-/// முயற்சி: ... பிடி(பிழை): ...  ->  try { const Attempt attempt; ... } catch (const Fault& fault) { ... }
+/// முயற்சி: ... பிடி(பிழை): ...  ->  try { const Attempt attempt; ... } catch (const Fault& fault) { fault.beginHandler(); ... }
 void StatementWriter::visit(const Try& statement) {
     lines_.open("try {");
     lines_.line("const Attempt attempt;");
     write(*statement.body);
     lines_.reopen("} catch (const Fault& fault) {");
+    lines_.line("fault.beginHandler();");
     if (statement.variable != nullptr) {
         lines_.line(expressions_.nameOf(*statement.variable) + " = fault.message();");
     }
