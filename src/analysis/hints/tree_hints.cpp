@@ -4,6 +4,7 @@
 #include "analysis/hints/tree_parts.h"
 #include "analysis/structures.h"
 #include "language/operators.h"
+#include "parser/tree/shapes.h"
 
 #include <array>
 #include <string>
@@ -25,13 +26,6 @@ constexpr std::array<std::string_view, 2> SCREEN_SIZE = {"திரை_அகல
 /// Whether the program has a function or structure of its own of this name.
 bool isDefined(const Parser& parser, std::string_view name) {
     return parser.functions().count(std::string(name)) != 0 || parser.structs().count(std::string(name)) != 0;
-}
-
-const Expression* withoutBrackets(const Expression* node) {
-    while (const auto* grouping = nodeCast<GroupingExpression>(node)) {
-        node = grouping->inner.get();
-    }
-    return node;
 }
 
 /// The name that is called, empty for whatever else stands before the bracket.
@@ -71,10 +65,6 @@ bool isWrittenAtLength(const CallExpression& write) {
            plainText(nodeCast<CallExpression>(index)->arguments.front().get()) == list;
 }
 
-bool isComparison(const BinaryExpression& node) {
-    return language::findOperator(node.op.value, language::OperatorKind::Comparison) != nullptr;
-}
-
 /// Whether the operator is a call of the runtime, whose arguments g++ evaluates from right to left.
 bool isFromRightToLeft(const BinaryExpression& node) {
     return node.op.value == "கூட்டு" || node.op.value == "வகு" || isComparison(node) ||
@@ -84,9 +74,8 @@ bool isFromRightToLeft(const BinaryExpression& node) {
 /// Whether a value that is assigned in a condition may be a truth value on purpose.
 bool mayBeTruth(const Expression* value) {
     value = withoutBrackets(value);
-    const auto* binary = nodeCast<BinaryExpression>(value);
     return nodeCast<CallExpression>(value) != nullptr || nodeCast<LogicalExpression>(value) != nullptr ||
-           nodeCast<UnaryExpression>(value) != nullptr || (binary != nullptr && isComparison(*binary));
+           nodeCast<UnaryExpression>(value) != nullptr || isComparison(*value);
 }
 
 /// What an assignment in a condition assigns, null for any other condition.

@@ -5,6 +5,7 @@
 #include "analysis/second/suggestions.h"
 #include "base/scoped_increment.h"
 #include "language/second/builtins.h"
+#include "parser/tree/shapes.h"
 #include "report/catalogue.h"
 #include "report/remedies.h"
 

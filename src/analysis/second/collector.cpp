@@ -2,6 +2,7 @@
 
 #include "analysis/second/fault_numbers.h"
 #include "front_end/second_edition.h"
+#include "parser/tree/shapes.h"
 
 #include <memory>
 #include <string>

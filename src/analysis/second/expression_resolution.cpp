@@ -4,6 +4,7 @@
 #include "analysis/second/suggestions.h"
 #include "language/operators.h"
 #include "language/second/builtins.h"
+#include "parser/tree/shapes.h"
 
 #include <cmath>
 #include <cstdint>
@@ -41,11 +42,6 @@ const std::map<std::string_view, BinaryOperator>& binaryOperators() {
         {"<<", BinaryOperator::ShiftLeft}, {">>", BinaryOperator::ShiftRight},
     };
     return operators;
-}
-
-bool isComparison(const Expression& node) {
-    const auto* const binary = nodeCast<BinaryExpression>(&node);
-    return binary != nullptr && language::findOperator(binary->op.value, language::OperatorKind::Comparison) != nullptr;
 }
 
 bool isBracketed(const Expression& node) {

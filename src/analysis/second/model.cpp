@@ -31,11 +31,4 @@ bool isConstantName(std::string_view name) {
     return startsWith(name, "மாறிலி_");
 }
 
-const Expression* withoutBrackets(const Expression* expression) {
-    while (const auto* group = nodeCast<GroupingExpression>(expression)) {
-        expression = group->inner.get();
-    }
-    return expression;
-}
-
 } // namespace pozhil::second

@@ -142,7 +142,4 @@ bool isSelf(std::string_view name);
 /// Whether \p name is that of a constant.
 bool isConstantName(std::string_view name);
 
-/// An expression without the brackets around it.
-const Expression* withoutBrackets(const Expression* expression);
-
 } // namespace pozhil::second

@@ -3,6 +3,7 @@
 #include "analysis/second/fault_numbers.h"
 #include "analysis/second/suggestions.h"
 #include "language/operators.h"
+#include "parser/tree/shapes.h"
 
 #include <map>
 #include <string>

@@ -2,6 +2,7 @@
 
 #include "analysis/second/fault_numbers.h"
 #include "language/second/builtins.h"
+#include "parser/tree/shapes.h"
 
 #include <string>
 

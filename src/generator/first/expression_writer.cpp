@@ -5,6 +5,7 @@
 #include "generator/web/page/web_emitter.h"
 #include "language/builtins.h"
 #include "language/operators.h"
+#include "parser/tree/shapes.h"
 #include "parser/tree/visit.h"
 
 namespace pozhil {
@@ -26,10 +27,7 @@ bool isNativeLiteral(const Expression* expression) {
 }
 
 bool isZero(const Expression* expression) {
-    while (const auto* grouping = nodeCast<GroupingExpression>(expression)) {
-        expression = grouping->inner.get();
-    }
-    const auto* number = nodeCast<NumberLiteral>(expression);
+    const auto* number = nodeCast<NumberLiteral>(withoutBrackets(expression));
     return number != nullptr && toAsciiDigits(number->value).find_first_not_of('0') == std::string::npos;
 }
 

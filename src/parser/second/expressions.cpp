@@ -3,6 +3,7 @@
 #include "language/operators.h"
 #include "parser/second/file_parse.h"
 #include "parser/second/names.h"
+#include "parser/tree/shapes.h"
 
 namespace pozhil::second {
 namespace {
@@ -18,15 +19,6 @@ int binaryLevel(const Token& token) {
     }
     const language::Operator* found = language::findOperator(token.value);
     return found == nullptr ? language::NO_LEVEL : found->level;
-}
-
-bool isComparison(const Token& op) {
-    return language::findOperator(op.value, language::OperatorKind::Comparison) != nullptr;
-}
-
-bool isComparison(const Expression& node) {
-    const auto* binary = nodeCast<BinaryExpression>(&node);
-    return binary != nullptr && isComparison(binary->op);
 }
 
 /// Whether \p node compares the result of a comparison.
@@ -162,7 +154,8 @@ ExpressionPtr ExpressionGrammar::parseBinary(int loosestLevel) {
 void ExpressionGrammar::checkComparison(const Token& op, std::size_t opIndex, const Expression& left,
                                         const Expression& right) {
     const bool isKnown = isChain(left) || isChain(right);
-    if (isComparison(op) && (isComparison(left) || isComparison(right)) && !isKnown) {
+    const bool compares = language::findOperator(op.value, language::OperatorKind::Comparison) != nullptr;
+    if (compares && (isComparison(left) || isComparison(right)) && !isKnown) {
         note(fault::CHAINED_COMPARISON, tokens_.rangeOf(opIndex), {op.value});
     }
 }
