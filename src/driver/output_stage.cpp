@@ -1,9 +1,10 @@
 #include "driver/output_stage.h"
 
+#include "platform/fresh_path.h"
+
 #include <cerrno>
 #include <fstream>
 #include <iostream>
-#include <random>
 #include <system_error>
 
 namespace pozhil {
@@ -66,7 +67,7 @@ bool writeOutput(const std::filesystem::path& path, const std::string& text) {
 bool replaceOutput(const std::filesystem::path& path, const std::string& text) {
     std::error_code failure;
     std::filesystem::create_directories(path.parent_path(), failure);
-    const std::filesystem::path fresh = path.u8string() + "." + std::to_string(std::random_device{}());
+    const std::filesystem::path fresh = platform::freshBeside(path);
     if (failure || !std::ofstream(fresh).is_open()) {
         tellNoOutput(path);
         return false;

@@ -6,11 +6,11 @@
 #include "driver/native/toolchain_output.h"
 #include "driver/refusal_report.h"
 #include "driver/settings.h"
+#include "platform/fresh_path.h"
 #include "platform/object_file.h"
 #include "platform/paths.h"
 
 #include <iostream>
-#include <random>
 #include <system_error>
 #include <utility>
 
@@ -91,7 +91,7 @@ NativeBuild::ToolchainResult NativeBuild::runToolchain() const {
 
 /// Beside its place at first: whoever links meanwhile finds it whole or not at all, and a run that is ended leaves no half.
 platform::CommandResult NativeBuild::makeObject() const {
-    const fs::path fresh = object_.u8string() + "." + std::to_string(std::random_device{}());
+    const fs::path fresh = platform::freshBeside(object_);
     platform::CommandResult result = platform::captureCommand(
         compilerCommand({"g++", "-c", (appDirectory_ / "src" / "error_handler.cpp").u8string(), "-o", fresh.u8string(),
                          "-std=c++17", "-I" + (appDirectory_ / "உள்ளடக்கம்").u8string()}));

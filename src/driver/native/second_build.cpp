@@ -6,13 +6,13 @@
 #include "driver/console/explanation.h"
 #include "driver/native/build_failure.h"
 #include "driver/settings.h"
+#include "platform/fresh_path.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <iostream>
 #include <iterator>
 #include <limits>
-#include <random>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -47,11 +47,6 @@ const char* optimisationFor(const SecondText& text) {
         ->flag;
 }
 
-/// A name of its own, so that two runs of one source don't write into one file.
-std::string freshName() {
-    return "pozhil_temp_app." + std::to_string(std::random_device{}());
-}
-
 /// Where in the source the statement stands whose text was refused first.
 ShownPlace placeOf(const SecondTranslation& translation, const std::vector<ToolchainError>& errors) {
     for (const ToolchainError& error : errors) {
@@ -70,7 +65,7 @@ ShownPlace placeOf(const SecondTranslation& translation, const std::vector<Toolc
 
 SecondBuild::SecondBuild(fs::path appDirectory, fs::path generatedSource, const fs::path& directory)
     : appDirectory_(std::move(appDirectory)), archive_(appDirectory_ / "திரட்டு" / "libpozhil_engine.a"),
-      generatedSource_(std::move(generatedSource)), program_(directory, freshName()) {}
+      generatedSource_(std::move(generatedSource)), program_(directory, platform::freshBeside("pozhil_temp_app")) {}
 
 void SecondBuild::start(const SecondTranslation& translation) {
     toolchain_ = std::async(std::launch::async, [command = command(translation, settings::cxxFlags())] {

@@ -31,7 +31,7 @@ void tellMissingCompiler() {
     std::cerr << "பிழை: 'g++' கிடைக்கவில்லை! 'sudo apt install g++' என்று கட்டளையிட்டு நிறுவிக்கொள்." << std::endl;
 }
 
-BuiltProgram::BuiltProgram(const fs::path& directory, const std::string& freshName)
+BuiltProgram::BuiltProgram(const fs::path& directory, const fs::path& freshName)
     : fresh(directory / freshName), program(directory / "பொழில்_செயலி") {}
 
 int BuiltProgram::run(std::vector<std::pair<std::string, std::string>> environment) const {

@@ -31,7 +31,8 @@ void tellMissingCompiler();
 /// program untouched.
 struct BuiltProgram {
     /// \param freshName what a build makes
-    explicit BuiltProgram(const std::filesystem::path& directory, const std::string& freshName = "pozhil_temp_app");
+    explicit BuiltProgram(const std::filesystem::path& directory,
+                          const std::filesystem::path& freshName = "pozhil_temp_app");
 
     /// Puts the fresh file in the place of the program, and runs it in the foreground.
     /// \return its exit status, 128 plus the signal if one ended it; COULD_NOT_START if it doesn't run
