@@ -32,10 +32,6 @@ std::string filled(const std::string& page) {
     return fillTemplate(page, someValues());
 }
 
-std::string base64(const std::string& text) {
-    return base64_encode_logo(std::vector<unsigned char>(text.begin(), text.end()));
-}
-
 TEST_F(PageTemplate, TitleIconAndScriptAreFilledInOnce) {
     EXPECT_EQ(filled("{{{ இணைய_தலைப்பு }}}|{{{ இணைய_தலைப்பு }}}"), "என் தளம்|{{{ இணைய_தலைப்பு }}}");
     EXPECT_EQ(filled("{{{ சின்னம் }}}|{{{ சின்னம் }}}"), "file-icon.png|{{{ சின்னம் }}}");
@@ -165,22 +161,22 @@ TEST_F(EmbeddedIcon, WithoutReadableFileTheDefaultStands) {
 }
 
 TEST(Base64, PadsWhatIsNoWholeGroup) {
-    EXPECT_EQ(base64(""), "");
-    EXPECT_EQ(base64("M"), "TQ==");
-    EXPECT_EQ(base64("Ma"), "TWE=");
-    EXPECT_EQ(base64("Man"), "TWFu");
-    EXPECT_EQ(base64("Many"), "TWFueQ==");
+    EXPECT_EQ(base64_encode_logo(""), "");
+    EXPECT_EQ(base64_encode_logo("M"), "TQ==");
+    EXPECT_EQ(base64_encode_logo("Ma"), "TWE=");
+    EXPECT_EQ(base64_encode_logo("Man"), "TWFu");
+    EXPECT_EQ(base64_encode_logo("Many"), "TWFueQ==");
 }
 
 TEST(Base64, TakesEveryByte) {
-    std::vector<unsigned char> bytes(256);
-    std::iota(bytes.begin(), bytes.end(), static_cast<unsigned char>(0));
+    std::string bytes(256, '\0');
+    std::iota(bytes.begin(), bytes.end(), '\0');
     EXPECT_EQ(base64_encode_logo(bytes),
               "AAECAwQFBgcICQoLDA0ODxAREhMUFRYXGBkaGxwdHh8gISIjJCUmJygpKissLS4vMDEyMzQ1Njc4OTo7PD0+P0BBQkNERUZHSElK"
               "S0xNTk9QUVJTVFVWV1hZWltcXV5fYGFiY2RlZmdoaWprbG1ub3BxcnN0dXZ3eHl6e3x9fn+AgYKDhIWGh4iJiouMjY6PkJGSk5SV"
               "lpeYmZqbnJ2en6ChoqOkpaanqKmqq6ytrq+wsbKztLW2t7i5uru8vb6/wMHCw8TFxsfIycrLzM3Oz9DR0tPU1dbX2Nna29zd3t/g"
               "4eLj5OXm5+jp6uvs7e7v8PHy8/T19vf4+fr7/P3+/w==");
-    EXPECT_EQ(base64("\xff\xfe\xfb"), "//77");
+    EXPECT_EQ(base64_encode_logo("\xff\xfe\xfb"), "//77");
 }
 
 } // namespace

@@ -1,12 +1,11 @@
 #include "driver/native/death_report.h"
 
+#include "base/whole_file.h"
 #include "driver/console/explanation.h"
 #include "driver/native/trace_lines.h"
 #include "driver/output_places.h"
 
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -16,11 +15,6 @@ namespace pozhil {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string textOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 std::string symbolsOf(const fs::path& program) {
     return platform::captureCommand({{"nm", "--defined-only", program.u8string()}, {}}).output;
@@ -63,7 +57,7 @@ std::vector<ShownPlace> statementsOf(OutputPlaces& places, const std::vector<std
 } // namespace
 
 void reportDeath(const ParsedSource& source, const OutputText& output, const RunProgram& run) {
-    const std::string trace = textOf(run.trace);
+    const std::string trace = readFile(run.trace).value_or("");
     if (trace.empty()) {
         return;
     }

@@ -1,6 +1,7 @@
 #include "driver/server/http_response.h"
 
 #include "base/text.h"
+#include "base/whole_file.h"
 #include "driver/server/build_fault.h"
 #include "driver/server/file_part.h"
 
@@ -66,15 +67,9 @@ std::string refusal() {
     return textOf({"text/plain; charset=utf-8", "403 Forbidden"}, text.size(), Access::Strict) + text;
 }
 
-/// Opened if it is a file. Folders can't be sent; pipes and devices might never end.
-std::ifstream openFile(const std::string& path) {
+std::ifstream openServed(const std::string& path) {
     const bool hasNullByte = path.find('\0') != std::string::npos; // the system would look for what stands before it
-    const std::filesystem::path file = std::filesystem::u8path(path);
-    std::error_code ignored;
-    if (hasNullByte || !std::filesystem::is_regular_file(file, ignored)) {
-        return {};
-    }
-    return std::ifstream(file, std::ios::binary);
+    return hasNullByte ? std::ifstream() : openFile(std::filesystem::u8path(path));
 }
 
 /// gzip gives what it makes the time of the file that it was made of; whatever has another is older or unfinished.
@@ -143,7 +138,7 @@ std::optional<HttpResponse> HttpResponse::withFile(const HttpRequest& request, A
         path += COMPRESSED_ENDING;
         head.more = COMPRESSED;
     }
-    std::ifstream file = openFile(path);
+    std::ifstream file = openServed(path);
     if (!file.is_open()) {
         return HttpResponse(NOT_FOUND);
     }

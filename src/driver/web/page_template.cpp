@@ -1,14 +1,12 @@
 #include "driver/web/page_template.h"
 
 #include "base/text.h"
+#include "base/whole_file.h"
 #include "driver/web/driver_text.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <sstream>
-#include <string_view>
-#include <system_error>
+#include <utility>
 
 namespace pozhil {
 namespace {
@@ -18,15 +16,6 @@ namespace fs = std::filesystem;
 constexpr std::string_view SCRIPT = R"(<script async type="text/javascript" src="index.js"></script>)";
 constexpr std::string_view DATA_PRELOAD = R"(<link rel="preload" href="index.data" as="fetch" crossorigin>)";
 constexpr std::string_view END_OF_BODY = "</body>";
-
-std::optional<std::vector<unsigned char>> readBytes(const fs::path& path) {
-    std::error_code ignored;
-    std::ifstream file(path, std::ios::binary);
-    if (!file.is_open() || fs::is_directory(path, ignored)) { // a directory can be opened too
-        return std::nullopt;
-    }
-    return std::vector<unsigned char>(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
-}
 
 bool replaceFirst(std::string& text, std::string_view placeholder, std::string_view value) {
     const std::size_t position = text.find(placeholder);
@@ -43,10 +32,6 @@ void insertBeforeEndOfBody(std::string& page, const std::string& text) {
     }
 }
 
-std::string textOf(const std::vector<unsigned char>& bytes) {
-    return {bytes.begin(), bytes.end()};
-}
-
 /// Puts the scripts that a template names in the place of their names, so that the page comes as one file.
 /// \return nothing if one of them can't be read
 std::optional<std::string> withScripts(std::string page, const fs::path& directory) {
@@ -58,11 +43,11 @@ std::optional<std::string> withScripts(std::string page, const fs::path& directo
         if (end == std::string::npos) {
             break;
         }
-        const auto script = readBytes(directory / "page" / fs::u8path(page.substr(name, end - name)));
+        const auto script = readFile(directory / "page" / fs::u8path(page.substr(name, end - name)));
         if (!script) {
             return std::nullopt;
         }
-        const std::string text = "<script>\n" + textOf(*script) + "</script>";
+        const std::string text = "<script>\n" + *script + "</script>";
         page.replace(begin, end + AFTER.size() - begin, text);
         begin += text.size();
     }
@@ -103,8 +88,8 @@ std::string imageType(const std::string& path) {
 
 std::optional<std::string> readTemplate(const fs::path& appDirectory) {
     const fs::path directory = appDirectory / "உள்ளடக்கம்";
-    const auto bytes = readBytes(directory / "template.html");
-    return bytes ? withScripts(textOf(*bytes), directory) : std::nullopt;
+    auto page = readFile(directory / "template.html");
+    return page ? withScripts(std::move(*page), directory) : std::nullopt;
 }
 
 std::string fillTemplate(std::string page, const PageValues& values) {
@@ -126,11 +111,11 @@ std::string fillTemplate(std::string page, const PageValues& values) {
 }
 
 std::string embeddedIcon(const std::string& path) {
-    const auto bytes = path.empty() ? std::nullopt : readBytes(fs::u8path(path));
+    const auto bytes = path.empty() ? std::nullopt : readFile(fs::u8path(path));
     return bytes ? "data:" + imageType(path) + ";base64," + base64_encode_logo(*bytes) : "file-icon.png";
 }
 
-std::string base64_encode_logo(const std::vector<unsigned char>& bytes) {
+std::string base64_encode_logo(std::string_view bytes) {
     constexpr std::string_view TABLE = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
     constexpr std::size_t GROUP = 3;
     std::string text;
@@ -139,7 +124,7 @@ std::string base64_encode_logo(const std::vector<unsigned char>& bytes) {
         const std::size_t count = std::min(GROUP, bytes.size() - start);
         unsigned int group = 0;
         for (std::size_t offset = 0; offset < GROUP; ++offset) {
-            group = group << 8U | (offset < count ? bytes[start + offset] : 0U);
+            group = group << 8U | (offset < count ? static_cast<unsigned char>(bytes[start + offset]) : 0U);
         }
         for (std::size_t digit = 0; digit <= GROUP; ++digit) {
             text += digit <= count ? TABLE[group >> (18U - 6U * digit) & 63U] : '=';

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
-#include <vector>
+#include <string_view>
 
 namespace pozhil {
 
@@ -35,6 +35,6 @@ std::string fillTemplate(std::string page, const PageValues& values);
 std::string embeddedIcon(const std::string& path);
 
 /// Base64 text of \p bytes, with padding.
-std::string base64_encode_logo(const std::vector<unsigned char>& bytes);
+std::string base64_encode_logo(std::string_view bytes);
 
 } // namespace pozhil

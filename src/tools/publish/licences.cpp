@@ -1,12 +1,11 @@
 #include "tools/publish/licences.h"
 
+#include "base/whole_file.h"
 #include "tools/publish/font_licence.h"
 
 #include <algorithm>
 #include <array>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <system_error>
 
@@ -25,11 +24,6 @@ bool isLicence(const fs::path& path) {
     const std::string name = path.filename().u8string();
     return std::any_of(BEGINNINGS.begin(), BEGINNINGS.end(),
                        [&](const char* beginning) { return name.rfind(beginning, 0) == 0; });
-}
-
-std::string readAll(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 std::set<fs::path> fontsIn(const std::vector<std::string>& places) {
@@ -67,7 +61,7 @@ std::set<fs::path> licencesBeside(const std::set<fs::path>& fonts) {
 
 std::string described(const fs::path& font) {
     std::string text = font.u8string() + "\n";
-    if (const auto licence = readFontLicence(readAll(font))) {
+    if (const auto licence = readFontLicence(readFile(font).value_or(""))) {
         for (const std::string& line : {licence->name, licence->copyright, licence->licence, licence->address}) {
             text += line.empty() ? "" : "    " + line + "\n";
         }
@@ -87,7 +81,7 @@ std::string licencesOf(const std::vector<std::string>& files) {
         text += described(font);
     }
     for (const fs::path& licence : licencesBeside(fonts)) {
-        text += "--- " + licence.u8string() + "\n\n" + readAll(licence) + "\n";
+        text += "--- " + licence.u8string() + "\n\n" + readFile(licence).value_or("") + "\n";
     }
     return text;
 }

@@ -1,5 +1,6 @@
 #include "tools/publish/site_build.h"
 
+#include "base/whole_file.h"
 #include "driver/output_stage.h"
 #include "driver/refusal_report.h"
 #include "driver/web/page_template.h"
@@ -15,7 +16,6 @@
 #include "tools/publish/tidying.h"
 
 #include <fstream>
-#include <iterator>
 #include <optional>
 #include <string>
 #include <utility>
@@ -50,9 +50,8 @@ std::optional<std::string> pageOf(const Application& application, const fs::path
 }
 
 bool tidyScript(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    const std::string script{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    return in && write(file, tidiedScript(script));
+    std::optional<std::string> script = readFile(file);
+    return script && write(file, tidiedScript(std::move(*script)));
 }
 
 BuildResult compileProgram(const ParsedSource& source, const OutputText& output, const Application& application,
