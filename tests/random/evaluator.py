@@ -121,29 +121,31 @@ class Evaluator(Calls):
                 self.block(branch.body, frame)
                 return
 
+    def goes_on(self, body, frame):
+        """Carries out the body of a loop; whether there may be another round."""
+        try:
+            self.block(body, frame)
+        except BreakLoop:
+            return False
+        except ContinueLoop:
+            pass
+        return True
+
     def do_While(self, node, frame):
         while True:
             self.step()
             self.line = node.line
             if not truth(self.value(node.condition, frame)):
                 return
-            try:
-                self.block(node.body, frame)
-            except BreakLoop:
+            if not self.goes_on(node.body, frame):
                 return
-            except ContinueLoop:
-                continue
 
     def do_ForEach(self, node, frame):
         for item in self.rounds(self.value(node.over, frame)):
             self.step()
             frame.cells[node.variable].value = copied(item)
-            try:
-                self.block(node.body, frame)
-            except BreakLoop:
+            if not self.goes_on(node.body, frame):
                 return
-            except ContinueLoop:
-                continue
 
     @staticmethod
     def rounds(value):
