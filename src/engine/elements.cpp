@@ -4,6 +4,7 @@
 #include "engine/map.h"
 #include "engine/memory.h"
 #include "engine/nearest_names.h"
+#include "engine/numbers.h"
 #include "engine/operations.h"
 #include "engine/raise.h"
 #include "engine/running_faults.h"
@@ -19,11 +20,7 @@
 namespace pozhil::engine {
 namespace {
 
-/// Whether a value can say which element is meant; a decimal that is no whole number tells that itself.
-bool isNumber(const Value& value) {
-    return value.is(Tag::Whole) || value.is(Tag::Decimal);
-}
-
+/// Which element a value means. A decimal that is no whole number tells that itself.
 Whole indexOf(const Value& index, Place place) {
     if (!isNumber(index)) {
         raise(NO_INDEX, place, {kindWord(index)});

@@ -8,10 +8,6 @@
 namespace pozhil::resolved::writer {
 namespace {
 
-bool isNumber(Type type) {
-    return type == Type::Whole || type == Type::Decimal;
-}
-
 /// Whether an operator takes all operands of this type.
 bool isSafe(UnaryOperator op, Type operand) {
     switch (op) {

@@ -5,10 +5,6 @@
 namespace pozhil::resolved::writer {
 namespace {
 
-bool isNumber(Type type) {
-    return type == Type::Whole || type == Type::Decimal;
-}
-
 /// Of a sum, difference, product or remainder.
 Type typeOfArithmetic(Type left, Type right) {
     if (!isNumber(left) || !isNumber(right)) {

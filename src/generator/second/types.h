@@ -10,6 +10,10 @@ namespace pozhil::resolved::writer {
 /// Types of C++ that values of the program have in the emitted text.
 enum class Type : std::uint8_t { Value, Whole, Decimal, Truth };
 
+constexpr bool isNumber(Type type) {
+    return type == Type::Whole || type == Type::Decimal;
+}
+
 /// As it is written in C++.
 const char* nameOf(Type type);
 
