@@ -89,6 +89,21 @@ var pozhilLoading = (() => {
         }
     }, true);
 
+    /// The files that the program reads come as one of this size. Cut by its host, it would leave the program with files that
+    /// end early or are empty. index.js sets the function that makes each of them, and may call it before all other work.
+    function expectFiles(size) {
+        let create = null;
+        Object.defineProperty(Module, 'FS_createDataFile', {
+            set(given) { create = given; },
+            get: () => (folder, name, data, ...more) => {
+                if (data.buffer.byteLength < size) {
+                    abort(INCOMPLETE);
+                }
+                return create(folder, name, data, ...more);
+            },
+        });
+    }
+
     pozhilFrames.whenReady(() => {
         isReady = true;
         status.hidden = !failed;
@@ -119,6 +134,11 @@ var pozhilLoading = (() => {
                 }
             },
             onAbort: die,
+            // Asked for the files of the program before they are fetched.
+            getPreloadedPackage(name, size) {
+                expectFiles(size);
+                return null;
+            },
             quit(code, reason) {
                 if (!reason || reason.name !== 'ExitStatus') {
                     die(reason);

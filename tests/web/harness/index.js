@@ -75,7 +75,7 @@ export function webTest(name, source, ...rest) {
     const check = rest.pop();
     const { files, open = true, published = false, ...context } = rest[0] ?? {};
     if (published) {
-        publishedTest(name, source, files, context, check);
+        publishedTest(name, source, { files, open, ...context }, check);
         return;
     }
     test(name, { timeout: TIMEOUT }, async () => {
@@ -91,7 +91,7 @@ export function webTest(name, source, ...rest) {
     });
 }
 
-function publishedTest(name, source, files, context, check) {
+function publishedTest(name, source, { files, open, ...context }, check) {
     test(name, { timeout: PUBLISHED_TIMEOUT }, async () => {
         const site = await publishPage(source, { files });
         const host = await new StaticServer().start();
@@ -99,7 +99,9 @@ function publishedTest(name, source, files, context, check) {
             await withPage({ ...context, offline: true }, async page => {
                 page.address = host.add(site);
                 page.files = site;
-                await page.open(page.address);
+                if (open) {
+                    await page.open(page.address);
+                }
                 await check(page);
                 assert.deepEqual(host.missing, []);
             });

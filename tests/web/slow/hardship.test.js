@@ -1,6 +1,7 @@
 // Windows, fingers, texts and hosts that nobody would wish a page: it goes on, or says in Tamil why it can't.
 
 import { PHONE, application, assert, near, webTest } from '../harness/index.js';
+import { png } from '../harness/pictures.js';
 
 const page = application(`
         நெடுவரிசை(இடைவெளி: 0)(
@@ -80,16 +81,40 @@ webTest('a host that takes the program for something else is no hindrance', page
     await expectPress(tab, 1);
 });
 
+/// The host cuts a file of the page to this part of it.
+async function cut(tab, name, kept) {
+    await tab.page.route(`**/${name}`, async route => {
+        const response = await route.fetch();
+        const whole = await response.body();
+        await route.fulfill({ response, body: whole.subarray(0, Math.floor(whole.length * kept)) });
+    });
+}
+
+async function expectIncomplete(tab) {
+    await tab.page.waitForSelector('#pozhil-status.pozhil-failed', { timeout: 60_000 });
+    assert.match(await tab.page.textContent('#pozhil-text'), /^(நிரலின் கோப்புகள் முழுமையாக|நிரல் கிடைக்கவில்லை)/);
+    assert.equal((await tab.element('#pozhil-status', 'display')).display, 'grid');
+}
+
 for (const [name, kept] of [['index.js', 0.5], ['index.js', 0.99], ['index.wasm', 0.5], ['index.wasm', 0]]) {
     webTest(`${name} cut to ${kept * 100} % is told`, page, { open: false }, async tab => {
-        await tab.page.route(`**/${name}`, async route => {
-            const response = await route.fetch();
-            const whole = await response.body();
-            await route.fulfill({ response, body: whole.subarray(0, Math.floor(whole.length * kept)) });
-        });
+        await cut(tab, name, kept);
         await tab.visit(tab.address);
-        await tab.page.waitForSelector('#pozhil-status.pozhil-failed', { timeout: 60_000 });
-        assert.match(await tab.page.textContent('#pozhil-text'), /^(நிரலின் கோப்புகள் முழுமையாக|நிரல் கிடைக்கவில்லை)/);
-        assert.equal((await tab.element('#pozhil-status', 'display')).display, 'grid');
+        await expectIncomplete(tab);
     });
+}
+
+const packed = application(`
+        படம்(பாதை: "assets/சிவப்பு.png", அகலம்: 80, உயரம்: 40)`);
+const files = { 'assets/சிவப்பு.png': png(64, [255, 0, 0]) };
+
+for (const kept of [0.99, 0.5, 0]) {
+    for (const published of [false, true]) {
+        webTest(`index.data cut to ${kept * 100} % is told${published ? ' by a published page' : ''}`, packed,
+                { files, published, open: false }, async tab => {
+            await cut(tab, 'index.data', kept);
+            await tab.visit(tab.address);
+            await expectIncomplete(tab);
+        });
+    }
 }
