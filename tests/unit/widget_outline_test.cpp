@@ -72,6 +72,13 @@ TEST(WidgetOutline, EachPageHasItsOwn) {
     EXPECT_EQ(pages.begin()->first, "அ");
 }
 
+TEST(WidgetOutline, APageWithinAPageIsThereIfItHasItsName) {
+    EXPECT_THAT(uses("நெடுவரிசை(அளவி(), பக்கம்(பக்கம்: \"வேறு\", பொத்தான்(உரை: \"அ\")), பக்கம்(பெட்டி()))"),
+                ElementsAre("அளவி", "பெட்டி"));
+    const auto pages = outlineOfPage("பக்கம்(பக்கம்: \"ஆ\", நெடுவரிசை(பெட்டி(), பெட்டி()))", "பக்கம்: \"ஆ\"");
+    EXPECT_EQ(pages.at("ஆ").size(), 2U);
+}
+
 TEST(OutlineJson, TellsOnlyWhatThereIsToTell) {
     EXPECT_EQ(outlineJson({}), "{}");
     OutlinedWidget slider = {"அளவி", WidgetUse::None, 0.5F, 100.0F};

@@ -19,10 +19,10 @@ constexpr std::array<std::string_view, 6> OUTLINED = {language::widget::CONTAINE
                                                       language::widget::TEXT_BUTTON, language::widget::SLIDER};
 
 /// These draw all their children, one after the other.
-constexpr std::array<std::string_view, 10> PARENTS = {
+constexpr std::array<std::string_view, 11> PARENTS = {
     language::widget::COLUMN,    language::widget::ROW,     language::widget::STACK,     language::widget::WRAP,
     language::widget::LIST_VIEW, language::widget::PADDING, language::widget::GRID_VIEW, language::widget::CONTAINER,
-    language::widget::CARD,      language::widget::DIALOG};
+    language::widget::CARD,      language::widget::DIALOG,  language::widget::PAGE};
 
 /// These draw their first child.
 constexpr std::array<std::string_view, 3> WRAPPERS = {language::widget::EXPANDED, language::widget::FLEXIBLE,
@@ -61,9 +61,20 @@ std::optional<float> numberIn(const WidgetNode& widget, const char* name, float 
     return value == nullptr ? usual : constantOf(value);
 }
 
+/// Whether \p widget is a page within the page \p shown that is never drawn there, since it has another name.
+bool isHiddenPage(const WidgetNode& widget, const std::string& shown) {
+    if (widget.kind != language::widget::PAGE) {
+        return false;
+    }
+    const auto* name = nodeCast<StringLiteral>(findProperty(widget, {"பக்கம்"}));
+    return shown != (name == nullptr ? "home" : name->value);
+}
+
 /// The walk over one page in the order of drawing.
 class OutlineWalk {
 public:
+    explicit OutlineWalk(std::string page) : page_(std::move(page)) {}
+
     std::vector<OutlinedWidget> outline(const WidgetNode& root) {
         visit(root, {});
         // Dialogs wait until the page is drawn, and those in them until they are.
@@ -77,6 +88,9 @@ public:
 
 private:
     void visit(const WidgetNode& widget, ShowingVariables variables) {
+        if (isHiddenPage(widget, page_)) {
+            return;
+        }
         const bool isDialog = widget.kind == language::widget::DIALOG;
         const std::string variable = textOf(findProperty(widget, {"காட்சி_பெயர்"}));
         if (!variable.empty()) {
@@ -123,6 +137,7 @@ private:
         }
     }
 
+    std::string page_;
     std::vector<OutlinedWidget> widgets_;
     std::deque<std::pair<const WidgetNode*, ShowingVariables>> dialogs_;
 };
@@ -133,7 +148,7 @@ std::map<std::string, std::vector<OutlinedWidget>> outlineOf(const Application& 
     std::map<std::string, std::vector<OutlinedWidget>> pages;
     for (const WebAppNode* app : application.pages) {
         if (const WidgetNode* root = asWidget(app->uiBody.get())) {
-            std::vector<OutlinedWidget> widgets = OutlineWalk().outline(*root);
+            std::vector<OutlinedWidget> widgets = OutlineWalk(pageName(*app)).outline(*root);
             std::vector<OutlinedWidget>& page = pages[pageName(*app)];
             page.insert(page.end(), std::make_move_iterator(widgets.begin()), std::make_move_iterator(widgets.end()));
         }
