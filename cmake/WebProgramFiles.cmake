@@ -56,7 +56,7 @@ add_drawing_header(${nanovg}/nanovg_gl.h "#undef NANOVG_GLES2_IMPLEMENTATION" "#
 set(nanovg_object ${web_parts}/nanovg_web.o)
 add_web_program_file(
     ${nanovg_object} ${PROJECT_SOURCE_DIR}/src/installation/web_drawing.c -O2 -x c
-    -I ${nanovg} -I ${nanosvg} -I ${POZHIL_STB})
+    -I ${PROJECT_SOURCE_DIR}/src/installation -I ${nanovg} -I ${nanosvg} -I ${POZHIL_STB})
 
 # The headers of the toolchain that a web program includes, and none of our own, which lie elsewhere once installed:
 # unlike g++, em++ fails where a file in the precompiled headers is not what it was. What else they are to hold is read

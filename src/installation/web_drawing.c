@@ -10,6 +10,9 @@
 #define nvgCircle pozhilCircle
 #define nvgMoveTo pozhilMoveTo
 #define nvgTextBounds pozhilTextBounds
+#define nvgFillPaint pozhilFillPaint
+#define nvgCreateImage pozhilCreateImage
+#define nvgCreateImageRGBA pozhilCreateImageRGBA
 #include "nanovg.c"
 #undef nvgBeginFrame
 #undef nvgRect
@@ -17,11 +20,15 @@
 #undef nvgCircle
 #undef nvgMoveTo
 #undef nvgTextBounds
+#undef nvgFillPaint
+#undef nvgCreateImage
+#undef nvgCreateImageRGBA
 
 #include <emscripten.h>
 
-/* A circle has its centre in x and y and its radius in width, a line its beginning in x and y, a measured text its width. */
-enum ShapeKind { RECT, ROUNDED_RECT, CIRCLE, LINE, MEASURED_TEXT };
+/* A circle has its centre in x and y and its radius in width, a line its beginning in x and y, a measured text its width.
+ * A picture follows the shape that it fills, and has its number as the radius. */
+enum ShapeKind { RECT, ROUNDED_RECT, CIRCLE, LINE, MEASURED_TEXT, PICTURE };
 
 struct Shape {
     float kind;
@@ -38,6 +45,9 @@ static struct {
     struct Shape* first;
 } shapes;
 static int most_shapes = 0;
+
+/* Pixels a point of the frame. */
+static float screen_ratio = 1;
 
 /* Where the page reads them. */
 EMSCRIPTEN_KEEPALIVE const void* pozhil_drawn_shapes(void) {
@@ -59,6 +69,7 @@ static void note(struct Shape shape) {
 
 void nvgBeginFrame(NVGcontext* context, float width, float height, float ratio) {
     shapes.count = 0;
+    screen_ratio = ratio;
     pozhilBeginFrame(context, width, height, ratio);
 }
 
@@ -88,19 +99,31 @@ float nvgTextBounds(NVGcontext* context, float x, float y, const char* text, con
     return advance;
 }
 
+void nvgFillPaint(NVGcontext* context, NVGpaint paint) {
+    if (paint.image > 0) {
+        note((struct Shape){PICTURE, paint.xform[4], paint.xform[5], paint.extent[0], paint.extent[1],
+                            (float)paint.image});
+    }
+    pozhilFillPaint(context, paint);
+}
+
 #pragma weak nsvgParse
-#pragma weak nsvgParseFromFile
 #pragma weak nsvgDuplicatePath
 #pragma weak nsvgDelete
 #pragma weak nsvg__colors
 #define NANOSVG_IMPLEMENTATION
+#define nsvgParseFromFile pozhilParseFromFile
 #include "nanosvg.h"
+#undef nsvgParseFromFile
 
 #pragma weak nsvgCreateRasterizer
-#pragma weak nsvgRasterize
 #pragma weak nsvgDeleteRasterizer
 #define NANOSVGRAST_IMPLEMENTATION
+#define nsvgRasterize pozhilRasterize
 #include "nanosvgrast.h"
+#undef nsvgRasterize
+
+#include "web_drawing_pictures.h"
 
 #include <GLES2/gl2.h>
 #pragma weak nvgCreateGLES2

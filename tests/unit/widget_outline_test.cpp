@@ -79,15 +79,44 @@ TEST(WidgetOutline, APageWithinAPageIsThereIfItHasItsName) {
     EXPECT_EQ(pages.at("ஆ").size(), 2U);
 }
 
+TEST(WidgetOutline, APictureIsCalledWhatItShowsElseWhatItsFileIsCalled) {
+    const auto widgets = outlineOfPage("நெடுவரிசை("
+                                       "படம்(பாதை: \"assets/நம்_ஊர்.jpg\"), "
+                                       "படம்(பாதை: \"அ.png\", விளக்கம்: \"தஞ்சைக் கோயில்\"), "
+                                       "படம்(பாதை: \"அ.b/இ\", விளக்கம்: விளக்கிய_உரை), படம்(பாதை: \"ஈ.svg\", விளக்கம்: \"\"), "
+                                       "வட்டபடம்(படம்(பாதை: \"கயல்.png\")), வட்டபடம்(உரை(\"க\")), படம்())")["home"];
+    std::vector<std::string> names;
+    for (const OutlinedWidget& widget : widgets) {
+        EXPECT_EQ(widget.kind, "படம்");
+        names.push_back(widget.file + ": " + widget.name);
+    }
+    EXPECT_THAT(names, ElementsAre("assets/நம்_ஊர்.jpg: நம் ஊர்", "அ.png: தஞ்சைக் கோயில்", "அ.b/இ: இ",
+                                   "ஈ.svg: ", "கயல்.png: கயல்", "logo.png: logo"));
+}
+
+TEST(WidgetOutline, PicturesOfABarBelongToItsLabels) {
+    EXPECT_THAT(uses("அடிப்பகுதி(அடி_உருப்படி(படம்(பாதை: \"அ.png\"), உரை(\"அ\")))"), IsEmpty());
+}
+
+TEST(WidgetOutline, ThePictureBehindAPageComesFirstAndOnlyAdorns) {
+    const auto widgets = outlineOfPage("படம்(பாதை: \"அ.png\")", "பின்னணிபடம்: \"அ.png\"")["home"];
+    ASSERT_EQ(widgets.size(), 2U);
+    EXPECT_EQ(widgets[0].file + ": " + widgets[0].name, "அ.png: ");
+    EXPECT_EQ(widgets[1].name, "அ");
+}
+
 TEST(OutlineJson, TellsOnlyWhatThereIsToTell) {
     EXPECT_EQ(outlineJson({}), "{}");
     OutlinedWidget slider = {"அளவி", WidgetUse::None, 0.5F, 100.0F};
     OutlinedWidget box = {"பெட்டி", WidgetUse::Link};
     box.variables = {{"அ", "\"ஆ\""}, {"இ"}};
-    EXPECT_EQ(outlineJson({{"home", {slider, box}}}),
+    OutlinedWidget picture = {"படம்"};
+    picture.file = "அ.png";
+    EXPECT_EQ(outlineJson({{"home", {slider, box, picture}}}),
               "{\"home\":[\n"
               "{\"kind\":\"அளவி\",\"least\":0.5,\"largest\":100},\n"
-              "{\"kind\":\"பெட்டி\",\"use\":\"link\",\"unlessHidden\":[\"அ\",\"\\\"ஆ\\\"\"],\"onceShown\":[\"இ\"]}]}");
+              "{\"kind\":\"பெட்டி\",\"use\":\"link\",\"unlessHidden\":[\"அ\",\"\\\"ஆ\\\"\"],\"onceShown\":[\"இ\"]},\n"
+              "{\"kind\":\"படம்\",\"file\":\"அ.png\",\"name\":\"\"}]}");
 }
 
 } // namespace

@@ -6,6 +6,7 @@ import axe from 'axe-core';
 
 import { PHONE, application, assert, near, webTest } from './harness/index.js';
 import { example } from './harness/examples.js';
+import { gif, png, svg } from './harness/pictures.js';
 
 const form = application(`
         நெடுவரிசை(உருளும்பட்டை: மெய், இடைவெளி: 16)(
@@ -289,6 +290,52 @@ webTest('nothing widens a phone', form, PHONE, async page => {
     await waitForLine(page, '- button "சொல்"');
     assert.deepEqual(await page.page.evaluate(() => [innerWidth, visualViewport.width, document.documentElement.scrollWidth]),
                      [390, 390, 390]);
+});
+
+const picture = (file, more = '') => `படம்(பாதை: "assets/${file}", அகலம்: 40, உயரம்: 40${more})`;
+const pictures = application(`
+        நெடுவரிசை(இடைவெளி: 4)(
+            ${picture('நம்_ஊர்.png')},
+            ${picture('நம்_ஊர்.png', ', விளக்கம்: "தஞ்சைக் கோயில்", வளைவு: 8')},
+            ${picture('கோடு.svg', ', விளக்கம்: ""')},
+            ${picture('இல்லை.png')},
+            ${picture('ஆட்டம்.gif')},
+            வட்டபடம்(படம்(பாதை: "assets/தோழி.png"), அகலம்: 40),
+            பெட்டி(அகலம்: 200, உயரம்: 50, அழுத்தினால்: () => கூட்டு_செய்(), ${picture('கயல்.svg', ', சீரமைப்பு: மையம்')}),
+            பெட்டி(அகலம்: 200, உயரம்: 50, அழுத்தினால்: () => கூட்டு_செய்(),
+                   கிடைவரிசை(${picture('கயல்.svg')}, உரை("கயல்விழி"))),
+            பெட்டி(அகலம்: 200, உயரம்: 50, பின்னணிபடம்: "assets/கயல்.svg", உரை("பெட்டி")),
+            பெட்டி(அகலம்: 200, உயரம்: 50, பின்னணிபடம்: "assets/நம்_ஊர்.png", அழுத்தினால்: () => கூட்டு_செய்()),
+            பக்கம்(பெட்டி(அகலம்: 90, உயரம்: 50, உரை("செல்"), அழுத்தினால்: () => செல்க("வேறு"))),
+            உரை(எண்ணிக்கை)
+        )`, { header: 'பின்னணிபடம்: "assets/நம்_ஊர்.png"', logic: `
+        எண்ணிக்கை = 0
+        செயல் கூட்டு_செய்():
+            எண்ணிக்கை = எண்ணிக்கை கூட்டு 1` });
+const pictureFiles = { 'assets/நம்_ஊர்.png': png(8, [255, 0, 0]), 'assets/தோழி.png': png(8, [0, 255, 0]),
+                       'assets/கயல்.svg': svg('#0000ff'), 'assets/கோடு.svg': svg('#00ff00'), 'assets/ஆட்டம்.gif': gif(8, [[255, 0, 255]], 50) };
+
+webTest('pictures are told by what they show, and those that only adorn are not', pictures, { files: pictureFiles },
+        async page => {
+    await waitForLine(page, '- img "ஆட்டம்"');
+    assert.equal(await tree(page), `- main:
+  - img "நம் ஊர்"
+  - img "தஞ்சைக் கோயில்"
+  - img "ஆட்டம்"
+  - img "தோழி"
+  - button "கயல்"
+  - button "கயல்விழி"
+  - text: பெட்டி
+  - button "பொத்தான்"
+  - link "செல்"
+  - text: "0"`);
+    const box = await widget(page, 'img', 'தஞ்சைக் கோயில்').boundingBox();
+    assert.deepEqual(box, { x: 0, y: 44, width: 40, height: 40 });
+    await widget(page, 'button', 'கயல்').press('Enter');
+    await page.waitForText('1');
+    await page.page.evaluate(axe.source);
+    const { violations } = await page.page.evaluate(() => window.axe.run());
+    assert.deepEqual(violations.map(({ id, impact }) => `${impact} ${id}`).filter(text => /^(serious|critical)/.test(text)), []);
 });
 
 for (const name of ['காட்சியகம்', 'பதிவுப்_படிவம்']) {

@@ -108,3 +108,18 @@ webTest('a window without any size harms nothing', page, { viewport: { width: 30
     await assertAligned(tab, 1);
     assert.deepEqual(tab.errors, []);
 });
+
+// Its edges lie between two points.
+const drawn = '<svg xmlns="http://www.w3.org/2000/svg" width="40" height="40">'
+    + '<rect x="10.5" width="20" height="40" fill="#0000ff"/></svg>';
+for (const scale of [1, 2, 3]) {
+    webTest(`a drawing is made for the pixels of the screen at scale ${scale}`, application(`
+        படம்(பாதை: "assets/கட்டம்.svg", அகலம்: 40, உயரம்: 40)`),
+            { files: { 'assets/கட்டம்.svg': drawn }, viewport: { width: 300, height: 270 }, deviceScaleFactor: scale },
+            async tab => {
+        const row = await tab.deviceRow(10 * scale);
+        const mixed = row.filter(pixel => !same(pixel, [0, 0, 255]) && !same(pixel, GREY));
+        assert.equal(mixed.length, scale === 2 ? 0 : 2);
+        assert.equal(row.filter(pixel => same(pixel, [0, 0, 255])).length, 20 * scale - mixed.length / 2);
+    });
+}

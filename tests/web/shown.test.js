@@ -95,3 +95,23 @@ test('a label may stand at the other end of the line, but one above is nearer', 
                      ['text "வேறு"', 'text "ஒலி"', 'switch "ஒலி"']);
     assert.deepEqual(read([text('ஒலி', 400, -100), ...control]), ['text "ஒலி"', 'switch "மாற்றி"']);
 });
+
+const picture = (file, x, y, width = 40, height = 40) => ({ kind: 'picture', file, x, y, width, height, radius: 1 });
+
+test('a picture is called what is noted of its file, in turn where several show one', () => {
+    const marks = [picture('அ', 0, 0), rect(0, 50, 40, 40), picture('அ', 0, 50), picture('ஆ', 0, 100), picture('இ', 0, 150)];
+    const noted = [{ kind: 'படம்', file: 'அ', name: 'ஒன்று' }, { kind: 'படம்', file: 'அ', name: 'இரண்டு' },
+        { kind: 'படம்', file: 'ஆ', name: '' }];
+    assert.deepEqual(read(marks, noted), ['img "ஒன்று"', 'img "இரண்டு"']);
+    assert.deepEqual(read([...marks, picture('அ', 0, 200)], noted), ['img "ஒன்று"', 'img "இரண்டு"', 'img "இரண்டு"']);
+    assert.deepEqual(read(marks), []);
+});
+
+test('a picture in a box that can be pressed names it, unless a text does', () => {
+    const box = [ask, round(0, 0, 100, 50), rect(5, 5, 40, 40), picture('அ', 5, 5)];
+    const notes = [{ kind: 'பெட்டி', use: 'press' }, { kind: 'படம்', file: 'அ', name: 'கொடி' }];
+    assert.deepEqual(read(box, notes), ['button "கொடி"']);
+    assert.deepEqual(read([...box, text('ஏற்று', 50, 10)], notes), ['button "ஏற்று"']);
+    assert.deepEqual(read([...box, picture('அ', 5, 300)], notes), ['button "கொடி"', 'img "கொடி"']);
+    assert.deepEqual(read([ask, round(0, 0, 100, 50), picture('அ', 0, 0, 100, 50)], notes), ['button "பொத்தான்"']);
+});

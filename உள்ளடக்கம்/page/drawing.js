@@ -42,7 +42,7 @@ var pozhilDrawing = (() => {
 
     // --- shapes, as the drawing library notes them down: a count and a place, of six numbers each ---
 
-    const KINDS = ['rect', 'round', 'circle', 'line', 'measure'];
+    const KINDS = ['rect', 'round', 'circle', 'line', 'measure', 'picture'];
     const NUMBERS = 6;
     let shapesAt = 0;
     pozhilFrames.whenReady(() => { shapesAt = Module._pozhil_drawn_shapes() >> 2; });

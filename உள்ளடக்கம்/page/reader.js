@@ -80,7 +80,10 @@
         const begin = clock();
         isStale = isUrgent = false;
         const marks = pozhilDrawing.marks();
-        mirror(pozhilShown.read(marks, notesOfNow()), marks);
+        marks.filter(({ kind }) => kind === 'picture').forEach(mark => { mark.file = pozhilPictures.fileOf(mark.radius); });
+        const shownNotes = notesOfNow();
+        mirror(pozhilShown.read(marks, shownNotes), marks);
+        nameAnimated(shownNotes);
         lastLook = clock();
         cost = lastLook - begin;
         pressWaiting();
@@ -247,6 +250,17 @@
 
     // --- fields, which are elements of their own ---
 
+    const topLeftOf = item => item.texts?.[0] && item.x === undefined ? item.texts[0] : item;
+
+    /// Where an element without a shape stands in the list: before what is below it, or further along its line.
+    function placeAmong(items, { x, y, width, height }) {
+        const place = items.findIndex(item => {
+            const { x: left, y: top } = topLeftOf(item);
+            return top >= y + height || (top >= y && left >= x + width);
+        });
+        return place < 0 ? items.length : place;
+    }
+
     /// Puts each field among the items after the shape that it lies on.
     function addFields({ page: items, dialogs }, marks) {
         for (const element of document.querySelectorAll('.pozhil-input')) {
@@ -254,12 +268,13 @@
                 continue;
             }
             const [x, y, width, height] = ['left', 'top', 'width', 'height'].map(side => parseFloat(element.style[side]));
-            const index = marks.findLastIndex(mark => mark.kind === 'round' && x + 1 >= mark.x && y + 1 >= mark.y
+            const field = { role: 'field', element, texts: [], x, y, width, height };
+            field.index = marks.findLastIndex(mark => mark.kind === 'round' && x + 1 >= mark.x && y + 1 >= mark.y
                 && x <= mark.x + mark.width && y <= mark.y + mark.height);
-            const list = dialogs.findLast(dialog => dialog.index < index)?.children ?? items;
-            const place = list.findIndex(item => item.index > index);
-            list.splice(place < 0 ? list.length : place, 0,
-                        { role: 'field', element, index, texts: [], x, y, width, height });
+            const list = dialogs.findLast(dialog => dialog.index < field.index)?.children ?? items;
+            const next = list.findIndex(item => item.index > field.index);
+            const place = element instanceof HTMLImageElement ? placeAmong(list, field) : next < 0 ? list.length : next;
+            list.splice(place, 0, field);
         }
     }
 
@@ -268,10 +283,17 @@
         items.forEach(({ element, children }, place) => {
             if (children) {
                 nameFields(children);
-            } else if (element instanceof HTMLImageElement) {
-                element.alt ||= '';
-            } else if (element) {
+            } else if (element && !(element instanceof HTMLImageElement)) {
                 setAttribute(element, 'aria-label', pozhilShown.labelOf(items, place) || element.placeholder || 'உரைபெட்டி');
+            }
+        });
+    }
+
+    function nameAnimated(shownNotes) {
+        const nameOf = pozhilShown.pictureNames(shownNotes);
+        document.querySelectorAll('img.pozhil-input').forEach(element => {
+            if (element.style.display !== 'none') {
+                setAttribute(element, 'alt', nameOf(pozhilPictures.fileOfElement(element)));
             }
         });
     }

@@ -165,7 +165,7 @@ var pozhilShown = (() => {
         const LABEL = 44;
         let next = index + 3;
         const texts = [];
-        while (['circle', 'rect', 'text'].includes(marks[next]?.kind) && marks[next].y > bar.y
+        while (['circle', 'rect', 'picture', 'text'].includes(marks[next]?.kind) && marks[next].y > bar.y
             && (marks[next].kind !== 'text' || near(marks[next].y, bar.y + LABEL))) {
             texts.push(...marks[next].kind === 'text' ? [marks[next]] : []);
             next++;
@@ -199,6 +199,9 @@ var pozhilShown = (() => {
         if (body?.kind !== 'round') {
             return null;
         }
+        if (marks[next + 1]?.kind === 'picture') {
+            return { took: next + 2 - index, item: { kind: 'பெட்டி', role: 'box', ...areaOf(body), checked: false } };
+        }
         const tick = marks[next + 1];
         const isTicked = tick?.kind === 'line' && near(tick.x, body.x + body.width / 4)
             && near(tick.y, body.y + body.height / 2);
@@ -206,10 +209,16 @@ var pozhilShown = (() => {
                  item: { kind: 'பெட்டி', role: 'box', ...areaOf(body), checked: isTicked } };
     }
 
+    function readPicture(marks, index) {
+        const { file } = marks[index];
+        return { took: 1, item: { role: 'img', file, ...areaOf(marks[index]) } };
+    }
+
     /// By the kind of a widget's first mark.
     const READERS = {
         measure: [readButton, readTextButton], rect: [readTabs, readNavigation], circle: [readRadio], line: [readClearing],
-        round: [readSwitch, readSlider, readProgress, readDropdown, readMenu], ask: [readBox], text: [], dim: [], message: [],
+        round: [readSwitch, readSlider, readProgress, readDropdown, readMenu], ask: [readBox], picture: [readPicture],
+        text: [], dim: [], message: [],
     };
 
     function readMark(marks, index, openers) {
@@ -279,23 +288,45 @@ var pozhilShown = (() => {
         }
     }
 
-    // --- texts that belong to something ---
+    /// Calls each picture what is noted of its file. Of one that only adorns nothing is noted, or that it has no name.
+    function pictureNames(notes) {
+        const names = new Map();
+        for (const { file, name } of notes) {
+            names.set(file, [...names.get(file) ?? [], name]);
+        }
+        return file => {
+            const left = names.get(file) ?? [''];
+            return left.length > 1 ? left.shift() : left[0];
+        };
+    }
+
+    // --- texts and pictures that belong to something ---
 
     const holds = ({ x, y, width, height }, text) => text.x >= x - PRECISION && text.x <= x + width + PRECISION
         && text.y >= y - text.size && text.y <= y + height;
     const standsBeside = ({ x, y, width, height }, text) => near(text.x, x + width + 12) && text.y >= y - height
         && text.y <= y + height;
 
-    /// Gives boxes that can be pressed the texts in them, and boxes to tick the one beside them.
-    function gatherTexts(items) {
+    const isWithin = ({ x, y, width, height }, middle) => middle.x > x && middle.x < x + width && middle.y > y
+        && middle.y < y + height;
+
+    function owns(owner, item) {
+        if (item.role === 'img') {
+            return isWithin(owner, middleOf(item));
+        }
+        const [text] = item.texts;
+        return item.role === 'text' && (owner.role === 'checkbox'
+            ? owner.texts.length === 0 && standsBeside(owner, text) : holds(owner, text));
+    }
+
+    /// Gives boxes that can be pressed the texts and pictures in them, and boxes to tick the text beside them.
+    function gatherParts(items) {
         const kept = [];
         let owner = null;
         for (const item of items) {
-            const [text] = item.texts;
-            const isOwned = owner && item.role === 'text' && (owner.role === 'checkbox'
-                ? owner.texts.length === 0 && standsBeside(owner, text) : holds(owner, text));
-            if (isOwned) {
-                owner.texts.push(text);
+            if (owner && owns(owner, item)) {
+                owner.texts.push(...item.texts);
+                owner.pictured = [owner.pictured, item.name].filter(Boolean).join(' ');
             } else {
                 kept.push(item);
             }
@@ -349,7 +380,7 @@ var pozhilShown = (() => {
         items.forEach((item, place) => {
             const isNamed = item.name || item.texts.some(({ text }) => text.trim() !== '');
             if (item.role in USUAL_NAMES && !isNamed) {
-                item.name = (item.isNameless && labelOf(items, place)) || USUAL_NAMES[item.role];
+                item.name = (item.isNameless && labelOf(items, place)) || item.pictured || USUAL_NAMES[item.role];
             }
         });
     }
@@ -378,17 +409,19 @@ var pozhilShown = (() => {
     /// What the marks of a frame show: the items of the page and of each dialog in reading order, and messages.
     ///
     /// \param marks what was drawn, in order: { kind, x, y, width, height, radius } for shapes; texts have text, size, align
-    ///     and colour as well
+    ///     and colour as well, pictures their file
     /// \param notes what the compiler has noted of the widgets that are shown
     function read(marks, notes = []) {
         const items = readItems(marks);
         note(items, notes, BOXES);
         ['பொத்தான்', 'உரைபொத்தான்', 'அளவி'].forEach(kind => note(items, notes, [kind]));
         items.forEach(becomeWhatIsNoted);
-        const gathered = gatherTexts(items);
+        const nameOf = pictureNames(notes);
+        items.filter(({ role }) => role === 'img').forEach(item => { item.name = nameOf(item.file); });
+        const gathered = gatherParts(items.filter(({ role, name }) => role !== 'img' || name));
         nameAll(gathered);
         return nest(gathered);
     }
 
-    return { read, labelOf };
+    return { read, labelOf, pictureNames };
 })();

@@ -31,6 +31,9 @@ std::string widgetJson(const OutlinedWidget& widget) {
     if (widget.least && widget.largest) {
         members += ",\"least\":" + numberText(*widget.least) + ",\"largest\":" + numberText(*widget.largest);
     }
+    if (!widget.file.empty()) {
+        members += ",\"file\":" + json::text(widget.file) + ",\"name\":" + json::text(widget.name);
+    }
     if (!widget.variables.unlessHidden.empty()) {
         members += ",\"unlessHidden\":" + namesJson(widget.variables.unlessHidden);
     }

@@ -55,6 +55,7 @@ constexpr WidgetProperty IMAGE_PROPERTIES[] = {
     {property::WIDTH, "", ValueKind::Size, {"அகலம்", "width"}},
     {property::HEIGHT, "", ValueKind::Size, {"உயரம்", "height"}},
     {property::RADIUS, "", ValueKind::Number, {"மூலை வளைவு", "corner radius"}},
+    {"விளக்கம்", "", ValueKind::Text, {"படம் காட்டுவது, சொற்களில்", "what it shows, in words"}},
 };
 
 constexpr WidgetProperty AVATAR_PROPERTIES[] = {

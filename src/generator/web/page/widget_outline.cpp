@@ -14,9 +14,9 @@ namespace {
 
 using language::widget::BOX_STYLE;
 
-constexpr std::array<std::string_view, 6> OUTLINED = {language::widget::CONTAINER,   language::widget::LIST_TILE,
-                                                      language::widget::CHECKBOX,    language::widget::BUTTON,
-                                                      language::widget::TEXT_BUTTON, language::widget::SLIDER};
+constexpr std::array<std::string_view, 7> OUTLINED = {
+    language::widget::CONTAINER,   language::widget::LIST_TILE, language::widget::CHECKBOX, language::widget::BUTTON,
+    language::widget::TEXT_BUTTON, language::widget::SLIDER,    language::widget::IMAGE};
 
 /// These draw all their children, one after the other.
 constexpr std::array<std::string_view, 11> PARENTS = {
@@ -25,8 +25,8 @@ constexpr std::array<std::string_view, 11> PARENTS = {
     language::widget::CARD,      language::widget::DIALOG,  language::widget::PAGE};
 
 /// These draw their first child.
-constexpr std::array<std::string_view, 3> WRAPPERS = {language::widget::EXPANDED, language::widget::FLEXIBLE,
-                                                      language::widget::CHECKBOX};
+constexpr std::array<std::string_view, 4> WRAPPERS = {language::widget::EXPANDED, language::widget::FLEXIBLE,
+                                                      language::widget::CHECKBOX, language::widget::AVATAR};
 
 template <std::size_t COUNT> bool isOneOf(const std::array<std::string_view, COUNT>& kinds, const WidgetNode& widget) {
     return std::find(kinds.begin(), kinds.end(), widget.kind) != kinds.end();
@@ -59,6 +59,17 @@ WidgetUse useOf(const WidgetNode& widget) {
 std::optional<float> numberIn(const WidgetNode& widget, const char* name, float usual) {
     const Expression* value = findProperty(widget, {name});
     return value == nullptr ? usual : constantOf(value);
+}
+
+/// What is said of a picture: what the source says it shows, else what its file is called.
+std::string pictureName(const WidgetNode& picture, const std::string& file) {
+    if (const auto* description = nodeCast<StringLiteral>(findProperty(picture, {"விளக்கம்"}))) {
+        return description->value;
+    }
+    const std::size_t begin = file.find_last_of('/') + 1;
+    std::string name = file.substr(begin, file.find_last_of('.') - begin);
+    std::replace(name.begin(), name.end(), '_', ' ');
+    return name;
 }
 
 /// Whether \p widget is a page within the page \p shown that is never drawn there, since it has another name.
@@ -116,6 +127,10 @@ private:
             outlined.least = numberIn(widget, "குறைந்தபட்சம்", 0.0F);
             outlined.largest = numberIn(widget, "அதிகபட்சம்", LARGEST);
         }
+        if (widget.kind == language::widget::IMAGE) {
+            outlined.file = pictureFile(widget);
+            outlined.name = pictureName(widget, outlined.file);
+        }
         widgets_.push_back(std::move(outlined));
     }
 
@@ -142,6 +157,19 @@ private:
     std::deque<std::pair<const WidgetNode*, ShowingVariables>> dialogs_;
 };
 
+/// The picture that covers a page, which is drawn before all widgets; nothing if there is none.
+std::optional<OutlinedWidget> backgroundOf(const WebAppNode& app) {
+    const WidgetNode* header = asWidget(app.header.get());
+    const std::string file = header == nullptr ? "" : textOf(findProperty(*header, {"பின்னணிபடம்"}));
+    if (file.empty()) {
+        return std::nullopt;
+    }
+    OutlinedWidget background;
+    background.kind = language::widget::IMAGE;
+    background.file = file;
+    return background;
+}
+
 } // namespace
 
 std::map<std::string, std::vector<OutlinedWidget>> outlineOf(const Application& application) {
@@ -150,6 +178,9 @@ std::map<std::string, std::vector<OutlinedWidget>> outlineOf(const Application& 
         if (const WidgetNode* root = asWidget(app->uiBody.get())) {
             std::vector<OutlinedWidget> widgets = OutlineWalk(pageName(*app)).outline(*root);
             std::vector<OutlinedWidget>& page = pages[pageName(*app)];
+            if (std::optional<OutlinedWidget> background = backgroundOf(*app)) {
+                page.push_back(std::move(*background));
+            }
             page.insert(page.end(), std::make_move_iterator(widgets.begin()), std::make_move_iterator(widgets.end()));
         }
     }

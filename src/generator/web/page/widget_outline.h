@@ -32,11 +32,15 @@ struct OutlinedWidget {
     /// The range of a slider, as far as it is constant
     std::optional<float> least{};
     std::optional<float> largest{};
+    /// The file of a picture
+    std::string file{};
+    /// What a picture shows, in words; empty for one that only adorns
+    std::string name{};
     ShowingVariables variables{};
 };
 
-/// Boxes (those to tick as well), tiles, buttons and sliders of each page by the page's name, in the order in which a frame
-/// draws them: what stands in dialogs comes last.
+/// Boxes (those to tick as well), tiles, buttons, sliders and pictures of each page by the page's name, in the order in
+/// which a frame draws them: what stands in dialogs comes last.
 std::map<std::string, std::vector<OutlinedWidget>> outlineOf(const Application& application);
 
 } // namespace pozhil

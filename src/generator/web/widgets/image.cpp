@@ -8,7 +8,6 @@ namespace pozhil {
 namespace {
 
 void emitRectangle(WidgetWriter& image) {
-    const auto* path = nodeCast<StringLiteral>(findProperty(image.widget(), {"பாதை"}));
     image.block(R"(
 {
     float imgX = std::floor($x); float imgY = std::floor($y);
@@ -24,8 +23,7 @@ void emitRectangle(WidgetWriter& image) {
     std::string path = "$path";
     bool isGif = path.size() >= 4 && (path.substr(path.size() - 4) == ".gif" || path.substr(path.size() - 4) == ".GIF");
 )",
-                {{"radius", numberConstant(image.widget(), {"வளைவு"}, 0.0F)},
-                 {"path", path == nullptr ? "logo.png" : path->value}});
+                {{"radius", numberConstant(image.widget(), {"வளைவு"}, 0.0F)}, {"path", pictureFile(image.widget())}});
 }
 
 /// படம்: a picture from a file, stretched to its box; an animated one is played by the browser.

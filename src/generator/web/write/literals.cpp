@@ -11,6 +11,11 @@ std::string textOf(const Expression* value) {
     return text == nullptr ? "" : text->value;
 }
 
+std::string pictureFile(const WidgetNode& picture) {
+    const auto* path = nodeCast<StringLiteral>(findProperty(picture, {"பாதை"}));
+    return path == nullptr ? "logo.png" : path->value;
+}
+
 bool isTrue(const Expression* value) {
     const auto* truth = nodeCast<BooleanLiteral>(value);
     return truth != nullptr && truth->value == "மெய்";

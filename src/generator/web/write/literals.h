@@ -14,6 +14,9 @@ namespace pozhil {
 /// A text; empty for anything else.
 std::string textOf(const Expression* value);
 
+/// The file of a picture.
+std::string pictureFile(const WidgetNode& picture);
+
 /// Whether it is the word மெய்.
 bool isTrue(const Expression* value);
 
