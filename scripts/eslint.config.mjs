@@ -34,7 +34,8 @@ const PAGE = readonly(['CanvasRenderingContext2D', 'Event', 'FS', 'FontFace', 'H
 // What scripts of a page use beside: of the browser, of what em++ makes, and of each other.
 const PAGE_SCRIPTS = {
     ...readonly(['ErrorEvent', 'GLFW', 'HEAP32', 'HEAPF32', 'HTMLImageElement', 'HTMLScriptElement', 'TextDecoder',
-        'WebAssembly', 'pozhilDrawing', 'pozhilFrames', 'pozhilLoading', 'pozhilPointer', 'pozhilShown']),
+        'WebAssembly', 'pozhilDrawing', 'pozhilFrames', 'pozhilLoading', 'pozhilPictures', 'pozhilPointer',
+        'pozhilShown']),
     currentVersion: 'writable',
 };
 

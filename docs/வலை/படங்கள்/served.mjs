@@ -17,12 +17,13 @@ export const examples = path.join(root, 'எடுத்துக்காட்
 const SOURCE = 'படங்கள்.பொழில்';
 const BUILD_TIME = 180_000;
 
-/// Calls `use` with a browser while the application `source` is served, which has the examples' assets beside it.
-export async function withApplication(source, use) {
+/// Calls `use` with a browser while the application `source` is served, which has the examples' assets beside it. It is built
+/// by the compiler that the command line names first, unless another is given.
+export async function withApplication(source, use, compilerPath = process.argv[2]) {
     const folder = mkdtempSync(path.join(tmpdir(), 'pozhil-pictures-'));
     cpSync(path.join(examples, 'assets'), path.join(folder, 'assets'), { recursive: true });
     writeFileSync(path.join(folder, SOURCE), source);
-    const compiler = spawn(process.argv[2] ?? path.join(root, 'build/release/பொழில்/பொழி'), [SOURCE],
+    const compiler = spawn(compilerPath ?? path.join(root, 'build/release/பொழில்/பொழி'), [SOURCE],
                            { cwd: folder, env: { ...process.env, BROWSER: 'none', POZHIL_ANIMATION_MS: '0' } });
     let output = '';
     compiler.stdout.on('data', text => { output += text; });
@@ -43,9 +44,10 @@ export async function withApplication(source, use) {
     }
 }
 
-/// A tab of that size with the application in it. `prepare` may change the tab before the application is loaded.
-export async function openTab(browser, size, prepare = () => {}) {
-    const tab = await browser.newPage({ viewport: size });
+/// A tab of that size with the application in it. `prepare` may change the tab before the application is loaded; `device`
+/// are other options of the browser's context.
+export async function openTab(browser, size, prepare = () => {}, device = {}) {
+    const tab = await browser.newPage({ viewport: size, ...device });
     await prepare(tab);
     await tab.goto('http://127.0.0.1:6931/');
     await tab.waitForSelector('#textCanvas', { state: 'attached' });
