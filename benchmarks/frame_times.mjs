@@ -45,6 +45,7 @@ function timeFrames(count) {
                 done(times);
             }
         });
+        window.pozhilFrames.wake();
     });
 }
 

@@ -230,6 +230,36 @@ webTest('of a dialog nothing is seen but the dialog, and messages are said', for
     assert.equal(await focused(), 'திற');
 });
 
+const turned = application(`
+        நெடுவரிசை(
+            உரைபொத்தான்(உரை: "முதல்"),
+            உரைபொத்தான்(உரை: "போ", அழுத்தினால்: செல்க("ஆ"))
+        )`, { header: 'பக்கம்: "அ"' }) + application(`
+        நெடுவரிசை(
+            உரைபொத்தான்(உரை: "திரும்பு", அழுத்தினால்: செல்க("அ")),
+            உரைபொத்தான்(உரை: "இரண்டு")
+        )`, { header: 'பக்கம்: "ஆ"' });
+
+webTest('a page that is turned is read alone, and the keyboard begins at its top', turned, async page => {
+    await waitForLine(page, '- link "போ"');
+    await page.page.evaluate(() => {
+        const root = document.getElementById('pozhil-shown');
+        window.mixed = [];
+        new MutationObserver(() => {
+            const shown = [...root.querySelectorAll('.pozhil-text')].map(({ textContent }) => textContent);
+            window.mixed.push(...shown.includes('போ') && shown.includes('திரும்பு') ? [shown.join(' ')] : []);
+        }).observe(root, { subtree: true, childList: true, characterData: true });
+    });
+    for (const [from, to] of [['போ', 'திரும்பு'], ['திரும்பு', 'போ'], ['போ', 'திரும்பு']]) {
+        await widget(page, 'link', from).press('Enter');
+        await waitForLine(page, `- link "${to}"`);
+        assert.equal(await page.page.evaluate(() => document.activeElement.tagName), 'MAIN');
+    }
+    await page.page.keyboard.press('Tab');
+    assert.equal(await page.page.evaluate(() => document.activeElement.textContent), 'திரும்பு');
+    assert.deepEqual(await page.window('mixed'), []);
+});
+
 webTest('a screen reader presses without a pointer', form, async page => {
     await waitForLine(page, '- button "சொல்"');
     await widget(page, 'button', 'கூட்டு').evaluate(element => element.click());

@@ -58,6 +58,28 @@ for (const [screen, context] of [['desktop', {}], ['phone', { ...PHONE, deviceSc
     });
 }
 
+webTest('a page at rest asks the browser for no frames', counting, async page => {
+    const asked = () => page.page.evaluate(() => window.asked);
+    await page.page.evaluate(() => {
+        const ask = window.requestAnimationFrame.bind(window);
+        window.asked = 0;
+        window.requestAnimationFrame = work => {
+            window.asked++;
+            return ask(work);
+        };
+    });
+    await page.page.mouse.move(100, 50);
+    assert.ok(await rests(page));
+    const before = await asked();
+    assert.ok(before > 0);
+    await page.page.waitForTimeout(1000);
+    assert.equal(await asked(), before);
+    await page.page.mouse.move(100, 55);
+    await page.page.waitForFunction(count => window.asked > count, before, { polling: 50, timeout: 3000 });
+    await page.page.evaluate(() => { window.pozhilFrames.wake(); window.pozhilFrames.wake(); });
+    assert.ok(await rests(page), 'one loop only');
+});
+
 webTest('scripts of the page wake it', counting, async page => {
     assert.ok(await rests(page));
     let before = await drawn(page);

@@ -100,10 +100,13 @@ webTest('no more pixels are drawn than can be told apart', page,
 
 webTest('a window without any size harms nothing', page, { viewport: { width: 300, height: 270 } }, async tab => {
     await tab.page.evaluate(async () => {
-        const own = Object.getOwnPropertyDescriptor(window, 'innerWidth');
-        Object.defineProperty(window, 'innerWidth', { configurable: true, value: 0 });
-        await new Promise(resolve => { setTimeout(resolve, 300); });
-        Object.defineProperty(window, 'innerWidth', own);
+        for (const sides of [['innerWidth'], ['innerHeight'], ['innerWidth', 'innerHeight']]) {
+            const own = sides.map(side => Object.getOwnPropertyDescriptor(window, side));
+            sides.forEach(side => Object.defineProperty(window, side, { configurable: true, value: 0 }));
+            window.pozhilFrames.wake();
+            await new Promise(resolve => { setTimeout(resolve, 300); });
+            sides.forEach((side, place) => Object.defineProperty(window, side, own[place]));
+        }
     });
     await assertAligned(tab, 1);
     assert.deepEqual(tab.errors, []);

@@ -20,12 +20,11 @@ var pozhilPictures = (() => {
     });
 
     /// The elements of animated pictures were made in the order in which their files were read.
-    function lookAtElements() {
-        document.querySelectorAll('img.pozhil-input').forEach(element => {
-            if (!ofElement.has(element)) {
-                ofElement.set(element, element.pozhilData ? read.shift() : element.dataset.rawSrc);
-            }
-        });
+    function fileOfElement(element) {
+        if (!ofElement.has(element)) {
+            ofElement.set(element, element.pozhilData ? read.shift() : element.dataset.rawSrc);
+        }
+        return ofElement.get(element);
     }
 
     return {
@@ -36,10 +35,15 @@ var pozhilPictures = (() => {
             }
             return ofNumber.get(number);
         },
-        /// The file of an animated picture, which is an element of its own.
-        fileOfElement(element) {
-            lookAtElements();
-            return ofElement.get(element) ?? '';
+        /// Gives animated pictures, which are elements of their own, the names that `nameOf` has for their files.
+        nameElements(nameOf) {
+            for (const element of document.querySelectorAll('img.pozhil-input')) {
+                const file = fileOfElement(element);
+                const name = element.style.display === 'none' ? '' : nameOf(file);
+                if (element.getAttribute('alt') !== name) {
+                    element.alt = name;
+                }
+            }
         },
     };
 })();

@@ -26,6 +26,7 @@
     let hadDialog = false;
     /// Frames since something has happened or moved.
     let quietFrames = 0;
+    let pageBefore = '';
     /// What the last frame has drawn.
     let formerTexts = [];
     let formerShapes = new Float32Array(0);
@@ -68,10 +69,12 @@
         const isTime = clock() >= lastLook + Math.max(INTERVAL, PART_OF_TIME * cost);
         isLooking = isStale && (isUrgent || quietFrames >= QUIET || isTime);
         pozhilDrawing.watchMarks(isLooking);
+        pageBefore = isLooking ? pageName() : '';
     });
     pozhilFrames.after(() => {
         noticeMoves();
-        if (isLooking) {
+        // A frame in which the page is turned may show a part of either.
+        if (isLooking && pageName() === pageBefore) {
             look();
         }
     });
@@ -83,7 +86,7 @@
         marks.filter(({ kind }) => kind === 'picture').forEach(mark => { mark.file = pozhilPictures.fileOf(mark.radius); });
         const shownNotes = notesOfNow();
         mirror(pozhilShown.read(marks, shownNotes), marks);
-        nameAnimated(shownNotes);
+        pozhilPictures.nameElements(pozhilShown.pictureNames(shownNotes));
         lastLook = clock();
         cost = lastLook - begin;
         pressWaiting();
@@ -94,9 +97,11 @@
     let ccall = null;
     pozhilFrames.whenReady(() => { ({ ccall } = Module); });
 
+    const pageName = () => ccall('pozhil_page_name', 'string', [], []);
+
     function notesOfNow() {
         const shows = atFirst => name => ccall('pozhil_shows', 'number', ['string', 'number'], [name, atFirst]) !== 0;
-        return (notes[ccall('pozhil_page_name', 'string', [], [])] ?? []).filter(
+        return (notes[pageName()] ?? []).filter(
             ({ unlessHidden = [], onceShown = [] }) => unlessHidden.every(shows(1)) && onceShown.every(shows(0)));
     }
 
@@ -289,15 +294,6 @@
         });
     }
 
-    function nameAnimated(shownNotes) {
-        const nameOf = pozhilShown.pictureNames(shownNotes);
-        document.querySelectorAll('img.pozhil-input').forEach(element => {
-            if (element.style.display !== 'none') {
-                setAttribute(element, 'alt', nameOf(pozhilPictures.fileOfElement(element)));
-            }
-        });
-    }
-
     // --- dialogs ---
 
     let layers = [page];
@@ -319,7 +315,18 @@
         }
     }
 
+    let mirroredPage = null;
+
+    /// Whoever goes by the keyboard begins a page at its top.
+    function leadToTop() {
+        if (mirroredPage !== null && mirroredPage !== pageName() && page.contains(document.activeElement)) {
+            root.focus({ preventScroll: true });
+        }
+        mirroredPage = pageName();
+    }
+
     function mirror(shown, marks) {
+        leadToTop();
         addFields(shown, marks);
         nameFields([...shown.page, ...shown.dialogs]);
         const former = layers.length;

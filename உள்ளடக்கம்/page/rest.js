@@ -27,6 +27,29 @@
         isResting = false;
     }
 
+    /// The loop of the program, while it waits for the page to wake. A page at rest doesn't even ask the browser for frames.
+    let heldLoop = null;
+    let askForFrame = null;
+
+    pozhilFrames.atStart(() => {
+        askForFrame = Browser.requestAnimationFrame.bind(Browser);
+        Browser.requestAnimationFrame = loop => {
+            if (isResting) {
+                heldLoop = loop;
+            } else {
+                askForFrame(loop);
+            }
+        };
+    });
+
+    function goOn() {
+        if (heldLoop) {
+            const loop = heldLoop;
+            heldLoop = null;
+            askForFrame(loop);
+        }
+    }
+
     /// Whether the memory is as it was after one of the frames that were the same.
     function returns() {
         const look = sameFrames - FRAMES_TO_SETTLE;
@@ -47,6 +70,7 @@
     pozhilFrames.whenWoken(() => {
         beginAnew();
         isFresh = true;
+        goOn();
     });
     pozhilFrames.drawWhen(() => !isResting);
     pozhilFrames.before(() => {

@@ -14,16 +14,19 @@ export const here = path.dirname(fileURLToPath(import.meta.url));
 export const root = path.resolve(here, '../../..');
 export const examples = path.join(root, 'எடுத்துக்காட்டுகள்');
 
+/// The compiler of this repository, as the release build leaves it.
+export const staged = path.join(root, 'build/release/பொழில்/பொழி');
+
 const SOURCE = 'படங்கள்.பொழில்';
 const BUILD_TIME = 180_000;
 
 /// Calls `use` with a browser while the application `source` is served, which has the examples' assets beside it. It is built
 /// by the compiler that the command line names first, unless another is given.
-export async function withApplication(source, use, compilerPath = process.argv[2]) {
+export async function withApplication(source, use, compilerPath = process.argv[2] ?? staged) {
     const folder = mkdtempSync(path.join(tmpdir(), 'pozhil-pictures-'));
     cpSync(path.join(examples, 'assets'), path.join(folder, 'assets'), { recursive: true });
     writeFileSync(path.join(folder, SOURCE), source);
-    const compiler = spawn(compilerPath ?? path.join(root, 'build/release/பொழில்/பொழி'), [SOURCE],
+    const compiler = spawn(compilerPath, [SOURCE],
                            { cwd: folder, env: { ...process.env, BROWSER: 'none', POZHIL_ANIMATION_MS: '0' } });
     let output = '';
     compiler.stdout.on('data', text => { output += text; });

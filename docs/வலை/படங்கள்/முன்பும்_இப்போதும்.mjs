@@ -8,7 +8,7 @@ import { readFileSync, writeFileSync } from 'node:fs';
 import path from 'node:path';
 import { setTimeout as pause } from 'node:timers/promises';
 
-import { examples, here, openTab, withApplication } from './served.mjs';
+import { examples, here, openTab, staged, withApplication } from './served.mjs';
 
 const DESKTOP = { width: 1280, height: 800 };
 const PHONE = { width: 390, height: 844 };
@@ -40,13 +40,13 @@ const PICTURES = {
             await tap(tab, 190, 330);
             await keys(tab, 'கயல்விழி');
             await tap(tab, 190, 615);
-        }, part: { x: 0, y: 0, ...PHONE }, scale: 0.9 },
+        }, part: { x: 0, y: 90, width: 390, height: 640 }, scale: 0.9 },
         { device: 'கணினி', act: tab => keys(tab, 'Tab', 'கயல்விழி', 'Tab', 'கயல்@ஊர்', 'Tab', '9876543210', 'Tab', 'Enter'),
           part: { x: 380, y: 80, width: 520, height: 640 }, scale: 0.7 },
     ],
-    'கடை_நிலவரம்': [
-        { device: 'கைபேசி', act: tab => tap(tab, 305, 42), part: { x: 0, y: 0, ...PHONE }, scale: 0.9 },
-        { device: 'கணினி', act: tab => keys(tab, 'Tab', 'Enter', 'வெல்லம் 2 கிலோ', 'Tab'), part: { x: 0, y: 0, ...DESKTOP }, scale: 0.4 },
+    'ஓவியக்கூடம்': [
+        { device: 'கைபேசி', act: tab => tap(tab, 190, 300), part: { x: 0, y: 0, width: 390, height: 480 }, scale: 1.2 },
+        { device: 'கணினி', act: tab => keys(tab, 'Tab', 'Tab', 'Enter'), part: { x: 0, y: 0, ...DESKTOP }, scale: 0.4 },
     ],
 };
 
@@ -103,5 +103,5 @@ for (const [example, pictures] of Object.entries(PICTURES)) {
             writeFileSync(path.join(here, `முன்பு_${example}_${picture.device}.png`),
                           await sideBySide(browser, images[place], picture));
         }
-    }, process.argv[3]);
+    }, process.argv[3] ?? staged);
 }
