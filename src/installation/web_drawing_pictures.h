@@ -81,7 +81,7 @@ int nvgCreateImageRGBA(NVGcontext* context, int width, int height, int flags, co
 
 #pragma weak nsvgParseFromFile
 NSVGimage* nsvgParseFromFile(const char* file, const char* units, float dpi) {
-    snprintf(drawing.file, sizeof drawing.file, "%s", file);
+    strncpy(drawing.file, file, sizeof drawing.file - 1);
     return pozhilParseFromFile(file, units, dpi);
 }
 

@@ -33,7 +33,7 @@ async function tap(tab, x, y) {
 const PICTURES = {
     'காட்சியகம்': [
         { device: 'கைபேசி', act: () => {}, part: { x: 0, y: 60, width: 240, height: 240 }, scale: 2 },
-        { device: 'கணினி', act: tab => keys(tab, 'Tab', 'Tab', 'Tab'), part: { x: 80, y: 0, width: 760, height: 520 }, scale: 0.7 },
+        { device: 'கணினி', act: tab => keys(tab, 'Tab', 'Tab'), part: { x: 80, y: 0, width: 760, height: 520 }, scale: 0.7 },
     ],
     'பதிவுப்_படிவம்': [
         { device: 'கைபேசி', act: async tab => {
@@ -45,7 +45,7 @@ const PICTURES = {
           part: { x: 380, y: 80, width: 520, height: 640 }, scale: 0.7 },
     ],
     'ஓவியக்கூடம்': [
-        { device: 'கைபேசி', act: tab => tap(tab, 190, 300), part: { x: 0, y: 0, width: 390, height: 480 }, scale: 1.2 },
+        { device: 'கைபேசி', act: tab => tap(tab, 190, 300), part: { x: 100, y: 280, width: 250, height: 180 }, scale: 2 },
         { device: 'கணினி', act: tab => keys(tab, 'Tab', 'Tab', 'Enter'), part: { x: 0, y: 0, ...DESKTOP }, scale: 0.4 },
     ],
 };
