@@ -291,7 +291,7 @@ var pozhilShown = (() => {
     /// Calls each picture what is noted of its file. Of one that only adorns nothing is noted, or that it has no name.
     function pictureNames(notes) {
         const names = new Map();
-        for (const { file, name } of notes) {
+        for (const { file, name } of notes.filter(noted => noted.file)) {
             names.set(file, [...names.get(file) ?? [], name]);
         }
         return file => {
