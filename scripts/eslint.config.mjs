@@ -33,9 +33,9 @@ const PAGE = readonly(['CanvasRenderingContext2D', 'Event', 'FS', 'FontFace', 'H
     'location', 'navigator', 'requestAnimationFrame', 'sessionStorage', 'structuredClone', 'visualViewport', 'window']);
 // What scripts of a page use beside: of the browser, of what em++ makes, and of each other.
 const PAGE_SCRIPTS = {
-    ...readonly(['ErrorEvent', 'GLFW', 'HEAP32', 'HEAPF32', 'HTMLImageElement', 'HTMLScriptElement', 'TextDecoder',
-        'WebAssembly', 'pozhilDrawing', 'pozhilFrames', 'pozhilLoading', 'pozhilPictures', 'pozhilPointer',
-        'pozhilShown']),
+    ...readonly(['Browser', 'ErrorEvent', 'GLFW', 'HEAP32', 'HEAPF32', 'HTMLImageElement', 'HTMLScriptElement',
+        'TextDecoder', 'UTF8ToString', 'WebAssembly', 'abort', 'pozhilDrawing', 'pozhilFrames', 'pozhilLoading',
+        'pozhilPictures', 'pozhilPointer', 'pozhilShown']),
     currentVersion: 'writable',
 };
 
