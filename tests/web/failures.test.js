@@ -25,6 +25,8 @@ webTest('a browser without WebAssembly is told so', plain, { open: false }, asyn
 webTest('a missing program is told, under the title of the page', application('', {
     header: 'இணைய_தலைப்பு: "என் தளம்"' }), { open: false }, async page => {
     await page.page.route('**/index.js', route => route.fulfill({ status: 404 }));
+    // Else the page would load itself anew while it is read.
+    await page.page.route('**/version*', route => route.abort());
     await page.visit(page.address);
     assert.match(await failureOf(page), /^நிரல் கிடைக்கவில்லை\./);
     assert.equal(await page.page.textContent('#pozhil-title'), 'என் தளம்');
