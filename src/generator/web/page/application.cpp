@@ -1,5 +1,6 @@
 #include "generator/web/page/application.h"
 
+#include "generator/web/write/literals.h"
 #include "generator/web/write/widget_properties.h"
 #include "language/widget_words.h"
 
@@ -109,8 +110,8 @@ Application readApplication(const Program& program) {
 }
 
 std::string pageName(const WebAppNode& app) {
-    const StringLiteral* name = nameOf(app);
-    return name == nullptr ? "home" : name->value;
+    const WidgetNode* header = headerOf(app);
+    return header == nullptr ? "home" : pageNameIn(*header);
 }
 
 } // namespace pozhil

@@ -74,11 +74,7 @@ std::string pictureName(const WidgetNode& picture, const std::string& file) {
 
 /// Whether \p widget is a page within the page \p shown that is never drawn there, since it has another name.
 bool isHiddenPage(const WidgetNode& widget, const std::string& shown) {
-    if (widget.kind != language::widget::PAGE) {
-        return false;
-    }
-    const auto* name = nodeCast<StringLiteral>(findProperty(widget, {"பக்கம்"}));
-    return shown != (name == nullptr ? "home" : name->value);
+    return widget.kind == language::widget::PAGE && pageNameIn(widget) != shown;
 }
 
 /// The walk over one page in the order of drawing.

@@ -1,4 +1,5 @@
 #include "generator/web/measure/metric_rules.h"
+#include "generator/web/write/literals.h"
 #include "generator/web/write/widget_writer.h"
 #include "language/widget_words.h"
 
@@ -7,7 +8,6 @@ namespace {
 
 /// பக்கம் inside a page: drawn while it is the page being shown.
 void emitNestedPage(WidgetWriter& page) {
-    const auto* name = nodeCast<StringLiteral>(findProperty(page.widget(), {"பக்கம்"}));
     const Filling children = page.blocks([&] {
         page.eachChild(childWidgets(page.widget()),
                        [&](const WidgetNode& child) { page.child(child, "0.0f", "0.0f"); });
@@ -22,7 +22,7 @@ if (g_currentPage == "$name") {
     $children
 }
 )",
-               {{"name", name == nullptr ? "home" : name->value}, {"children", children}});
+               {{"name", pageNameIn(page.widget())}, {"children", children}});
 }
 
 } // namespace

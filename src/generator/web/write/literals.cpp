@@ -11,6 +11,11 @@ std::string textOf(const Expression* value) {
     return text == nullptr ? "" : text->value;
 }
 
+std::string pageNameIn(const WidgetNode& widget) {
+    const auto* name = nodeCast<StringLiteral>(findProperty(widget, {"பக்கம்"}));
+    return name == nullptr ? "home" : name->value;
+}
+
 std::string pictureFile(const WidgetNode& picture) {
     const auto* path = nodeCast<StringLiteral>(findProperty(picture, {"பாதை"}));
     return path == nullptr ? "logo.png" : path->value;

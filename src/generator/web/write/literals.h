@@ -14,6 +14,9 @@ namespace pozhil {
 /// A text; empty for anything else.
 std::string textOf(const Expression* value);
 
+/// The name that a page's header, or a page within a page, gives it; "home" if it gives none.
+std::string pageNameIn(const WidgetNode& widget);
+
 /// The file of a picture.
 std::string pictureFile(const WidgetNode& picture);
 
