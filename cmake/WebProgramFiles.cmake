@@ -19,8 +19,9 @@ if(NOT POZHIL_EMXX OR NOT POZHIL_STB OR NOT EXISTS ${nanovg}/nanovg.c OR NOT EXI
 endif()
 
 # The compiler builds web programs with the same: without it, a program that throws ends even where it would catch. The
-# other kind of exceptions, by JavaScript, takes three times as long in programs that aren't optimised.
-set(exceptions -fwasm-exceptions)
+# other kind of exceptions, by JavaScript, takes three times as long in programs that aren't optimised. All objects of a
+# program must mean the same by std::function.
+set(program_flags -fwasm-exceptions -D_LIBCPP_ABI_OPTIMIZED_FUNCTION)
 set(web_parts ${PROJECT_BINARY_DIR}/generated)
 
 # add_web_program_file(<output> <source> <argument>...): compiles with em++ and tracks what the source includes. em++
@@ -29,7 +30,7 @@ function(add_web_program_file output source)
     add_custom_command(
         OUTPUT ${output}
         COMMAND sh -c "source=$1 && shift && exec \"$@\" <\"$source\"" sh ${source}
-                ${POZHIL_EMXX} -c ${ARGN} - -o ${output} ${exceptions} -MD -MF ${output}.d
+                ${POZHIL_EMXX} -c ${ARGN} - -o ${output} ${program_flags} -MD -MF ${output}.d
         DEPENDS ${source}
         DEPFILE ${output}.d
         COMMENT "Compiling ${output}"
@@ -94,7 +95,7 @@ add_web_program_file(
     ${web_page_state} ${PROJECT_SOURCE_DIR}/src/installation/web_page_state.cpp -x c++ -O2 -std=c++17)
 add_custom_command(
     OUTPUT ${web_reporter_object}
-    COMMAND ${POZHIL_EMXX} -c -x none ${web_precompiled_headers} -o ${web_headers_code} -O2 ${exceptions}
+    COMMAND ${POZHIL_EMXX} -c -x none ${web_precompiled_headers} -o ${web_headers_code} -O2 ${program_flags}
     COMMAND ${POZHIL_EMXX} -r -nostdlib ${web_reporter} ${web_page_state} ${web_headers_code} -o ${web_reporter_object}
     DEPENDS ${web_reporter} ${web_page_state} ${web_precompiled_headers}
     BYPRODUCTS ${web_headers_code}

@@ -14,8 +14,11 @@ namespace fs = std::filesystem;
 /// Generated programs catch exceptions, which em++ leaves out unless told otherwise. The objects of the installation are
 /// compiled with the same (cmake/WebProgramFiles.cmake).
 ///
+/// Of the two kinds of std::function that the library of em++ has, this one takes a part of the time to compile; every
+/// handler of a page is one.
+///
 /// Widgets inside each other become brackets inside each other, several for each: far more than em++ takes by itself.
-constexpr const char* COMPILER_FLAGS = "-fwasm-exceptions -fbracket-depth=16384";
+constexpr const char* COMPILER_FLAGS = "-fwasm-exceptions -D_LIBCPP_ABI_OPTIMIZED_FUNCTION -fbracket-depth=16384";
 
 bool pathExists(const fs::path& path) {
     std::error_code ignored;
