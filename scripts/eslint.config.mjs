@@ -33,9 +33,11 @@ const PAGE = readonly(['CanvasRenderingContext2D', 'Event', 'FS', 'FontFace', 'H
     'location', 'navigator', 'requestAnimationFrame', 'sessionStorage', 'structuredClone', 'visualViewport', 'window']);
 // What scripts of a page use beside: of the browser, of what em++ makes, and of each other.
 const PAGE_SCRIPTS = {
-    ...readonly(['Browser', 'ErrorEvent', 'GLFW', 'HEAP32', 'HEAPF32', 'HTMLImageElement', 'HTMLScriptElement',
-        'TextDecoder', 'UTF8ToString', 'WebAssembly', 'abort', 'pozhilDrawing', 'pozhilFrames', 'pozhilLoading',
-        'pozhilPictures', 'pozhilPointer', 'pozhilShown']),
+    ...readonly(['Browser', 'ErrorEvent', 'GL', 'GLFW', 'HEAP32', 'HEAPF32', 'HEAPU8', 'HTMLCanvasElement',
+        'HTMLImageElement', 'HTMLScriptElement', 'TextDecoder', 'WebAssembly', 'abort', 'pozhilDrawing',
+        'pozhilFrames', 'pozhilLoading', 'pozhilPictures', 'pozhilPointer', 'pozhilShown', 'pozhilTextCanvas',
+        'pozhilWidths']),
+    UTF8ToString: 'writable',
     currentVersion: 'writable',
 };
 

@@ -3,7 +3,7 @@
  * program has the code too, so what both would define gives way here. */
 
 /* What is drawn is noted down on the way, for the page: by the shapes of a frame it tells those who can't see them what
- * stands where. */
+ * stands where. What nobody can see is noted down alone. */
 #define nvgBeginFrame pozhilBeginFrame
 #define nvgRect pozhilRect
 #define nvgRoundedRect pozhilRoundedRect
@@ -13,6 +13,8 @@
 #define nvgFillPaint pozhilFillPaint
 #define nvgCreateImage pozhilCreateImage
 #define nvgCreateImageRGBA pozhilCreateImageRGBA
+#define nvgFill pozhilFill
+#define nvgStroke pozhilStroke
 #include "nanovg.c"
 #undef nvgBeginFrame
 #undef nvgRect
@@ -23,6 +25,10 @@
 #undef nvgFillPaint
 #undef nvgCreateImage
 #undef nvgCreateImageRGBA
+#undef nvgFill
+#undef nvgStroke
+
+#include "web_drawing_window.h"
 
 #include <emscripten.h>
 
@@ -70,6 +76,8 @@ static void note(struct Shape shape) {
 void nvgBeginFrame(NVGcontext* context, float width, float height, float ratio) {
     shapes.count = 0;
     screen_ratio = ratio;
+    window.width = width;
+    window.height = height;
     pozhilBeginFrame(context, width, height, ratio);
 }
 
@@ -105,6 +113,18 @@ void nvgFillPaint(NVGcontext* context, NVGpaint paint) {
                             (float)paint.image});
     }
     pozhilFillPaint(context, paint);
+}
+
+void nvgFill(NVGcontext* context) {
+    if (isPathInWindow(context, fillReach(context))) {
+        pozhilFill(context);
+    }
+}
+
+void nvgStroke(NVGcontext* context) {
+    if (isPathInWindow(context, strokeReach(context))) {
+        pozhilStroke(context);
+    }
 }
 
 #pragma weak nsvgParse

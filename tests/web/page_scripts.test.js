@@ -3,6 +3,7 @@
 import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
 import { test } from 'node:test';
+import { TextDecoder, TextEncoder } from 'node:util';
 import vm from 'node:vm';
 
 const PAGE = new URL('../../உள்ளடக்கம்/page/', import.meta.url);
@@ -262,6 +263,117 @@ test('frames are compared only while nothing happens', () => {
     tab.send('wheel', {});
     tab.frame(16);
     assert.equal(drawn.isWatched, false);
+});
+
+/// A page whose program holds texts as bytes; `put` writes one there, `reads` counts those that were read anew.
+function readingPage() {
+    const tab = page('frames');
+    tab.HEAPU8 = new Uint8Array(4096);
+    tab.reads = 0;
+    tab.UTF8ToString = (begin, most = Infinity) => {
+        tab.reads++;
+        const end = Math.min(tab.HEAPU8.indexOf(0, begin), begin + most);
+        return begin ? new TextDecoder().decode(tab.HEAPU8.subarray(begin, end)) : '';
+    };
+    tab.put = (begin, text) => {
+        const bytes = new TextEncoder().encode(text);
+        tab.HEAPU8.set([...bytes, 0], begin);
+    };
+    tab.load('letters');
+    tab.pozhilFrames.hooks.preRun.forEach(start => start());
+    return tab;
+}
+
+test('a text of the program that comes again isn\'t read again, wherever it stands', () => {
+    const tab = readingPage();
+    tab.put(8, 'தமிழ்');
+    tab.put(800, 'தமிழ்');
+    for (const begin of [8, 800, 8]) {
+        assert.equal(tab.UTF8ToString(begin), 'தமிழ்');
+    }
+    assert.equal(tab.reads, 1);
+});
+
+test('another text in the place of one is another, however alike', () => {
+    const tab = readingPage();
+    for (const text of ['வரி 1', 'வரி 2', 'வரி 1', 'வரி', 'வரி 12', '', 'அ'.repeat(300), 'அ'.repeat(299) + 'ஆ']) {
+        tab.put(8, text);
+        assert.equal(tab.UTF8ToString(8), text);
+    }
+    // More of them than can be remembered, so that some take the places of others.
+    for (const round of [0, 1]) {
+        for (let number = 0; number < 30000; number++) {
+            tab.put(8, `${number}`);
+            assert.equal(tab.UTF8ToString(8), `${number}`, `round ${round}`);
+        }
+    }
+});
+
+test('what is asked for in another way is read as ever, and so is what comes after the memory has grown', () => {
+    const tab = readingPage();
+    tab.put(8, 'abc');
+    assert.deepEqual([tab.UTF8ToString(8, 2), tab.UTF8ToString(8), tab.UTF8ToString(0)], ['ab', 'abc', '']);
+    const grown = new Uint8Array(8192);
+    grown.set(tab.HEAPU8);
+    tab.HEAPU8 = grown;
+    tab.put(5000, 'வளர்');
+    assert.deepEqual([tab.UTF8ToString(8), tab.UTF8ToString(5000)], ['abc', 'வளர்']);
+});
+
+/// A page with the script that remembers widths; `measured(text)` tells whether the browser was asked anew.
+function measuringPage() {
+    const tab = page('frames');
+    const listeners = [];
+    Object.assign(tab.document.fonts, {
+        size: 1, status: 'loaded', delete() {}, clear() {},
+        addEventListener: (type, listener) => { listeners.push([type, listener]); },
+    });
+    tab.tell = type => listeners.filter(([wanted]) => wanted === type).forEach(([, listener]) => listener());
+    tab.load('text_widths');
+    tab.measured = (text, font = '16px serif') => {
+        let count = 0;
+        tab.pozhilWidths.of(font, text, () => ({ width: ++count }));
+        return count > 0;
+    };
+    tab.frame(16);
+    return tab;
+}
+
+test('a text is measured once in each font', () => {
+    const tab = measuringPage();
+    const asked = [['அ'], ['அ'], ['ஆ'], ['அ', '17px serif'], ['அ']].map(([text, font]) => tab.measured(text, font));
+    tab.frame(16);
+    assert.deepEqual([...asked, tab.measured('அ')], [true, false, true, true, false, false]);
+});
+
+test('all are measured anew when the fonts or the screen change', () => {
+    const CHANGES = {
+        'a font is added': tab => tab.document.fonts.add({}),
+        'a font is taken away': tab => tab.document.fonts.delete({}),
+        'all are taken away': tab => tab.document.fonts.clear(),
+        'a font has come': tab => tab.tell('loadingdone'),
+        'a style names more fonts': tab => { tab.document.fonts.size++; tab.frame(16); },
+        'the page is zoomed': tab => { tab.devicePixelRatio = 1.25; tab.frame(16); },
+    };
+    for (const [change, make] of Object.entries(CHANGES)) {
+        const tab = measuringPage();
+        tab.measured('அ');
+        make(tab);
+        assert.ok(tab.measured('அ'), change);
+        assert.ok(!tab.measured('அ'), change);
+    }
+});
+
+test('while fonts are on their way nothing is remembered beyond a frame', () => {
+    const tab = measuringPage();
+    tab.document.fonts.status = 'loading';
+    for (let frame = 0; frame < 3; frame++) {
+        tab.frame(16);
+        assert.ok(tab.measured('அ'));
+    }
+    tab.document.fonts.status = 'loaded';
+    tab.frame(16);
+    assert.deepEqual([tab.measured('அ'), tab.measured('அ')], [true, false]);
 });
 
 test('without a size nothing is drawn', () => {

@@ -81,32 +81,24 @@ var pozhilDrawing = (() => {
 
     // --- texts and paints ---
 
-    function watchTexts(context) {
-        const { clearRect, fillRect, fillText } = context;
-        // A dialog dims the page; a message clears its place of texts.
-        context.fillRect = function (...area) {
-            noteThat('dim');
-            return fillRect.apply(this, area);
-        };
-        context.clearRect = function (left, top, ...size) {
-            if (left !== 0 || top !== 0) {
-                noteThat('message');
-            }
-            return clearRect.call(this, left, top, ...size);
-        };
-        context.fillText = function (text, left, top, ...more) {
-            texts.push(text, left, top);
-            if (isNoting) {
-                const { font, textAlign: align, fillStyle: colour } = this;
-                noteThat('text', { text, x: left, y: top, font, size: parseFloat(font.match(SIZE_IN_FONT)[1]), align, colour });
-            }
-            if (isSumming) {
-                addText(text + this.font + this.fillStyle + this.textAlign);
-                [left, top, this.globalAlpha].forEach(addNumber);
-            }
-            return fillText.call(this, text, left, top, ...more);
-        };
-    }
+    // A dialog dims the page; a message clears its place of texts.
+    pozhilTextCanvas.watch('fillRect', () => noteThat('dim'));
+    pozhilTextCanvas.watch('clearRect', (left, top) => {
+        if (left !== 0 || top !== 0) {
+            noteThat('message');
+        }
+    });
+    pozhilTextCanvas.watch('fillText', function (text, left, top) {
+        texts.push(text, left, top);
+        if (isNoting) {
+            const { font, textAlign: align, fillStyle: colour } = this;
+            noteThat('text', { text, x: left, y: top, font, size: parseFloat(font.match(SIZE_IN_FONT)[1]), align, colour });
+        }
+        if (isSumming) {
+            addText(text + this.font + this.fillStyle + this.textAlign);
+            [left, top, this.globalAlpha].forEach(addNumber);
+        }
+    });
 
     /// Shapes come as corners and paints.
     function watchShapes(context) {
@@ -144,11 +136,9 @@ var pozhilDrawing = (() => {
 
     let watched = null;
     pozhilFrames.before(() => {
-        const canvas = document.getElementById('textCanvas');
-        if (canvas && canvas !== watched) {
-            watched = canvas;
-            watchTexts(canvas.getContext('2d'));
-            watchShapes(Module.ctx);
+        if (watched !== Module.ctx) {
+            watched = Module.ctx;
+            watchShapes(watched);
         }
         [formerTexts, texts] = [texts, []];
         sum = 0;

@@ -14,23 +14,16 @@
     let under = new Map();
     let corners = [];
 
-    /// A dialog dims the whole page and then cuts out its own place. All fields drawn before lie under it.
-    function watchDialogs(context) {
-        const { fillRect, quadraticCurveTo } = context;
-        context.fillRect = function (...area) {
-            corners = [];
-            fields().forEach(field => {
-                if (field.dataset.touched === '1') {
-                    under.set(field, [...under.get(field) ?? [], corners]);
-                }
-            });
-            return fillRect.apply(this, area);
-        };
-        context.quadraticCurveTo = function (...curve) {
-            corners.push(curve);
-            return quadraticCurveTo.apply(this, curve);
-        };
-    }
+    // A dialog dims the whole page and then cuts out its own place. All fields drawn before lie under it.
+    pozhilTextCanvas.watch('fillRect', () => {
+        corners = [];
+        fields().forEach(field => {
+            if (field.dataset.touched === '1') {
+                under.set(field, [...under.get(field) ?? [], corners]);
+            }
+        });
+    });
+    pozhilTextCanvas.watch('quadraticCurveTo', (...curve) => { corners.push(curve); });
 
     function overlaps(field, dialog) {
         const { left, right, top, bottom } = field.getBoundingClientRect();
@@ -54,14 +47,6 @@
         under.clear();
     }
 
-    let watched = null;
-    pozhilFrames.before(() => {
-        const canvas = document.getElementById('textCanvas');
-        if (canvas && canvas !== watched) {
-            watched = canvas;
-            watchDialogs(canvas.getContext('2d'));
-        }
-    });
     pozhilFrames.after(cover);
 
     // --- in the window ---

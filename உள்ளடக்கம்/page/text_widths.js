@@ -1,0 +1,53 @@
+// Programs measure the same texts in each frame, most of them twice. A text is as wide as it was while fonts and screen are
+// what they were.
+var pozhilWidths = (() => {
+    const MOST = 20000;
+
+    /// By font, what the browser has measured: its answers by text.
+    let known = new Map();
+    let count = 0;
+    let surroundings = '';
+
+    function forget() {
+        known = new Map();
+        count = 0;
+    }
+
+    /// What `measure()` tells of a text in a font.
+    function of(font, text, measure) {
+        let answers = known.get(font);
+        if (answers === undefined) {
+            answers = new Map();
+            known.set(font, answers);
+        }
+        let answer = answers.get(text);
+        if (answer === undefined) {
+            answer = measure();
+            answers.set(text, answer);
+            count++;
+        }
+        return answer;
+    }
+
+    pozhilFrames.before(() => {
+        const { size, status } = document.fonts;
+        const now = `${window.devicePixelRatio} ${size} ${status}`;
+        // Of fonts on their way the browser doesn't tell at once that they are there.
+        if (now !== surroundings || status === 'loading' || count > MOST) {
+            surroundings = now;
+            forget();
+        }
+    });
+    for (const happening of ['loading', 'loadingdone', 'loadingerror']) {
+        document.fonts.addEventListener(happening, forget);
+    }
+    for (const method of ['add', 'delete', 'clear']) {
+        const change = document.fonts[method];
+        document.fonts[method] = function (...faces) {
+            forget();
+            return change.apply(this, faces);
+        };
+    }
+
+    return { of };
+})();
