@@ -6,6 +6,7 @@ import os
 import shutil
 import signal
 import stat
+import struct
 
 import pytest
 
@@ -17,6 +18,8 @@ SOURCE = "செயலி.பொழில்"
 SITE = "செயலி_தளம்"
 APPLICATION = 'வலைதளம் தளம்(\n    தலைமை(இணைய_தலைப்பு: "என் தளம்")\n    குமரி(உரை("வணக்கம்"))\n    வரையறை()\n)\n'
 MARKER = "pozhil-site.txt"
+MEASURED = "assets/font/Coiny-Regular.ttf"
+DRAWN = "assets/font/Tamil-Regular.ttf"
 MADE = ["index.data", "index.html", "index.js", "index.wasm"]
 
 OK, FAULT, WRONG_USE, FAILED = 0, 1, 2, 3
@@ -41,6 +44,21 @@ def publish(place, command):
     def publish_with(*arguments, **settings):
         return run([command, *arguments], cwd=place.folder, env=place.env, **settings)
     return publish_with
+
+
+def font(outline):
+    """The least that is a font, of one letter with this outline."""
+    tables = {
+        b"cmap": b"", b"glyf": struct.pack(">hhhhh", 1, 0, 0, 500, 700) + outline,
+        b"head": struct.pack(">12xL34xHxx", 0x5F0F3CF5, 1), b"hhea": struct.pack(">34xH", 1),
+        b"hmtx": bytes(4), b"loca": struct.pack(">LL", 0, 10 + len(outline)), b"maxp": struct.pack(">4xH", 1),
+        b"name": struct.pack(">HHH", 0, 0, 6),
+    }
+    rows, contents = b"", b""
+    for tag, table in tables.items():
+        rows += struct.pack(">4sLLL", tag, 0, 12 + 16 * len(tables) + len(contents), len(table))
+        contents += table
+    return struct.pack(">LH6x", 1 << 16, len(tables)) + rows + contents
 
 
 def names(folder):
@@ -146,6 +164,62 @@ def test_licences_of_fonts_come_along(place, publish):
     place.write("assets/OFL.txt", "இலவசம்")
     assert publish("வெளியிடு", SOURCE).status == OK
     assert "இலவசம்" in (place.folder / SITE / "licences.txt").read_text()
+
+
+@pytest.fixture
+def publish_with_fonts(place, publish, tools):
+    """Publishes an application with these files. Tells which files em++ was to pack, in their order, and what each of
+    those held that has a place of its own."""
+    def publish_files(files, source=APPLICATION):
+        (place.folder / "assets/font").mkdir(parents=True)
+        for name, contents in files.items():
+            (place.folder / name).write_bytes(contents)
+        place.write(SOURCE, source)
+        packed = place.folder.parent / "packed"
+        tools.stands_in_for("em++", f"""for file in "$@"; do case $file in *@*) cp "${{file%%@*}}" {packed} ;; esac; done
+for kind in js wasm data; do echo $kind > "${{out%.js}}.$kind"; done""")
+        result = publish("வெளியிடு", SOURCE)
+        assert (result.status, result.err) == (OK, "")
+        (call,) = tools.calls("em++")
+        places = [call[i + 1] for i, word in enumerate(call) if word == "--preload-file"]
+        return [name.rpartition("@")[2] for name in places], packed.read_bytes() if packed.exists() else None
+    return publish_files
+
+
+def test_font_that_is_only_measured_is_packed_without_its_outlines(place, publish_with_fonts):
+    whole = font(b"outline")
+    places, packed = publish_with_fonts({MEASURED: whole, DRAWN: font(b"drawn")})
+    # em++ takes the first that is for a place.
+    assert places == [MEASURED, "assets"]
+    assert b"outline" not in packed
+    assert struct.pack(">hhhhh", 0, 0, 0, 500, 700) in packed
+    licences = (place.folder / SITE / "licences.txt").read_text()
+    assert licences.index(MEASURED) < licences.index("மாற்றப்பட்டது") < licences.index(DRAWN)
+    assert (place.folder / MEASURED).read_bytes() == whole
+    nothing_left(place, "assets", SITE)
+
+
+@pytest.mark.parametrize("files, source", [
+    ({MEASURED: font(b"outline")}, APPLICATION),
+    ({MEASURED: font(b"outline")[:-1], DRAWN: font(b"drawn")}, APPLICATION),
+    ({MEASURED: font(b"outline"), DRAWN: font(b"drawn")},
+     APPLICATION.replace('உரை("வணக்கம்")', f'உரை("வணக்கம்", உரைபாணி(எழுத்துரு: "{MEASURED}"))')),
+], ids=["pages draw with it", "it is no font", "a text is drawn with it"])
+def test_font_is_packed_as_it_is(place, publish_with_fonts, files, source):
+    assert publish_with_fonts(files, source) == (["assets"], None)
+    assert "மாற்றப்பட்டது" not in (place.folder / SITE / "licences.txt").read_text()
+
+
+def test_folder_with_a_sign_of_em(place, publish, tools):
+    """Where "@" stands in a path, em++ would take what follows for the place in the page."""
+    (place.folder / "assets/font").mkdir(parents=True)
+    for name in (MEASURED, DRAWN):
+        (place.folder / name).write_bytes(font(b"outline"))
+    assert publish("வெளியிடு", SOURCE, "--அடைவு", "நான்@வீடு/தளம்").status == OK
+    (call,) = tools.calls("em++")
+    packed = call[call.index("--preload-file") + 1]
+    assert "/நான்@@வீடு/.pozhil-" in packed
+    assert packed.endswith(f"@{MEASURED}")
 
 
 def test_own_folder_is_replaced(place, publish, tools):

@@ -1,53 +1,13 @@
 #include "tools/publish/font_licence.h"
 
 #include "base/utf8.h"
+#include "tools/publish/font_tables.h"
 
 #include <cstddef>
 #include <cstdint>
 
 namespace pozhil::tools {
 namespace {
-
-/// Numbers of a font have their highest byte first. What lies beyond the end is zero.
-std::uint32_t numberAt(std::string_view bytes, std::size_t place, std::size_t length) {
-    std::uint32_t number = 0;
-    for (std::size_t i = 0; i < length; ++i) {
-        const auto byte = place + i < bytes.size() ? static_cast<unsigned char>(bytes[place + i]) : 0U;
-        number = number << 8U | byte;
-    }
-    return number;
-}
-
-std::uint32_t shortAt(std::string_view bytes, std::size_t place) {
-    return numberAt(bytes, place, 2);
-}
-
-std::uint32_t longAt(std::string_view bytes, std::size_t place) {
-    return numberAt(bytes, place, 4);
-}
-
-std::string_view part(std::string_view bytes, std::size_t begin, std::size_t length = std::string_view::npos) {
-    return begin <= bytes.size() ? bytes.substr(begin, length) : std::string_view();
-}
-
-bool isFont(std::string_view bytes) {
-    constexpr std::string_view TRUE_TYPE{"\0\1\0\0", 4};
-    const std::string_view kind = bytes.substr(0, TRUE_TYPE.size());
-    return kind == TRUE_TYPE || kind == "OTTO" || kind == "true";
-}
-
-std::string_view tableOf(std::string_view font, std::string_view tag) {
-    constexpr std::size_t HEAD_BYTES = 12;
-    constexpr std::size_t ROW_BYTES = 16;
-    const std::size_t count = shortAt(font, 4);
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::string_view row = part(font, HEAD_BYTES + i * ROW_BYTES, ROW_BYTES);
-        if (row.substr(0, tag.size()) == tag) {
-            return part(font, longAt(row, 8), longAt(row, 12));
-        }
-    }
-    return {};
-}
 
 /// Text in units of two bytes. Pairs of them, for rare signs, become a question mark.
 std::string wideText(std::string_view bytes) {

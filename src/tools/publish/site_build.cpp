@@ -1,5 +1,6 @@
 #include "tools/publish/site_build.h"
 
+#include "base/text.h"
 #include "base/whole_file.h"
 #include "driver/output_stage.h"
 #include "driver/refusal_report.h"
@@ -13,6 +14,7 @@
 #include "tools/publish/compression.h"
 #include "tools/publish/licences.h"
 #include "tools/publish/messages.h"
+#include "tools/publish/packed_fonts.h"
 #include "tools/publish/tidying.h"
 
 #include <fstream>
@@ -54,15 +56,26 @@ bool tidyScript(const fs::path& file) {
     return script && write(file, tidiedScript(std::move(*script)));
 }
 
-BuildResult compileProgram(const ParsedSource& source, const OutputText& output, const Application& application,
-                           const fs::path& workFolder, const fs::path& folder) {
+/// What em++ packs. Of two files for the same place it takes the first.
+std::vector<std::string> packingOf(const Application& application, const fs::path& measuredFont) {
+    std::vector<std::string> packing = packingArguments(application);
+    if (!measuredFont.empty()) {
+        std::string file = measuredFont.u8string();
+        replaceAll(file, "@", "@@");
+        packing.insert(packing.begin(), {"--preload-file", file + "@" + MEASURED_FONT});
+    }
+    return packing;
+}
+
+BuildResult compileProgram(const ParsedSource& source, const OutputText& output,
+                           const std::vector<std::string>& packing, const fs::path& workFolder,
+                           const fs::path& folder) {
     const fs::path text = workFolder / "வலை_வெளியீடு.cpp";
     if (!writeOutput(text, output.text)) {
         return BuildResult::Failed;
     }
     const WebCompiler compiler(platform::executableDirectory(), text, folder);
-    const platform::CommandResult compiled =
-        platform::captureCommand(compiler.command(packingArguments(application), {}, optimisation()));
+    const platform::CommandResult compiled = platform::captureCommand(compiler.command(packing, {}, optimisation()));
     if (compiled.status == 0) {
         return BuildResult::Done;
     }
@@ -84,12 +97,18 @@ BuildResult buildSite(const ParsedSource& source, const OutputText& output, cons
         return BuildResult::Failed;
     }
     printStep("தொகுக்கப்படுகிறது; சில வினாடிகள் ஆகும்");
-    const BuildResult compiled = compileProgram(source, output, application, workFolder, folder);
+    const auto measuredFont = packedMeasuredFont(output.text);
+    const fs::path fontFile = measuredFont ? workFolder / "measured.ttf" : fs::path();
+    if (measuredFont && !write(fontFile, *measuredFont)) {
+        printUnfinished(folder);
+        return BuildResult::Failed;
+    }
+    const BuildResult compiled = compileProgram(source, output, packingOf(application, fontFile), workFolder, folder);
     if (compiled != BuildResult::Done) {
         return compiled;
     }
     printStep("சுருக்கப்படுகிறது");
-    const std::string licences = licencesOf(applicationFiles(application));
+    const std::string licences = licencesOf(applicationFiles(application), measuredFont ? MEASURED_FONT : "");
     const bool isWritten = write(folder / "index.html", *page) && tidyScript(folder / "index.js") &&
                            (licences.empty() || write(folder / "licences.txt", licences)) && compressFiles(folder);
     if (!isWritten) {
