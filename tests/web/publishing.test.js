@@ -1,0 +1,54 @@
+// What publishing leaves out of files, nobody sees.
+
+import { application, assert, webTest } from './harness/index.js';
+import * as examples from './harness/examples.js';
+
+const MEASURED = 'assets/font/Coiny-Regular.ttf';
+const DRAWN = 'assets/font/Tamil-Regular.ttf';
+
+const files = examples.files();
+
+// Bold and light, with letters that stand near to each other, go below the line, or aren't in the font.
+const LABELS = ['வணக்கம்', 'AVATo Wy', 'கொடுங்கோல்', 'ஸ்ரீ ksha', '…!', ' ', '漢字', 'ஔடதம் 12,50'];
+const buttons = LABELS.flatMap((label, i) => ['400', '20', '700'].map(weight =>
+    `பொத்தான்(உரை("${label}", உரைபாணி(அளவு: ${14 + 7 * i}, தடிமன்: "${weight}")), அழுத்தினால்: () => கூட்டு_செய்())`));
+const source = application(`
+        மடிப்பு(இடைவெளி: 4)(
+            ${[...buttons, 'உரைபொத்தான்("மேலும்", அழுத்தினால்: கூட்டு_செய்())'].join(',\n            ')}
+        )`, { logic: `
+        எண்ணிக்கை = 0
+        செயல் கூட்டு_செய்():
+            எண்ணிக்கை = எண்ணிக்கை கூட்டு 1` });
+const viewport = { width: 1000, height: 900 };
+
+/// Where the texts stand, which tells how the program has measured them, and all that is seen.
+async function look(page) {
+    await page.text('மேலும்');
+    await page.page.evaluate(() => document.fonts.ready);
+    await page.frames(2);
+    return { texts: await page.texts(), picture: (await page.page.screenshot()).toString('base64') };
+}
+
+let served;
+
+webTest('a page that the compiler serves', source, { files, viewport }, async page => {
+    served = await look(page);
+    assert.ok(new Set(served.texts.map(({ x }) => x)).size > LABELS.length);
+});
+
+webTest('published, it measures and draws the same', source, { files, viewport, published: true }, async page => {
+    const { texts, picture } = await look(page);
+    assert.deepEqual(texts, served.texts);
+    assert.ok(picture === served.picture, 'the pictures differ');
+    const sizes = await page.page.evaluate(
+        paths => paths.map(path => FS.readFile(path).length), [MEASURED, DRAWN]);
+    assert.ok(sizes[0] < files[MEASURED].length / 4, `${sizes[0]} bytes`);
+    assert.equal(sizes[1], files[DRAWN].length);
+});
+
+webTest('no browser draws with a font that is only measured', source, { files, viewport, published: true },
+        async page => {
+    const [measured, whole] = await page.page.evaluate(paths => Promise.all(paths.map(
+        path => new FontFace('any', FS.readFile(path)).load().then(() => 'drawn', () => 'refused'))), [MEASURED, DRAWN]);
+    assert.deepEqual([measured, whole], ['refused', 'drawn']);
+});
