@@ -23,6 +23,12 @@ public:
         return *this;
     }
 
+    /// What fills a hole, where the text ends.
+    CodeWriter& operator<<(const Filling& filling) {
+        filling.writeTo(out_);
+        return *this;
+    }
+
     /// The blanks in front of a line of the present level.
     void indent();
     std::size_t indentation() const;

@@ -5,8 +5,8 @@
 #include "generator/first/emission.h"
 #include "generator/first/page_analysis.h"
 #include "generator/first/statement_writer.h"
+#include "generator/first/web_edition.h"
 #include "generator/web/page/web_emitter.h"
-#include "generator/web/write/edition.h"
 
 #include <string>
 #include <string_view>
@@ -15,7 +15,7 @@ namespace pozhil {
 
 /// The program in the first edition of the language: each definition, statement and expression is analysed, then
 /// written, before the next one is looked at.
-class FirstEdition : public Edition {
+class FirstEdition : public WebEdition {
 public:
     /// Everything outlives the edition. \p path is the source path as the user gave it, \p source its text.
     FirstEdition(const Program& program, const FunctionTable& functions, const StructTable& structures,
@@ -28,10 +28,12 @@ public:
     /// \throws Fault, as the others do
     void writeStructure(const StructDefinitionStatement& structure);
 
-    void writeExpression(const Expression* expression) override;
     void writeStatement(const Statement* statement) override;
     void writeBody(const StatementList& statements) override;
     Fault faultWithoutPlace(const std::string& code, std::int32_t line, const std::string& details) const override;
+
+protected:
+    void writeExpression(const Expression* expression) override;
 
 private:
     template <class Analyse, class Write> void writeUnit(Analyse analyse, Write write);

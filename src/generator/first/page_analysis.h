@@ -2,8 +2,8 @@
 
 #include "analysis/walk.h"
 #include "emit/code_writer.h"
+#include "generator/first/web_edition.h"
 #include "generator/web/page/web_emitter.h"
-#include "generator/web/write/edition.h"
 
 #include <memory>
 
@@ -13,7 +13,7 @@ class Analysis;
 
 /// Visits widgets that stand inside expressions and statements: writes them to nowhere, with the analysis of their
 /// expressions in place of these, since only the emission of a widget knows the order of what it emits.
-class PageAnalysis : public WidgetWalk, private Edition {
+class PageAnalysis : public WidgetWalk, private WebEdition {
 public:
     explicit PageAnalysis(const Program& program) : program_(program) {}
 

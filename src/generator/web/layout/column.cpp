@@ -68,7 +68,7 @@ void emitChildWidth(WidgetWriter& column, const WidgetNode& child) {
     if (child.kind == language::widget::TEXT && text != nullptr) {
         column.block(R"(
     pozhil_draw([&] {
-    std::string _uTxt = fn_any_to_string($text);
+    std::string _uTxt = $text;
     float _uRespSize = responsiveTextSize($size, winWidth);
     childW = getTextWidth(_uTxt.c_str(), _uRespSize);
     });

@@ -62,7 +62,7 @@ void emitShares(WidgetWriter& layout, const LayoutChildren& children, const Layo
         }
         std::string size = floatConstant((layout.*axis.sizeOf)(child));
         if (child.kind == language::widget::GAP) {
-            size = processPercentage(findProperty(child, {axis.gapProperty}), axis.gapBase);
+            size = processPercentage(layout.edition(), findProperty(child, {axis.gapProperty}), axis.gapBase);
         }
         layout.block("    $sum += $size + spacing;\n",
                      {{"sum", axis.fixedSum}, {"size", size.empty() ? "0.0f" : size}});

@@ -43,9 +43,9 @@ void emitListView(WidgetWriter& list) {
     const auto children = childWidgets(list.widget());
     if (const Expression* id = findProperty(list.widget(), {"ID", "id", "அடையாளம்"})) {
         list.block(
-            R"({ std::string _wid = fn_any_to_string($id); if (!_wid.empty()) g_widgetPositions[_wid] = {(float)($x), (float)($y)}; })"
+            R"({ std::string _wid = $id; if (!_wid.empty()) g_widgetPositions[_wid] = {(float)($x), (float)($y)}; })"
             "\n",
-            {{"id", list.expression(id)}});
+            {{"id", list.edition().text(id, "")}});
     }
     list.block(R"(
 {

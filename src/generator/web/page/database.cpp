@@ -20,12 +20,11 @@ std::string configured(const FirebaseConfigNode& config, const char* key) {
 template <class WriteData>
 void emitOperation(CodeWriter& out, Edition& edition, const Expression* path, WriteData writeData,
                    const Block& script) {
-    out << "[&]() -> std::any {\n#ifdef __EMSCRIPTEN__\n    std::string path_str = fn_any_to_string(";
-    edition.writeExpression(path);
-    out << ");\n";
+    out << "[&]() -> " << edition.valueType()
+        << " {\n#ifdef __EMSCRIPTEN__\n    std::string path_str = " << edition.text(path, "") << ";\n";
     writeData();
     out.blockAtMargin(script);
-    out << "#endif\n    return std::any();\n}()";
+    out << "#endif\n    return " << edition.valueType() << "();\n}()";
 }
 
 /// The data as JSON. A number that is changed stays one, while new values are all sent as texts.
@@ -35,10 +34,8 @@ void emitEntries(CodeWriter& out, Edition& edition, const MapLiteral& data, bool
     for (const auto& [key, value] : data.entries) {
         const bool isQuoted = !keepsNumbers || nodeCast<StringLiteral>(value.get()) != nullptr;
         const std::string_view quote = isQuoted ? "\\\"" : "";
-        out << "    json_data += \"" << (isFirst ? "" : ", ") << "\\\"" << key << "\\\": " << quote
-            << "\" + fn_any_to_string(";
-        edition.writeExpression(value.get());
-        out << ") + \"" << quote << "\";\n";
+        out << "    json_data += \"" << (isFirst ? "" : ", ") << "\\\"" << key << "\\\": " << quote << "\" + "
+            << edition.text(value.get(), "") << " + \"" << quote << "\";\n";
         isFirst = false;
     }
     out << "    json_data += \"}\";\n";
@@ -83,12 +80,12 @@ void emitDelete(CodeWriter& out, Edition& edition, const RTDBDeleteExpression& r
 }
 
 void emitRead(CodeWriter& out, Edition& edition, const RTDBReadStatement& read) {
-    const Filling path = std::function<void()>([&] { edition.writeExpression(read.path.get()); });
     const Filling body = std::function<void()>([&] {
         const CodeWriter::Indented deeper(out, 2);
         edition.writeBody(read.body);
     });
-    out.block(page_text::database_read, {{"path", path}, {"body", body}});
+    out.block(page_text::database_read,
+              {{"path", edition.text(read.path.get(), "")}, {"value", edition.valueType()}, {"body", body}});
 }
 
 } // namespace pozhil

@@ -33,7 +33,7 @@ void emitBackgroundImage(WidgetWriter& page) {
     page.block(R"(
     static int bgImgHandle = -1;
     if (bgImgHandle == -1) {
-        bgImgHandle = nvgCreateImage(vg, fn_any_to_string($path).c_str(), 0);
+        bgImgHandle = nvgCreateImage(vg, $path.c_str(), 0);
     }
     if (bgImgHandle > 0) {
         nvgBeginPath(vg);
@@ -43,7 +43,7 @@ void emitBackgroundImage(WidgetWriter& page) {
         bgSet = true;
     }
 )",
-               {{"path", page.expression(path)}});
+               {{"path", page.edition().text(path, "")}});
 }
 
 /// How a value reads that is no text.
@@ -111,10 +111,10 @@ void emitTitle(WidgetWriter& page) {
     if (const Expression* title = findProperty(page.widget(), {"இணைய_தலைப்பு"})) {
         page.block(R"(
 #ifdef __EMSCRIPTEN__
-    emscripten::val::global("document").set("title", emscripten::val(fn_any_to_string($title)));
+    emscripten::val::global("document").set("title", emscripten::val($title));
 #endif
 )",
-                   {{"title", page.expression(title)}});
+                   {{"title", page.edition().text(title, "")}});
     }
 }
 

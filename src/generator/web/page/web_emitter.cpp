@@ -25,15 +25,33 @@ void WebEmitter::writeProgram() {
             emitPage(widgets_, *app);
         }
     }
-    out_.block(page_text::frame_tail);
+    writeFrameTail();
     writeMain();
 }
 
 /// What a parent imposes on a widget passes through the two forced sizes.
 void WebEmitter::writeFrameHead() {
-    out_.block(page_text::frame_head);
+    const Filling openAlerts([this] { edition_.writeOpenAlerts(out_); });
+    const Filling windowSize([this] {
+        const CodeWriter::Indented inFrame(out_);
+        edition_.writeWindowSize(out_);
+    });
+    out_.block(page_text::frame_head, {{"openAlerts", openAlerts}, {"windowSize", windowSize}});
     out_ << "    float forcedW = -1.0f; float forcedH = -1.0f; float maxW = -1.0f; float maxH = -1.0f;\n"
          << "    pozhil_draw([&] {\n";
+}
+
+void WebEmitter::writeFrameTail() {
+    const MessageBar bar = edition_.messageBar();
+    out_.block(page_text::frame_tail, {{"isShown", bar.isShown},
+                                       {"since", bar.since},
+                                       {"top", bar.top},
+                                       {"moved", bar.moved},
+                                       {"hidden", bar.hidden},
+                                       {"message", bar.message},
+                                       {"red", bar.red},
+                                       {"green", bar.green},
+                                       {"blue", bar.blue}});
 }
 
 void WebEmitter::writeMain() {

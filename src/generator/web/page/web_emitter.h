@@ -40,6 +40,7 @@ public:
 
 private:
     void writeFrameHead();
+    void writeFrameTail();
     void writeMain();
 
     CodeWriter& out_;

@@ -16,40 +16,24 @@ void emitPosition(WidgetWriter& writer) {
         if (name == "அடையாளம்" || name == "ID" || name == "id") {
             writer.block(R"(
 {
-    std::string _wid = fn_any_to_string($id);
+    std::string _wid = $id;
     if (!_wid.empty()) { g_widgetPositions[_wid] = {(float)($x), (float)($y)}; }
 }
 )",
-                         {{"id", writer.expression(value.get())}});
+                         {{"id", writer.edition().text(value.get(), "")}});
             return;
         }
     }
 }
 
-/// The variable that shows and hides the widget; empty if none does.
-std::string visibilityName(const WidgetNode& widget) {
-    const auto* name = nodeCast<StringLiteral>(findProperty(widget, {"காட்சி_பெயர்"}));
-    return name == nullptr ? "" : name->value;
-}
-
-/// Opens the visibility check. A dialog waits until its variable says so; anything else is there until it says no.
-void emitVisibilityCheck(WidgetWriter& writer, const std::string& name) {
+/// Opens the visibility check.
+void emitVisibilityCheck(WidgetWriter& writer, const Visibility& visibility) {
     writer.block(R"(
 // --- Visibility Check for: $name ---
 g_alert_names.insert("$name");
+if ($condition) {
 )",
-                 {{"name", name}});
-    if (writer.widget().kind == language::widget::DIALOG) {
-        writer.block(R"(
-if (global_vars.count("$name") && global_vars["$name"].type() == typeid(bool) && std::any_cast<bool>(global_vars["$name"]) == true) {
-)",
-                     {{"name", name}});
-    } else {
-        writer.block(R"(
-if (global_vars.find("$name") == global_vars.end() || (global_vars["$name"].type() == typeid(bool) && std::any_cast<bool>(global_vars["$name"]) == true)) {
-)",
-                     {{"name", name}});
-    }
+                 {{"name", visibility.name}, {"condition", visibility.condition}});
 }
 
 } // namespace
@@ -60,9 +44,9 @@ void WidgetFrame::writeWidget(const WidgetNode& widget, const std::string& x, co
     const CodeWriter::For origin(out(), &widget);
     WidgetWriter writer(*this, widget, x, y, nextNumber());
     emitPosition(writer);
-    const std::string name = visibilityName(widget);
-    if (!name.empty()) {
-        emitVisibilityCheck(writer, name);
+    const std::optional<Visibility> visibility = edition().visibility(widget);
+    if (visibility) {
+        emitVisibilityCheck(writer, *visibility);
     }
     const WidgetKind* kind = findWidgetKind(widget.kind);
     if (kind != nullptr && kind->block != nullptr) {
@@ -71,8 +55,8 @@ void WidgetFrame::writeWidget(const WidgetNode& widget, const std::string& x, co
         kind->block(writer);
         writer.block("});\n");
     }
-    if (!name.empty()) {
-        writer.block("} // End Visibility Check for $name\n", {{"name", name}});
+    if (visibility) {
+        writer.block("} // End Visibility Check for $name\n", {{"name", visibility->name}});
     }
 }
 
@@ -80,10 +64,9 @@ void WidgetFrame::writeWidgetStatement(const WidgetNode& widget) {
     if (widget.kind == language::widget::TEXT) {
         WidgetWriter writer(*this, widget, "50", "50", 0);
         const Expression* text = findProperty(widget, {"உரை"});
-        const Filling content = text == nullptr ? Filling("std::string()") : writer.expression(text);
         out() << "#ifdef __EMSCRIPTEN__\n";
-        writer.block("drawFixedText($x, $y, fn_any_to_string($text), \"black\", 20.0, \"left\");\n",
-                     {{"text", content}});
+        writer.block("drawFixedText($x, $y, $text, \"black\", 20.0, \"left\");\n",
+                     {{"text", edition().text(text, "std::string()")}});
         out() << "#endif\n";
     } else if (widget.kind == language::widget::COLUMN) {
         for (const StatementPtr& child : widget.children) {

@@ -48,7 +48,7 @@ void emitPress(WidgetWriter& bar, std::size_t itemCount) {
 )",
               {{"count", std::to_string(itemCount)},
                {"current", numberValue(bar, findProperty(bar.widget(), {"அடிப்பகுதிதேர்வு"}), 0.0F)},
-               {"handler", pressValue(bar)}});
+               {"handler", barHandler(bar)}});
 }
 
 /// A picture that is loaded when the item is first drawn, paler while it isn't selected.

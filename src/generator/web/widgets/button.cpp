@@ -186,7 +186,7 @@ void emitButton(WidgetWriter& button) {
     float btnX = $x; float btnY = $y;
     float radius = $radius;
     float shadowBlur = $shadow;
-    std::string btnTextStr = fn_any_to_string($text);
+    std::string btnTextStr = $text;
 )",
         {{"radius", numberConstant(widget, {"style_வளைவு"}, plainRadius)},
          {"shadow", numberConstant(widget, {"style_நிழல்"}, 0.0F)},

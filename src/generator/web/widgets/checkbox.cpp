@@ -29,7 +29,7 @@ void emitBoxAndLabelSize(WidgetWriter& box) {
     }
     constexpr float USUAL_TEXT_SIZE = 15.0F;
     box.block(R"(
-    std::string _cbTxt = fn_any_to_string($text);
+    std::string _cbTxt = $text;
     float _txtW = getTextWidth(_cbTxt.c_str(), $size);
 )",
               {{"text", textValue(box, findProperty(*label, {"உரை"}), "std::string(\"\")")},
@@ -46,24 +46,12 @@ void emitState(WidgetWriter& box, const std::string& id) {
               {{"initial", truthValue(box, findProperty(box.widget(), {"தேர்வுபெட்டிநிலை"}))}});
     emitPressArea(box, {"cbX", "cbX + hitW", "cbY", "cbY + cb_h"}, box.blocks([&] {
         box.block("checked_$n = !checked_$n;\n");
+        box.edition().writeTruthChange(box, "checked_" + box.number());
         if (!id.empty()) {
-            box.block(R"(
-global_vars["$id"] = std::any(checked_$n);
-g_inputErrors.erase("$id");
-)",
-                      {{"id", id}});
+            box.block("g_inputErrors.erase(\"$id\");\n", {{"id", id}});
         }
     }));
-    if (!id.empty()) {
-        box.block(R"(
-    if (global_vars.find("$id") == global_vars.end()) {
-        global_vars["$id"] = std::any(checked_$n);
-    } else if (global_vars["$id"].type() == typeid(bool)) {
-        checked_$n = std::any_cast<bool>(global_vars["$id"]);
-    }
-)",
-                  {{"id", id}});
-    }
+    box.edition().writeTruthRead(box, "checked_" + box.number());
 }
 
 void emitTick(WidgetWriter& box) {

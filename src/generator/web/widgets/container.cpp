@@ -37,7 +37,7 @@ void emitChildSize(WidgetWriter& box, const WidgetNode& child) {
     if (child.kind == language::widget::TEXT) {
         box.block(R"block(
         if (std::string(u8"உரை") == "$kind") {
-            pozhil_draw([&] { childW = pozhil_text_width(fn_any_to_string($text).c_str(), $size, "$weight"); });
+            pozhil_draw([&] { childW = pozhil_text_width($text.c_str(), $size, "$weight"); });
         }
 )block",
                   {{"kind", child.kind},

@@ -45,12 +45,13 @@ void emitBoxSize(WidgetWriter& box, std::initializer_list<const char*> names, co
                  const char* variable, const char* base) {
     const Expression* own = findProperty(box.widget(), names);
     const Expression* size = own == nullptr ? styleProperty(box.widget(), {styleName}) : own;
-    std::string text = processPercentage(size, base);
+    Edition& edition = box.edition();
+    std::string text = processPercentage(edition, size, base);
     const auto* choice = nodeCast<TernaryExpression>(size);
     if (choice != nullptr && !text.empty()) {
-        text = "(" + processPercentage(choice->condition.get(), base) + ") ? " +
-               processPercentage(choice->thenBranch.get(), base) + " : " +
-               processPercentage(choice->elseBranch.get(), base);
+        text = "(" + edition.sizeCondition(*choice->condition, base) + ") ? " +
+               processPercentage(edition, choice->thenBranch.get(), base) + " : " +
+               processPercentage(edition, choice->elseBranch.get(), base);
     }
     if (!text.empty()) {
         box.block("    $variable = $size;\n", {{"variable", variable}, {"size", text}});
@@ -166,7 +167,7 @@ void emitFill(WidgetWriter& box) {
     } else {
         box.block(R"(
     static std::map<std::string, int> bgImgCache;
-    std::string bgImgPath = fn_any_to_string($path);
+    std::string bgImgPath = $path;
     if (bgImgCache.find(bgImgPath) == bgImgCache.end()) {
         bgImgCache[bgImgPath] = nvgCreateImage(vg, bgImgPath.c_str(), 0);
     }

@@ -20,7 +20,7 @@ void emitInfoPill(WidgetWriter& pill) {
     emitOwnSize(pill, "sbWidth", "sbHeight");
     pill.block(R"(
     sbWidth = responsiveW(sbWidth, winWidth, 0.0f);
-    std::string msgText = fn_any_to_string($message);
+    std::string msgText = $message;
     nvgBeginPath(vg);
     nvgRect(vg, sbX - 5, sbY - 5, sbWidth + 10, sbHeight + 10);
     nvgRoundedRect(vg, sbX, sbY, sbWidth, sbHeight, sbHeight/2);

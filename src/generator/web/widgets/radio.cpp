@@ -19,9 +19,9 @@ void emitSelection(WidgetWriter& radio, const Expression* value, const Expressio
 )");
     if (value != nullptr && group != nullptr) {
         radio.block(R"(
-    if (fn_compare_any($value, $group, "==")) isSelected = true;
+    if ($isEqual) isSelected = true;
 )",
-                    {{"value", radio.expression(value)}, {"group", radio.expression(group)}});
+                    {{"isEqual", radio.edition().equality(*value, *group)}});
     } else {
         radio.block(R"(
     static bool demoState_$n = false; isSelected = demoState_$n;

@@ -60,7 +60,7 @@ void emitPress(WidgetWriter& bar, std::size_t tabCount) {
     nvgFillColor(vg, nvgRGBA(255, 255, 255, 255));
     nvgFill(vg);
 )",
-              {{"count", std::to_string(tabCount)}, {"handler", pressValue(bar)}});
+              {{"count", std::to_string(tabCount)}, {"handler", barHandler(bar)}});
 }
 
 void emitTab(WidgetWriter& bar, const WidgetNode& tab, std::size_t index) {

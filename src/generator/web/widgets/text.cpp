@@ -41,7 +41,7 @@ void emitText(WidgetWriter& text) {
     const TextStyle& style = text.widget().style;
     text.block(R"(
 {
-    std::string textContent = fn_any_to_string($value);
+    std::string textContent = $value;
     float animAlpha = 1.0f;
     float animOffsetY = 0.0f;
 )",

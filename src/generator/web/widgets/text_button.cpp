@@ -13,24 +13,6 @@ std::string labelText(const WidgetNode& widget) {
     return text == nullptr ? "Home" : text->value;
 }
 
-/// The handler is evaluated by the press itself: a call does what it says, a function value isn't called.
-Filling handlerOf(WidgetWriter& button, const Expression* handler) {
-    const WidgetNode* drawn = asWidget(handler);
-    if (drawn != nullptr && dynamic_cast<const SnackBarNode*>(drawn) == nullptr) {
-        return handlerCall(button, handler);
-    }
-    return button.blocks([&button, handler] {
-        button.block(R"(
-    std::any callback = std::function<void()>([=](){ $handler; });
-    try {
-        std::any_cast<std::function<void()>>(callback)();
-    } catch (...) {
-    }
-)",
-                     {{"handler", button.expression(handler)}});
-    });
-}
-
 void emitPress(WidgetWriter& button) {
     if (const Expression* handler = findProperty(button.widget(), {"அழுத்தினால்"})) {
         button.block(R"(
@@ -38,7 +20,7 @@ void emitPress(WidgetWriter& button) {
         $handler
     }
 )",
-                     {{"handler", handlerOf(button, handler)}});
+                     {{"handler", handlerCall(button, handler, HandlerSite::TextButton)}});
     }
 }
 

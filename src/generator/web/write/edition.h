@@ -1,21 +1,127 @@
 #pragma once
 
 #include "diagnostics/fault.h"
+#include "emit/emitted_block.h"
+#include "generator/web/write/colours.h"
 #include "parser/tree/node.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace pozhil {
 
-/// The edition of the language that a web program is written in, as its pages see it: pages and widgets have the same
-/// blocks in every edition, and the edition writes the user's expressions and statements in their holes.
+class CodeWriter;
+class WidgetWriter;
+struct WidgetNode;
+
+/// Where a handler stands. Editions differ in which of them call the function that a handler may be.
+enum class HandlerSite {
+    Control,   ///< what is pressed or changed: a button, a box, a switch, an entry of a menu
+    Bar,       ///< a bar whose items are pressed
+    TextButton ///< a text that is pressed
+};
+
+/// What decides whether a widget is there.
+struct Visibility {
+    /// What the page calls it.
+    std::string name;
+    /// A bool of the emitted program, asked anew in each frame.
+    Filling condition;
+};
+
+/// The message bar (அறிவிப்பு_பட்டை) as the emitted program keeps it: expressions of C++.
+struct MessageBar {
+    std::string isShown; ///< bool; the others count only while it is true
+    std::string since;   ///< double: when it was shown, in milliseconds of the page
+    std::string top;     ///< float: how far down it has come
+    std::string moved;   ///< an assignment: it has come as far as `currentY`, a float
+    std::string hidden;  ///< an assignment: it is shown no longer
+    std::string message; ///< std::string
+    std::string red;     ///< int from 0 to 255, as the others
+    std::string green;
+    std::string blue;
+};
+
+/// The edition of the language that a web program is written in, as its pages see it. Pages and widgets have the same
+/// blocks in every edition. These know the types of C++ and the runtime of pages; how the program holds its values,
+/// variables and functions is known to the edition alone, which writes all that has to do with them.
+///
+/// What an edition returns goes into a hole of a block, once for each time that the hole stands there.
 class Edition {
 public:
     virtual ~Edition() = default;
 
-    /// Writes \p expression where the text ends. One that is missing is a fault.
-    virtual void writeExpression(const Expression* expression) = 0;
+    // Values.
+
+    /// A std::string that a member may be asked of: what \p value shows, evaluated where it stands.
+    /// \param value null if the source gives none
+    /// \param otherwise a std::string of C++ in its place
+    virtual Filling text(const Expression* value, const std::string& otherwise) = 0;
+
+    /// The same for what a widget shows in each frame.
+    virtual Filling shownText(const Expression* value, const std::string& otherwise) = 0;
+
+    /// A number of C++, which a cast may stand before.
+    virtual Filling number(const Expression& value) = 0;
+
+    /// A bool. What is neither true nor false counts as false, or is a fault of the running program.
+    virtual Filling truth(const Expression& value) = 0;
+
+    /// A bool: whether both are the same.
+    virtual Filling equality(const Expression& left, const Expression& right) = 0;
+
+    /// A text of the source as a literal of C++, in its quotes.
+    virtual std::string literal(const std::string& text) const = 0;
+
+    /// The type of C++ that holds any value of the program, and nothing when it is made without arguments.
+    virtual std::string valueType() const = 0;
+
+    // Sizes that aren't written as numbers or percentages (sizes.h), in pixels.
+
+    /// A number of C++, empty for an expression that is no size.
+    /// \param base text of the size that a percentage is taken of
+    virtual std::string computedSize(const Expression& size, const std::string& base) = 0;
+
+    /// A bool that decides between two sizes, empty for an expression that can't.
+    virtual std::string sizeCondition(const Expression& condition, const std::string& base) = 0;
+
+    // State of the program that widgets show and change.
+
+    /// What decides whether \p widget is there; nothing for one that always is.
+    virtual std::optional<Visibility> visibility(const WidgetNode& widget) = 0;
+
+    /// Lines by which the bool variable \p state of the emitted block becomes what the program says of the control, in
+    /// each frame; none if the program holds nothing of it.
+    virtual void writeTruthRead(WidgetWriter& control, const std::string& state) = 0;
+
+    /// Lines by which the program learns that \p state has changed; none if it holds nothing of the control.
+    virtual void writeTruthChange(WidgetWriter& control, const std::string& state) = 0;
+
+    /// Lines by which the program knows the size of the window: the floats `winWidth` and `winHeight`.
+    virtual void writeWindowSize(CodeWriter& out) = 0;
+
+    /// The function pozhil_open_alerts of the emitted program: a std::set<std::string> of the names by which widgets are
+    /// there that mask the page.
+    virtual void writeOpenAlerts(CodeWriter& out) = 0;
+
+    // Handlers, as lines at the present level of indentation, inside the test for the press.
+
+    /// What \p handler does. A page outlives whatever it throws.
+    virtual void writeHandler(WidgetWriter& widget, const Expression& handler, HandlerSite site) = 0;
+
+    /// What the statements do that the source wrote in place of a handler.
+    virtual void writeHandlerStatements(WidgetWriter& widget, const StatementList& statements) = 0;
+
+    // The message bar.
+
+    /// A value of the program: a function that shows the bar.
+    /// \param message a std::string of C++
+    virtual void writeMessageFunction(WidgetWriter& bar, const Filling& message, const ByteColour& colour) = 0;
+
+    virtual MessageBar messageBar() const = 0;
+
+    // Statements.
 
     /// Writes \p statement, with its lines, at the present level of indentation.
     virtual void writeStatement(const Statement* statement) = 0;

@@ -11,32 +11,16 @@ bool isDrawnInPlace(const Expression* handler) {
     return drawn != nullptr && dynamic_cast<const SnackBarNode*>(drawn) == nullptr;
 }
 
-/// \p lines, outlived by the page whatever they throw. A call that stands in place of a function has run, and may have
-/// thrown, by the time its value is there.
-Filling guarded(WidgetWriter& widget, const Filling& lines) {
-    return widget.blocks([&widget, lines] {
-        widget.block("try {\n    $lines\n} catch (...) {\n}\n", {{"lines", lines}});
-    });
-}
-
 } // namespace
 
-Filling handlerCall(WidgetWriter& widget, const Expression* handler) {
-    if (isDrawnInPlace(handler)) {
-        return widget.blocks([&widget, handler] { widget.child(*asWidget(handler), "0.0f", "0.0f"); });
-    }
-    return guarded(widget, widget.blocks([&widget, handler] {
-        widget.block(R"(
-std::any callback = $handler;
-try {
-    if (callback.type() == typeid(std::function<std::any()>)) {
-        std::any_cast<std::function<std::any()>>(callback)();
-    }
-} catch (...) {
-}
-)",
-                     {{"handler", widget.expression(handler)}});
-    }));
+Filling handlerCall(WidgetWriter& widget, const Expression* handler, HandlerSite site) {
+    return widget.blocks([&widget, handler, site] {
+        if (isDrawnInPlace(handler)) {
+            widget.child(*asWidget(handler), "0.0f", "0.0f");
+        } else {
+            widget.edition().writeHandler(widget, *handler, site);
+        }
+    });
 }
 
 Filling changeHandler(WidgetWriter& widget) {
@@ -44,17 +28,9 @@ Filling changeHandler(WidgetWriter& widget) {
     return handler == nullptr ? Filling("") : handlerCall(widget, handler);
 }
 
-Filling pressValue(WidgetWriter& widget) {
+Filling barHandler(WidgetWriter& widget) {
     const Expression* handler = findProperty(widget.widget(), {"அழுத்தினால்"});
-    if (handler == nullptr) {
-        return "";
-    }
-    if (isDrawnInPlace(handler)) {
-        return handlerCall(widget, handler);
-    }
-    return guarded(widget, widget.blocks([&widget, handler] {
-        widget.block("std::any callback = $handler;\n", {{"handler", widget.expression(handler)}});
-    }));
+    return handler == nullptr ? Filling("") : handlerCall(widget, handler, HandlerSite::Bar);
 }
 
 bool isDisabled(const WidgetNode& widget) {
@@ -85,7 +61,7 @@ Filling pressHandler(WidgetWriter& widget) {
     if (statements.empty()) {
         return "";
     }
-    return guarded(widget, widget.statements(statements));
+    return widget.blocks([&widget, &statements] { widget.edition().writeHandlerStatements(widget, statements); });
 }
 
 } // namespace pozhil

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "emit/emitted_block.h"
+#include "generator/web/write/edition.h"
 
 namespace pozhil {
 
@@ -8,16 +9,15 @@ class WidgetWriter;
 struct Expression;
 struct WidgetNode;
 
-/// Lines that call what the source gave as a handler, inside the test for the click; for a hole alone in its line.
-/// A function value is called; a widget is drawn in place for that frame. What the handler throws is swallowed, so that
-/// a page outlives it.
-Filling handlerCall(WidgetWriter& widget, const Expression* handler);
+/// Lines that do what the source gave as a handler, inside the test for the click; for a hole alone in its line. A widget
+/// is drawn in place for that frame.
+Filling handlerCall(WidgetWriter& widget, const Expression* handler, HandlerSite site = HandlerSite::Control);
 
 /// What a change of a control does: மாறியதால்.
 Filling changeHandler(WidgetWriter& widget);
 
-/// Lines that evaluate அழுத்தினால் without calling the function that it may be; for a hole alone in its line.
-Filling pressValue(WidgetWriter& widget);
+/// What a press on an item of a bar does: அழுத்தினால்.
+Filling barHandler(WidgetWriter& widget);
 
 /// Whether the widget is shown but answers nothing.
 bool isDisabled(const WidgetNode& widget);

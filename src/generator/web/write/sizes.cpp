@@ -3,7 +3,6 @@
 #include "base/number_text.h"
 #include "generator/web/write/widget_writer.h"
 #include "language/alignments.h"
-#include "language/operators.h"
 
 #include <string_view>
 
@@ -19,39 +18,17 @@ bool endsInPercent(const std::string& text) {
     return !text.empty() && text.back() == '%';
 }
 
-std::string comparisonSymbol(const std::string& word) {
-    const language::Operator* found = language::findOperator(word, language::OperatorKind::Comparison);
-    return found == nullptr ? "==" : std::string(found->symbol);
-}
-
-std::string variableSize(const std::string& name) {
-    if (name == "திரை_அகலம்") {
-        return "winWidth";
-    }
-    if (name == "திரை_உயரம்") {
-        return "winHeight";
-    }
-    return "fn_get_double(global_vars[\"" + name + "\"])";
-}
-
-std::string choice(const TernaryExpression& ternary, const std::string& base) {
-    const std::string condition = processPercentage(ternary.condition.get(), base);
-    const std::string thenSize = processPercentage(ternary.thenBranch.get(), base);
-    const std::string elseSize = processPercentage(ternary.elseBranch.get(), base);
+std::string choice(Edition& edition, const TernaryExpression& ternary, const std::string& base) {
+    const std::string condition = ternary.condition == nullptr ? "" : edition.sizeCondition(*ternary.condition, base);
+    const std::string thenSize = processPercentage(edition, ternary.thenBranch.get(), base);
+    const std::string elseSize = processPercentage(edition, ternary.elseBranch.get(), base);
     const bool isWhole = !condition.empty() && !thenSize.empty() && !elseSize.empty();
     return isWhole ? "(" + condition + " ? " + thenSize + " : " + elseSize + ")" : "";
 }
 
-std::string comparison(const BinaryExpression& binary, const std::string& base) {
-    const std::string left = processPercentage(binary.left.get(), base);
-    const std::string right = processPercentage(binary.right.get(), base);
-    const bool isWhole = !left.empty() && !right.empty();
-    return isWhole ? "(" + left + " " + comparisonSymbol(binary.op.value) + " " + right + ")" : "";
-}
-
 } // namespace
 
-std::string processPercentage(const Expression* expression, const std::string& base) {
+std::string processPercentage(Edition& edition, const Expression* expression, const std::string& base) {
     if (const auto* percentage = nodeCast<PercentageLiteral>(expression)) {
         return percentOf(percentage->value, base);
     }
@@ -63,17 +40,13 @@ std::string processPercentage(const Expression* expression, const std::string& b
         return toAsciiDigits(number->value) + (isWhole ? ".0f" : "f");
     }
     if (const auto* grouping = nodeCast<GroupingExpression>(expression)) {
-        const std::string inner = processPercentage(grouping->inner.get(), base);
+        const std::string inner = processPercentage(edition, grouping->inner.get(), base);
         return inner.empty() ? "" : "(" + inner + ")";
     }
     if (const auto* ternary = nodeCast<TernaryExpression>(expression)) {
-        return choice(*ternary, base);
+        return choice(edition, *ternary, base);
     }
-    if (const auto* binary = nodeCast<BinaryExpression>(expression)) {
-        return comparison(*binary, base);
-    }
-    const auto* variable = nodeCast<VariableAccess>(expression);
-    return variable == nullptr ? "" : variableSize(variable->name);
+    return expression == nullptr ? "" : edition.computedSize(*expression, base);
 }
 
 void emitGivenSize(WidgetWriter& widget, std::initializer_list<const char*> names, const char* variable,
@@ -82,7 +55,7 @@ void emitGivenSize(WidgetWriter& widget, std::initializer_list<const char*> name
 }
 
 void emitSize(WidgetWriter& widget, const Expression* size, const char* variable, const char* base) {
-    const std::string text = processPercentage(size, base);
+    const std::string text = processPercentage(widget.edition(), size, base);
     if (!text.empty()) {
         widget.block("    $variable = $size;\n", {{"variable", variable}, {"size", text}});
     }

@@ -7,38 +7,23 @@
 namespace pozhil {
 namespace {
 
-std::string globalVariable(const std::string& name) {
-    return "global_vars[\"" + name + "\"]";
-}
+constexpr const char* WIDGET_WITHOUT_TEXT = "std::string(u8\"[விட்ஜெட்]\")";
 
 } // namespace
 
 Filling textValue(WidgetWriter& widget, const Expression* value, const char* otherwise) {
-    if (value == nullptr) {
-        return otherwise;
-    }
-    if (const auto* member = nodeCast<GetExpression>(value)) {
-        const auto* object = nodeCast<VariableAccess>(member->object.get());
-        if (object != nullptr && object->name == "காட்சி_நிலை") {
-            return globalVariable(member->member.value);
-        }
-    }
-    if (const auto* variable = nodeCast<VariableAccess>(value)) {
-        return globalVariable(variable->name);
-    }
     if (const WidgetNode* inner = asWidget(value)) {
-        const Expression* text = findProperty(*inner, {"உரை"});
-        return text == nullptr ? Filling("std::string(u8\"[விட்ஜெட்]\")") : widget.expression(text);
+        return widget.edition().text(findProperty(*inner, {"உரை"}), WIDGET_WITHOUT_TEXT);
     }
-    return widget.expression(value);
+    return widget.edition().shownText(value, otherwise);
 }
 
 Filling textArgument(WidgetWriter& widget, const Expression* value) {
     const auto* literal = nodeCast<StringLiteral>(value);
     if (value == nullptr || literal != nullptr) {
-        return "\"" + textOf(value) + "\"";
+        return widget.edition().literal(textOf(value));
     }
-    return Filling(std::vector<Filling>{"fn_any_to_string(", textValue(widget, value, ""), ").c_str()"});
+    return Filling(std::vector<Filling>{textValue(widget, value, ""), ".c_str()"});
 }
 
 Filling numberValue(WidgetWriter& widget, const Expression* value, float usual) {
@@ -46,14 +31,14 @@ Filling numberValue(WidgetWriter& widget, const Expression* value, float usual) 
     if (constant) {
         return floatConstant(*constant);
     }
-    return Filling(std::vector<Filling>{"(float)fn_get_double(", widget.expression(value), ")"});
+    return Filling(std::vector<Filling>{"(float)", widget.edition().number(*value)});
 }
 
 Filling truthValue(WidgetWriter& widget, const Expression* value) {
     if (value == nullptr || nodeCast<BooleanLiteral>(value) != nullptr) {
         return isTrue(value) ? "true" : "false";
     }
-    return Filling(std::vector<Filling>{"fn_compare_any(", widget.expression(value), ", true, \"==\")"});
+    return widget.edition().truth(*value);
 }
 
 float fontSizeOf(const TextStyle& style) {

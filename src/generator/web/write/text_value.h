@@ -9,10 +9,10 @@ namespace pozhil {
 
 class WidgetWriter;
 
-/// What a text shows, as an argument of fn_any_to_string: a variable's value is read anew in each frame.
+/// What a widget shows in each frame, a std::string of the emitted program. A widget in place of a text shows its own.
 ///
 /// \param value the expression that the source gave, null if it gave none
-/// \param otherwise text of the program for a missing expression
+/// \param otherwise a std::string of the emitted program for a missing expression
 Filling textValue(WidgetWriter& widget, const Expression* value, const char* otherwise);
 
 /// A text as a `const char*` of the emitted program: what the source writes stands there as it is, anything else is read

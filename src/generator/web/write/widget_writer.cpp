@@ -44,8 +44,8 @@ float WidgetWriter::heightOf(const WidgetNode& widget) const {
     return context_.heightOf(widget);
 }
 
-Filling WidgetWriter::expression(const Expression* expression) {
-    return std::function<void()>([this, expression] { context_.edition().writeExpression(expression); });
+Edition& WidgetWriter::edition() const {
+    return context_.edition();
 }
 
 Filling WidgetWriter::blocks(std::function<void()> write) {

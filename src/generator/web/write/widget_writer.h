@@ -1,7 +1,7 @@
 #pragma once
 
-#include "diagnostics/fault.h"
 #include "emit/emitted_block.h"
+#include "generator/web/write/edition.h"
 #include "generator/web/write/widget_properties.h"
 #include "parser/syntax_tree.h"
 
@@ -41,8 +41,8 @@ public:
     /// Writes a block of the emitted text. Besides \p holes it may have `$x`, `$y` (the position) and `$n` (the number).
     void block(const Block& block, const Holes& holes = {});
 
-    /// A user's expression.
-    Filling expression(const Expression* expression);
+    /// What the language of the program writes in the holes of the block.
+    Edition& edition() const;
     /// The bodies of user's statements; for a hole that stands alone in its line.
     Filling statements(const StatementList& statements);
     /// Blocks and widgets that \p write writes, one level deeper; for a hole that stands alone in its line.
