@@ -99,12 +99,12 @@ void emitBackgroundVideo(WidgetWriter& page) {
             } catch (e) {
                 console.error("காணொளி பிழை:", e);
             }
-        }, "$path");
+        }, $path);
     }
     nvgFillColor(vg, nvgRGBA(0, 0, 0, 0));
     bgSet = true;
 )",
-               {{"path", literal->value}});
+               {{"path", page.edition().literal(literal->value)}});
 }
 
 void emitTitle(WidgetWriter& page) {
@@ -132,12 +132,12 @@ void emitPage(WidgetContext& context, const WebAppNode& app) {
     const WidgetNode* header = asWidget(app.header.get());
     WidgetWriter page(context, header == nullptr ? NO_HEADER : *header, "0.0f", "0.0f", context.nextNumber());
     page.block(R"(
-if (g_currentPage == "$name") {
+if (g_currentPage == $name) {
     nvgBeginPath(vg);
     nvgRect(vg, 0, 0, winWidth, winHeight);
     bool bgSet = false;
 )",
-               {{"name", pageName(app)}});
+               {{"name", page.edition().literal(pageName(app))}});
     emitBackgroundColour(page);
     emitBackgroundImage(page);
     emitBackgroundVideo(page);

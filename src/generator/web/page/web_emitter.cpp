@@ -60,7 +60,7 @@ void WebEmitter::writeMain() {
     const ScreenConfig& screen = application_.screen;
     out_.block(page_text::main, {{"width", floatConstant(screen.useDefault ? DEFAULT_WIDTH : screen.width)},
                                  {"height", floatConstant(screen.useDefault ? DEFAULT_HEIGHT : screen.height)},
-                                 {"title", application_.windowName},
+                                 {"title", edition_.literal(application_.windowName)},
                                  {"fontHost", POZHIL_WEB_FONT_HOST}});
 }
 

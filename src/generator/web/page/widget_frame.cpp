@@ -30,10 +30,12 @@ void emitPosition(WidgetWriter& writer) {
 void emitVisibilityCheck(WidgetWriter& writer, const Visibility& visibility) {
     writer.block(R"(
 // --- Visibility Check for: $name ---
-g_alert_names.insert("$name");
+g_alert_names.insert($literal);
 if ($condition) {
 )",
-                 {{"name", visibility.name}, {"condition", visibility.condition}});
+                 {{"name", visibility.name},
+                  {"literal", writer.edition().literal(visibility.name)},
+                  {"condition", visibility.condition}});
 }
 
 } // namespace

@@ -42,9 +42,9 @@ void emitDisc(WidgetWriter& avatar, const std::string& imagePath) {
     if (!imagePath.empty()) {
         avatar.block(R"(
     static int avatarImg_$n = -1;
-    if (avatarImg_$n == -1) avatarImg_$n = nvgCreateImage(vg, "$path", 0);
+    if (avatarImg_$n == -1) avatarImg_$n = nvgCreateImage(vg, $path, 0);
 )",
-                     {{"path", imagePath}});
+                     {{"path", avatar.edition().literal(imagePath)}});
     }
     avatar.block(R"(
     nvgBeginPath(vg);

@@ -58,6 +58,7 @@ void emitIcon(WidgetWriter& bar, const WidgetNode& item) {
     if (path.empty()) {
         return;
     }
+    const std::string file = bar.edition().literal(path);
     const std::string suffix = ".svg";
     const bool isDrawing =
         path.size() >= suffix.size() && path.compare(path.size() - suffix.size(), suffix.size(), suffix) == 0;
@@ -72,8 +73,7 @@ void emitIcon(WidgetWriter& bar, const WidgetNode& item) {
         }
 )block",
               {{"m", bar.partNumber()},
-               {"load",
-                isDrawing ? "loadSVGImage(vg, \"" + path + "\", 24, 24)" : "nvgCreateImage(vg, \"" + path + "\", 0)"}});
+               {"load", isDrawing ? "loadSVGImage(vg, " + file + ", 24, 24)" : "nvgCreateImage(vg, " + file + ", 0)"}});
 }
 
 void emitItem(WidgetWriter& bar, const WidgetNode& item, std::size_t index) {

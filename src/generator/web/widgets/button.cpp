@@ -45,10 +45,11 @@ void emitColours(WidgetWriter& button, const ButtonLabel& label) {
 }
 
 void emitSize(WidgetWriter& button, const ButtonLabel& label) {
-    button.block(R"(
+    button.block(
+        R"(
     float responsiveSize = responsiveTextSize($size, winWidth);
     nvgFontSize(vg, responsiveSize);
-    nvgFontFace(vg, "$face");
+    nvgFontFace(vg, $face);
     float bounds[4] = {0.0f, 0.0f, 0.0f, 0.0f};
     nvgTextBounds(vg, 0, 0, btnTextStr.c_str(), NULL, bounds);
     float txtW = bounds[2] - bounds[0];
@@ -56,7 +57,7 @@ void emitSize(WidgetWriter& button, const ButtonLabel& label) {
     float btnW = txtW + 32.0f;
     if (btnW < 80.0f) btnW = 80.0f;
 )",
-                 {{"size", floatConstant(fontSizeOf(label.style))}, {"face", faceOf(label.style)}});
+        {{"size", floatConstant(fontSizeOf(label.style))}, {"face", button.edition().literal(faceOf(label.style))}});
     emitGivenSize(button, {"style_அகலம்", "அகலம்"}, "btnW", "(forcedW > 0.0f ? forcedW : winWidth)");
     button.block(R"(
     btnW = responsiveW(btnW, winWidth, 40.0f);
@@ -158,20 +159,21 @@ void emitBody(WidgetWriter& button) {
 }
 
 void emitLabel(WidgetWriter& button, const ButtonLabel& label) {
+    const std::string font = button.edition().literal(label.style.font);
     if (!label.style.font.empty()) {
         button.block(R"(
-    if (nvgFindFont(vg, "$font") == -1) nvgCreateFont(vg, "$font", "$font");
+    if (nvgFindFont(vg, $font) == -1) nvgCreateFont(vg, $font, $font);
 )",
-                     {{"font", label.style.font}});
+                     {{"font", font}});
     }
     button.block(R"block(
     std::string tColor = "rgb(" + std::to_string(tr) + "," + std::to_string(tg) + "," + std::to_string(tb) + ")";
     float centerX = btnX + btnW/2;
     float centerY = btnY + btnH/2 - responsiveSize/2 + 2.0f;
-    drawFixedText(centerX, centerY, btnTextStr.c_str(), tColor.c_str(), responsiveSize, "center", "$weight", false, "$font");
+    drawFixedText(centerX, centerY, btnTextStr.c_str(), tColor.c_str(), responsiveSize, "center", $weight, false, $font);
 }
 )block",
-                 {{"weight", weightOf(label.style)}, {"font", label.style.font}});
+                 {{"weight", button.edition().literal(weightOf(label.style))}, {"font", font}});
 }
 
 /// பொத்தான்: a filled button with centred text.

@@ -48,7 +48,7 @@ void emitState(WidgetWriter& box, const std::string& id) {
         box.block("checked_$n = !checked_$n;\n");
         box.edition().writeTruthChange(box, "checked_" + box.number());
         if (!id.empty()) {
-            box.block("g_inputErrors.erase(\"$id\");\n", {{"id", id}});
+            box.block("g_inputErrors.erase($id);\n", {{"id", box.edition().literal(id)}});
         }
     }));
     box.edition().writeTruthRead(box, "checked_" + box.number());
@@ -97,16 +97,16 @@ void emitLabel(WidgetWriter& box) {
 
 void emitError(WidgetWriter& box, const std::string& id) {
     box.block(R"(
-    if (g_inputErrors.count("$id") && !g_inputErrors["$id"].empty()) {
+    if (g_inputErrors.count($id) && !g_inputErrors[$id].empty()) {
         nvgBeginPath(vg);
         nvgRoundedRect(vg, cbX - 2, cbY - 2, cb_w + 4, cb_h + 4, 5);
         nvgStrokeColor(vg, nvgRGBA(244, 67, 54, 255));
         nvgStrokeWidth(vg, 2);
         nvgStroke(vg);
-        drawFixedText(cbX, cbY + cb_h + 6, g_inputErrors["$id"].c_str(), "#F44336", 12.0f, "left");
+        drawFixedText(cbX, cbY + cb_h + 6, g_inputErrors[$id].c_str(), "#F44336", 12.0f, "left");
     }
 )",
-              {{"id", id}});
+              {{"id", box.edition().literal(id)}});
 }
 
 /// தேர்வுபெட்டி: a box to tick, with a label beside it.

@@ -37,13 +37,13 @@ void emitChildSize(WidgetWriter& box, const WidgetNode& child) {
     if (child.kind == language::widget::TEXT) {
         box.block(R"block(
         if (std::string(u8"உரை") == "$kind") {
-            pozhil_draw([&] { childW = pozhil_text_width($text.c_str(), $size, "$weight"); });
+            pozhil_draw([&] { childW = pozhil_text_width($text.c_str(), $size, $weight); });
         }
 )block",
                   {{"kind", child.kind},
                    {"text", textValue(box, findProperty(child, {"உரை"}), "std::string(\"\")")},
                    {"size", floatConstant(fontSizeOf(child.style))},
-                   {"weight", weightOf(child.style)}});
+                   {"weight", box.edition().literal(weightOf(child.style))}});
     }
 }
 

@@ -16,7 +16,7 @@ void emitItems(WidgetWriter& dropdown) {
     }
     for (const ExpressionPtr& element : list->elements) {
         if (const auto* item = nodeCast<StringLiteral>(element.get())) {
-            dropdown.block("    items.push_back(\"$item\");\n", {{"item", item->value}});
+            dropdown.block("    items.push_back($item);\n", {{"item", dropdown.edition().literal(item->value)}});
         }
     }
 }

@@ -28,12 +28,12 @@ void emitHtmlInput(WidgetWriter& input) {
     nvgRoundedRect(vg, tx, ty, tw, th, 12);
     nvgFillColor(vg, $fill);
     nvgFill(vg);
-    pozhil_place_html_input(inputId.c_str(), "$hint", "$background", "$colour", tx, ty, tw, th, winHeight);
+    pozhil_place_html_input(inputId.c_str(), $hint, "$background", "$colour", tx, ty, tw, th, winHeight);
 )",
                 {{"width", numberConstant(widget, {"style_அகலம்", "அகலம்"}, WIDTH)},
                  {"height", numberConstant(widget, {"style_உயரம்", "உயரம்"}, HEIGHT)},
                  {"fill", floatColour(background)},
-                 {"hint", textOf(findProperty(widget, {"குறிப்பு"}))},
+                 {"hint", input.edition().literal(textOf(findProperty(widget, {"குறிப்பு"})))},
                  {"background", cssColour(background)},
                  {"colour", cssColour(textColour)}});
     input.block(input.isAtTop() ? "}\n" : "    $y += th;\n}\n");

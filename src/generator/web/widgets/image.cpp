@@ -20,10 +20,10 @@ void emitRectangle(WidgetWriter& image) {
     if (forcedW > 0.0f) tw = forcedW;
     if (forcedH > 0.0f) th = forcedH;
     tw = responsiveW(tw, winWidth, 0.0f);
-    std::string path = "$path";
+    std::string path = $path;
     bool isGif = path.size() >= 4 && (path.substr(path.size() - 4) == ".gif" || path.substr(path.size() - 4) == ".GIF");
 )",
-                {{"radius", numberConstant(image.widget(), {"வளைவு"}, 0.0F)}, {"path", pictureFile(image.widget())}});
+                {{"radius", numberConstant(image.widget(), {"வளைவு"}, 0.0F)}, {"path", image.edition().literal(pictureFile(image.widget()))}});
 }
 
 /// படம்: a picture from a file, stretched to its box; an animated one is played by the browser.

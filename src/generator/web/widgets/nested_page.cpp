@@ -8,13 +8,14 @@ namespace {
 
 /// பக்கம் inside a page: drawn while it is the page being shown.
 void emitNestedPage(WidgetWriter& page) {
+    const std::string name = pageNameIn(page.widget());
     const Filling children = page.blocks([&] {
         page.eachChild(childWidgets(page.widget()),
                        [&](const WidgetNode& child) { page.child(child, "0.0f", "0.0f"); });
     });
     page.block(R"(
 // --- Page: $name ---
-if (g_currentPage == "$name") {
+if (g_currentPage == $literal) {
     nvgBeginPath(vg);
     nvgRect(vg, 0, 0, winWidth, winHeight);
     nvgFillColor(vg, nvgRGBA(245, 245, 245, 255));
@@ -22,7 +23,7 @@ if (g_currentPage == "$name") {
     $children
 }
 )",
-               {{"name", pageNameIn(page.widget())}, {"children", children}});
+               {{"name", name}, {"literal", page.edition().literal(name)}, {"children", children}});
 }
 
 } // namespace

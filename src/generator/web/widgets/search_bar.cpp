@@ -35,7 +35,7 @@ void emitBox(WidgetWriter& bar) {
 void emitIconImage(WidgetWriter& bar, const char* handle, const std::string& path, const char* centreX) {
     bar.block(R"(
     static int ${handle}_$n = -1;
-    if (${handle}_$n == -1) ${handle}_$n = nvgCreateImage(vg, "$path", 0);
+    if (${handle}_$n == -1) ${handle}_$n = nvgCreateImage(vg, $path, 0);
     if (${handle}_$n > 0) {
         nvgBeginPath(vg);
         nvgRect(vg, $centreX - 10, iconY - 10, 20, 20);
@@ -43,7 +43,7 @@ void emitIconImage(WidgetWriter& bar, const char* handle, const std::string& pat
         nvgFill(vg);
     }
 )",
-              {{"handle", handle}, {"path", path}, {"centreX", centreX}});
+              {{"handle", handle}, {"path", bar.edition().literal(path)}, {"centreX", centreX}});
 }
 
 void emitLens(WidgetWriter& bar) {
@@ -103,9 +103,9 @@ void emitSearchBar(WidgetWriter& bar) {
     const std::string hint = textOf(findProperty(bar.widget(), {"தேடல்_குறிப்பு", "குறிப்பு"}));
     bar.block(R"(
     std::string sbId = "search_" + std::to_string($n);
-    pozhil_place_search_field(sbId.c_str(), "$hint", sbX, sbY, sbW, sbH, fSize);
+    pozhil_place_search_field(sbId.c_str(), $hint, sbX, sbY, sbW, sbH, fSize);
 )",
-              {{"hint", hint.empty() ? "Search..." : hint}});
+              {{"hint", bar.edition().literal(hint.empty() ? "Search..." : hint)}});
     emitClear(bar);
 }
 

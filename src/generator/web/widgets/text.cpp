@@ -15,13 +15,13 @@ void emitTextAnimation(WidgetWriter& text) {
     }
     text.block(
         R"(
-    float p = updateProgress(${n}ULL, "$condition", false, $y, winHeight, $duration);
-    float t = getCurveValue("$curve", p);
+    float p = updateProgress(${n}ULL, $condition, false, $y, winHeight, $duration);
+    float t = getCurveValue($curve, p);
     if ($fades) { animAlpha = p; animOffsetY = 30.0f * (1.0f - p); }
 )",
-        {{"condition", animation->condition},
+        {{"condition", text.edition().literal(animation->condition)},
          {"duration", floatConstant(animation->duration)},
-         {"curve", animation->curve},
+         {"curve", text.edition().literal(animation->curve)},
          {"fades", animation->numericTargets.count("மங்குநழுவு") != 0 || animation->stringTargets.count("மங்குநழுவு") != 0
                        ? "1"
                        : "0"}});
@@ -39,6 +39,7 @@ void emitTextAnimation(WidgetWriter& text) {
 /// உரை: a line of text, which gets smaller until it fits.
 void emitText(WidgetWriter& text) {
     const TextStyle& style = text.widget().style;
+    const Edition& edition = text.edition();
     text.block(R"(
 {
     std::string textContent = $value;
@@ -56,20 +57,20 @@ void emitText(WidgetWriter& text) {
         responsiveSize *= (_maxW - 20.0f) / _actualW;
     }
     std::string webAlign = "left";
-    std::string alignProp = "$align";
+    std::string alignProp = $align;
     if (alignProp == "மையம்" || alignProp == "center") {
         webAlign = "center";
         drawX = textX + getTextWidth(textContent.c_str(), responsiveSize) / 2.0f;
     }
-    drawFixedText(drawX, textY, textContent.c_str(), "$colour", responsiveSize, webAlign.c_str(), "$weight", $underline, "$font", animAlpha, animOffsetY);
+    drawFixedText(drawX, textY, textContent.c_str(), "$colour", responsiveSize, webAlign.c_str(), $weight, $underline, $font, animAlpha, animOffsetY);
 }
 )",
                {{"size", floatConstant(fontSizeOf(style))},
-                {"align", style.align.empty() ? "இடது" : style.align},
+                {"align", edition.literal(style.align.empty() ? "இடது" : style.align)},
                 {"colour", cssColour(styleColour(style.color.empty() ? "#000000" : style.color))},
-                {"weight", weightOf(style)},
+                {"weight", edition.literal(weightOf(style))},
                 {"underline", style.underline ? "true" : "false"},
-                {"font", style.font}});
+                {"font", edition.literal(style.font)}});
 }
 
 float textWidth(const Measure& measure) {

@@ -30,7 +30,7 @@ void emitTextButton(WidgetWriter& button) {
     const WidgetNode& widget = button.widget();
     button.block(R"(
 {
-    const char* txt = u8"$text"; float fs = $size; float bX = $x; float bY = $y;
+    const char* txt = u8$text; float fs = $size; float bX = $x; float bY = $y;
     nvgFontSize(vg, fs); nvgFontFace(vg, "sans");
     float bounds[4] = {0.0f, 0.0f, 0.0f, 0.0f};
     nvgTextBounds(vg, 0, 0, txt, NULL, bounds);
@@ -40,7 +40,8 @@ void emitTextButton(WidgetWriter& button) {
     float my = pozhil_mouse_y();
     bool isHov = mx >= bX && mx <= bX + bW && my >= bY && my <= bY + bH;
 )",
-                 {{"text", labelText(widget)}, {"size", numberConstant(widget, {"style_அளவு"}, USUAL_SIZE)}});
+                 {{"text", button.edition().literal(labelText(widget))},
+                  {"size", numberConstant(widget, {"style_அளவு"}, USUAL_SIZE)}});
     emitPress(button);
     button.block(
         R"(

@@ -54,17 +54,17 @@ void emitBox(WidgetWriter& field) {
 
 void emitError(WidgetWriter& field, const std::string& id) {
     field.block(R"(
-    bool hasError = g_inputErrors.count("$id") && !g_inputErrors["$id"].empty();
+    bool hasError = g_inputErrors.count($id) && !g_inputErrors[$id].empty();
     if (hasError) {
         nvgBeginPath(vg);
         nvgRoundedRect(vg, tbX, tbY, tbW, tbH, radius);
         nvgStrokeColor(vg, nvgRGBA(244, 67, 54, 255));
         nvgStrokeWidth(vg, 2.0f);
         nvgStroke(vg);
-        drawFixedText(tbX, tbY + tbH + 4, g_inputErrors["$id"].c_str(), "#F44336", 12.0f, "left");
+        drawFixedText(tbX, tbY + tbH + 4, g_inputErrors[$id].c_str(), "#F44336", 12.0f, "left");
     }
 )",
-                {{"id", id}});
+                {{"id", field.edition().literal(id)}});
 }
 
 /// A widget in front of the text, such as an icon.
@@ -93,14 +93,15 @@ void emitPrefix(WidgetWriter& field) {
 
 /// The browser's field: made when it is first drawn, and placed over its box in each frame.
 void emitOverlay(WidgetWriter& field, const std::string& id) {
+    const Edition& edition = field.edition();
     const bool hasManyLines = isTrue(findProperty(field.widget(), {"பலவரி"}));
     field.block(
         R"(
-    pozhil_place_text_field("$id", "$hint", $manyLines, "$colour", tbX, tbY, tbW, tbH, prefixOffset, fSize);
+    pozhil_place_text_field($id, $hint, $manyLines, "$colour", tbX, tbY, tbW, tbH, prefixOffset, fSize);
 }
 )",
-        {{"id", id == NO_ID ? "text_" + field.number() : id},
-         {"hint", textOf(findProperty(field.widget(), {"குறிப்பு"}))},
+        {{"id", edition.literal(id == NO_ID ? "text_" + field.number() : id)},
+         {"hint", edition.literal(textOf(findProperty(field.widget(), {"குறிப்பு"})))},
          {"manyLines", hasManyLines ? "true" : "false"},
          {"colour", cssColour(colourProperty(field.widget(), {"style_எழுத்து_நிறம்", "எழுத்து_நிறம்"}, "#333333"))}});
 }

@@ -39,16 +39,16 @@ void emitAnimationProgress(WidgetWriter& widget, const char* isHover) {
     }
     widget.block(R"(
     bool animActive = false;
-    std::string aCond = "$condition";
+    std::string aCond = $condition;
     if (aCond == "மவுஸ்_மேலே" || aCond == "hover" || aCond == "சுட்டி_மேல்") animActive = $isHover;
     if (aCond == "தானாக") animActive = true;
     float progress = updateProgress(${n}ULL, aCond, animActive, $y, winHeight, $duration);
-    float t = getCurveValue("$curve", progress);
+    float t = getCurveValue($curve, progress);
 )",
-                 {{"condition", animation->condition},
+                 {{"condition", widget.edition().literal(animation->condition)},
                   {"isHover", isHover},
                   {"duration", floatConstant(animation->duration)},
-                  {"curve", animation->curve}});
+                  {"curve", widget.edition().literal(animation->curve)}});
 }
 
 bool startsOnHover(const AnimationNode& animation) {
