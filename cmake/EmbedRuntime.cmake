@@ -1,15 +1,14 @@
-# Writes the C++ source that defines the constants of src/generator/first/runtime_text.h: for each section the text behind
-# the marker line of its file, byte for byte.
+# Writes the C++ source that defines the constants of a header: for each file the text after its marker line, byte for byte.
+# That of scrolling.h is called scrolling.
 #
-#   cmake -D SECTIONS=<name;...> -D DIRECTORY=<folder of the files> -D OUTPUT=<source> -P EmbedRuntime.cmake
+#   cmake -D "FILES=<file;...>" -D HEADER=<header> -D NAMESPACE=<namespace> -D OUTPUT=<source> -P EmbedRuntime.cmake
 
 set(marker "\n// --- emitted from here ---\n")
 set(delimiter "emitted_text")
 string(LENGTH "${marker}" marker_length)
 
-set(source "#include \"generator/first/runtime_text.h\"\n")
-foreach(section IN LISTS SECTIONS)
-    set(file "${DIRECTORY}/${section}.h")
+set(source "#include \"${HEADER}\"\n")
+foreach(file IN LISTS FILES)
     file(READ "${file}" content)
     string(FIND "${content}" "${marker}" position)
     if(position EQUAL -1)
@@ -21,8 +20,9 @@ foreach(section IN LISTS SECTIONS)
     if(NOT end_of_literal EQUAL -1)
         message(FATAL_ERROR "${file}: holds the raw string delimiter '${delimiter}', choose another one")
     endif()
+    get_filename_component(section "${file}" NAME_WE)
     # The qualified name makes the compiler refuse a section that the header does not declare.
-    string(APPEND source "\nconstexpr std::string_view pozhil::runtime::${section} = "
+    string(APPEND source "\nconstexpr std::string_view ${NAMESPACE}::${section} = "
                          "R\"${delimiter}(${text})${delimiter}\";\n")
 endforeach()
 file(WRITE "${OUTPUT}" "${source}")

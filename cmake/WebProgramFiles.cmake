@@ -62,7 +62,7 @@ add_web_program_file(
 # The headers of the toolchain that a web program includes, and none of our own, which lie elsewhere once installed:
 # unlike g++, em++ fails where a file in the precompiled headers is not what it was. What else they are to hold is read
 # as one text from standard input, for the same reason.
-file(GLOB runtime_files CONFIGURE_DEPENDS src/generator/first/runtime/*.h)
+file(GLOB runtime_files CONFIGURE_DEPENDS src/generator/first/runtime/*.h src/generator/web/runtime/*.h)
 set(includes)
 foreach(file IN LISTS runtime_files)
     file(STRINGS ${file} lines REGEX "^#include <")

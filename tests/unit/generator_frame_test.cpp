@@ -2,6 +2,7 @@
 
 #include "generator/first/runtime_text.h"
 #include "generator/web/page/application.h"
+#include "generator/web/page/runtime_text.h"
 #include "support/generating.h"
 
 #include <gtest/gtest.h>
@@ -18,26 +19,47 @@ const std::string EVERYTHING = "கட்டமைப்பு பறவை:\n  
 
 TEST(Sections, StandInTheirOrderWithNothingBetween) {
     const std::string text = generatedText("அச்சிடு(1)");
-    const std::string_view sections[] = {runtime::standard_headers, runtime::web_text_layer,
-                                         runtime::global_state,     runtime::navigation,
-                                         runtime::input_state,      "#ifdef __EMSCRIPTEN__\n",
-                                         runtime::canvas_keys,      "#endif\n",
-                                         runtime::web_bridge,       runtime::value_types,
-                                         runtime::error_box,        runtime::value_texts,
-                                         runtime::value_functions,  runtime::animation_engine,
-                                         runtime::library,          runtime::scrolling,
-                                         runtime::web_boilerplate,  runtime::input_fields,
-                                         runtime::media_elements,   "#ifdef __EMSCRIPTEN__\n",
-                                         runtime::frame_helpers,    "#endif\n"};
+    const std::string_view sections[] = {runtime::standard_headers,
+                                         page_runtime::web_text_layer,
+                                         runtime::global_variables,
+                                         page_runtime::page_state,
+                                         runtime::return_value,
+                                         page_runtime::overlays,
+                                         runtime::call_guard,
+                                         page_runtime::navigation,
+                                         page_runtime::input_state,
+                                         "#ifdef __EMSCRIPTEN__\n",
+                                         page_runtime::canvas_keys,
+                                         "#endif\n",
+                                         page_runtime::web_bridge,
+                                         runtime::value_types,
+                                         runtime::error_box,
+                                         runtime::value_texts,
+                                         runtime::value_functions,
+                                         page_runtime::animation_engine,
+                                         runtime::library,
+                                         page_runtime::scrolling,
+                                         runtime::scroll_function,
+                                         page_runtime::web_boilerplate,
+                                         page_runtime::input_fields,
+                                         page_runtime::media_elements,
+                                         "#ifdef __EMSCRIPTEN__\n",
+                                         page_runtime::frame_helpers,
+                                         "#endif\n"};
+    const std::pair<std::string_view, std::string_view> placeholders[] = {
+        {"@START_PAGE@", "home"},
+        {"@SOURCE_PATH@", "நிரல்.பொழில்"},
+        {"// @DATABASE_ENTRIES@\n", runtime::database_entries},
+        {"// @DATABASE_ANSWER@", "global_vars[\"தரவு\"] = global_vars[\"_temp_rtdb\"];"}};
     std::string expected;
     for (const std::string_view section : sections) {
         expected += section;
     }
-    for (const auto& [hole, value] : {std::pair{"@START_PAGE@", "home"}, {"@SOURCE_PATH@", "நிரல்.பொழில்"}}) {
-        const std::size_t position = expected.find(hole);
-        ASSERT_NE(position, std::string::npos) << hole;
-        expected.replace(position, std::string(hole).size(), value);
-        EXPECT_EQ(expected.find(hole), std::string::npos) << "more than one " << hole;
+    for (const auto& [placeholder, value] : placeholders) {
+        const std::size_t position = expected.find(placeholder);
+        ASSERT_NE(position, std::string::npos) << placeholder;
+        expected.replace(position, placeholder.size(), value);
+        EXPECT_EQ(expected.find(placeholder), std::string::npos) << "more than one " << placeholder;
     }
     EXPECT_EQ(text.substr(0, text.find("void init_globals()")), expected);
 }

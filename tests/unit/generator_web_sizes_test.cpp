@@ -1,5 +1,6 @@
 // Texts of sizes that the page computes, and where an alignment puts content.
 
+#include "generator/first/first_edition.h"
 #include "generator/web/write/sizes.h"
 #include "parser/parser.h"
 #include "scanner/lexer.h"
@@ -16,7 +17,10 @@ class Page {
 public:
     explicit Page(const std::string& widget)
         : source_("வலைதளம் (\n தலைமை () குமரி (" + widget + ") வரையறை ()\n)\n"),
-          parser_(Lexer(source_, "நிரல்.பொழில்").tokenize(), source_, "நிரல்.பொழில்"), program_(parser_.parse()) {}
+          parser_(Lexer(source_, PATH).tokenize(), source_, PATH), program_(parser_.parse()),
+          edition_(program_, parser_.functions(), parser_.structs(), parser_.abstractStructs(), PATH, source_) {}
+
+    Edition& edition() { return edition_; }
 
     const WidgetNode* root() const {
         const auto* app = dynamic_cast<const WebAppNode*>(program_.statements.at(0).get());
@@ -24,15 +28,23 @@ public:
     }
 
 private:
+    inline static const std::string PATH = "நிரல்.பொழில்";
+
     std::string source_;
     Parser parser_;
     Program program_;
+    FirstEdition edition_;
 };
+
+/// The text of a size that no source has.
+std::string sizeText(const Expression* size, const std::string& base) {
+    return processPercentage(Page("").edition(), size, base);
+}
 
 /// The text of the width that a button of the source asks for.
 std::string sizeText(const std::string& size) {
-    const Page page("பொத்தான்(அகலம்: " + size + ")");
-    return processPercentage(page.root()->properties.at("அகலம்").get(), "B");
+    Page page("பொத்தான்(அகலம்: " + size + ")");
+    return processPercentage(page.edition(), page.root()->properties.at("அகலம்").get(), "B");
 }
 
 TEST(SizeTexts, AreConstantsPercentagesOrChoices) {
@@ -47,16 +59,15 @@ TEST(SizeTexts, AreConstantsPercentagesOrChoices) {
 }
 
 TEST(SizeTexts, TakeTheNumberAsItStands) {
-    EXPECT_EQ(processPercentage(test::number("62.5").get(), "B"), "62.5f");
+    EXPECT_EQ(sizeText(test::number("62.5").get(), "B"), "62.5f");
     EXPECT_EQ(sizeText("௫௦%"), "(B * 0.500000f)");
     EXPECT_EQ(sizeText("100%"), "(B * 1.000000f)");
-    EXPECT_EQ(processPercentage(nullptr, "B"), "");
+    EXPECT_EQ(sizeText(nullptr, "B"), "");
 }
 
 TEST(SizeTexts, TakeAnyTextAsTheirBase) {
-    EXPECT_EQ(
-        processPercentage(std::make_unique<PercentageLiteral>("25%").get(), "(forcedW > 0.0f ? forcedW : winWidth)"),
-        "((forcedW > 0.0f ? forcedW : winWidth) * 0.250000f)");
+    EXPECT_EQ(sizeText(std::make_unique<PercentageLiteral>("25%").get(), "(forcedW > 0.0f ? forcedW : winWidth)"),
+              "((forcedW > 0.0f ? forcedW : winWidth) * 0.250000f)");
 }
 
 TEST(SizeTexts, AreEmptyForAnythingElse) {

@@ -2,6 +2,7 @@
 // in common with them.
 
 #include "generator/first/runtime_text.h"
+#include "generator/web/page/runtime_text.h"
 #include "generator/web/page/widget_table.h"
 #include "language/alignments.h"
 #include "language/builtins.h"
@@ -291,7 +292,7 @@ TEST(Curves, AreThoseOfTheRuntime) {
     for (const Curve& row : curves()) {
         named.insert(row.name);
     }
-    EXPECT_EQ(quotedBetween(pozhil::runtime::animation_engine, "pozhil_curve_table()", "pozhil_animation_state"),
+    EXPECT_EQ(quotedBetween(pozhil::page_runtime::animation_engine, "pozhil_curve_table()", "pozhil_animation_state"),
               named);
 }
 

@@ -1,6 +1,6 @@
 // Easing curves against values computed by other means, and the progress of animations.
 
-#include "generator/first/runtime/runtime.h"
+#include "generator/web/runtime/runtime.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
 // What the widgets of a page call in each frame: the progress of animations, and the digits of a counting text.
 
-#include "generator/first/runtime/runtime.h"
+#include "generator/web/runtime/runtime.h"
 
 #include <gtest/gtest.h>
 

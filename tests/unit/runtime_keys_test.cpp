@@ -1,6 +1,6 @@
 // What keys do to a field that is drawn on the canvas: text, caret and selection.
 
-#include "generator/first/runtime/runtime.h"
+#include "generator/web/runtime/runtime.h"
 
 #include <gtest/gtest.h>
 

@@ -1,23 +1,22 @@
 #include "generator/first/generator.h"
 
 #include "analysis/program_order.h"
+#include "emit/placeholder.h"
 #include "generator/first/first_edition.h"
 #include "generator/first/runtime_text.h"
+#include "generator/web/page/runtime_text.h"
 
 #include <utility>
 
 namespace pozhil {
 namespace {
 
-constexpr std::string_view START_PAGE_PLACEHOLDER = "@START_PAGE@";
-constexpr std::string_view SOURCE_PATH_PLACEHOLDER = "@SOURCE_PATH@";
+namespace page = page_runtime;
 
-/// \p text with the first \p placeholder in it replaced by \p value.
-std::string fillPlaceholder(std::string_view text, std::string_view placeholder, std::string_view value) {
-    std::string filled(text);
-    filled.replace(filled.find(placeholder), placeholder.size(), value);
-    return filled;
-}
+constexpr std::string_view SOURCE_PATH_PLACEHOLDER = "@SOURCE_PATH@";
+constexpr std::string_view DATABASE_ANSWER = "        global_vars[\"தரவு\"] = global_vars[\"_temp_rtdb\"];\n";
+constexpr const char* FENCE = "#ifdef __EMSCRIPTEN__\n";
+constexpr const char* FENCE_END = "#endif\n";
 
 } // namespace
 
@@ -43,15 +42,15 @@ std::string Generator::generate() {
 
 /// The sections that are the same in every program but for the start page and the source path.
 void Generator::writeRuntime(FirstEdition& edition) const {
-    edition.out() << runtime::standard_headers << runtime::web_text_layer << runtime::global_state
-                  << fillPlaceholder(runtime::navigation, START_PAGE_PLACEHOLDER, edition.web().startPage())
-                  << runtime::input_state << "#ifdef __EMSCRIPTEN__\n"
-                  << runtime::canvas_keys << "#endif\n"
-                  << runtime::web_bridge << runtime::value_types << runtime::error_box << runtime::value_texts
-                  << fillPlaceholder(runtime::value_functions, SOURCE_PATH_PLACEHOLDER, path_)
-                  << runtime::animation_engine << runtime::library << runtime::scrolling << runtime::web_boilerplate
-                  << runtime::input_fields << runtime::media_elements << "#ifdef __EMSCRIPTEN__\n"
-                  << runtime::frame_helpers << "#endif\n";
+    const std::string startPage = edition.literal(edition.web().startPage());
+    edition.out() << runtime::standard_headers << page::web_text_layer << runtime::global_variables << page::page_state
+                  << runtime::return_value << page::overlays << runtime::call_guard << page::navigationFrom(startPage)
+                  << page::input_state << FENCE << page::canvas_keys << FENCE_END
+                  << page::bridgeWith(runtime::database_entries, DATABASE_ANSWER) << runtime::value_types
+                  << runtime::error_box << runtime::value_texts
+                  << withPlaceholder(runtime::value_functions, SOURCE_PATH_PLACEHOLDER, path_) << page::animation_engine
+                  << runtime::library << page::scrolling << runtime::scroll_function << page::web_boilerplate
+                  << page::input_fields << page::media_elements << FENCE << page::frame_helpers << FENCE_END;
 }
 
 /// All structures stand before all functions, which make objects of them.

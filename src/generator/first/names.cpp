@@ -38,8 +38,8 @@ void collectFunctionNames(std::string_view text, std::set<std::string, std::less
 const std::set<std::string, std::less<>>& runtimeFunctionNames() {
     static const std::set<std::string, std::less<>> names = [] {
         std::set<std::string, std::less<>> found;
-        for (const std::string_view section : {runtime::global_state, runtime::value_texts, runtime::value_functions,
-                                               runtime::library, runtime::scrolling}) {
+        for (const std::string_view section : {runtime::return_value, runtime::value_texts, runtime::value_functions,
+                                               runtime::library, runtime::scroll_function}) {
             collectFunctionNames(section, found);
         }
         return found;

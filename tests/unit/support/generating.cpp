@@ -1,7 +1,7 @@
 #include "support/generating.h"
 
 #include "generator/first/generator.h"
-#include "generator/first/runtime_text.h"
+#include "generator/web/page/runtime_text.h"
 #include "scanner/lexer.h"
 #include "support/diagnosis.h"
 
@@ -54,7 +54,7 @@ std::string generatedText(const std::string& source, StatementList behind) {
 }
 
 std::string ownPart(const std::string& text) {
-    const std::string lastSection = std::string(runtime::frame_helpers) + "#endif\n";
+    const std::string lastSection = std::string(page_runtime::frame_helpers) + "#endif\n";
     const std::size_t start = text.find(lastSection);
     return start == std::string::npos ? text : text.substr(start + lastSection.size());
 }

@@ -2,7 +2,7 @@
 
 /// The report of a failure at run time, in the look of the compiler's own reports.
 
-#include "global_state.h"
+#include "call_guard.h"
 #include "value_types.h"
 
 // clang-format off

@@ -3,7 +3,7 @@
 /// Headers of the web build, and the text canvas that lies over the drawing canvas: the drawing library can't shape
 /// Tamil, so all text is drawn by the browser. The native compiler skips it all.
 
-#include "standard_headers.h"
+#include "page_headers.h"
 
 // clang-format off
 // --- emitted from here ---

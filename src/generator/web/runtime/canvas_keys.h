@@ -3,8 +3,8 @@
 /// What keys do to the text of a field that is drawn on the canvas. The generator fences it off from the native compiler;
 /// nothing in it needs a browser.
 
-#include "global_state.h"
 #include "input_state.h"
+#include "page_state.h"
 
 // --- emitted from here ---
 

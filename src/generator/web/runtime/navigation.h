@@ -1,8 +1,9 @@
 #pragma once
 
-/// The page being shown and the switch to another. The generator puts the first page's name in place of the marker.
+/// The page being shown and the switch to another. The generator puts the name of the first page in place of
+/// the marker and its quotes.
 
-#include "global_state.h"
+#include "page_headers.h"
 
 // --- emitted from here ---
 

@@ -1,11 +1,12 @@
 #pragma once
 
 /// What the browser side of a page may call: values of input fields, the database's answers, scrolling, pasting, and
-/// the keys of a field that is drawn on the canvas. The native compiler skips it all.
+/// the keys of a field that is drawn on the canvas. The native compiler skips it all. In place of the markers stands how
+/// the program takes over an answer of the database: functions for its entries, and what happens when it is complete.
 
 #include "canvas_keys.h"
-#include "global_state.h"
 #include "input_state.h"
+#include "page_state.h"
 #include "web_text_layer.h"
 
 // clang-format off
@@ -28,28 +29,7 @@ EMSCRIPTEN_KEEPALIVE void clear_input_error(const char* id) {
     g_inputErrors[id] = "";
 }
 
-EMSCRIPTEN_KEEPALIVE void rtdb_clear_temp() {
-    global_vars["_temp_rtdb"] = std::map<std::string, std::any>();
-}
-
-// தரவுத்தளத்தின் விடையில் ஒரு பதிவு
-void pozhil_rtdb_add(const char* key, std::any val) {
-    if (auto* entries = std::any_cast<std::map<std::string, std::any>>(&global_vars["_temp_rtdb"])) {
-        (*entries)[key] = std::move(val);
-    }
-}
-
-EMSCRIPTEN_KEEPALIVE void rtdb_add_temp_str(const char* key, const char* val) {
-    pozhil_rtdb_add(key, std::string(val));
-}
-
-EMSCRIPTEN_KEEPALIVE void rtdb_add_temp_num(const char* key, double val) {
-    pozhil_rtdb_add(key, (long double)val);
-}
-
-EMSCRIPTEN_KEEPALIVE void rtdb_add_temp_bool(const char* key, int val) {
-    pozhil_rtdb_add(key, val != 0);
-}
+// @DATABASE_ENTRIES@
 }
 
 std::map<int, std::function<void()>> g_rtdb_callbacks;
@@ -59,7 +39,7 @@ extern "C" {
 EMSCRIPTEN_KEEPALIVE void rtdb_execute_callback(int id) {
     const auto found = g_rtdb_callbacks.find(id);
     if (found != g_rtdb_callbacks.end()) {
-        global_vars["தரவு"] = global_vars["_temp_rtdb"];
+        // @DATABASE_ANSWER@
         found->second();
         g_rtdb_callbacks.erase(id);
     }

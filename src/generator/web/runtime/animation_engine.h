@@ -5,10 +5,8 @@
 /// The curves are plain functions found through one table: a table of closures would more than double the time that
 /// the user's program takes to compile.
 
-#include "standard_headers.h"
+#include "page_headers.h"
 #include "web_text_layer.h"
-
-#include <unordered_map>
 
 // --- emitted from here ---
 

@@ -1,23 +1,10 @@
 #pragma once
 
-/// Global state of a generated program: the store of its variables, the overlays of a frame, and the guard that stops
-/// endless recursion before the native stack runs out.
+/// The guard that stops endless recursion before the native stack runs out, and the size of the window.
 
 #include "standard_headers.h"
 
 // --- emitted from here ---
-
-// பொழிலின் மாறிகள் அனைத்தும், பெயர் வாரியாக
-std::map<std::string, std::any> global_vars;
-
-// உள்ளீட்டுப் பிழைகள், காட்சிகள், எச்சரிக்கைகள்
-std::map<std::string, std::string> g_inputErrors;
-std::map<std::string, bool> g_kaatchi_nilai;
-std::set<std::string> g_alert_names;
-bool g_block_background_clicks = false;
-bool g_inside_overlay = false;
-std::any fn_return_value;
-std::vector<std::function<void()>> g_overlays;
 
 // செயல் அழைப்புகளின் ஆழம்
 void pozhil_runtime_error(std::string code, std::string file, int line);

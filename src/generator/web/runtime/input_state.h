@@ -2,7 +2,7 @@
 
 /// What the input fields of a page hold, by the field's id.
 
-#include "standard_headers.h"
+#include "page_headers.h"
 
 // --- emitted from here ---
 

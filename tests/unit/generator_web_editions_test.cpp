@@ -1,0 +1,318 @@
+// Pages are the same in every edition: what stands in them of the program's values, the edition has written. A made-up
+// edition writes marks, and nothing else in the text may tell how some edition holds its values.
+
+#include "generator/web/page/runtime_text.h"
+#include "generator/web/page/web_emitter.h"
+#include "generator/web/write/widget_writer.h"
+#include "language/widgets.h"
+#include "support/generating.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+
+using namespace pozhil;
+using namespace pozhil::test;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+/// No text of the emitted program may have it as it stands in the source.
+const std::string SOURCE_TEXT = "மூலவுரை";
+
+/// The name of a variable; the mark of anything else.
+std::string nameOf(const Expression* value) {
+    const auto* variable = nodeCast<VariableAccess>(value);
+    return variable == nullptr ? "?" : variable->name;
+}
+
+/// An edition whose values are marks.
+class MarkEdition : public Edition {
+public:
+    explicit MarkEdition(CodeWriter& out) : out_(out) {}
+
+    Filling text(const Expression* value, const std::string& otherwise) override {
+        return value == nullptr ? otherwise : "TEXT(" + nameOf(value) + ")";
+    }
+    Filling shownText(const Expression* value, const std::string& otherwise) override {
+        return value == nullptr ? otherwise : "SHOWN(" + nameOf(value) + ")";
+    }
+    Filling number(const Expression& value) override { return "NUMBER(" + nameOf(&value) + ")"; }
+    Filling truth(const Expression& value) override { return "TRUTH(" + nameOf(&value) + ")"; }
+    Filling equality(const Expression& left, const Expression& right) override {
+        return "EQUAL(" + nameOf(&left) + ", " + nameOf(&right) + ")";
+    }
+    std::string literal(const std::string& text) const override {
+        return text == SOURCE_TEXT ? "LITERAL" : "\"" + text + "\"";
+    }
+    std::string valueType() const override { return "VALUE"; }
+    std::string computedSize(const Expression& size, const std::string& base) override {
+        return "SIZE(" + nameOf(&size) + ", " + base + ")";
+    }
+    std::string sizeCondition(const Expression& condition, const std::string&) override {
+        return "CONDITION(" + nameOf(&condition) + ")";
+    }
+    std::optional<Visibility> visibility(const WidgetNode& widget) override {
+        const Expression* shown = findProperty(widget, {"காட்சி_பெயர்"});
+        return shown == nullptr ? std::nullopt : std::optional(Visibility{"name", "VISIBLE(" + nameOf(shown) + ")"});
+    }
+    void writeTruthRead(WidgetWriter&, const std::string& state) override {
+        out_.block("READ($state);\n", {{"state", state}});
+    }
+    void writeTruthChange(WidgetWriter&, const std::string& state) override {
+        out_.block("CHANGE($state);\n", {{"state", state}});
+    }
+    void writeWindowSize(CodeWriter& out) override { out.block("WINDOW_SIZE;\n"); }
+    void writeOpenAlerts(CodeWriter& out) override { out.block("OPEN_ALERTS;\n"); }
+    void writeHandler(WidgetWriter& widget, const Expression& handler, HandlerSite site) override {
+        const std::array<std::string, 3> sites = {"HANDLER", "BAR_HANDLER", "TEXT_HANDLER"};
+        widget.block("$site($name);\n",
+                     {{"site", sites.at(static_cast<std::size_t>(site))}, {"name", nameOf(&handler)}});
+    }
+    void writeHandlerStatements(WidgetWriter& widget, const StatementList& statements) override {
+        widget.block("{\n    $lines\n}\n", {{"lines", widget.statements(statements)}});
+    }
+    void writeMessageFunction(WidgetWriter& bar, const Filling& message, const ByteColour&) override {
+        bar.block("MESSAGE($message)\n", {{"message", message}});
+    }
+    MessageBar messageBar() const override {
+        return {"IS_SHOWN", "SINCE", "TOP", "MOVED", "HIDDEN", "MESSAGE", "RED", "GREEN", "BLUE"};
+    }
+    void writeStatement(const Statement*) override { out_.block("STATEMENT;\n"); }
+    void writeBody(const StatementList&) override { out_.block("BODY;\n"); }
+    Fault faultWithoutPlace(const std::string& code, std::int32_t line, const std::string& details) const override {
+        throw std::logic_error(code + " " + std::to_string(line) + " " + details);
+    }
+
+private:
+    CodeWriter& out_;
+};
+
+std::unique_ptr<WidgetNode> widgetOf(std::string_view word, StatementList children = {}) {
+    if (word == language::widget::CONTAINER) {
+        return make<ContainerNode>(std::move(children), சீரமைப்பு_வகை::மேல்_இடது);
+    }
+    return make<WidgetNode>(word, PropertyMap{}, std::move(children), சீரமைப்பு_வகை::மேல்_இடது);
+}
+
+using MakeValue = ExpressionPtr (*)(const std::string& property);
+
+ExpressionPtr variableOf(const std::string& property) {
+    return variable(property);
+}
+
+ExpressionPtr textOfSource(const std::string&) {
+    return text(SOURCE_TEXT);
+}
+
+/// The widget with each property that the language knows of it, as parsers hand them over.
+std::unique_ptr<WidgetNode> withProperties(std::unique_ptr<WidgetNode> widget, MakeValue makeValue) {
+    const language::Widget* row = language::findWidget(widget->kind);
+    for (const language::WidgetProperty& property : row->properties) {
+        for (const std::string& name : {std::string(property.name), "style_" + std::string(property.name)}) {
+            if (property.kind == language::ValueKind::Widget) {
+                auto inner = withProperties(widgetOf(language::widget::TEXT), makeValue);
+                widget->properties[name] = make<WidgetExpression>(std::move(inner));
+            } else {
+                const bool isHandler = property.kind == language::ValueKind::Handler;
+                widget->properties[name] = isHandler ? variable(name) : makeValue(name);
+            }
+        }
+    }
+    for (const language::WidgetProperty& property : language::commonProperties()) {
+        widget->properties[std::string(property.name)] = makeValue(std::string(property.name));
+    }
+    widget->style.font = SOURCE_TEXT;
+    widget->style.weight = SOURCE_TEXT;
+    widget->style.align = SOURCE_TEXT;
+    return widget;
+}
+
+/// A widget of this word with children of every kind that some widget looks for among them.
+std::unique_ptr<WidgetNode> fullWidget(std::string_view word, MakeValue makeValue) {
+    StatementList children;
+    for (const std::string_view child : {language::widget::TEXT, language::widget::IMAGE,
+                                         language::widget::BOTTOM_NAVIGATION_ITEM, language::widget::TAB_ITEM}) {
+        children.push_back(withProperties(widgetOf(child), makeValue));
+    }
+    for (const StatementPtr& item : children) {
+        auto& inner = dynamic_cast<WidgetNode&>(*item);
+        if (inner.kind != language::widget::TEXT && inner.kind != language::widget::IMAGE) {
+            inner.children.push_back(withProperties(widgetOf(language::widget::TEXT), makeValue));
+            inner.children.push_back(withProperties(widgetOf(language::widget::IMAGE), makeValue));
+        }
+    }
+    return withProperties(widgetOf(word, std::move(children)), makeValue);
+}
+
+/// A program of one page, with \p widget as all that it shows.
+std::string pageOf(std::unique_ptr<WidgetNode> widget, PropertyMap header = {}) {
+    Program program;
+    auto head = make<HeaderNode>("தலைமை", std::move(header), StatementList{}, ScreenConfig{});
+    program.statements.push_back(make<WebAppNode>(SOURCE_TEXT, nullptr, std::move(head), std::move(widget), nullptr));
+    CodeWriter out;
+    MarkEdition edition(out);
+    WebEmitter(out, edition, program).writeProgram();
+    return out.text();
+}
+
+void expectNoValues(const std::string& text) {
+    for (const char* piece : {"std::any", "any_cast", "global_vars", "fn_", "_StructBase", "_PozhilChar"}) {
+        EXPECT_THAT(text, Not(HasSubstr(piece)));
+    }
+}
+
+class EveryWidget : public testing::TestWithParam<std::string_view> {};
+
+TEST_P(EveryWidget, LeavesValuesToTheEdition) {
+    const std::string page = pageOf(fullWidget(GetParam(), variableOf));
+    expectNoValues(page);
+    EXPECT_THAT(page, HasSubstr("VISIBLE(காட்சி_பெயர்)"));
+}
+
+TEST_P(EveryWidget, LeavesLiteralsToTheEdition) {
+    const std::string page = pageOf(fullWidget(GetParam(), textOfSource));
+    expectNoValues(page);
+    EXPECT_THAT(page, Not(HasSubstr("\"" + SOURCE_TEXT)));
+}
+
+std::vector<std::string_view> drawnWords() {
+    std::vector<std::string_view> words;
+    for (const language::Widget& widget : language::widgets()) {
+        if (widget.role == language::WidgetRole::Widget) {
+            words.push_back(widget.word);
+        }
+    }
+    return words;
+}
+
+INSTANTIATE_TEST_SUITE_P(Words, EveryWidget, testing::ValuesIn(drawnWords()));
+
+/// The page of a widget with one property given by a variable.
+std::string pageWith(std::string_view word, const std::string& property) {
+    auto widget = widgetOf(word);
+    widget->properties[property] = variable("அ");
+    return pageOf(std::move(widget));
+}
+
+TEST(Values, AreWrittenAsWhatTheWidgetTakes) {
+    using namespace language::widget;
+    EXPECT_THAT(pageWith(TEXT, "உரை"), HasSubstr("std::string textContent = SHOWN(அ);"));
+    EXPECT_THAT(pageWith(TEXT, "ID"), HasSubstr("std::string _wid = TEXT(அ);"));
+    EXPECT_THAT(pageWith(SLIDER, "மதிப்பு"), HasSubstr("currentVal_2 = (float)NUMBER(அ);"));
+    EXPECT_THAT(pageWith(SWITCH, "ஆரம்ப_நிலை"), HasSubstr("static bool isOn_2 = TRUTH(அ);"));
+    EXPECT_THAT(pageWith(BUTTON, "அகலம்"), HasSubstr("btnW = SIZE(அ, (forcedW > 0.0f ? forcedW : winWidth));"));
+    auto radio = widgetOf(RADIO);
+    radio->properties["மதிப்பு"] = variable("அ");
+    radio->properties["குழு_மதிப்பு"] = variable("ஆ");
+    EXPECT_THAT(pageOf(std::move(radio)), HasSubstr("if (EQUAL(அ, ஆ)) isSelected = true;"));
+}
+
+TEST(Sizes, AreChosenByConditionsOfTheEdition) {
+    auto button = widgetOf(language::widget::BUTTON);
+    button->properties["அகலம்"] = make<TernaryExpression>(variable("அ"), number("5"), make<PercentageLiteral>("50%"));
+    EXPECT_THAT(pageOf(std::move(button)),
+                HasSubstr("btnW = (CONDITION(அ) ? 5.0f : ((forcedW > 0.0f ? forcedW : winWidth) * 0.500000f));"));
+}
+
+TEST(Handlers, AreToldApartByWhereTheyStand) {
+    using namespace language::widget;
+    EXPECT_THAT(pageWith(BUTTON, "அழுத்தினால்"), HasSubstr(" HANDLER(அ);"));
+    EXPECT_THAT(pageWith(SWITCH, "மாறியதால்"), HasSubstr(" HANDLER(அ);"));
+    EXPECT_THAT(pageWith(TAB_BAR, "அழுத்தினால்"), HasSubstr(" BAR_HANDLER(அ);"));
+    EXPECT_THAT(pageWith(BOTTOM_NAVIGATION, "அழுத்தினால்"), HasSubstr(" BAR_HANDLER(அ);"));
+    EXPECT_THAT(pageWith(TEXT_BUTTON, "அழுத்தினால்"), HasSubstr(" TEXT_HANDLER(அ);"));
+    auto button = widgetOf(BUTTON);
+    button->eventStatements.push_back(make<PassStatement>());
+    EXPECT_THAT(pageOf(std::move(button)), HasSubstr("STATEMENT;\n"));
+}
+
+TEST(Checkbox, TellsTheEditionOfItsState) {
+    const std::string page = pageOf(widgetOf(language::widget::CHECKBOX));
+    EXPECT_THAT(page, HasSubstr("checked_2 = !checked_2;\n"));
+    EXPECT_THAT(page, HasSubstr("CHANGE(checked_2);\n"));
+    EXPECT_THAT(page, HasSubstr("READ(checked_2);\n"));
+}
+
+TEST(Visibility, IsAConditionAroundTheWidget) {
+    EXPECT_THAT(pageWith(language::widget::TEXT, "காட்சி_பெயர்"),
+                HasSubstr("g_alert_names.insert(\"name\");\n        if (VISIBLE(அ)) {\n"));
+}
+
+TEST(Frame, HasItsHolesFilledByTheEdition) {
+    const std::string page = pageOf(widgetOf(language::widget::GAP));
+    EXPECT_THAT(page, HasSubstr("\nOPEN_ALERTS;\n"));
+    EXPECT_THAT(page, HasSubstr("\n    WINDOW_SIZE;\n"));
+    for (const char* line : {"    if (IS_SHOWN) {\n        double elapsed = emscripten_get_now() - SINCE;\n",
+                             "        float currentY = TOP;\n", "        MOVED;\n", "            HIDDEN;\n",
+                             "            std::string msgTxt = MESSAGE;\n", "            int sb_r = RED;\n",
+                             "            int sb_g = GREEN;\n", "            int sb_b = BLUE;\n"}) {
+        EXPECT_THAT(page, HasSubstr(line));
+    }
+}
+
+TEST(Header, LeavesValuesToTheEdition) {
+    PropertyMap header;
+    header["பின்னணிபடம்"] = variable("அ");
+    header["இணைய_தலைப்பு"] = variable("ஆ");
+    const std::string page = pageOf(widgetOf(language::widget::GAP), std::move(header));
+    EXPECT_THAT(page, HasSubstr("nvgCreateImage(vg, TEXT(அ).c_str(), 0);"));
+    EXPECT_THAT(page, HasSubstr("emscripten::val(TEXT(ஆ))"));
+    EXPECT_THAT(page, HasSubstr("glfwCreateWindow((int)1280.0f, (int)720.0f, LITERAL, NULL, NULL);"));
+}
+
+/// What \p write writes into a web program that has nothing else.
+template <class Write> std::string writtenBy(Write write) {
+    const Program program;
+    CodeWriter out;
+    MarkEdition edition(out);
+    WebEmitter web(out, edition, program);
+    write(web);
+    return out.text();
+}
+
+TEST(SnackBar, IsAFunctionOfTheEdition) {
+    auto bar = make<SnackBarNode>(StatementList{});
+    bar->properties["செய்தி"] = variable("அ");
+    const ExpressionPtr value = make<WidgetExpression>(std::move(bar));
+    EXPECT_EQ(writtenBy([&](WebEmitter& web) { web.writeExpression(value.get()); }), "MESSAGE(TEXT(அ))\n");
+}
+
+TEST(Database, LeavesValuesToTheEdition) {
+    auto data = make<MapLiteral>();
+    data->entries.emplace_back("ச", variable("ஆ"));
+    const ExpressionPtr insert = make<RTDBInsertExpression>(variable("அ"), std::move(data));
+    const std::string inserted = writtenBy([&](WebEmitter& web) { web.writeExpression(insert.get()); });
+    expectNoValues(inserted);
+    EXPECT_THAT(inserted, HasSubstr("[&]() -> VALUE {\n"));
+    EXPECT_THAT(inserted, HasSubstr("    std::string path_str = TEXT(அ);\n"));
+    EXPECT_THAT(inserted, HasSubstr("\" + TEXT(ஆ) + \""));
+    EXPECT_THAT(inserted, HasSubstr("    return VALUE();\n}()"));
+    const StatementPtr read = make<RTDBReadStatement>(variable("அ"), StatementList{});
+    const std::string reading = writtenBy([&](WebEmitter& web) { web.writeStatement(read.get()); });
+    expectNoValues(reading);
+    EXPECT_THAT(reading, HasSubstr("[=]() mutable -> VALUE {\n        BODY;\n        return VALUE();\n"));
+}
+
+TEST(Runtime, OfPagesKnowsNoValues) {
+    namespace runtime = page_runtime;
+    for (const std::string_view section :
+         {runtime::page_headers, runtime::web_text_layer, runtime::page_state, runtime::overlays, runtime::navigation,
+          runtime::input_state, runtime::canvas_keys, runtime::web_bridge, runtime::animation_engine,
+          runtime::scrolling, runtime::web_boilerplate, runtime::input_fields, runtime::media_elements,
+          runtime::frame_helpers}) {
+        expectNoValues(std::string(section));
+        EXPECT_THAT(std::string(section), Not(HasSubstr("#include <any>")));
+    }
+}
+
+TEST(Runtime, OfPagesIsFilledByTheEdition) {
+    EXPECT_THAT(page_runtime::navigationFrom("LITERAL"), HasSubstr("std::string g_currentPage = LITERAL; //"));
+    const std::string bridge = page_runtime::bridgeWith("ENTRIES;\n", "ANSWER;\n");
+    EXPECT_THAT(bridge, HasSubstr("\n}\n\nENTRIES;\n}\n"));
+    EXPECT_THAT(bridge, HasSubstr("{\nANSWER;\n        found->second();\n"));
+}
+
+} // namespace
