@@ -66,6 +66,7 @@ public:
     }
     void writeWindowSize(CodeWriter& out) override { out.block("WINDOW_SIZE;\n"); }
     void writeOpenAlerts(CodeWriter& out) override { out.block("OPEN_ALERTS;\n"); }
+    void writeDrawing(CodeWriter& out) override { out.block("DRAWING;\n"); }
     void writeHandler(WidgetWriter& widget, const Expression& handler, HandlerSite site) override {
         const std::array<std::string, 3> sites = {"HANDLER", "BAR_HANDLER", "TEXT_HANDLER"};
         widget.block("$site($name);\n",
@@ -243,7 +244,7 @@ TEST(Visibility, IsAConditionAroundTheWidget) {
 
 TEST(Frame, HasItsHolesFilledByTheEdition) {
     const std::string page = pageOf(widgetOf(language::widget::GAP));
-    EXPECT_THAT(page, HasSubstr("\nOPEN_ALERTS;\n"));
+    EXPECT_THAT(page, HasSubstr("\nOPEN_ALERTS;\n\nDRAWING;\n\nvoid render_frame() {\n"));
     EXPECT_THAT(page, HasSubstr("\n    WINDOW_SIZE;\n"));
     for (const char* line : {"    if (IS_SHOWN) {\n        double elapsed = emscripten_get_now() - SINCE;\n",
                              "        float currentY = TOP;\n", "        MOVED;\n", "            HIDDEN;\n",

@@ -176,6 +176,26 @@ std::set<std::string> pozhil_open_alerts() {
 )");
 }
 
+void WebEdition::writeDrawing(CodeWriter& out) {
+    out.block(R"block(
+// வரையும்போது பிழை எழுந்தால் அந்த விட்ஜெட் மட்டும் அச்சட்டத்தில் விடுபடும்; ஒவ்வொரு பிழையும் ஒருமுறையே பணியகத்துக்குச் செல்லும்
+void pozhil_report_drawing_fault(const std::string& fault) {
+    static std::set<std::string> reported;
+    if (reported.insert(fault).second) {
+        EM_ASM({ console.error('🔥 பொழில் இயக்கநேரப் பிழை (WASM):', UTF8ToString($0)); }, fault.c_str());
+    }
+}
+
+template <class Draw> void pozhil_draw(Draw draw) {
+    try {
+        draw();
+    } catch (const std::exception& fault) {
+        pozhil_report_drawing_fault(fault.what());
+    }
+}
+)block");
+}
+
 void WebEdition::writeHandler(WidgetWriter& widget, const Expression& handler, HandlerSite site) {
     const Holes holes = {{"handler", written(&handler)}};
     if (site == HandlerSite::TextButton) {

@@ -32,6 +32,9 @@ public:
     void writeWindowSize(CodeWriter& out) override;
     void writeOpenAlerts(CodeWriter& out) override;
 
+    /// A fault is told once, on the console.
+    void writeDrawing(CodeWriter& out) override;
+
     /// Only a control calls the function that its handler may be.
     void writeHandler(WidgetWriter& widget, const Expression& handler, HandlerSite site) override;
     void writeHandlerStatements(WidgetWriter& widget, const StatementList& statements) override;

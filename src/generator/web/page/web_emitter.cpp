@@ -32,11 +32,12 @@ void WebEmitter::writeProgram() {
 /// What a parent imposes on a widget passes through the two forced sizes.
 void WebEmitter::writeFrameHead() {
     const Filling openAlerts([this] { edition_.writeOpenAlerts(out_); });
+    const Filling drawing([this] { edition_.writeDrawing(out_); });
     const Filling windowSize([this] {
         const CodeWriter::Indented inFrame(out_);
         edition_.writeWindowSize(out_);
     });
-    out_.block(page_text::frame_head, {{"openAlerts", openAlerts}, {"windowSize", windowSize}});
+    out_.block(page_text::frame_head, {{"openAlerts", openAlerts}, {"drawing", drawing}, {"windowSize", windowSize}});
     out_ << "    float forcedW = -1.0f; float forcedH = -1.0f; float maxW = -1.0f; float maxH = -1.0f;\n"
          << "    pozhil_draw([&] {\n";
 }

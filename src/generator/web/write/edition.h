@@ -105,6 +105,12 @@ public:
     /// there that mask the page.
     virtual void writeOpenAlerts(CodeWriter& out) = 0;
 
+    // Faults of the running program.
+
+    /// The function template pozhil_draw of the emitted program, which calls what it gets: the block of a widget. A fault
+    /// in it is told, and the page goes on after it.
+    virtual void writeDrawing(CodeWriter& out) = 0;
+
     // Handlers, as lines at the present level of indentation, inside the test for the press.
 
     /// What \p handler does. A page outlives whatever it throws.
