@@ -47,6 +47,17 @@ enum class WidgetRole {
     Key    ///< a key of other widgets, which may stand in a widget's place
 };
 
+/// Which widgets may stand between the brackets of a widget.
+enum class WidgetChildren {
+    None,
+    One,
+    Any,
+    Text,        ///< a label
+    TextOrImage, ///< a label, a picture or both
+    TabItems,
+    BottomItems
+};
+
 /// What kind of value a property takes.
 enum class ValueKind {
     Number,
@@ -84,6 +95,7 @@ struct Widget {
     WidgetRole role;
     Rows<WidgetProperty> properties;
     Bilingual description;
+    WidgetChildren children = WidgetChildren::None;
 };
 
 /// All words of widgets, family by family.

@@ -15,7 +15,7 @@ bool beginsWithHole(std::string_view text) {
 } // namespace
 
 Catalogue catalogue() {
-    return {{writingRows(), meaningRows(), valueRows(), runningRows()}};
+    return {{writingRows(), meaningRows(), valueRows(), applicationRows(), runningRows()}};
 }
 
 const Entry* findEntry(int number) {

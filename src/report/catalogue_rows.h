@@ -27,14 +27,16 @@ private:
 EntryRows writingRows();
 /// 551 to 599: what means nothing.
 EntryRows meaningRows();
-/// 601 to 639: what values can't do.
+/// 601 to 623: what values can't do.
 EntryRows valueRows();
+/// 624 to 639: what is written wrong in a web application.
+EntryRows applicationRows();
 /// 640 to 699: calls, lists, maps, objects, files and time.
 EntryRows runningRows();
 
 /// All of them, in ascending order of their numbers.
 struct Catalogue {
-    EntryRows blocks[4];
+    EntryRows blocks[5];
 };
 Catalogue catalogue();
 

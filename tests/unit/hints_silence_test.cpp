@@ -4,11 +4,10 @@
 #include "diagnostics/fault.h"
 #include "driver/translation.h"
 #include "front_end/front_end.h"
+#include "support/published_programs.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <map>
 #include <string>
 #include <vector>
 
@@ -16,6 +15,8 @@
 #include <gtest/gtest.h>
 
 using namespace pozhil;
+using pozhil::test::PublishedProgram;
+using pozhil::test::publishedPrograms;
 using testing::IsEmpty;
 
 namespace {
@@ -24,55 +25,6 @@ namespace fs = std::filesystem;
 
 const fs::path ROOT = fs::u8path(POZHIL_SOURCE_DIRECTORY);
 
-/// A program, and the files beside it by name.
-struct Sample {
-    std::string place;
-    std::string text;
-    std::map<std::string, std::string> files{};
-};
-
-/// The programs of a page, each after the files that it imports.
-void addPage(const fs::path& page, std::vector<Sample>& samples) {
-    std::ifstream file(page);
-    std::string line;
-    Sample sample;
-    int number = 0;
-    while (std::getline(file, line)) {
-        ++number;
-        if (line.rfind("```", 0) != 0) {
-            continue;
-        }
-        const std::string tag = line.substr(3);
-        sample.place = page.stem().u8string() + ":" + std::to_string(number);
-        std::string text;
-        while (std::getline(file, line) && line != "```") {
-            ++number;
-            text += line + "\n";
-        }
-        ++number;
-        if (tag == "பொழில்" || tag == "பொழில்-வலை") {
-            sample.text = text;
-            samples.push_back(sample);
-            sample = {};
-        } else if (const std::size_t blank = tag.find(' '); blank != std::string::npos) {
-            sample.files[tag.substr(blank + 1)] = text;
-        }
-    }
-}
-
-std::vector<Sample> samplesOf(const fs::path& directory) {
-    std::vector<Sample> samples;
-    for (const auto& entry : fs::recursive_directory_iterator(directory)) {
-        const std::string ending = entry.path().extension().u8string();
-        if (ending == ".md") {
-            addPage(entry.path(), samples);
-        } else if (ending == ".பொழில்") {
-            samples.push_back({entry.path().stem().u8string(), readSourceText(entry.path().u8string()).value()});
-        }
-    }
-    return samples;
-}
-
 /// The places of the samples that bring hints, and of those that are refused.
 struct Outcome {
     std::vector<std::string> hinted;
@@ -80,14 +32,14 @@ struct Outcome {
 };
 
 /// Hints are of the first edition.
-bool isOfSecondEdition(const Sample& sample) {
+bool isOfSecondEdition(const PublishedProgram& sample) {
     return sample.text.rfind("ஃ பொழில் 2\n", 0) == 0;
 }
 
-Outcome outcomeOf(const std::vector<Sample>& samples) {
+Outcome outcomeOf(const std::vector<PublishedProgram>& samples) {
     const FileLoader files;
     Outcome outcome;
-    for (const Sample& sample : samples) {
+    for (const PublishedProgram& sample : samples) {
         if (isOfSecondEdition(sample)) {
             continue;
         }
@@ -114,7 +66,7 @@ Outcome outcomeOf(const std::vector<Sample>& samples) {
 }
 
 TEST(Silence, OfExamples) {
-    const std::vector<Sample> samples = samplesOf(ROOT / fs::u8path("எடுத்துக்காட்டுகள்"));
+    const std::vector<PublishedProgram> samples = publishedPrograms(ROOT / fs::u8path("எடுத்துக்காட்டுகள்"));
     EXPECT_GT(samples.size(), 20U);
     const Outcome outcome = outcomeOf(samples);
     EXPECT_THAT(outcome.hinted, IsEmpty());
@@ -122,7 +74,7 @@ TEST(Silence, OfExamples) {
 }
 
 TEST(Silence, OfModules) {
-    const std::vector<Sample> samples = samplesOf(ROOT / fs::u8path("தொகுப்புகள்"));
+    const std::vector<PublishedProgram> samples = publishedPrograms(ROOT / fs::u8path("தொகுப்புகள்"));
     EXPECT_GT(samples.size(), 3U);
     const Outcome outcome = outcomeOf(samples);
     EXPECT_THAT(outcome.hinted, IsEmpty());
@@ -131,9 +83,9 @@ TEST(Silence, OfModules) {
 
 /// The pages of surprises and of errors show what isn't meant, and the one on values what an unset variable is.
 TEST(Silence, OfGuides) {
-    std::vector<Sample> samples = samplesOf(ROOT / "docs");
+    std::vector<PublishedProgram> samples = publishedPrograms(ROOT / "docs");
     EXPECT_GT(samples.size(), 150U);
-    const auto showsTrouble = [](const Sample& sample) {
+    const auto showsTrouble = [](const PublishedProgram& sample) {
         const auto isOf = [&](const char* page) { return sample.place.rfind(page, 0) == 0; };
         return isOf("01அ_பத்துச்_சுவர்கள்:") || isOf("14_வியப்புகள்:") || isOf("பிழைகள்:") ||
                sample.text.find("இல்லாதது") != std::string::npos;

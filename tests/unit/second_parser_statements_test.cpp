@@ -195,9 +195,7 @@ TEST(AbstractStructures, HoldHeads) {
                 ElementsAre("537 2 'அ'", "538 3 'f'", "527 4 'திரும்பு'"));
 }
 
-TEST(WebApplications, AreRefusedAlone) {
-    EXPECT_THAT(secondFaults("அ = 1 1\nவலைதளம் ஏடு(\n    தலைப்பு: \"அ\",\n    குமரி(\n அச்சிடு(+)\n"),
-                ElementsAre("530 1 '1'", "546 2 'வலைதளம்'"));
+TEST(WordsOfApplications, AreNames) {
     EXPECT_THAT(secondFaults("வலைதளம் = 5\n"), IsEmpty());
 }
 

@@ -7,6 +7,7 @@ namespace {
 using Start = WidgetStart;
 using Form = WidgetForm;
 using Role = WidgetRole;
+using Children = WidgetChildren;
 
 // clang-format off
 constexpr WidgetProperty DIALOG_PROPERTIES[] = {
@@ -50,19 +51,19 @@ constexpr WidgetProperty PAGE_PROPERTIES[] = {
 
 constexpr Widget WIDGETS[] = {
     {widget::DIALOG, TokenType::ALERT, true, Start::Kind, Form::Dialog, Role::Widget, DIALOG_PROPERTIES,
-     {"பக்கத்தின் மேல் ஓர் உரையாடல் பெட்டி", "a dialog above the page"}},
+     {"பக்கத்தின் மேல் ஓர் உரையாடல் பெட்டி", "a dialog above the page"}, Children::Any},
     {widget::SNACK_BAR, TokenType::SNACKBAR, true, Start::KindOrName, Form::SnackBar, Role::Widget, SNACK_BAR_PROPERTIES,
      {"மேலிருந்து வந்து 2.5 வினாடியில் போகும் செய்தி", "a message that slides in from the top and goes after 2.5 seconds"}},
     {widget::TAB_BAR, TokenType::TAB, true, Start::Kind, Form::General, Role::Widget, TAB_BAR_PROPERTIES,
-     {"சாளரத்தின் அகலத்தில் தத்தல்கள்", "a tab bar as wide as the window"}},
+     {"சாளரத்தின் அகலத்தில் தத்தல்கள்", "a tab bar as wide as the window"}, Children::TabItems},
     {widget::TAB_ITEM, TokenType::TAB_ITEM, true, Start::Kind, Form::General, Role::Item, TAB_ITEM_PROPERTIES,
-     {"தத்தலின் ஓர் உருப்படி", "an item of a tab bar"}},
+     {"தத்தலின் ஓர் உருப்படி", "an item of a tab bar"}, Children::Text},
     {widget::BOTTOM_NAVIGATION, TokenType::BOTTOM_NAV, true, Start::Kind, Form::General, Role::Widget, BOTTOM_NAVIGATION_PROPERTIES,
-     {"சாளரத்தின் அடியில் ஒரு பட்டை", "a bar at the bottom of the window"}},
+     {"சாளரத்தின் அடியில் ஒரு பட்டை", "a bar at the bottom of the window"}, Children::BottomItems},
     {widget::BOTTOM_NAVIGATION_ITEM, TokenType::BOTTOM_NAV_ITEM, true, Start::Kind, Form::General, Role::Item, BOTTOM_ITEM_PROPERTIES,
-     {"அடிப்பகுதியின் ஓர் உருப்படி", "an item of the bar at the bottom"}},
+     {"அடிப்பகுதியின் ஓர் உருப்படி", "an item of the bar at the bottom"}, Children::TextOrImage},
     {widget::PAGE, TokenType::PAGE, true, Start::Nothing, Form::General, Role::Widget, PAGE_PROPERTIES,
-     {"இப்போதைய பக்கமாக இருக்கும்போது சாளரம் முழுவதையும் மூடும்", "covers the window while it is the current page"}},
+     {"இப்போதைய பக்கமாக இருக்கும்போது சாளரம் முழுவதையும் மூடும்", "covers the window while it is the current page"}, Children::Any},
 };
 // clang-format on
 

@@ -7,6 +7,7 @@ namespace {
 using Start = WidgetStart;
 using Form = WidgetForm;
 using Role = WidgetRole;
+using Children = WidgetChildren;
 
 // clang-format off
 constexpr WidgetProperty CONTAINER_PROPERTIES[] = {
@@ -33,6 +34,17 @@ constexpr WidgetProperty BOX_STYLE_PROPERTIES[] = {
 };
 
 constexpr WidgetProperty CARD_PROPERTIES[] = {
+    {property::WIDTH, "", ValueKind::Size, {"அகலம்", "width"}},
+    {property::HEIGHT, "", ValueKind::Size, {"உயரம்", "height"}},
+    {property::RADIUS, "", ValueKind::Number, {"மூலை வளைவு", "corner radius"}},
+    {property::BACKGROUND, "", ValueKind::Colour, {"பின்னணியின் நிறம்", "colour of the background"}},
+    {property::WIDTH, widget::CARD_STYLE, ValueKind::Size, {"அகலம்", "width"}},
+    {property::HEIGHT, widget::CARD_STYLE, ValueKind::Size, {"உயரம்", "height"}},
+    {property::RADIUS, widget::CARD_STYLE, ValueKind::Number, {"மூலை வளைவு", "corner radius"}},
+    {property::BACKGROUND, widget::CARD_STYLE, ValueKind::Colour, {"பின்னணியின் நிறம்", "colour of the background"}},
+};
+
+constexpr WidgetProperty CARD_STYLE_PROPERTIES[] = {
     {property::WIDTH, "", ValueKind::Size, {"அகலம்", "width"}},
     {property::HEIGHT, "", ValueKind::Size, {"உயரம்", "height"}},
     {property::RADIUS, "", ValueKind::Number, {"மூலை வளைவு", "corner radius"}},
@@ -68,19 +80,19 @@ constexpr WidgetProperty AVATAR_PROPERTIES[] = {
 
 constexpr Widget WIDGETS[] = {
     {widget::CONTAINER, TokenType::CONTAINER, true, Start::KindOrName, Form::Container, Role::Widget, CONTAINER_PROPERTIES,
-     {"பின்னணி, வளைவு, நிழல், படம் உள்ள பெட்டி", "a box with background, radius, shadow and picture"}},
+     {"பின்னணி, வளைவு, நிழல், படம் உள்ள பெட்டி", "a box with background, radius, shadow and picture"}, Children::Any},
     {widget::BOX_STYLE, TokenType::BOX_STYLE, true, Start::KindOrName, Form::General, Role::Style, BOX_STYLE_PROPERTIES,
      {"பெட்டியின் தோற்றம்", "the look of a box"}},
     {widget::CARD, TokenType::CARD, true, Start::KindOrName, Form::Card, Role::Widget, CARD_PROPERTIES,
-     {"நிழலோடு கூடிய அட்டை", "a card with a shadow"}},
-    {widget::CARD_STYLE, TokenType::CARD_STYLE, true, Start::KindOrName, Form::General, Role::Style, CARD_PROPERTIES,
+     {"நிழலோடு கூடிய அட்டை", "a card with a shadow"}, Children::Any},
+    {widget::CARD_STYLE, TokenType::CARD_STYLE, true, Start::KindOrName, Form::General, Role::Style, CARD_STYLE_PROPERTIES,
      {"அட்டையின் தோற்றம்", "the look of a card"}},
     {widget::LIST_TILE, TokenType::LIST_TILE, true, Start::KindOrName, Form::ListTile, Role::Widget, LIST_TILE_PROPERTIES,
      {"ஒரு பட்டியலின் வரி", "a line of a list"}},
     {widget::IMAGE, TokenType::IMAGE, true, Start::Kind, Form::General, Role::Widget, IMAGE_PROPERTIES,
      {"ஒரு படம்", "a picture"}},
     {widget::AVATAR, TokenType::CIRCLE_IMAGE, true, Start::Kind, Form::General, Role::Widget, AVATAR_PROPERTIES,
-     {"வட்டமான படம் அல்லது முதலெழுத்து", "a round picture or initials"}},
+     {"வட்டமான படம் அல்லது முதலெழுத்து", "a round picture or initials"}, Children::TextOrImage},
 };
 // clang-format on
 

@@ -7,6 +7,7 @@ namespace {
 using Start = WidgetStart;
 using Form = WidgetForm;
 using Role = WidgetRole;
+using Children = WidgetChildren;
 
 // clang-format off
 constexpr WidgetProperty TEXT_FIELD_PROPERTIES[] = {
@@ -108,7 +109,7 @@ constexpr Widget WIDGETS[] = {
     {widget::SEARCH_STYLE, TokenType::SEARCH_STYLE, true, Start::Name, Form::General, Role::Style, SEARCH_STYLE_PROPERTIES,
      {"தேடல் பட்டையின் தோற்றம்", "the look of a search bar"}},
     {widget::CHECKBOX, TokenType::CHECKBOX, true, Start::Kind, Form::General, Role::Widget, CHECKBOX_PROPERTIES,
-     {"`மெய்` அல்லது `பொய்` என்று தேர்வு செய்யும் பெட்டி", "a box to tick"}},
+     {"`மெய்` அல்லது `பொய்` என்று தேர்வு செய்யும் பெட்டி", "a box to tick"}, Children::Text},
     {widget::RADIO, TokenType::RADIO, true, Start::Kind, Form::General, Role::Widget, RADIO_PROPERTIES,
      {"`மதிப்பு`, `குழு_மதிப்பு` இரண்டும் சமமானால் தேர்வு", "selected while `மதிப்பு` equals `குழு_மதிப்பு`"}},
     {widget::SWITCH, TokenType::TOGGLE, true, Start::Kind, Form::General, Role::Widget, SWITCH_PROPERTIES,

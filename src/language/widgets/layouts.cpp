@@ -7,6 +7,7 @@ namespace {
 using Start = WidgetStart;
 using Form = WidgetForm;
 using Role = WidgetRole;
+using Children = WidgetChildren;
 
 // clang-format off
 constexpr WidgetProperty LINE_PROPERTIES[] = {
@@ -35,6 +36,8 @@ constexpr WidgetProperty GRID_VIEW_PROPERTIES[] = {
     {property::WIDTH, "", ValueKind::Number, {"எல்லா நிரல்களும் சேர்ந்து", "of all columns"}},
     {"கி_இவெ", "", ValueKind::Number, {"நிரல்களுக்கு நடுவே", "between columns"}},
     {"நெ_இவெ", "", ValueKind::Number, {"வரிசைகளுக்கு நடுவே", "between rows"}},
+    {property::WIDTH, widget::GAP, ValueKind::Number, {"நிரல்களுக்கு நடுவே", "between columns"}},
+    {property::HEIGHT, widget::GAP, ValueKind::Number, {"வரிசைகளுக்கு நடுவே", "between rows"}},
 };
 
 constexpr WidgetProperty FLEX_PROPERTIES[] = {
@@ -52,21 +55,21 @@ constexpr WidgetProperty PADDING_PROPERTIES[] = {
 
 constexpr Widget WIDGETS[] = {
     {widget::COLUMN, TokenType::COLUMN, true, Start::Kind, Form::Column, Role::Widget, LINE_PROPERTIES,
-     {"குழந்தைகள் மேலிருந்து கீழாக", "children from top to bottom"}},
+     {"குழந்தைகள் மேலிருந்து கீழாக", "children from top to bottom"}, Children::Any},
     {widget::ROW, TokenType::ROW, true, Start::Kind, Form::Row, Role::Widget, LINE_PROPERTIES,
-     {"குழந்தைகள் இடமிருந்து வலமாக", "children from left to right"}},
+     {"குழந்தைகள் இடமிருந்து வலமாக", "children from left to right"}, Children::Any},
     {widget::STACK, TokenType::STACK, true, Start::Kind, Form::PlainLayout, Role::Widget, STACK_PROPERTIES,
-     {"குழந்தைகள் ஒன்றன்மேல் ஒன்றாக", "children on top of each other"}},
+     {"குழந்தைகள் ஒன்றன்மேல் ஒன்றாக", "children on top of each other"}, Children::Any},
     {widget::WRAP, TokenType::WRAP, false, Start::KindOrName, Form::PlainLayout, Role::Widget, WRAP_PROPERTIES,
-     {"இடமிருந்து வலமாக; சாளரத்தின் அகலம் நிறைந்ததும் அடுத்த வரி", "from left to right, on to the next line at the window's width"}},
+     {"இடமிருந்து வலமாக; சாளரத்தின் அகலம் நிறைந்ததும் அடுத்த வரி", "from left to right, on to the next line at the window's width"}, Children::Any},
     {widget::LIST_VIEW, TokenType::LIST_VIEW, true, Start::KindOrName, Form::ListView, Role::Widget, LIST_VIEW_PROPERTIES,
-     {"சாளரத்தின் அளவில் உருளும் பட்டியல்", "a scrolling list as large as the window"}},
+     {"சாளரத்தின் அளவில் உருளும் பட்டியல்", "a scrolling list as large as the window"}, Children::Any},
     {widget::GRID_VIEW, TokenType::GRID_VIEW, true, Start::KindOrName, Form::GridView, Role::Widget, GRID_VIEW_PROPERTIES,
-     {"குழந்தைகள் வரிசையும் நிரலுமாக", "children in rows and columns"}},
+     {"குழந்தைகள் வரிசையும் நிரலுமாக", "children in rows and columns"}, Children::Any},
     {widget::EXPANDED, TokenType::EXPANDED, true, Start::KindOrName, Form::Expanded, Role::Widget, FLEX_PROPERTIES,
-     {"எஞ்சும் இடத்தில் ஒரு பங்கு", "one share of what is left in a row or column"}},
+     {"எஞ்சும் இடத்தில் ஒரு பங்கு", "one share of what is left in a row or column"}, Children::One},
     {widget::FLEXIBLE, TokenType::FLEXIBLE, true, Start::KindOrName, Form::Flexible, Role::Widget, FLEX_PROPERTIES,
-     {"எஞ்சும் இடத்தில் `பங்கு` சொல்லும் அளவு", "as many shares of what is left as `பங்கு` says"}},
+     {"எஞ்சும் இடத்தில் `பங்கு` சொல்லும் அளவு", "as many shares of what is left as `பங்கு` says"}, Children::One},
     {widget::SHARE, TokenType::FLEX_SHARE, true, Start::Nothing, Form::Flexible, Role::Key, {},
      {"எஞ்சும் இடத்தில் எத்தனை பங்கு", "how many shares of what is left"}},
     {widget::SPACER, TokenType::SPACER, true, Start::KindOrName, Form::Spacer, Role::Widget, FLEX_PROPERTIES,
@@ -74,9 +77,9 @@ constexpr Widget WIDGETS[] = {
     {widget::GAP, TokenType::PADDING, true, Start::Kind, Form::General, Role::Widget, GAP_PROPERTIES,
      {"ஓர் இடைவெளி", "a gap"}},
     {widget::PADDING, TokenType::INNER_PADDING, true, Start::KindOrName, Form::Padding, Role::Widget, PADDING_PROPERTIES,
-     {"குழந்தையை உள்ளே தள்ளும்", "insets its child"}},
+     {"குழந்தையை உள்ளே தள்ளும்", "insets its child"}, Children::One},
     {widget::PADDING_MISSPELT, TokenType::INNER_PADDING, true, Start::KindOrName, Form::Padding, Role::Widget, PADDING_PROPERTIES,
-     {"`உள்_இவெ`-யின் எழுத்துப் பிழை; எதையும் வரையாது", "a misspelling of `உள்_இவெ`; draws nothing"}},
+     {"`உள்_இவெ`-யின் எழுத்துப் பிழை; எதையும் வரையாது", "a misspelling of `உள்_இவெ`; draws nothing"}, Children::One},
 };
 // clang-format on
 

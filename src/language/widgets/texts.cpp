@@ -7,6 +7,7 @@ namespace {
 using Start = WidgetStart;
 using Form = WidgetForm;
 using Role = WidgetRole;
+using Children = WidgetChildren;
 
 // clang-format off
 constexpr WidgetProperty TEXT_PROPERTIES[] = {
@@ -45,7 +46,7 @@ constexpr Widget WIDGETS[] = {
     {widget::TEXT, TokenType::TEXT, true, Start::KindOrName, Form::General, Role::Widget, TEXT_PROPERTIES,
      {"ஒரு வரி; மாறியைத் தந்தால் அதன் மதிப்பைத் தொடரும்", "a line of text; given a variable, it follows its value"}},
     {widget::BUTTON, TokenType::BUTTON, true, Start::Kind, Form::General, Role::Widget, BUTTON_PROPERTIES,
-     {"அழுத்தும் பொத்தான்", "a button"}},
+     {"அழுத்தும் பொத்தான்", "a button"}, Children::Text},
     {widget::TEXT_BUTTON, TokenType::TEXT_BUTTON, true, Start::KindOrName, Form::TextButton, Role::Widget, TEXT_BUTTON_PROPERTIES,
      {"கரையும் பின்னணியும் இல்லாத பொத்தான்", "a button without border and background"}},
 };

@@ -34,6 +34,44 @@ BlockPtr BlockGrammar::parseBlock() {
     return block;
 }
 
+StatementList BlockGrammar::parseBracketed(TokenType closing) {
+    const ScopedIncrement inside(parse_.blockDepth);
+    const ScopedValue<int> noStrayIndents(strayIndents_, 0);
+    StatementList statements;
+    Parts siblings(height_);
+    while (!tokens_.check(closing) && !tokens_.isAtEnd()) {
+        siblings.next();
+        recovery_.attempt([&] {
+            if (tokens_.accept(TokenType::NEWLINE) || takeStrayDedent() || tokens_.accept(TokenType::DEDENT) ||
+                takeStrayIndent()) {
+                return;
+            }
+            statements.push_back(parse_.statements.parseStatement());
+        });
+    }
+    return statements;
+}
+
+StatementList BlockGrammar::parseBracketedOrValue(TokenType closing, ExpressionPtr& value) {
+    tokens_.accept(TokenType::NEWLINE);
+    if (!parse_.statements.isValueAhead() || tokens_.check(closing)) {
+        return parseBracketed(closing);
+    }
+    const std::size_t first = tokens_.position();
+    ExpressionPtr only = parse_.expressions.parseInner();
+    consumeStatementEnd();
+    if (tokens_.check(closing)) {
+        value = std::move(only);
+        return {};
+    }
+    StatementList statements;
+    statements.push_back(make<ExpressionStatement>(first, std::move(only)));
+    for (StatementPtr& statement : parseBracketed(closing)) {
+        statements.push_back(std::move(statement));
+    }
+    return statements;
+}
+
 /// The line end and the indentation after a colon.
 void BlockGrammar::beginBlock() {
     const std::size_t colon = tokens_.position() - 1;

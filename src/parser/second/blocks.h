@@ -22,6 +22,15 @@ public:
     /// \throws SyntaxFault
     BlockPtr parseFunctionBody();
 
+    /// The statements in a bracket that has lines of its own, up to its end.
+    /// \throws SyntaxFault
+    StatementList parseBracketed(TokenType closing);
+
+    /// The same where one value may stand instead.
+    /// \param[out] value takes that value; null if there are statements
+    /// \throws SyntaxFault
+    StatementList parseBracketedOrValue(TokenType closing, ExpressionPtr& value);
+
     /// Runs \p parseOne for every line of a block of another kind, such as the members of a structure, after its colon.
     /// \throws SyntaxFault if there is no block
     template <class ParseOne> void parseLines(const ParseOne& parseOne) {

@@ -1,13 +1,19 @@
 #pragma once
 
+#include "parser/second/animations.h"
+#include "parser/second/applications.h"
 #include "parser/second/blocks.h"
 #include "parser/second/control_flow.h"
+#include "parser/second/databases.h"
 #include "parser/second/definitions.h"
 #include "parser/second/expressions.h"
 #include "parser/second/function_values.h"
 #include "parser/second/primaries.h"
+#include "parser/second/property_values.h"
 #include "parser/second/statements.h"
 #include "parser/second/structures.h"
+#include "parser/second/widget_styles.h"
+#include "parser/second/widgets.h"
 
 #include <cstdint>
 #include <utility>
@@ -36,6 +42,10 @@ struct FileParse {
     /// How many functions and blocks are around the statement that is parsed.
     int functionDepth = 0;
     int blockDepth = 0;
+    /// Whether an application is around it.
+    bool isInApplication = false;
+    /// Whether the value that is parsed may be a percentage.
+    bool takesPercentages = false;
 
     StatementGrammar statements{*this};
     BlockGrammar blocks{*this};
@@ -45,6 +55,12 @@ struct FileParse {
     ExpressionGrammar expressions{*this};
     PrimaryGrammar primaries{*this};
     FunctionValueGrammar functionValues{*this};
+    ApplicationGrammar applications{*this};
+    DatabaseGrammar databases{*this};
+    WidgetGrammar widgets{*this};
+    PropertyGrammar properties{*this};
+    StyleGrammar styles{*this};
+    AnimationGrammar animations{*this};
 };
 
 } // namespace pozhil::second

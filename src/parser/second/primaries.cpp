@@ -13,10 +13,17 @@ ExpressionPtr PrimaryGrammar::parsePrimary() {
     case TokenType::LPAREN: return parseGrouping();
     case TokenType::LBRACKET: return parseList();
     case TokenType::LBRACE: return parseMap();
+    case TokenType::PERCENT: return parsePercentage();
     default: break;
     }
     if (tokens_.checkWord("வினை")) {
         return parse_.functionValues.parseWordFunction();
+    }
+    if (parse_.databases.isWriteAhead()) {
+        return parse_.databases.parseWrite();
+    }
+    if (parse_.widgets.isWidgetAhead()) {
+        return parse_.widgets.parseWidgetExpression();
     }
     if (isNameHere()) {
         return parseLeaf<VariableAccess>();
@@ -42,6 +49,13 @@ template <class Node> ExpressionPtr PrimaryGrammar::parseLeaf() {
 ExpressionPtr PrimaryGrammar::parseNumber() {
     const bool hasPoint = tokens_.peek().value.find('.') != std::string::npos;
     return hasPoint ? parseLeaf<DoubleLiteral>() : parseLeaf<NumberLiteral>();
+}
+
+ExpressionPtr PrimaryGrammar::parsePercentage() {
+    if (!parse_.takesPercentages) {
+        note(fault::MISPLACED_PERCENTAGE, tokens_.rangeOf(tokens_.position()), {tokens_.peek().value});
+    }
+    return parseLeaf<PercentageLiteral>();
 }
 
 /// Brackets in a condition don't change what "=" most likely means.

@@ -14,6 +14,7 @@ public:
 
 private:
     ExpressionPtr parseNumber();
+    ExpressionPtr parsePercentage();
     ExpressionPtr parseGrouping();
     ExpressionPtr parseList();
     ExpressionPtr parseMap();

@@ -1,13 +1,12 @@
 #include "parser/second/recovery.h"
 
-#include "base/letters.h"
 #include "base/text.h"
 #include "parser/second/foreign_habits.h"
+#include "parser/second/suggestion.h"
 #include "scanner/second/fault_numbers.h"
 #include "scanner/second/words.h"
 
 #include <algorithm>
-#include <string_view>
 #include <utility>
 
 namespace pozhil::second {
@@ -107,9 +106,8 @@ std::string Recovery::suggestionFor(const SecondFault& fault) const {
         if (startsWith(token.value, "ஃ")) {
             return "குறிப்பு எழுத நினைத்தால், 'ஃ'-க்குப் பின் ஓர் இடைவெளி விடு மச்சி!";
         }
-        const std::string_view nearest = nearestWord(token.value, statementWords());
-        if (!nearest.empty()) {
-            return "'" + token.value + "' என்பது '" + std::string(nearest) + "' என்று இருக்க வேண்டுமோ?";
+        if (std::string suggestion = suggestionOf(token.value, statementWords()); !suggestion.empty()) {
+            return suggestion;
         }
     }
     return "";
@@ -120,6 +118,20 @@ void Recovery::skipStatement(std::size_t first, int level) {
     int open = tokens_.openBrackets(first);
     while (!tokens_.isAtEnd()) {
         if (open <= 0 && tokens_.position() > first && isAtNextStatement(level) && !isPartOfStatement()) {
+            return;
+        }
+        const std::size_t taken = tokens_.position();
+        tokens_.advance();
+        open += tokens_.openBrackets(taken);
+    }
+}
+
+/// An item ends with its comma, or with the bracket around it.
+void Recovery::skipItem(std::size_t first) {
+    int open = tokens_.openBrackets(first);
+    while (!tokens_.isAtEnd()) {
+        const bool isOver = tokens_.check(TokenType::COMMA) || tokens_.check(TokenType::RPAREN);
+        if (open <= 0 && isOver) {
             return;
         }
         const std::size_t taken = tokens_.position();

@@ -39,6 +39,19 @@ public:
         }
     }
 
+    /// Runs \p parse for the next item of a bracketed list. After a fault comes what is after the next comma, or the end of
+    /// the list.
+    template <class Parse> void attemptItem(const Parse& parse) {
+        const std::size_t first = tokens_.position();
+        const ScopedValue<std::size_t> statement(statement_, first);
+        try {
+            parse();
+        } catch (const SyntaxFault& caught) {
+            note(caught.fault);
+            skipItem(first);
+        }
+    }
+
     /// Keeps a fault that the parse goes on after.
     void note(SecondFault fault);
 
@@ -60,6 +73,7 @@ private:
     bool isEcho(const SecondFault& fault) const;
     std::string suggestionFor(const SecondFault& fault) const;
     void skipStatement(std::size_t first, int level);
+    void skipItem(std::size_t first);
     bool isAtNextStatement(int level) const;
     bool isPartOfStatement() const;
 

@@ -92,6 +92,12 @@ StatementGrammar::Rule StatementGrammar::chooseCompoundRule() const {
         {"கட்டமைப்பு", ruleOf<&FileParse::structures, &StructureGrammar::parseStructure>},
         {"வடிவமைப்பு", ruleOf<DEFINITIONS, &Definitions::parseAbstractStructure>},
     };
+    if (parse_.applications.isApplicationAhead()) {
+        return ruleOf<&FileParse::applications, &ApplicationGrammar::parseApplication>;
+    }
+    if (parse_.databases.isReadAhead()) {
+        return ruleOf<&FileParse::databases, &DatabaseGrammar::parseRead>;
+    }
     if (tokens_.peek().type != TokenType::KEYWORD) {
         return nullptr;
     }
@@ -147,6 +153,10 @@ StatementGrammar::Rule StatementGrammar::chooseSimpleRule() const {
         return ruleOf<SELF, &Self::parseWord<ContinueStatement>>;
     }
     return tokens_.checkWord("விடு") ? ruleOf<SELF, &Self::parseWord<PassStatement>> : nullptr;
+}
+
+bool StatementGrammar::isValueAhead() const {
+    return chooseCompoundRule() == nullptr && chooseSimpleRule() == nullptr;
 }
 
 /// Whether a name comes after the next word, which else is a name itself.
@@ -271,25 +281,16 @@ StatementPtr StatementGrammar::parseFileVariables() {
 
 /// A statement must have an effect.
 StatementPtr StatementGrammar::parseValueStatement() {
-    checkWebApplication();
     const std::size_t first = tokens_.position();
     ExpressionPtr value = parseExpression();
     consumeStatementEnd();
-    const bool hasEffect =
-        nodeCast<CallExpression>(value.get()) != nullptr || nodeCast<PlaceAssignment>(value.get()) != nullptr;
+    const bool hasEffect = nodeCast<CallExpression>(value.get()) != nullptr ||
+                           nodeCast<PlaceAssignment>(value.get()) != nullptr ||
+                           nodeCast<WidgetExpression>(value.get()) != nullptr || DatabaseGrammar::isWrite(*value);
     if (!hasEffect) {
         note(fault::VALUE_ALONE, tokens_.rangeFrom(first));
     }
     return make<ExpressionStatement>(first, std::move(value));
-}
-
-/// An application takes up the rest of its file, so that nothing after its beginning is told.
-void StatementGrammar::checkWebApplication() const {
-    const bool isWord = tokens_.check(TokenType::IDENTIFIER) && tokens_.peek().value == "வலைதளம்";
-    const bool isNamed = tokens_.peek(1).type == TokenType::IDENTIFIER && tokens_.peek(2).type == TokenType::LPAREN;
-    if (isWord && parse_.blockDepth == 0 && (isNamed || tokens_.peek(1).type == TokenType::LPAREN)) {
-        recovery_.noteLast(recovery_.faultAt(fault::WEB_APPLICATION, tokens_.rangeOf(tokens_.position())));
-    }
 }
 
 } // namespace pozhil::second

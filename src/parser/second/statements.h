@@ -20,6 +20,9 @@ public:
     /// \throws SyntaxFault
     StatementPtr parseSimpleStatement();
 
+    /// Whether the statement that comes next is a value.
+    bool isValueAhead() const;
+
     /// Whether the words from here on define a function.
     bool isFunctionAhead() const;
 
@@ -32,7 +35,6 @@ private:
     bool isHeadAhead() const;
     void checkReservedTarget() const;
     void checkStrayPart() const;
-    void checkWebApplication() const;
 
     template <class Node> StatementPtr parseWord() {
         const std::size_t first = tokens_.position();

@@ -60,4 +60,20 @@ constexpr int NESTED_TOO_DEEP = 547;
 constexpr int RESERVED_WORD = 548;
 constexpr int SPLIT_WORD = 549;
 
+// Web applications.
+constexpr int NO_SECTION = 624;
+constexpr int SECOND_SECTION = 625;
+constexpr int NO_APPLICATION_PART = 626;
+constexpr int UNKNOWN_WIDGET = 627;
+constexpr int NO_WIDGET = 628;
+constexpr int UNKNOWN_PROPERTY = 629;
+constexpr int PROPERTY_TWICE = 630;
+constexpr int WRONG_KIND = 631;
+constexpr int NO_LITERAL = 632;
+constexpr int UNKNOWN_COLOUR = 633;
+constexpr int UNKNOWN_ALIGNMENT = 634;
+constexpr int UNKNOWN_CHOICE = 635;
+constexpr int MISPLACED_CHILD = 636;
+constexpr int MISPLACED_PERCENTAGE = 637;
+
 } // namespace pozhil::second::fault

@@ -1,6 +1,8 @@
 #include "scanner/second/layout.h"
 
 #include "base/text.h"
+#include "language/second/application_words.h"
+#include "language/second/widgets.h"
 #include "scanner/second/fault_numbers.h"
 
 #include <algorithm>
@@ -8,6 +10,9 @@
 #include <utility>
 
 namespace pozhil::second {
+
+namespace word = language::second::application;
+
 namespace {
 
 constexpr std::size_t TAB_WIDTH = 4;
@@ -64,7 +69,7 @@ void Layout::beginLine(const Indentation& indentation, std::size_t position, boo
         closeFrame(position);
         return;
     }
-    if (frame.kind == Kind::Group && frame.indents.empty()) {
+    if (frame.endsAtBracket() && frame.indents.empty()) {
         frame.indents.push_back(blanks);
     }
     changeIndent(indentation, position);
@@ -97,8 +102,8 @@ bool Layout::isBlockDue() const {
 }
 
 /// A line that is indented like no block around it. It counts as a line of the innermost block that is indented as far
-/// as it, or else a little further; as the first of a block if one is due. In a group it may stand further out than all
-/// the others.
+/// as it, or else a little further; as the first of a block if one is due. In a frame that ends at its bracket it may
+/// stand further out than all the others.
 void Layout::repairIndent(const Indentation& indentation, std::size_t position) {
     const std::string& blanks = indentation.blanks;
     const std::vector<std::string>& indents = frames_.back().indents;
@@ -108,7 +113,7 @@ void Layout::repairIndent(const Indentation& indentation, std::size_t position) 
         --remaining;
     }
     pushDedents(remaining, position);
-    if (frames_.back().kind == Kind::Group && width < widthOf(indents.front())) {
+    if (frames_.back().endsAtBracket() && width < widthOf(indents.front())) {
         return;
     }
     const bool isMixed = !isAlike(blanks, indents.back());
@@ -151,6 +156,10 @@ void Layout::endLine(std::size_t position) {
         }
         openFrame(Kind::Function, blanks_);
     }
+    Frame& frame = frames_.back();
+    if (frame.indents.empty() && tokens_.tokens().back().type == TokenType::COLON) {
+        frame.indents.push_back(blanks_); // the block of a statement that stands on the line of the bracket
+    }
     if (!tokens_.isAtLineStart()) {
         pushLineEnd("\n", position);
     } else if (Token* last = tokens_.last(); last != nullptr && last->value == ";") {
@@ -191,12 +200,86 @@ bool Layout::beginsGroup() const {
     return isVisibility && (tokens.size() == 1 || TokenList::isLayout(tokens[tokens.size() - 2].type));
 }
 
+/// Whether a word stands so many tokens before the end.
+bool Layout::isWordBefore(std::size_t offset, std::string_view word) const {
+    const std::vector<Token>& tokens = tokens_.tokens();
+    return tokens.size() > offset && tokens[tokens.size() - 1 - offset].type == TokenType::IDENTIFIER &&
+           tokens[tokens.size() - 1 - offset].value == word;
+}
+
+/// Whether the last token is the word of a widget.
+bool Layout::isWidgetBefore() const {
+    const Token& word = tokens_.tokens().back();
+    const language::Widget* const widget = language::second::findWidget(word.value);
+    return word.type == TokenType::IDENTIFIER && !isDotBefore() && widget != nullptr &&
+           widget->role == language::WidgetRole::Widget;
+}
+
+/// Whether the last token is the word of a handler.
+bool Layout::isHandlerBefore() const {
+    const Token& word = tokens_.tokens().back();
+    return word.type == TokenType::IDENTIFIER && !isDotBefore() && language::second::isHandler(word.value);
+}
+
+/// Whether the last token is a member, after a dot.
+bool Layout::isDotBefore() const {
+    const std::vector<Token>& tokens = tokens_.tokens();
+    return tokens.size() > 1 && tokens[tokens.size() - 2].type == TokenType::DOT;
+}
+
+/// Whether the bracket at hand stands after வலைதளம், or its name, at the beginning of a statement outside of all blocks.
+bool Layout::beginsApplication() const {
+    const std::vector<Token>& tokens = tokens_.tokens();
+    if (tokens.empty() || !brackets_.empty() || frames_.back().indents.size() != 1) {
+        return false;
+    }
+    const bool isNamed = !isWordBefore(0, word::APPLICATION) && isWordBefore(1, word::APPLICATION);
+    const std::size_t words = isNamed ? 2 : 1;
+    const bool isFirst = tokens.size() == words ||
+                         (tokens.size() > words && TokenList::isLayout(tokens[tokens.size() - 1 - words].type));
+    return isFirst && (isNamed || isWordBefore(0, word::APPLICATION));
+}
+
+/// Whether the bracket at hand holds statements: those of an application or of a handler, or of what reads a database.
+bool Layout::beginsStatements(char bracket) const {
+    if (bracket == '{') {
+        return isAfterDatabaseCall() && isDatabaseRead_;
+    }
+    if (bracket != '(' || !joinsLines()) {
+        return false;
+    }
+    switch (brackets_.back().role) {
+    case Role::Application: return isWordBefore(0, word::DEFINITION);
+    case Role::Widgets: return isHandlerBefore();
+    default: return false;
+    }
+}
+
+Layout::Role Layout::roleOf(char bracket) const {
+    if (bracket != '(') {
+        return Role::Any;
+    }
+    if (beginsApplication()) {
+        return Role::Application;
+    }
+    if (isDotBefore() && isWordBefore(2, word::DATABASE)) {
+        return isWordBefore(0, word::DATABASE_READ) ? Role::DatabaseRead : Role::DatabasePath;
+    }
+    const bool isJoined = joinsLines();
+    const bool isInterface = isJoined && brackets_.back().role == Role::Application && isWordBefore(0, word::INTERFACE);
+    const bool isAmong = isAmongWidgets();
+    const bool isWidget = isInApplication() && isWidgetBefore();
+    return isInterface || isAmong || isWidget ? Role::Widgets : Role::Any;
+}
+
 void Layout::openBracket(char bracket, std::size_t position) {
     const bool isGroup = bracket == '(' && beginsGroup();
+    const bool hasStatements = beginsStatements(bracket);
+    const Role role = roleOf(bracket);
     tokens_.push(typeOf(bracket), std::string(1, bracket), position, position + 1);
-    brackets_.push_back({bracket, position, widthOf(blanks_)});
-    if (isGroup) {
-        frames_.push_back({Kind::Group, brackets_.size(), {}});
+    brackets_.push_back({bracket, position, widthOf(blanks_), role});
+    if (isGroup || hasStatements) {
+        frames_.push_back({isGroup ? Kind::Group : Kind::Statements, brackets_.size(), {}});
     }
 }
 
@@ -225,8 +308,13 @@ void Layout::closeBracket(char bracket, std::size_t position) {
             bracket = fitting;
         }
     }
+    const Role role = brackets_.back().role;
     popBracket(position);
     tokens_.push(typeOf(bracket), std::string(1, bracket), position, position + 1);
+    if (role == Role::DatabasePath || role == Role::DatabaseRead) {
+        tokensToDatabaseBracket_ = tokens_.tokens().size();
+        isDatabaseRead_ = role == Role::DatabaseRead;
+    }
 }
 
 /// A bracket that stands nowhere, for one that somebody forgot.
@@ -246,6 +334,13 @@ void Layout::popBracket(std::size_t position) {
 void Layout::abandonBrackets() {
     faultOf(brackets_.back());
     dropBrackets();
+}
+
+void Layout::closeSection(std::size_t position) {
+    faultOf(brackets_.back());
+    while (brackets_.back().role != Role::Application) {
+        pushClosing(closingOf(brackets_.back().sign), position);
+    }
 }
 
 void Layout::checkBrackets() {

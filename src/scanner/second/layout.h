@@ -20,9 +20,10 @@ struct Indentation {
 
 /// Makes tokens of line ends, indentation and brackets.
 ///
-/// A bracket that is open joins lines. Two things in brackets have lines of their own all the same: the block of a
-/// function value, which ends where a line is indented no further than the one that began it, and a group of members
-/// after a visibility word, which ends at its bracket.
+/// A bracket that is open joins lines. Three things in brackets have lines of their own all the same: the block of a
+/// function value, which ends where a line is indented no further than the one that began it; a group of members after a
+/// visibility word; and the statements of an application, of a widget's handler and of what reads a database. The last
+/// two end at their bracket.
 class Layout {
 public:
     explicit Layout(TokenList& tokens) : tokens_(tokens) {}
@@ -55,26 +56,41 @@ public:
     /// Closes them without a word: what would have closed them was taken for something else.
     void dropBrackets() { brackets_.resize(frames_.back().depth); }
 
+    /// Whether widgets stand in the bracket that joins lines here: there nothing but their sections begins anew.
+    bool isAmongWidgets() const { return joinsLines() && brackets_.back().role == Role::Widgets; }
+    /// Whether an application is open around what comes next.
+    bool isInApplication() const { return !brackets_.empty() && brackets_.front().role == Role::Application; }
+    /// Closes the brackets inside of the application, the last of which somebody forgot to close.
+    void closeSection(std::size_t position);
+    /// Whether a brace belongs to the call of a database that the last token ends.
+    bool isAfterDatabaseCall() const { return tokens_.tokens().size() == tokensToDatabaseBracket_; }
+
     /// The text ends: no bracket may be open.
     void checkBrackets();
     /// Closes all that is open.
     void close(std::size_t position);
 
 private:
+    /// What a bracket holds, as far as it matters for lines.
+    enum class Role { Any, Application, Widgets, DatabasePath, DatabaseRead };
     struct Bracket {
         char sign;
         std::size_t position;
         /// How far its line is indented.
         std::size_t width;
+        Role role;
     };
-    enum class Kind { Text, Function, Group };
+    enum class Kind { Text, Function, Group, Statements };
     /// Lines that count, and how far their blocks are indented.
     struct Frame {
         Kind kind;
         /// Brackets that are open around it.
         std::size_t depth;
-        /// Blanks of the open blocks. The first of them begins no block; a group has none before its first line.
+        /// Blanks of the open blocks. The first of them begins no block; a frame that ends at its bracket has none before
+        /// its first line.
         std::vector<std::string> indents;
+
+        bool endsAtBracket() const { return kind == Kind::Group || kind == Kind::Statements; }
     };
 
     void openFrame(Kind kind, std::string base) { frames_.push_back({kind, brackets_.size(), {std::move(base)}}); }
@@ -87,6 +103,13 @@ private:
     void pushClosing(char bracket, std::size_t position);
     void popBracket(std::size_t position);
     bool beginsGroup() const;
+    bool beginsStatements(char bracket) const;
+    bool beginsApplication() const;
+    Role roleOf(char bracket) const;
+    bool isWordBefore(std::size_t offset, std::string_view word) const;
+    bool isDotBefore() const;
+    bool isWidgetBefore() const;
+    bool isHandlerBefore() const;
     bool isBlockDue() const;
 
     TokenList& tokens_;
@@ -98,6 +121,9 @@ private:
     std::vector<std::size_t> functionWords_;
     /// How many tokens there were with the colon of a function value at their end.
     std::size_t tokensToFunctionColon_ = 0;
+    /// How many tokens there were with the closing bracket of a database call at their end, and whether it reads.
+    std::size_t tokensToDatabaseBracket_ = 0;
+    bool isDatabaseRead_ = false;
 };
 
 } // namespace pozhil::second

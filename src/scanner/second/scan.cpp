@@ -1,6 +1,7 @@
 #include "scanner/second/scan.h"
 
 #include "base/text.h"
+#include "language/second/application_words.h"
 #include "scanner/second/edition_marker.h"
 #include "scanner/second/fault_numbers.h"
 #include "scanner/second/normal_form.h"
@@ -191,12 +192,24 @@ void Scan::checkBlanks() {
 
 /// A bracket joins lines, but not with one that is the beginning of a statement beyond doubt.
 void Scan::beginLine(const Indentation& indentation) {
-    if (layout_.joinsLines() && isStatementAhead(indentation.blanks)) {
+    if (layout_.isAmongWidgets()) {
+        if (isSectionAhead()) {
+            layout_.closeSection(position_);
+        }
+    } else if (layout_.joinsLines() && isStatementAhead(indentation.blanks)) {
         layout_.abandonBrackets();
         layout_.endLine(position_);
     }
     const bool isClosing = peek() == ')' || peek() == ']' || peek() == '}';
     layout_.beginLine(indentation, position_, isClosing);
+}
+
+/// Whether a section of an application begins here.
+bool Scan::isSectionAhead() const {
+    const std::size_t end = wordEnd(position_);
+    const std::size_t next = std::min(text_.find_first_not_of(" \t", end), text_.size());
+    return startsWith(text_.substr(next), "(") &&
+           language::second::isSection(normalForm(text_.substr(position_, end - position_)));
 }
 
 /// Whether a statement begins here that can't be a part of a value. An assignment is one if it isn't indented. After an

@@ -66,6 +66,7 @@ private:
     void checkBlanks();
     void beginLine(const Indentation& indentation);
     bool isStatementAhead(const std::string& blanks) const;
+    bool isSectionAhead() const;
     void scanToken();
 
     // Words (scan_words.cpp).
@@ -92,6 +93,7 @@ private:
     bool takeOctal(std::string& value);
     void scanNumber();
     bool takeDigit(std::string& digits);
+    bool isPercentSign() const;
 
     const std::string_view text_;
     const std::set<std::size_t>& cutTexts_;

@@ -198,11 +198,25 @@ void Scan::scanNumber() {
         fault(fault::MIXED_DIGITS, begin);
     } else if (isTooLarge(number)) {
         fault(fault::LARGE_NUMBER, begin, {std::string(textSince(begin))});
+    } else if (isPercentSign()) {
+        ++position_;
+        push(TokenType::PERCENT, number + "%", begin);
+        return;
     } else {
         push(TokenType::NUMBER, std::move(number), begin);
         return;
     }
     push(TokenType::NUMBER, "0", begin);
+}
+
+/// Whether a percentage ends here, which only widgets take: elsewhere, and before an operand, the sign is that of another
+/// language for the remainder.
+bool Scan::isPercentSign() const {
+    if (peek() != '%' || !layout_.isAmongWidgets()) {
+        return false;
+    }
+    const Character next = characterAt(text_, position_ + 1);
+    return !isLetter(next) && !isAnyDigit(next) && next.codePoint != '(' && next.codePoint != '_';
 }
 
 } // namespace pozhil::second

@@ -156,7 +156,7 @@ bool Scan::scanPunctuation() {
 /// Whether a brace is here that holds a block in other languages: one after a value, at the end of its line, or alone
 /// on a line, and the end of such a block.
 bool Scan::isForeignBlock() const {
-    if (layout_.joinsLines()) {
+    if (layout_.joinsLines() || (peek() == '{' && layout_.isAfterDatabaseCall())) {
         return false;
     }
     if (peek() == '}') {

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "language/rows.h"
+#include "language/widgets.h"
+
+#include <string_view>
+#include <vector>
+
+/// The widgets of the second edition: those of the first with their properties, and what only the second has.
+namespace pozhil::language::second {
+
+/// The word of what stands for widgets, one for each element of a list.
+constexpr std::string_view EACH = "ஒவ்வொன்றும்";
+
+/// The widget of this word, null if there is none.
+const Widget* findWidget(std::string_view word);
+
+/// The property that \p widget has under this name, null if it has none.
+/// \param style the word of the style block that it stands in; empty between the widget's own brackets
+const WidgetProperty* findProperty(const Widget& widget, std::string_view style, std::string_view name);
+
+/// All that findProperty finds.
+std::vector<const WidgetProperty*> propertiesOf(const Widget& widget, std::string_view style);
+
+/// The words of the style blocks that stand between the brackets of \p widget.
+std::vector<std::string_view> stylesOf(const Widget& widget);
+
+/// Whether the property of this name holds what happens on a press or change, in any widget.
+bool isHandler(std::string_view name);
+
+/// The properties of an application's header.
+Rows<WidgetProperty> headerProperties();
+
+/// The properties of the connection to a database.
+Rows<WidgetProperty> databaseProperties();
+
+} // namespace pozhil::language::second

@@ -1,0 +1,208 @@
+#include "parser/second/property_values.h"
+
+#include "base/scoped_value.h"
+#include "language/alignments.h"
+#include "language/colours.h"
+#include "parser/second/file_parse.h"
+#include "parser/second/literals.h"
+#include "parser/second/names.h"
+#include "parser/second/suggestion.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace pozhil::second {
+namespace {
+
+using language::ValueKind;
+using language::WidgetProperty;
+
+constexpr const char* COLOUR_OBJECT = "நிறம்";
+
+/// What a property of this kind takes, for messages.
+const char* nameOf(ValueKind kind) {
+    switch (kind) {
+    case ValueKind::Number: return "எண்";
+    case ValueKind::Size: return "எண் அல்லது விழுக்காடு";
+    case ValueKind::Text: return "உரை";
+    case ValueKind::Truth: return "'மெய்' அல்லது 'பொய்'";
+    case ValueKind::Colour: return "நிறம்";
+    case ValueKind::Alignment: return "சீரமைப்புச் சொல்";
+    case ValueKind::Path: return "கோப்பின் பெயர் (உரையாக)";
+    case ValueKind::Variable: return "மாறியின் பெயர் (உரையாக)";
+    case ValueKind::Handler: return "செயல்";
+    case ValueKind::Widget: return "விட்ஜெட்";
+    case ValueKind::List: return "பட்டியல்";
+    case ValueKind::Value: break;
+    }
+    return "மதிப்பு";
+}
+
+/// Whether a literal of this kind is a value of the property; anything else is known when the program runs.
+bool takes(ValueKind kind, LiteralKind literal) {
+    switch (kind) {
+    case ValueKind::Number: return literal == LiteralKind::Number;
+    case ValueKind::Size: return literal == LiteralKind::Number || literal == LiteralKind::Percentage;
+    case ValueKind::Text:
+    case ValueKind::Path:
+    case ValueKind::Variable: return literal == LiteralKind::Text;
+    case ValueKind::Truth: return literal == LiteralKind::Truth;
+    case ValueKind::Handler: return literal == LiteralKind::Function;
+    case ValueKind::List: return literal == LiteralKind::List;
+    default: return true;
+    }
+}
+
+/// Whether the page is built with the value, so that it must be known then.
+bool isFixed(ValueKind kind) {
+    return kind == ValueKind::Path || kind == ValueKind::Variable;
+}
+
+/// The word that a value gives: a plain name, or the last of two joined by a dot.
+std::string_view wordOf(const Expression& value) {
+    if (const auto* get = nodeCast<GetExpression>(&value)) {
+        return get->member.value;
+    }
+    const auto* name = nodeCast<VariableAccess>(&value);
+    return name == nullptr ? std::string_view() : std::string_view(name->name);
+}
+
+/// The word of நிறம்.word; empty for anything else.
+std::string_view memberColour(const Expression& value) {
+    const auto* get = nodeCast<GetExpression>(&value);
+    const auto* object = get == nullptr ? nullptr : nodeCast<VariableAccess>(get->object.get());
+    return object != nullptr && object->name == COLOUR_OBJECT ? std::string_view(get->member.value)
+                                                              : std::string_view();
+}
+
+template <class Row> std::vector<std::string_view> wordsOf(language::Rows<Row> rows) {
+    std::vector<std::string_view> words;
+    std::transform(rows.begin(), rows.end(), std::back_inserter(words), [](const Row& row) { return row.word; });
+    return words;
+}
+
+} // namespace
+
+bool PropertyGrammar::isPropertyAhead() const {
+    return isWord(tokens_.peek()) && tokens_.peek(1).type == TokenType::COLON;
+}
+
+WrittenProperty PropertyGrammar::parseProperty(PropertyList& list) {
+    const std::size_t first = tokens_.position();
+    const std::string& name = tokens_.advance().value;
+    tokens_.advance();
+    WrittenProperty written;
+    written.nameRange = tokens_.rangeOf(first);
+    const auto row = std::find_if(list.known.begin(), list.known.end(),
+                                  [&](const WidgetProperty* one) { return one->name == name; });
+    if (row == list.known.end()) {
+        noteUnknown(list, name, written.nameRange);
+        static constexpr WidgetProperty ANYTHING = {"", "", ValueKind::Value, {"", ""}};
+        written.value = parseValue(ANYTHING);
+        return written;
+    }
+    written.value = parseValue(**row);
+    if (!list.written.insert((*row)->name).second) {
+        note(fault::PROPERTY_TWICE, written.nameRange, {name});
+        return written;
+    }
+    written.row = *row;
+    return written;
+}
+
+void PropertyGrammar::noteUnknown(const PropertyList& list, std::string_view name, ByteRange range) {
+    std::vector<std::string_view> names;
+    std::transform(list.known.begin(), list.known.end(), std::back_inserter(names),
+                   [](const WidgetProperty* row) { return row->name; });
+    SecondFault unknown =
+        recovery_.faultAt(fault::UNKNOWN_PROPERTY, range, {std::string(list.owner), std::string(name)});
+    unknown.suggestion = suggestionOf(name, names);
+    recovery_.note(std::move(unknown));
+}
+
+/// The value of a property, checked as far as it is written out.
+ExpressionPtr PropertyGrammar::parseValue(const WidgetProperty& property) {
+    const std::size_t first = tokens_.position();
+    const bool mayBeWidget =
+        property.kind == ValueKind::Widget || property.kind == ValueKind::Handler || property.kind == ValueKind::Value;
+    if (mayBeWidget && parse_.widgets.isWidgetWordAhead()) {
+        return parse_.widgets.parseWidgetExpression();
+    }
+    if (property.kind == ValueKind::Widget) {
+        failHere(fault::NO_WIDGET, {tokens_.shown(first)});
+    }
+    const ScopedValue<bool> percentages(parse_.takesPercentages, property.kind == ValueKind::Size);
+    ExpressionPtr value = parse_.expressions.parseInner();
+    const ByteRange range = tokens_.rangeFrom(first);
+    checkValue(property, *value, range);
+    return property.kind == ValueKind::Colour ? asColour(std::move(value), first) : std::move(value);
+}
+
+/// A text that begins with "#" is a colour where a property takes one.
+ExpressionPtr PropertyGrammar::asColour(ExpressionPtr value, std::size_t first) {
+    const auto* text = nodeCast<StringLiteral>(value.get());
+    const bool isHex = text != nullptr && !text->value.empty() && text->value.front() == '#';
+    return isHex ? make<ColorExpression>(first, text->value, true) : std::move(value);
+}
+
+void PropertyGrammar::checkValue(const WidgetProperty& property, const Expression& value, ByteRange range) {
+    if (const auto* choice = nodeCast<TernaryExpression>(&value); choice != nullptr && !isFixed(property.kind)) {
+        checkValue(property, *choice->thenBranch, range);
+        checkValue(property, *choice->elseBranch, range);
+        return;
+    }
+    if (property.kind == ValueKind::Colour) {
+        checkColour(property, value, range);
+        return;
+    }
+    if (property.kind == ValueKind::Alignment) {
+        checkAlignment(property, value, range);
+        return;
+    }
+    const LiteralKind literal = literalKind(value);
+    if (literal == LiteralKind::None) {
+        if (isFixed(property.kind)) {
+            note(fault::NO_LITERAL, range, {std::string(property.name), nameOf(property.kind)});
+        }
+        return;
+    }
+    // A percentage in the wrong place is told where it stands.
+    if (!takes(property.kind, literal) && literal != LiteralKind::Percentage) {
+        note(fault::WRONG_KIND, range, {std::string(property.name), nameOf(property.kind), literalName(literal)});
+    }
+}
+
+void PropertyGrammar::checkColour(const WidgetProperty& property, const Expression& value, ByteRange range) {
+    const auto* text = nodeCast<StringLiteral>(&value);
+    const std::string_view word = text != nullptr ? std::string_view(text->value) : memberColour(value);
+    if (word.empty() && text == nullptr) {
+        note(fault::NO_LITERAL, range, {std::string(property.name), nameOf(property.kind)});
+        return;
+    }
+    if (isHexColour(word) || language::findColourWord(word) != nullptr) {
+        return;
+    }
+    SecondFault unknown = recovery_.faultAt(fault::UNKNOWN_COLOUR, range, {std::string(word)});
+    unknown.suggestion = suggestionOf(word, wordsOf(language::colourWords()));
+    recovery_.note(std::move(unknown));
+}
+
+void PropertyGrammar::checkAlignment(const WidgetProperty& property, const Expression& value, ByteRange range) {
+    const std::string_view word = wordOf(value);
+    if (word.empty()) {
+        note(fault::NO_LITERAL, range, {std::string(property.name), nameOf(property.kind)});
+        return;
+    }
+    if (language::findAlignment(word) == nullptr) {
+        SecondFault unknown = recovery_.faultAt(fault::UNKNOWN_ALIGNMENT, range, {std::string(word)});
+        unknown.suggestion = suggestionOf(word, wordsOf(language::alignments()));
+        recovery_.note(std::move(unknown));
+    }
+}
+
+void PropertyGrammar::store(PropertyMap& properties, std::string key, WrittenProperty property) {
+    const auto kept = properties.insert_or_assign(std::move(key), std::move(property.value)).first;
+    notePlace(&kept->first, property.nameRange);
+}
+
+} // namespace pozhil::second

@@ -1,0 +1,75 @@
+#include "parser/second/widget_styles.h"
+
+#include "language/property_words.h"
+#include "language/widget_words.h"
+#include "parser/second/file_parse.h"
+#include "parser/second/literals.h"
+#include "parser/second/names.h"
+#include "parser/second/widget_nodes.h"
+
+#include <algorithm>
+
+namespace pozhil::second {
+namespace {
+
+namespace property = language::property;
+
+constexpr const char* STYLE_KEY = "பாணி";
+
+} // namespace
+
+bool StyleGrammar::isStyleAhead(const language::Widget& widget) const {
+    const bool hasKey = tokens_.peek().value == STYLE_KEY && tokens_.peek(1).type == TokenType::COLON;
+    const std::size_t offset = hasKey ? 2 : 0;
+    const std::string& word = tokens_.peek(offset).value;
+    const std::vector<std::string_view> styles = language::second::stylesOf(widget);
+    return isWord(tokens_.peek(offset)) && tokens_.peek(offset + 1).type == TokenType::LPAREN &&
+           word != language::widget::GAP && std::find(styles.begin(), styles.end(), word) != styles.end();
+}
+
+void StyleGrammar::parseStyle(const language::Widget& widget, WidgetNode& node) {
+    if (tokens_.peek(1).type == TokenType::COLON) {
+        tokens_.advance();
+        tokens_.advance();
+    }
+    const std::string& word = tokens_.advance().value;
+    PropertyList list{word, language::second::propertiesOf(widget, word)};
+    const std::size_t opening = tokens_.position();
+    tokens_.advance();
+    Parts siblings(height_);
+    while (!tokens_.check(TokenType::RPAREN) && !tokens_.isAtEnd()) {
+        siblings.next();
+        recovery_.attemptItem([&] { parseProperty(widget, node, list); });
+        tokens_.accept(TokenType::COMMA);
+    }
+    consumeClosing(TokenType::RPAREN, opening);
+}
+
+void StyleGrammar::parseProperty(const language::Widget& widget, WidgetNode& node, PropertyList& list) {
+    if (!parse_.properties.isPropertyAhead()) {
+        failHere(fault::NO_NAME, {"'பண்பு: மதிப்பு'", tokens_.shown(tokens_.position())});
+    }
+    const std::size_t first = tokens_.position();
+    WrittenProperty written = parse_.properties.parseProperty(list);
+    if (written.row == nullptr) {
+        return;
+    }
+    if (list.owner == property::TEXT_STYLE && keepTextStyle(node.style, *written.row, *written.value)) {
+        checkTextStyle(*written.row, *written.value, tokens_.rangeFrom(first + 2));
+        notePlace(written.row->name == property::FONT ? &node.style.font : &node.style.color, written.nameRange);
+        return;
+    }
+    const std::string key = keyOf(widget, *written.row);
+    parse_.properties.store(node.properties, key, std::move(written));
+}
+
+/// A text style is settled when the page is built, so that all of it must be written out.
+void StyleGrammar::checkTextStyle(const language::WidgetProperty& property, const Expression& value, ByteRange range) {
+    const bool isWord = property.kind == language::ValueKind::Colour || property.name == property::ALIGNMENT ||
+                        property.name == property::TEXT_ALIGNMENT;
+    if (!isWord && literalKind(value) == LiteralKind::None) {
+        note(fault::NO_LITERAL, range, {std::string(property.name), "நேரடி மதிப்பு"});
+    }
+}
+
+} // namespace pozhil::second

@@ -1,0 +1,248 @@
+#include "parser/second/widgets.h"
+
+#include "language/property_words.h"
+#include "language/widget_words.h"
+#include "parser/second/file_parse.h"
+#include "parser/second/names.h"
+#include "parser/second/suggestion.h"
+#include "parser/second/widget_nodes.h"
+
+namespace pozhil::second {
+namespace {
+
+using language::Widget;
+using language::WidgetChildren;
+using language::WidgetForm;
+using language::WidgetProperty;
+using language::WidgetRole;
+
+namespace property = language::property;
+namespace widget = language::widget;
+
+/// Whether a widget of the row \p child may stand between the brackets of one of the row \p parent.
+bool mayHold(const Widget& parent, const Widget& child, std::size_t position) {
+    if (child.role == WidgetRole::Style) {
+        return parent.form == WidgetForm::Container && child.word == widget::BOX_STYLE;
+    }
+    switch (parent.children) {
+    case WidgetChildren::None: return false;
+    case WidgetChildren::One: return child.role == WidgetRole::Widget && position == 0;
+    case WidgetChildren::Any: return child.role == WidgetRole::Widget;
+    case WidgetChildren::Text: return child.word == widget::TEXT;
+    case WidgetChildren::TextOrImage: return child.word == widget::TEXT || child.word == widget::IMAGE;
+    case WidgetChildren::TabItems: return child.word == widget::TAB_ITEM;
+    case WidgetChildren::BottomItems: return child.word == widget::BOTTOM_NAVIGATION_ITEM;
+    }
+    return false;
+}
+
+std::vector<std::string_view> widgetWords() {
+    std::vector<std::string_view> words;
+    for (const Widget& row : language::widgets()) {
+        if (row.role == WidgetRole::Widget && language::second::findWidget(row.word) != nullptr) {
+            words.push_back(row.word);
+        }
+    }
+    return words;
+}
+
+} // namespace
+
+bool WidgetGrammar::isWidgetWordAhead() const {
+    const Widget* const row = language::second::findWidget(tokens_.peek().value);
+    return parse_.isInApplication && isWord(tokens_.peek()) && tokens_.peek(1).type == TokenType::LPAREN &&
+           row != nullptr && row->role == WidgetRole::Widget;
+}
+
+bool WidgetGrammar::isWidgetAhead() const {
+    const std::size_t opening = tokens_.position() + 1;
+    if (!isWidgetWordAhead() || tokens_.closingOf(opening) == TokenReader::NONE) {
+        return false;
+    }
+    for (std::size_t index = opening + 1; index < tokens_.closingOf(opening); ++index) {
+        const TokenType before = tokens_.at(index - 1).type;
+        const bool beginsItem = before == TokenType::LPAREN || before == TokenType::COMMA;
+        if (beginsItem && isWord(tokens_.at(index)) && tokens_.at(index + 1).type == TokenType::COLON) {
+            return true;
+        }
+        const std::size_t closing = tokens_.closingOf(index);
+        index = closing == TokenReader::NONE ? index : closing;
+    }
+    return false;
+}
+
+ExpressionPtr WidgetGrammar::parseWidgetExpression() {
+    const std::size_t first = tokens_.position();
+    WidgetPtr node = parseWidget();
+    return make<WidgetExpression>(first, std::move(node));
+}
+
+WidgetPtr WidgetGrammar::parseWidget() {
+    enter();
+    const std::size_t first = tokens_.position();
+    const Widget& row = consumeWord();
+    WidgetPtr node = makeWidgetNode(row);
+    Draft draft{row, *node, {row.word, language::second::propertiesOf(row, "")}};
+    const bool mayBeBare = row.form == WidgetForm::Spacer;
+    if (!mayBeBare || tokens_.check(TokenType::LPAREN)) {
+        parseItems(draft);
+    }
+    while (tokens_.check(TokenType::LPAREN)) {
+        parseItems(draft);
+    }
+    place(*node, first);
+    return node;
+}
+
+/// The word of a widget.
+const Widget& WidgetGrammar::consumeWord() {
+    const Token& word = tokens_.peek();
+    const Widget* const row = isWord(word) ? language::second::findWidget(word.value) : nullptr;
+    if (row != nullptr && (tokens_.peek(1).type == TokenType::LPAREN || row->form == WidgetForm::Spacer)) {
+        tokens_.advance();
+        return *row;
+    }
+    const std::size_t position = tokens_.position();
+    if (row == nullptr && isWord(word) && tokens_.peek(1).type == TokenType::LPAREN) {
+        SecondFault unknown = recovery_.faultAt(fault::UNKNOWN_WIDGET, tokens_.rangeOf(position), {word.value});
+        unknown.suggestion = suggestionOf(word.value, widgetWords());
+        throw SyntaxFault{std::move(unknown)};
+    }
+    failHere(fault::NO_WIDGET, {tokens_.shown(position)});
+}
+
+/// ( properties, styles and children in any order ), with or without commas between them.
+void WidgetGrammar::parseItems(Draft& draft) {
+    const std::size_t opening = tokens_.position();
+    consumeOpening("விட்ஜெட்டின் பெயருக்குப் பின் '('");
+    const std::size_t closing = tokens_.closingOf(opening);
+    draft.hasFurtherBracket = closing != TokenReader::NONE && tokens_.at(closing + 1).type == TokenType::LPAREN;
+    Parts siblings(height_);
+    while (!tokens_.check(TokenType::RPAREN) && !tokens_.isAtEnd()) {
+        siblings.next();
+        recovery_.attemptItem([&] { parseItem(draft); });
+        tokens_.accept(TokenType::COMMA);
+    }
+    consumeClosing(TokenType::RPAREN, opening);
+}
+
+void WidgetGrammar::parseItem(Draft& draft) {
+    if (parse_.styles.isStyleAhead(draft.row)) {
+        parse_.styles.parseStyle(draft.row, draft.node);
+        return;
+    }
+    if (parse_.properties.isPropertyAhead()) {
+        parseOwnProperty(draft);
+        return;
+    }
+    if (isWord(tokens_.peek()) && tokens_.peek(1).type == TokenType::LPAREN && tryParsePart(draft)) {
+        return;
+    }
+    const bool isWidgetHere = language::second::findWidget(tokens_.peek().value) != nullptr &&
+                              draft.row.children != WidgetChildren::None && isWord(tokens_.peek());
+    if (!isWidgetHere && takesText(draft)) {
+        parseText(draft);
+    } else {
+        parseChild(draft);
+    }
+}
+
+/// A handler, style or animation with its bracket.
+bool WidgetGrammar::tryParsePart(Draft& draft) {
+    const std::string& word = tokens_.peek().value;
+    const WidgetProperty* const own = language::second::findProperty(draft.row, "", word);
+    if (own != nullptr && own->kind == language::ValueKind::Handler) {
+        parseHandler(draft);
+    } else if (word == widget::GAP && draft.row.form == WidgetForm::GridView && draft.hasFurtherBracket) {
+        parse_.styles.parseStyle(draft.row, draft.node);
+    } else if (word == property::ANIMATION) {
+        draft.node.animation = parse_.animations.parseAnimation(draft.row);
+    } else if (draft.row.form == WidgetForm::TextButton && word == property::TEXT) {
+        tokens_.advance();
+        const std::size_t opening = tokens_.position();
+        tokens_.advance();
+        parseText(draft);
+        consumeClosingOfOne(TokenType::RPAREN, opening);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void WidgetGrammar::parseOwnProperty(Draft& draft) {
+    WrittenProperty property = parse_.properties.parseProperty(draft.properties);
+    if (property.row != nullptr) {
+        keepProperty(draft, std::move(property));
+    }
+}
+
+void WidgetGrammar::keepProperty(Draft& draft, WrittenProperty property) {
+    const WidgetProperty& row = *property.row;
+    const bool isAlone = tokens_.check(TokenType::RPAREN) && draft.properties.written.size() == 1;
+    if (row.kind == language::ValueKind::Alignment &&
+        (hasAlignmentField(draft.row) || (draft.hasFurtherBracket && isAlone))) {
+        keepAlignment(draft.node, *property.value);
+        return;
+    }
+    auto* message = dynamic_cast<WidgetExpression*>(property.value.get());
+    if (auto* bar = dynamic_cast<SnackBarNode*>(&draft.node); bar != nullptr && message != nullptr) {
+        bar->content = message->widget.get();
+        bar->children.push_back(std::move(message->widget));
+        return;
+    }
+    if (!keepField(draft.node, row, *property.value)) {
+        parse_.properties.store(draft.node.properties, keyOf(draft.row, row), std::move(property));
+    }
+}
+
+/// name ( value ) or name ( statements )
+void WidgetGrammar::parseHandler(Draft& draft) {
+    WrittenProperty property;
+    property.nameRange = tokens_.rangeOf(tokens_.position());
+    const std::string& name = tokens_.advance().value;
+    property.row = language::second::findProperty(draft.row, "", name);
+    if (!draft.properties.written.insert(property.row->name).second) {
+        note(fault::PROPERTY_TWICE, property.nameRange, {name});
+    }
+    const std::size_t opening = tokens_.position();
+    tokens_.advance();
+    StatementList statements = parse_.blocks.parseBracketedOrValue(TokenType::RPAREN, property.value);
+    consumeClosing(TokenType::RPAREN, opening);
+    if (property.value != nullptr) {
+        keepProperty(draft, std::move(property));
+    } else {
+        draft.node.eventStatements = std::move(statements);
+    }
+}
+
+/// Whether the widget still lacks the text that it may be given without a name.
+bool WidgetGrammar::takesText(const Draft& draft) const {
+    const WidgetProperty* const text = language::second::findProperty(draft.row, "", property::TEXT);
+    return text != nullptr && draft.properties.written.count(text->name) == 0;
+}
+
+/// The text of a widget, a value without a name.
+void WidgetGrammar::parseText(Draft& draft) {
+    const std::size_t first = tokens_.position();
+    WrittenProperty text;
+    text.row = language::second::findProperty(draft.row, "", property::TEXT);
+    text.value = parse_.expressions.parseInner();
+    text.nameRange = tokens_.rangeFrom(first);
+    parse_.properties.checkValue(*text.row, *text.value, text.nameRange);
+    draft.properties.written.insert(text.row->name);
+    keepProperty(draft, std::move(text));
+}
+
+void WidgetGrammar::parseChild(Draft& draft) {
+    const std::size_t first = tokens_.position();
+    WidgetPtr child = parseWidget();
+    const Widget& row = *language::second::findWidget(tokens_.at(first).value);
+    const auto others = static_cast<std::size_t>(draft.node.children.size());
+    if (!mayHold(draft.row, row, others)) {
+        note(fault::MISPLACED_CHILD, tokens_.rangeOf(first), {std::string(draft.row.word), std::string(row.word)});
+        return;
+    }
+    draft.node.children.push_back(std::move(child));
+}
+
+} // namespace pozhil::second
