@@ -39,7 +39,7 @@ constexpr std::string_view BUILTIN_FORMS[] = {"call", "element_write", "loop_ran
 constexpr std::string_view BUILTIN_TOPICS[] = {"values", "lists", "texts", "mathematics", "files", "time", "web"};
 constexpr std::string_view WIDGET_ROLES[] = {"widget", "item", "style", "key"};
 constexpr std::string_view VALUE_KINDS[] = {"number", "size", "text", "truth", "colour", "alignment", "path",
-                                            "variable", "handler", "widget", "list", "value"};
+                                            "variable", "handler", "widget", "list", "value",  "place", "name"};
 // clang-format on
 
 std::string number(TokenType type) {

@@ -71,7 +71,9 @@ enum class ValueKind {
     Handler,   ///< what happens on a press or change
     Widget,
     List,
-    Value ///< any value
+    Value, ///< any value
+    Place, ///< what is read and written: a variable, an element or a member
+    Name   ///< a new name
 };
 
 /// A property of a widget.
@@ -81,6 +83,8 @@ struct WidgetProperty {
     std::string_view style;
     ValueKind kind;
     Bilingual description;
+    /// The words among which a text chooses; any text will do if there are none.
+    Rows<std::string_view> choices = {};
 };
 
 /// One word of a widget.

@@ -11,9 +11,15 @@ namespace pozhil::language::second {
 
 /// The word of what stands for widgets, one for each element of a list.
 constexpr std::string_view EACH = "ஒவ்வொன்றும்";
+constexpr std::string_view EACH_LIST = "பட்டியல்";
+constexpr std::string_view EACH_ELEMENT = "உருப்படி";
+constexpr std::string_view EACH_KEY = "சாவி";
 
 /// The widget of this word, null if there is none.
 const Widget* findWidget(std::string_view word);
+
+/// The words of all widgets and their items, with which a word is compared that is none.
+std::vector<std::string_view> widgetWords();
 
 /// The property that \p widget has under this name, null if it has none.
 /// \param style the word of the style block that it stands in; empty between the widget's own brackets
@@ -27,6 +33,9 @@ std::vector<std::string_view> stylesOf(const Widget& widget);
 
 /// Whether the property of this name holds what happens on a press or change, in any widget.
 bool isHandler(std::string_view name);
+
+/// Whether any widget, style or header has a property of this name.
+bool isProperty(std::string_view name);
 
 /// The properties of an application's header.
 Rows<WidgetProperty> headerProperties();

@@ -9,13 +9,16 @@ using Form = WidgetForm;
 using Role = WidgetRole;
 using Children = WidgetChildren;
 
+constexpr std::string_view WEIGHTS[] = {"தடிமனான", "bold"};
+constexpr std::string_view TEXT_ALIGNMENTS[] = {"இடது", "மையம்", "வலது", "left", "center", "right"};
+
 // clang-format off
 constexpr WidgetProperty TEXT_PROPERTIES[] = {
     {property::TEXT, "", ValueKind::Value, {"காட்ட வேண்டியது; முதல் மதிப்பாகவும் வரலாம்", "what to show; also as the first value"}},
     {property::COLOUR, property::TEXT_STYLE, ValueKind::Colour, {"எழுத்தின் நிறம்", "colour"}},
     {property::SIZE, property::TEXT_STYLE, ValueKind::Number, {"எழுத்தின் அளவு", "size"}},
-    {property::WEIGHT, property::TEXT_STYLE, ValueKind::Value, {"100–900, அல்லது `\"தடிமனான\"`", "weight, or `\"bold\"`"}},
-    {property::ALIGNMENT, property::TEXT_STYLE, ValueKind::Value, {"`\"மையம்\"`: அளந்த நடுவைச் சுற்றி", "`\"மையம்\"`: about the measured middle"}},
+    {property::WEIGHT, property::TEXT_STYLE, ValueKind::Value, {"100–900, அல்லது `\"தடிமனான\"`", "weight, or `\"bold\"`"}, WEIGHTS},
+    {property::ALIGNMENT, property::TEXT_STYLE, ValueKind::Value, {"`\"மையம்\"`: அளந்த நடுவைச் சுற்றி", "`\"மையம்\"`: about the measured middle"}, TEXT_ALIGNMENTS},
     {property::UNDERLINE, property::TEXT_STYLE, ValueKind::Truth, {"மேற்பகுதிக்கு 5 படவணு கீழே ஒரு கோடு", "a line, 5 pixels below the top"}},
     {property::FONT, property::TEXT_STYLE, ValueKind::Path, {"எழுத்துருக் கோப்பு", "font file"}},
 };

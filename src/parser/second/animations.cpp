@@ -1,21 +1,23 @@
 #include "parser/second/animations.h"
 
 #include "language/property_words.h"
+#include "language/second/animations.h"
 #include "parser/second/file_parse.h"
 #include "parser/second/literals.h"
-#include "parser/second/names.h"
 
 namespace pozhil::second {
 namespace {
 
 namespace property = language::property;
 
-constexpr const char* TARGETS = "இலக்கு";
-constexpr const char* TRIGGER = "நிலைமை";
-constexpr const char* CURVE = "வகை";
-
-/// The word that a value gives, as a text or as a name.
+/// The word that a value gives, as a text, a name or a colour.
 std::string wordOf(const Expression& value) {
+    if (const auto* colour = nodeCast<ColorExpression>(&value)) {
+        return colour->isHex ? colour->hexValue : colour->colorName;
+    }
+    if (const auto* get = nodeCast<GetExpression>(&value)) {
+        return get->member.value;
+    }
     if (const auto* text = nodeCast<StringLiteral>(&value)) {
         return text->value;
     }
@@ -25,59 +27,69 @@ std::string wordOf(const Expression& value) {
 
 } // namespace
 
-std::unique_ptr<AnimationNode> AnimationGrammar::parseAnimation(const language::Widget& /*widget*/) {
-    tokens_.advance();
-    const std::size_t opening = tokens_.position();
+std::unique_ptr<AnimationNode> AnimationGrammar::parseAnimation(const language::Widget& widget) {
+    const std::size_t first = tokens_.position();
+    if (language::second::animationTargets(widget).empty()) {
+        fail(fault::MISPLACED_CHILD, tokens_.rangeOf(first),
+             {std::string(widget.word), std::string(property::ANIMATION)});
+    }
     tokens_.advance();
     auto animation = std::make_unique<AnimationNode>();
-    Parts siblings(height_);
-    while (!tokens_.check(TokenType::RPAREN) && !tokens_.isAtEnd()) {
-        siblings.next();
-        recovery_.attemptItem([&] { parseItem(*animation); });
-        tokens_.accept(TokenType::COMMA);
+    PropertyList list{property::ANIMATION, {}};
+    for (const language::WidgetProperty& row : language::second::animationProperties()) {
+        list.known.push_back(&row);
     }
-    consumeClosing(TokenType::RPAREN, opening);
+    parse_.properties.parseItems([&] { parseItem(*animation, widget, list); });
     return animation;
 }
 
-void AnimationGrammar::parseItem(AnimationNode& animation) {
-    const std::string& word = tokens_.advance().value;
-    if (word == TARGETS) {
+void AnimationGrammar::parseItem(AnimationNode& animation, const language::Widget& widget, PropertyList& list) {
+    if (tokens_.peek().value == language::second::ANIMATION_TARGETS) {
+        tokens_.advance();
         tokens_.accept(TokenType::COLON);
-        parseTargets(animation);
+        parseTargets(animation, widget);
         return;
     }
-    consumeColon();
-    const ExpressionPtr value = parse_.expressions.parseInner();
-    if (word == TRIGGER) {
-        animation.condition = wordOf(*value);
-    } else if (word == property::DURATION) {
-        animation.duration = writtenNumber(*value).value_or(0);
-    } else if (word == CURVE) {
-        animation.curve = wordOf(*value);
+    const WrittenProperty written = parse_.properties.parseProperty(list);
+    if (written.row == nullptr) {
+        return;
     }
-}
-
-void AnimationGrammar::parseTargets(AnimationNode& animation) {
-    const std::size_t opening = tokens_.position();
-    consumeOpening("'இலக்கு'-க்குப் பின் '('");
-    Parts siblings(height_);
-    while (!tokens_.check(TokenType::RPAREN) && !tokens_.isAtEnd()) {
-        siblings.next();
-        recovery_.attemptItem([&] { parseTarget(animation); });
-        tokens_.accept(TokenType::COMMA);
-    }
-    consumeClosing(TokenType::RPAREN, opening);
-}
-
-void AnimationGrammar::parseTarget(AnimationNode& animation) {
-    const std::string& name = tokens_.advance().value;
-    consumeColon();
-    const ExpressionPtr value = parse_.expressions.parseInner();
-    if (const std::optional<float> number = writtenNumber(*value)) {
-        animation.numericTargets[name] = *number;
+    const std::string word = wordOf(*written.value);
+    if (written.row->name == property::DURATION) {
+        checkWritten(written);
+        animation.duration = writtenNumber(*written.value).value_or(0);
+    } else if (written.row->name == language::second::ANIMATION_CURVE) {
+        parse_.properties.checkChoice(written.row->name, word, language::second::curveNames(), written.valueRange);
+        animation.curve = word;
     } else {
-        animation.stringTargets[name] = wordOf(*value);
+        animation.condition = word;
+    }
+}
+
+/// ( targets )
+void AnimationGrammar::parseTargets(AnimationNode& animation, const language::Widget& widget) {
+    PropertyList list{language::second::ANIMATION_TARGETS, language::second::animationTargets(widget)};
+    parse_.properties.parseItems([&] { parseTarget(animation, list); });
+}
+
+void AnimationGrammar::parseTarget(AnimationNode& animation, PropertyList& list) {
+    const WrittenProperty written = parse_.properties.parseProperty(list);
+    if (written.row == nullptr) {
+        return;
+    }
+    if (const std::optional<float> number = writtenNumber(*written.value)) {
+        animation.numericTargets[std::string(written.row->name)] = *number;
+    } else {
+        checkWritten(written);
+        animation.stringTargets[std::string(written.row->name)] = wordOf(*written.value);
+    }
+}
+
+/// A number of an animation is settled when the page is built.
+void AnimationGrammar::checkWritten(const WrittenProperty& written) {
+    const bool isNumber = written.row->kind == language::ValueKind::Number;
+    if (isNumber && literalKind(*written.value) == LiteralKind::None) {
+        note(fault::NO_LITERAL, written.valueRange, {std::string(written.row->name), "எண்"});
     }
 }
 

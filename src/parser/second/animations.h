@@ -1,6 +1,5 @@
 #pragma once
 
-#include "language/widgets.h"
 #include "parser/second/property_values.h"
 #include "parser/tree/animation.h"
 
@@ -11,14 +10,16 @@ class AnimationGrammar : public Grammar {
 public:
     using Grammar::Grammar;
 
-    /// அசைவூட்டம் ( items )
+    /// அசைவூட்டம் ( properties, இலக்கு ( targets ) )
+    /// \return null if the widget can't be moved, which is told
     /// \throws SyntaxFault
     std::unique_ptr<AnimationNode> parseAnimation(const language::Widget& widget);
 
 private:
-    void parseItem(AnimationNode& animation);
-    void parseTargets(AnimationNode& animation);
-    void parseTarget(AnimationNode& animation);
+    void parseItem(AnimationNode& animation, const language::Widget& widget, PropertyList& list);
+    void parseTargets(AnimationNode& animation, const language::Widget& widget);
+    void parseTarget(AnimationNode& animation, PropertyList& list);
+    void checkWritten(const WrittenProperty& written);
 };
 
 } // namespace pozhil::second

@@ -34,17 +34,9 @@ StatementPtr ApplicationGrammar::parseApplication() {
     tokens_.advance();
     const std::size_t nameIndex = tokens_.position();
     std::string name = tokens_.check(TokenType::IDENTIFIER) ? tokens_.advance().value : UNNAMED;
-    const std::size_t opening = tokens_.position();
-    tokens_.advance();
     auto app = std::make_unique<WebAppNode>(std::move(name), nullptr, nullptr, nullptr, nullptr);
     std::vector<std::string_view> written;
-    Parts siblings(height_);
-    while (!tokens_.check(TokenType::RPAREN) && !tokens_.isAtEnd()) {
-        siblings.next();
-        recovery_.attemptItem([&] { parseSection(*app, written); });
-        tokens_.accept(TokenType::COMMA);
-    }
-    consumeClosing(TokenType::RPAREN, opening);
+    parse_.properties.parseItems([&] { parseSection(*app, written); });
     checkSections(first, written);
     place(*app, first);
     notePlace(&app->name, tokens_.rangeOf(nameIndex));
@@ -157,23 +149,12 @@ PropertyMap ApplicationGrammar::parseProperties(std::string_view owner, language
         list.known.push_back(&row);
     }
     PropertyMap properties;
-    const std::size_t opening = tokens_.position();
-    tokens_.advance();
-    Parts siblings(height_);
-    while (!tokens_.check(TokenType::RPAREN) && !tokens_.isAtEnd()) {
-        siblings.next();
-        recovery_.attemptItem([&] {
-            if (!parse_.properties.isPropertyAhead()) {
-                failHere(fault::NO_NAME, {"'பண்பு: மதிப்பு'", tokens_.shown(tokens_.position())});
-            }
-            WrittenProperty written = parse_.properties.parseProperty(list);
-            if (written.row != nullptr) {
-                parse_.properties.store(properties, std::string(written.row->name), std::move(written));
-            }
-        });
-        tokens_.accept(TokenType::COMMA);
-    }
-    consumeClosing(TokenType::RPAREN, opening);
+    parse_.properties.parseItems([&] {
+        WrittenProperty written = parse_.properties.parseProperty(list);
+        if (written.row != nullptr) {
+            parse_.properties.store(properties, std::string(written.row->name), std::move(written));
+        }
+    });
     return properties;
 }
 

@@ -33,6 +33,8 @@ const char* nameOf(ValueKind kind) {
     case ValueKind::Handler: return "செயல்";
     case ValueKind::Widget: return "விட்ஜெட்";
     case ValueKind::List: return "பட்டியல்";
+    case ValueKind::Place: return "மாறி";
+    case ValueKind::Name: return "பெயர்";
     case ValueKind::Value: break;
     }
     return "மதிப்பு";
@@ -47,8 +49,11 @@ bool takes(ValueKind kind, LiteralKind literal) {
     case ValueKind::Path:
     case ValueKind::Variable: return literal == LiteralKind::Text;
     case ValueKind::Truth: return literal == LiteralKind::Truth;
+    case ValueKind::Colour:
+    case ValueKind::Alignment: return false;
     case ValueKind::Handler: return literal == LiteralKind::Function;
     case ValueKind::List: return literal == LiteralKind::List;
+    case ValueKind::Place: return false;
     default: return true;
     }
 }
@@ -67,12 +72,20 @@ std::string_view wordOf(const Expression& value) {
     return name == nullptr ? std::string_view() : std::string_view(name->name);
 }
 
-/// The word of நிறம்.word; empty for anything else.
-std::string_view memberColour(const Expression& value) {
+/// The word of a colour: a text, a name, or the word of நிறம்.word; empty for anything else.
+std::string_view colourWordOf(const Expression& value) {
+    if (const auto* text = nodeCast<StringLiteral>(&value)) {
+        return text->value;
+    }
     const auto* get = nodeCast<GetExpression>(&value);
     const auto* object = get == nullptr ? nullptr : nodeCast<VariableAccess>(get->object.get());
-    return object != nullptr && object->name == COLOUR_OBJECT ? std::string_view(get->member.value)
-                                                              : std::string_view();
+    const bool isOther = get != nullptr && (object == nullptr || object->name != COLOUR_OBJECT);
+    return isOther ? std::string_view() : wordOf(value);
+}
+
+bool isPlace(const Expression& value) {
+    return nodeCast<VariableAccess>(&value) != nullptr || nodeCast<GetExpression>(&value) != nullptr ||
+           nodeCast<IndexExpression>(&value) != nullptr;
 }
 
 template <class Row> std::vector<std::string_view> wordsOf(language::Rows<Row> rows) {
@@ -89,6 +102,9 @@ bool PropertyGrammar::isPropertyAhead() const {
 
 WrittenProperty PropertyGrammar::parseProperty(PropertyList& list) {
     const std::size_t first = tokens_.position();
+    if (!isPropertyAhead()) {
+        failHere(fault::NO_SIGN, {"'பண்பு: மதிப்பு'", tokens_.shown(first)});
+    }
     const std::string& name = tokens_.advance().value;
     tokens_.advance();
     WrittenProperty written;
@@ -102,6 +118,7 @@ WrittenProperty PropertyGrammar::parseProperty(PropertyList& list) {
         return written;
     }
     written.value = parseValue(**row);
+    written.valueRange = tokens_.rangeFrom(first + 2);
     if (!list.written.insert((*row)->name).second) {
         note(fault::PROPERTY_TWICE, written.nameRange, {name});
         return written;
@@ -128,6 +145,10 @@ ExpressionPtr PropertyGrammar::parseValue(const WidgetProperty& property) {
     if (mayBeWidget && parse_.widgets.isWidgetWordAhead()) {
         return parse_.widgets.parseWidgetExpression();
     }
+    if (property.kind == ValueKind::Name) {
+        const Token name = consumeName("பெயர்");
+        return make<VariableAccess>(first, name.value);
+    }
     if (property.kind == ValueKind::Widget) {
         failHere(fault::NO_WIDGET, {tokens_.shown(first)});
     }
@@ -138,65 +159,81 @@ ExpressionPtr PropertyGrammar::parseValue(const WidgetProperty& property) {
     return property.kind == ValueKind::Colour ? asColour(std::move(value), first) : std::move(value);
 }
 
-/// A text that begins with "#" is a colour where a property takes one.
+/// A text that begins with "#", and the name of a colour, are colours where a property takes one.
 ExpressionPtr PropertyGrammar::asColour(ExpressionPtr value, std::size_t first) {
     const auto* text = nodeCast<StringLiteral>(value.get());
+    const auto* name = nodeCast<VariableAccess>(value.get());
     const bool isHex = text != nullptr && !text->value.empty() && text->value.front() == '#';
-    return isHex ? make<ColorExpression>(first, text->value, true) : std::move(value);
+    if (isHex || name != nullptr) {
+        return make<ColorExpression>(first, isHex ? text->value : name->name, isHex);
+    }
+    return value;
 }
 
 void PropertyGrammar::checkValue(const WidgetProperty& property, const Expression& value, ByteRange range) {
-    if (const auto* choice = nodeCast<TernaryExpression>(&value); choice != nullptr && !isFixed(property.kind)) {
+    const bool isChosen = property.kind == ValueKind::Colour || property.kind == ValueKind::Alignment;
+    const bool hasChoices = property.choices.size() != 0;
+    if (const auto* choice = nodeCast<TernaryExpression>(&value);
+        choice != nullptr && !isFixed(property.kind) && !isChosen && !hasChoices) {
         checkValue(property, *choice->thenBranch, range);
         checkValue(property, *choice->elseBranch, range);
         return;
     }
-    if (property.kind == ValueKind::Colour) {
-        checkColour(property, value, range);
-        return;
-    }
-    if (property.kind == ValueKind::Alignment) {
-        checkAlignment(property, value, range);
-        return;
-    }
-    const LiteralKind literal = literalKind(value);
-    if (literal == LiteralKind::None) {
-        if (isFixed(property.kind)) {
-            note(fault::NO_LITERAL, range, {std::string(property.name), nameOf(property.kind)});
-        }
-        return;
-    }
-    // A percentage in the wrong place is told where it stands.
-    if (!takes(property.kind, literal) && literal != LiteralKind::Percentage) {
-        note(fault::WRONG_KIND, range, {std::string(property.name), nameOf(property.kind), literalName(literal)});
+    const auto* text = nodeCast<StringLiteral>(&value);
+    const std::string_view name = wordOf(value);
+    const std::string_view word = property.kind == ValueKind::Colour ? colourWordOf(value)
+                                  : hasChoices && text != nullptr    ? std::string_view(text->value)
+                                                                     : name;
+    if ((isChosen || hasChoices) && (!word.empty() || (text != nullptr && property.kind != ValueKind::Alignment))) {
+        checkWord(property, word, range);
+    } else {
+        checkLiteral(property, value, range);
     }
 }
 
-void PropertyGrammar::checkColour(const WidgetProperty& property, const Expression& value, ByteRange range) {
-    const auto* text = nodeCast<StringLiteral>(&value);
-    const std::string_view word = text != nullptr ? std::string_view(text->value) : memberColour(value);
-    if (word.empty() && text == nullptr) {
-        note(fault::NO_LITERAL, range, {std::string(property.name), nameOf(property.kind)});
+/// A word that stands for a colour, an alignment, or one of several choices.
+void PropertyGrammar::checkWord(const WidgetProperty& property, std::string_view word, ByteRange range) {
+    const auto tell = [&](int number, const std::vector<std::string_view>& known) {
+        SecondFault unknown = recovery_.faultAt(number, range, {std::string(word)});
+        unknown.suggestion = suggestionOf(word, known);
+        recovery_.note(std::move(unknown));
+    };
+    if (property.kind == ValueKind::Colour) {
+        if (!isHexColour(word) && language::findColourWord(word) == nullptr) {
+            tell(fault::UNKNOWN_COLOUR, wordsOf(language::colourWords()));
+        }
+    } else if (property.kind == ValueKind::Alignment) {
+        if (language::findAlignment(word) == nullptr) {
+            tell(fault::UNKNOWN_ALIGNMENT, wordsOf(language::alignments()));
+        }
+    } else {
+        checkChoice(property.name, word, {property.choices.begin(), property.choices.end()}, range);
+    }
+}
+
+void PropertyGrammar::checkChoice(std::string_view property, std::string_view word,
+                                  const std::vector<std::string_view>& choices, ByteRange range) {
+    if (std::find(choices.begin(), choices.end(), word) != choices.end()) {
         return;
     }
-    if (isHexColour(word) || language::findColourWord(word) != nullptr) {
-        return;
-    }
-    SecondFault unknown = recovery_.faultAt(fault::UNKNOWN_COLOUR, range, {std::string(word)});
-    unknown.suggestion = suggestionOf(word, wordsOf(language::colourWords()));
+    SecondFault unknown = recovery_.faultAt(fault::UNKNOWN_CHOICE, range, {std::string(property), std::string(word)});
+    unknown.suggestion = suggestionOf(word, choices);
     recovery_.note(std::move(unknown));
 }
 
-void PropertyGrammar::checkAlignment(const WidgetProperty& property, const Expression& value, ByteRange range) {
-    const std::string_view word = wordOf(value);
-    if (word.empty()) {
-        note(fault::NO_LITERAL, range, {std::string(property.name), nameOf(property.kind)});
-        return;
+/// A value that isn't a word of the property's own.
+void PropertyGrammar::checkLiteral(const WidgetProperty& property, const Expression& value, ByteRange range) {
+    const LiteralKind literal = literalKind(value);
+    const bool isWrongPlace = property.kind == ValueKind::Place && !isPlace(value);
+    const bool mustBeWritten = isFixed(property.kind) || property.kind == ValueKind::Colour ||
+                               property.kind == ValueKind::Alignment || property.choices.size() != 0;
+    if (literal == LiteralKind::Percentage) {
+        return; // told where it stands
     }
-    if (language::findAlignment(word) == nullptr) {
-        SecondFault unknown = recovery_.faultAt(fault::UNKNOWN_ALIGNMENT, range, {std::string(word)});
-        unknown.suggestion = suggestionOf(word, wordsOf(language::alignments()));
-        recovery_.note(std::move(unknown));
+    if (literal == LiteralKind::None && mustBeWritten) {
+        note(fault::NO_LITERAL, range, {std::string(property.name), nameOf(property.kind)});
+    } else if (isWrongPlace || (literal != LiteralKind::None && !takes(property.kind, literal))) {
+        note(fault::WRONG_KIND, range, {std::string(property.name), nameOf(property.kind), literalName(literal)});
     }
 }
 

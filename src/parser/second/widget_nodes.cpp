@@ -2,6 +2,7 @@
 
 #include "language/alignments.h"
 #include "language/property_words.h"
+#include "language/second/widgets.h"
 #include "language/widget_words.h"
 #include "parser/second/literals.h"
 
@@ -30,7 +31,6 @@ struct Renamed {
 };
 
 constexpr Renamed RENAMED[] = {
-    {WidgetForm::Container, "", property::ASPECT_RATIO, "ratio"},
     {WidgetForm::Container, "", property::BOX_BACKGROUND, "பின்னணி"},
     {WidgetForm::GridView, "", "குறுக்கு_எண்ணிக்கை", "cols"},
     {WidgetForm::GridView, "", property::WIDTH, "width"},
@@ -104,6 +104,9 @@ std::unique_ptr<WidgetNode> makeWidgetNode(const Widget& widget) {
     }
     default: break;
     }
+    if (widget.word == language::second::EACH) {
+        return std::make_unique<EachNode>(widget.word, Token{TokenType::IDENTIFIER, "", 0});
+    }
     const auto alignment = widget.form == WidgetForm::Dialog ? சீரமைப்பு_வகை::மையம் : UPPER_LEFT;
     return std::make_unique<WidgetNode>(widget.word, PropertyMap(), StatementList(), alignment);
 }
@@ -119,6 +122,10 @@ std::string keyOf(const Widget& widget, const WidgetProperty& property) {
 }
 
 bool keepField(WidgetNode& node, const WidgetProperty& property, const Expression& value) {
+    if (auto* each = dynamic_cast<EachNode*>(&node); each != nullptr && property.kind == language::ValueKind::Name) {
+        each->element = {TokenType::IDENTIFIER, textOf(value), value.line};
+        return true;
+    }
     const std::optional<float> number = writtenNumber(value);
     if (auto* flexible = dynamic_cast<FlexibleNode*>(&node); flexible != nullptr && property.name == widget::SHARE) {
         flexible->flex = static_cast<int>(number.value_or(1));

@@ -34,28 +34,16 @@ void StyleGrammar::parseStyle(const language::Widget& widget, WidgetNode& node) 
     }
     const std::string& word = tokens_.advance().value;
     PropertyList list{word, language::second::propertiesOf(widget, word)};
-    const std::size_t opening = tokens_.position();
-    tokens_.advance();
-    Parts siblings(height_);
-    while (!tokens_.check(TokenType::RPAREN) && !tokens_.isAtEnd()) {
-        siblings.next();
-        recovery_.attemptItem([&] { parseProperty(widget, node, list); });
-        tokens_.accept(TokenType::COMMA);
-    }
-    consumeClosing(TokenType::RPAREN, opening);
+    parse_.properties.parseItems([&] { parseProperty(widget, node, list); });
 }
 
 void StyleGrammar::parseProperty(const language::Widget& widget, WidgetNode& node, PropertyList& list) {
-    if (!parse_.properties.isPropertyAhead()) {
-        failHere(fault::NO_NAME, {"'பண்பு: மதிப்பு'", tokens_.shown(tokens_.position())});
-    }
-    const std::size_t first = tokens_.position();
     WrittenProperty written = parse_.properties.parseProperty(list);
     if (written.row == nullptr) {
         return;
     }
     if (list.owner == property::TEXT_STYLE && keepTextStyle(node.style, *written.row, *written.value)) {
-        checkTextStyle(*written.row, *written.value, tokens_.rangeFrom(first + 2));
+        checkTextStyle(*written.row, *written.value, written.valueRange);
         notePlace(written.row->name == property::FONT ? &node.style.font : &node.style.color, written.nameRange);
         return;
     }
@@ -65,9 +53,9 @@ void StyleGrammar::parseProperty(const language::Widget& widget, WidgetNode& nod
 
 /// A text style is settled when the page is built, so that all of it must be written out.
 void StyleGrammar::checkTextStyle(const language::WidgetProperty& property, const Expression& value, ByteRange range) {
-    const bool isWord = property.kind == language::ValueKind::Colour || property.name == property::ALIGNMENT ||
-                        property.name == property::TEXT_ALIGNMENT;
-    if (!isWord && literalKind(value) == LiteralKind::None) {
+    const bool isTold = property.kind == language::ValueKind::Colour || property.kind == language::ValueKind::Path ||
+                        property.choices.size() != 0;
+    if (!isTold && literalKind(value) == LiteralKind::None) {
         note(fault::NO_LITERAL, range, {std::string(property.name), "நேரடி மதிப்பு"});
     }
 }

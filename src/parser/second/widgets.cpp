@@ -7,6 +7,9 @@
 #include "parser/second/suggestion.h"
 #include "parser/second/widget_nodes.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace pozhil::second {
 namespace {
 
@@ -20,9 +23,15 @@ namespace property = language::property;
 namespace widget = language::widget;
 
 /// Whether a widget of the row \p child may stand between the brackets of one of the row \p parent.
+/// \param position how many children stand there before it
 bool mayHold(const Widget& parent, const Widget& child, std::size_t position) {
     if (child.role == WidgetRole::Style) {
         return parent.form == WidgetForm::Container && child.word == widget::BOX_STYLE;
+    }
+    if (child.word == language::second::EACH) {
+        constexpr std::string_view PARENTS[] = {widget::COLUMN,    widget::ROW,       widget::WRAP,
+                                                widget::LIST_VIEW, widget::GRID_VIEW, language::second::EACH};
+        return std::find(std::begin(PARENTS), std::end(PARENTS), parent.word) != std::end(PARENTS);
     }
     switch (parent.children) {
     case WidgetChildren::None: return false;
@@ -34,16 +43,6 @@ bool mayHold(const Widget& parent, const Widget& child, std::size_t position) {
     case WidgetChildren::BottomItems: return child.word == widget::BOTTOM_NAVIGATION_ITEM;
     }
     return false;
-}
-
-std::vector<std::string_view> widgetWords() {
-    std::vector<std::string_view> words;
-    for (const Widget& row : language::widgets()) {
-        if (row.role == WidgetRole::Widget && language::second::findWidget(row.word) != nullptr) {
-            words.push_back(row.word);
-        }
-    }
-    return words;
 }
 
 } // namespace
@@ -91,7 +90,20 @@ WidgetPtr WidgetGrammar::parseWidget() {
         parseItems(draft);
     }
     place(*node, first);
+    checkRequired(draft, first);
     return node;
+}
+
+/// What a loop over a list can't do without.
+void WidgetGrammar::checkRequired(const Draft& draft, std::size_t first) {
+    if (draft.row.word != language::second::EACH) {
+        return;
+    }
+    for (const std::string_view name : {language::second::EACH_LIST, language::second::EACH_ELEMENT}) {
+        if (draft.properties.written.count(name) == 0) {
+            note(fault::NO_PROPERTY, tokens_.rangeOf(first), {std::string(draft.row.word), std::string(name)});
+        }
+    }
 }
 
 /// The word of a widget.
@@ -105,25 +117,17 @@ const Widget& WidgetGrammar::consumeWord() {
     const std::size_t position = tokens_.position();
     if (row == nullptr && isWord(word) && tokens_.peek(1).type == TokenType::LPAREN) {
         SecondFault unknown = recovery_.faultAt(fault::UNKNOWN_WIDGET, tokens_.rangeOf(position), {word.value});
-        unknown.suggestion = suggestionOf(word.value, widgetWords());
+        unknown.suggestion = suggestionOf(word.value, language::second::widgetWords());
         throw SyntaxFault{std::move(unknown)};
     }
     failHere(fault::NO_WIDGET, {tokens_.shown(position)});
 }
 
-/// ( properties, styles and children in any order ), with or without commas between them.
+/// ( properties, styles and children in any order )
 void WidgetGrammar::parseItems(Draft& draft) {
-    const std::size_t opening = tokens_.position();
-    consumeOpening("விட்ஜெட்டின் பெயருக்குப் பின் '('");
-    const std::size_t closing = tokens_.closingOf(opening);
+    const std::size_t closing = tokens_.closingOf(tokens_.position());
     draft.hasFurtherBracket = closing != TokenReader::NONE && tokens_.at(closing + 1).type == TokenType::LPAREN;
-    Parts siblings(height_);
-    while (!tokens_.check(TokenType::RPAREN) && !tokens_.isAtEnd()) {
-        siblings.next();
-        recovery_.attemptItem([&] { parseItem(draft); });
-        tokens_.accept(TokenType::COMMA);
-    }
-    consumeClosing(TokenType::RPAREN, opening);
+    parse_.properties.parseItems([&] { parseItem(draft); });
 }
 
 void WidgetGrammar::parseItem(Draft& draft) {
@@ -190,6 +194,9 @@ void WidgetGrammar::keepProperty(Draft& draft, WrittenProperty property) {
         bar->children.push_back(std::move(message->widget));
         return;
     }
+    if (auto* each = dynamic_cast<EachNode*>(&draft.node); each != nullptr && row.kind == language::ValueKind::Name) {
+        notePlace(&each->element, property.valueRange);
+    }
     if (!keepField(draft.node, row, *property.value)) {
         parse_.properties.store(draft.node.properties, keyOf(draft.row, row), std::move(property));
     }
@@ -210,9 +217,20 @@ void WidgetGrammar::parseHandler(Draft& draft) {
     consumeClosing(TokenType::RPAREN, opening);
     if (property.value != nullptr) {
         keepProperty(draft, std::move(property));
-    } else {
+    } else if (property.row->name == property::ON_PRESS) {
         draft.node.eventStatements = std::move(statements);
+    } else {
+        property.value = asFunction(opening, std::move(statements));
+        keepProperty(draft, std::move(property));
     }
+}
+
+/// Statements in brackets as a function.
+ExpressionPtr WidgetGrammar::asFunction(std::size_t opening, StatementList statements) {
+    auto body = std::make_unique<BlockStatement>();
+    body->statements = std::move(statements);
+    place(*body, opening);
+    return make<FunctionExpression>(opening, std::vector<Param>(), std::move(body));
 }
 
 /// Whether the widget still lacks the text that it may be given without a name.

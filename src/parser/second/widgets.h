@@ -42,6 +42,8 @@ private:
     void parseOwnProperty(Draft& draft);
     void keepProperty(Draft& draft, WrittenProperty property);
     void parseHandler(Draft& draft);
+    ExpressionPtr asFunction(std::size_t opening, StatementList statements);
+    void checkRequired(const Draft& draft, std::size_t first);
     void parseText(Draft& draft);
     void parseChild(Draft& draft);
     bool takesText(const Draft& draft) const;

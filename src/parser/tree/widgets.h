@@ -3,6 +3,7 @@
 #include "language/widget_words.h"
 #include "parser/tree/animation.h"
 #include "parser/tree/application.h"
+#include "scanner/token.h"
 
 #include <cstdint>
 #include <memory>
@@ -138,6 +139,16 @@ struct SnackBarNode : WidgetNode {
     float progress = 0;
     float elapsed = 0;
     bool startHidden = true;
+};
+
+/// ஒவ்வொன்றும்: its children, once for each element of a list. Its kind is the word; the list and the key of an element
+/// are properties.
+struct EachNode : WidgetNode {
+    EachNode(std::string_view theKind, Token theElement)
+        : WidgetNode(theKind, {}, {}, சீரமைப்பு_வகை::மேல்_இடது), element(std::move(theElement)) {}
+
+    /// The name of the element.
+    Token element;
 };
 
 /// தலைமை: title, background and screen size of an application.

@@ -75,5 +75,6 @@ constexpr int UNKNOWN_ALIGNMENT = 634;
 constexpr int UNKNOWN_CHOICE = 635;
 constexpr int MISPLACED_CHILD = 636;
 constexpr int MISPLACED_PERCENTAGE = 637;
+constexpr int NO_PROPERTY = 638;
 
 } // namespace pozhil::second::fault

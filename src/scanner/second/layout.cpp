@@ -108,6 +108,12 @@ void Layout::repairIndent(const Indentation& indentation, std::size_t position) 
     const std::string& blanks = indentation.blanks;
     const std::vector<std::string>& indents = frames_.back().indents;
     const std::size_t width = widthOf(blanks);
+    if (frames_.back().isBaseOpen && indents.size() == 2 && width < widthOf(indents.back())) {
+        pushDedents(1, position);
+        frames_.back().indents.front() = blanks;
+        frames_.back().isBaseOpen = false;
+        return;
+    }
     std::size_t remaining = indents.size();
     while (remaining > 1 && widthOf(indents[remaining - 2]) >= width) {
         --remaining;
@@ -158,7 +164,9 @@ void Layout::endLine(std::size_t position) {
     }
     Frame& frame = frames_.back();
     if (frame.indents.empty() && tokens_.tokens().back().type == TokenType::COLON) {
-        frame.indents.push_back(blanks_); // the block of a statement that stands on the line of the bracket
+        // Of the statement that stands on the line of the bracket: its block is all that is known of the lines to come.
+        frame.indents.emplace_back();
+        frame.isBaseOpen = true;
     }
     if (!tokens_.isAtLineStart()) {
         pushLineEnd("\n", position);
@@ -279,7 +287,7 @@ void Layout::openBracket(char bracket, std::size_t position) {
     tokens_.push(typeOf(bracket), std::string(1, bracket), position, position + 1);
     brackets_.push_back({bracket, position, widthOf(blanks_), role});
     if (isGroup || hasStatements) {
-        frames_.push_back({isGroup ? Kind::Group : Kind::Statements, brackets_.size(), {}});
+        frames_.push_back({isGroup ? Kind::Group : Kind::Statements, brackets_.size(), {}, false});
     }
 }
 

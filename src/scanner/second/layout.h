@@ -89,11 +89,15 @@ private:
         /// Blanks of the open blocks. The first of them begins no block; a frame that ends at its bracket has none before
         /// its first line.
         std::vector<std::string> indents;
+        /// Whether the first line outside of its first block is still to tell how far it is indented.
+        bool isBaseOpen = false;
 
         bool endsAtBracket() const { return kind == Kind::Group || kind == Kind::Statements; }
     };
 
-    void openFrame(Kind kind, std::string base) { frames_.push_back({kind, brackets_.size(), {std::move(base)}}); }
+    void openFrame(Kind kind, std::string base) {
+        frames_.push_back({kind, brackets_.size(), {std::move(base)}, false});
+    }
     void closeFrame(std::size_t position);
     void pushLineEnd(const char* value, std::size_t position);
     void pushDedents(std::size_t remaining, std::size_t position);
@@ -114,7 +118,7 @@ private:
 
     TokenList& tokens_;
     std::vector<Bracket> brackets_;
-    std::vector<Frame> frames_{{Kind::Text, 0, {""}}};
+    std::vector<Frame> frames_{{Kind::Text, 0, {""}, false}};
     /// Of the line at hand.
     std::string blanks_;
     /// How many brackets stood open around each word வினை whose colon is still to come.

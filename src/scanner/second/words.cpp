@@ -2,6 +2,7 @@
 
 #include "language/keywords.h"
 #include "language/second/builtins.h"
+#include "language/second/widgets.h"
 #include "language/widgets.h"
 
 #include <algorithm>
@@ -51,19 +52,13 @@ bool isOfVocabulary(std::string_view word) {
         }
         for (const language::Widget& widget : language::widgets()) {
             words.insert(widget.word);
-            for (const language::WidgetProperty& property : widget.properties) {
-                words.insert(property.name);
-            }
-        }
-        for (const language::WidgetProperty& property : language::commonProperties()) {
-            words.insert(property.name);
         }
         for (const language::second::Builtin& builtin : language::second::builtins()) {
             words.insert(builtin.name);
         }
         return words;
     }();
-    return vocabulary.count(word) != 0;
+    return vocabulary.count(word) != 0 || language::second::isProperty(word);
 }
 
 const std::vector<std::string_view>& statementWords() {

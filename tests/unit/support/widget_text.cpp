@@ -58,6 +58,7 @@ std::string className(const WidgetNode& widget) {
         {"GridView", as<GridViewNode>(&widget) != nullptr}, {"ListView", as<ListViewNode>(&widget) != nullptr},
         {"Padding", as<PaddingNode>(&widget) != nullptr},   {"Container", as<ContainerNode>(&widget) != nullptr},
         {"SnackBar", as<SnackBarNode>(&widget) != nullptr}, {"Header", as<HeaderNode>(&widget) != nullptr},
+        {"Each", as<EachNode>(&widget) != nullptr},
     };
     for (const auto& [name, isIt] : classes) {
         if (isIt) {
@@ -71,6 +72,9 @@ std::string className(const WidgetNode& widget) {
 std::string ownFields(const WidgetNode& widget) {
     if (const auto* flexible = as<FlexibleNode>(&widget)) {
         return "flex=" + std::to_string(flexible->flex);
+    }
+    if (const auto* each = as<EachNode>(&widget)) {
+        return each->element.value;
     }
     if (const auto* padding = as<PaddingNode>(&widget)) {
         return changed("padding", padding->padding, 0.0F);
