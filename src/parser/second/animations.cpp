@@ -30,8 +30,10 @@ std::string wordOf(const Expression& value) {
 std::unique_ptr<AnimationNode> AnimationGrammar::parseAnimation(const language::Widget& widget) {
     const std::size_t first = tokens_.position();
     if (language::second::animationTargets(widget).empty()) {
-        fail(fault::MISPLACED_CHILD, tokens_.rangeOf(first),
-             {std::string(widget.word), std::string(property::ANIMATION)});
+        SecondFault misplaced = recovery_.faultAt(fault::MISPLACED_CHILD, tokens_.rangeOf(first),
+                                                  {std::string(widget.word), std::string(property::ANIMATION)});
+        misplaced.remedy = "'உரை', 'பொத்தான்', 'பெட்டி' ஆகிய மூன்றும்தான் அசையும்; அவற்றில் ஒன்றுக்குள்ள எழுது மச்சி!";
+        throw SyntaxFault{std::move(misplaced)};
     }
     tokens_.advance();
     auto animation = std::make_unique<AnimationNode>();

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace pozhil::second {
 
@@ -100,11 +101,20 @@ StatementPtr ApplicationGrammar::parseHeader() {
 /// ( widget )
 StatementPtr ApplicationGrammar::parseInterface() {
     const std::size_t opening = tokens_.position();
-    tokens_.advance();
     StatementPtr root;
-    recovery_.attemptItem([&] { root = parse_.widgets.parseWidget(); });
-    tokens_.accept(TokenType::COMMA);
-    consumeClosingOfOne(TokenType::RPAREN, opening);
+    bool isWritten = false;
+    parse_.properties.parseItems([&] {
+        const ByteRange range = tokens_.rangeOf(tokens_.position());
+        if (isWritten) {
+            note(fault::SECOND_ROOT, range);
+        }
+        const bool isFirst = !std::exchange(isWritten, true);
+        StatementPtr widget = parse_.widgets.parseWidget();
+        root = isFirst ? std::move(widget) : std::move(root);
+    });
+    if (!isWritten) {
+        note(fault::NO_WIDGET, tokens_.rangeOf(opening), {tokens_.shown(tokens_.position() - 1)});
+    }
     return root;
 }
 

@@ -28,8 +28,8 @@ const char* nameOf(ValueKind kind) {
     case ValueKind::Truth: return "'மெய்' அல்லது 'பொய்'";
     case ValueKind::Colour: return "நிறம்";
     case ValueKind::Alignment: return "சீரமைப்புச் சொல்";
-    case ValueKind::Path: return "கோப்பின் பெயர் (உரையாக)";
-    case ValueKind::Variable: return "மாறியின் பெயர் (உரையாக)";
+    case ValueKind::Path: return "கோப்பின் பெயர்";
+    case ValueKind::Variable: return "மேற்கோளுக்குள் ஒரு பெயர்";
     case ValueKind::Handler: return "செயல்";
     case ValueKind::Widget: return "விட்ஜெட்";
     case ValueKind::List: return "பட்டியல்";
@@ -175,8 +175,10 @@ void PropertyGrammar::checkValue(const WidgetProperty& property, const Expressio
     const bool hasChoices = property.choices.size() != 0;
     if (const auto* choice = nodeCast<TernaryExpression>(&value);
         choice != nullptr && !isFixed(property.kind) && !isChosen && !hasChoices) {
-        checkValue(property, *choice->thenBranch, range);
-        checkValue(property, *choice->elseBranch, range);
+        for (const Expression* branch : {choice->thenBranch.get(), choice->elseBranch.get()}) {
+            const auto place = parse_.places.of(*branch);
+            checkValue(property, *branch, place ? place->range : range);
+        }
         return;
     }
     const auto* text = nodeCast<StringLiteral>(&value);

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "parser/second/foreign_habits.h"
+#include "parser/second/names.h"
 #include "parser/second/suggestion.h"
 #include "scanner/second/fault_numbers.h"
 #include "scanner/second/words.h"
@@ -80,6 +81,15 @@ bool Recovery::isEcho(const SecondFault& fault) const {
     if (fault.number == fault::PART_WITHOUT_STATEMENT && isAfterMissingBlock) {
         return true;
     }
+    // A bracket around one that was left open isn't closed either.
+    const bool isAroundOpen =
+        fault.number == fault::OPEN_BRACKET &&
+        std::any_of(scanFaults_.begin(), scanFaults_.end(), [&](const SecondFault& found) {
+            return found.number == fault::OPEN_BRACKET && found.place.range.begin > fault.place.range.begin;
+        });
+    if (isAroundOpen) {
+        return true;
+    }
     if (beginsForeign(tokens_, statement_)) {
         return false;
     }
@@ -126,18 +136,26 @@ void Recovery::skipStatement(std::size_t first, int level) {
     }
 }
 
-/// An item ends with its comma, or with the bracket around it.
+/// An item ends with its comma, with the bracket around it, or where another begins on a line of its own.
 void Recovery::skipItem(std::size_t first) {
     int open = tokens_.openBrackets(first);
     while (!tokens_.isAtEnd()) {
-        const bool isOver = tokens_.check(TokenType::COMMA) || tokens_.check(TokenType::RPAREN);
-        if (open <= 0 && isOver) {
+        if (open <= 0 && isAtItemEnd(first)) {
             return;
         }
         const std::size_t taken = tokens_.position();
         tokens_.advance();
         open += tokens_.openBrackets(taken);
     }
+}
+
+bool Recovery::isAtItemEnd(std::size_t first) const {
+    if (tokens_.check(TokenType::COMMA) || tokens_.check(TokenType::RPAREN)) {
+        return true;
+    }
+    const bool beginsLine = tokens_.position() > first && tokens_.peek().line != tokens_.previous().line;
+    const TokenType next = tokens_.peek(1).type;
+    return beginsLine && isWord(tokens_.peek()) && (next == TokenType::COLON || next == TokenType::LPAREN);
 }
 
 /// Whether a statement of this level comes next, or what ends its block.

@@ -74,6 +74,7 @@ private:
     std::string suggestionFor(const SecondFault& fault) const;
     void skipStatement(std::size_t first, int level);
     void skipItem(std::size_t first);
+    bool isAtItemEnd(std::size_t first) const;
     bool isAtNextStatement(int level) const;
     bool isPartOfStatement() const;
 

@@ -45,6 +45,21 @@ bool mayHold(const Widget& parent, const Widget& child, std::size_t position) {
     return false;
 }
 
+/// What to do about a widget or style that stands where it can't; empty if that is what the catalogue says.
+std::string remedyOfMisplaced(const Widget& child) {
+    if (child.role == WidgetRole::Style) {
+        return "பாணியை அதன் விட்ஜெட்டோட அடைப்புக்குள்ளேயே எழுது: 'பெட்டி(பெட்டி_பாணி(…), …)' மாதிரி மச்சி!";
+    }
+    if (child.role == WidgetRole::Item) {
+        const std::string bar(child.word == widget::TAB_ITEM ? widget::TAB_BAR : widget::BOTTOM_NAVIGATION);
+        return "அதை '" + bar + "( … )' என்பதற்குள்ள வை மச்சி!";
+    }
+    if (child.word == language::second::EACH) {
+        return "அதை 'நெடுவரிசை', 'கிடைவரிசை', 'மடிப்பு', 'பட்டியல்_காட்சி', 'கட்டம்_காட்சி' ஆகியவற்றில் ஒன்றுக்குள்ள வை மச்சி!";
+    }
+    return "";
+}
+
 } // namespace
 
 bool WidgetGrammar::isWidgetWordAhead() const {
@@ -257,7 +272,10 @@ void WidgetGrammar::parseChild(Draft& draft) {
     const Widget& row = *language::second::findWidget(tokens_.at(first).value);
     const auto others = static_cast<std::size_t>(draft.node.children.size());
     if (!mayHold(draft.row, row, others)) {
-        note(fault::MISPLACED_CHILD, tokens_.rangeOf(first), {std::string(draft.row.word), std::string(row.word)});
+        SecondFault misplaced = recovery_.faultAt(fault::MISPLACED_CHILD, tokens_.rangeOf(first),
+                                                  {std::string(draft.row.word), std::string(row.word)});
+        misplaced.remedy = remedyOfMisplaced(row);
+        recovery_.note(std::move(misplaced));
         return;
     }
     draft.node.children.push_back(std::move(child));

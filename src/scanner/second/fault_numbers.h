@@ -76,5 +76,6 @@ constexpr int UNKNOWN_CHOICE = 635;
 constexpr int MISPLACED_CHILD = 636;
 constexpr int MISPLACED_PERCENTAGE = 637;
 constexpr int NO_PROPERTY = 638;
+constexpr int SECOND_ROOT = 639;
 
 } // namespace pozhil::second::fault

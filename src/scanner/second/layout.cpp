@@ -258,7 +258,7 @@ bool Layout::beginsStatements(char bracket) const {
     }
     switch (brackets_.back().role) {
     case Role::Application: return isWordBefore(0, word::DEFINITION);
-    case Role::Widgets: return isHandlerBefore();
+    case Role::Items: return isHandlerBefore();
     default: return false;
     }
 }
@@ -274,10 +274,10 @@ Layout::Role Layout::roleOf(char bracket) const {
         return isWordBefore(0, word::DATABASE_READ) ? Role::DatabaseRead : Role::DatabasePath;
     }
     const bool isJoined = joinsLines();
-    const bool isInterface = isJoined && brackets_.back().role == Role::Application && isWordBefore(0, word::INTERFACE);
-    const bool isAmong = isAmongWidgets();
+    const bool isSection = isJoined && brackets_.back().role == Role::Application;
+    const bool isAmong = isAmongItems();
     const bool isWidget = isInApplication() && isWidgetBefore();
-    return isInterface || isAmong || isWidget ? Role::Widgets : Role::Any;
+    return isSection || isAmong || isWidget ? Role::Items : Role::Any;
 }
 
 void Layout::openBracket(char bracket, std::size_t position) {

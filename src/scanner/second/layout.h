@@ -56,8 +56,9 @@ public:
     /// Closes them without a word: what would have closed them was taken for something else.
     void dropBrackets() { brackets_.resize(frames_.back().depth); }
 
-    /// Whether widgets stand in the bracket that joins lines here: there nothing but their sections begins anew.
-    bool isAmongWidgets() const { return joinsLines() && brackets_.back().role == Role::Widgets; }
+    /// Whether the bracket that joins lines here holds properties and widgets of an application: there no statement begins,
+    /// but the next section.
+    bool isAmongItems() const { return joinsLines() && brackets_.back().role == Role::Items; }
     /// Whether an application is open around what comes next.
     bool isInApplication() const { return !brackets_.empty() && brackets_.front().role == Role::Application; }
     /// Closes the brackets inside of the application, the last of which somebody forgot to close.
@@ -72,7 +73,7 @@ public:
 
 private:
     /// What a bracket holds, as far as it matters for lines.
-    enum class Role { Any, Application, Widgets, DatabasePath, DatabaseRead };
+    enum class Role { Any, Application, Items, DatabasePath, DatabaseRead };
     struct Bracket {
         char sign;
         std::size_t position;

@@ -192,7 +192,7 @@ void Scan::checkBlanks() {
 
 /// A bracket joins lines, but not with one that is the beginning of a statement beyond doubt.
 void Scan::beginLine(const Indentation& indentation) {
-    if (layout_.isAmongWidgets()) {
+    if (layout_.isAmongItems()) {
         if (isSectionAhead()) {
             layout_.closeSection(position_);
         }

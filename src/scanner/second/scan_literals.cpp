@@ -212,7 +212,7 @@ void Scan::scanNumber() {
 /// Whether a percentage ends here, which only widgets take: elsewhere, and before an operand, the sign is that of another
 /// language for the remainder.
 bool Scan::isPercentSign() const {
-    if (peek() != '%' || !layout_.isAmongWidgets()) {
+    if (peek() != '%' || !layout_.isAmongItems()) {
         return false;
     }
     const Character next = characterAt(text_, position_ + 1);
