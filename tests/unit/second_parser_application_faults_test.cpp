@@ -85,13 +85,35 @@ TEST(Properties, MustBeOfTheWidget) {
 
 TEST(Values, MustBeOfTheKind) {
     EXPECT_THAT(widgetFaults("நெடுவரிசை(இடைவெளி: \"8\", உருளும்பட்டை: 1)()"), ElementsAre("631 3 '\"8\"'", "631 3 '1'"));
-    EXPECT_THAT(widgetFaults("பெட்டி(வளைவு: கழி 2, நிழல்: (3), அகலம்: அ கூட்டு 1)"), IsEmpty());
+    EXPECT_THAT(widgetFaults("பெட்டி(நகர்வு_X: கழி 2, நிழல்: (3), அகலம்: அ கூட்டு 1)"), IsEmpty());
     EXPECT_THAT(widgetFaults("பெட்டி(அகலம்: அ எனில் \"1\" இல்லைஎனில் 2)"), ElementsAre("631 3 '\"1\"'")) << "in a choice";
     EXPECT_THAT(widgetFaults("பொத்தான்(அழுத்தினால்: \"f\")"), ElementsAre("631 3 '\"f\"'"));
     EXPECT_THAT(widgetFaults("கீழ்வரி(பட்டியல்: \"அ\")"), ElementsAre("631 3 '\"அ\"'"));
     EXPECT_THAT(widgetFaults("படம்(பாதை: பெயர்)"), ElementsAre("632 3 'பெயர்'"));
     EXPECT_THAT(widgetFaults("உரை(\"அ\", காட்சி_பெயர்: பெயர்)"), ElementsAre("632 3 'பெயர்'"));
     EXPECT_THAT(widgetFaults("உரை(\"அ\", உரைபாணி(அளவு: பெயர்))"), ElementsAre("632 3 'பெயர்'"));
+}
+
+TEST(Values, ThatThePageIsBuiltWithMustBeWritten) {
+    EXPECT_THAT(widgetFaults("நெடுவரிசை(இடைவெளி: அ)()"), ElementsAre("632 3 'அ'"));
+    EXPECT_THAT(widgetFaults("நெடுவரிசை(இடைவெளி: 1.5)()"), ElementsAre("632 3 '1.5'")) << "no whole number";
+    EXPECT_THAT(widgetFaults("நெடுவரிசை(இடைவெளி: கழி 1, அகலம்: 10%)()"), ElementsAre("632 3 'கழி 1'", "637 3 '10%'"));
+    EXPECT_THAT(widgetFaults("பெட்டி(வளைவு: அ எனில் 1 இல்லைஎனில் 2)"), ElementsAre(HasSubstr("632 3 ")));
+    EXPECT_THAT(widgetFaults("பெட்டி(வளைவு: 1.5, நிழல்: (3))"), IsEmpty());
+    EXPECT_THAT(secondFaults("வலைதளம் (தலைமை(பக்கம்: அ) குமரி(உரை(\"அ\")) வரையறை())\n"), ElementsAre("632 1 'அ'"));
+    EXPECT_THAT(widgetFaults("உரைபெட்டி(குறிப்பு: அ, பலவரி: ஆ)"), ElementsAre("632 3 'அ'", "632 3 'ஆ'"));
+    EXPECT_THAT(
+        widgetFaults(
+            "நெடுவரிசை(அளவி(மதிப்பு: அ), முன்னேற்றவரி(மதிப்பு: அ கூட்டு 1), தத்தல்(தத்தல்_தேர்வு: அ), மாற்றி(ஆரம்ப_நிலை: அ))"),
+        IsEmpty())
+        << "what a running page works out";
+}
+
+TEST(Parts, OfOtherWidgetsAreTold) {
+    EXPECT_THAT(widgetFaults("நெடுவரிசை(அழுத்தினால்(f()), பொ_பாணி(வளைவு: 1))"),
+                ElementsAre("629 3 'அழுத்தினால்'", "629 3 'பொ_பாணி'"));
+    EXPECT_THAT(widgetFaults("பொத்தான்(பாணி(வளைவு: 1))"), ElementsAre("629 3 'பாணி'"));
+    EXPECT_THAT(widgetFaults("உரை(குறிப்பு(1))"), IsEmpty()) << "the call of a function in a text";
 }
 
 TEST(Words, MustBeThoseOfTheProperty) {
@@ -117,6 +139,7 @@ TEST(Animations, AreOfKnownWords) {
             "பெட்டி(அசைவூட்டம்(நிலைமை: \"hovr\", காலம்: அ, வகை: \"துள்ளள்\", நேரம்: 1, இலக்கு(அகலம்: \"2\", மங்குநழுவு: 1)))"),
         ElementsAre(HasSubstr("635 3 '\"hovr\"' → "), "632 3 'அ'", HasSubstr("635 3 '\"துள்ளள்\"' → "),
                     HasSubstr("629 3 'நேரம்'"), "631 3 '\"2\"'", HasSubstr("629 3 'மங்குநழுவு'")));
+    EXPECT_THAT(widgetFaults("பெட்டி(அசைவூட்டம்(வகை: 5))"), ElementsAre("632 3 '5'"));
     EXPECT_THAT(widgetFaults("நெடுவரிசை(அசைவூட்டம்(காலம்: 1))()"), ElementsAre("636 3 'அசைவூட்டம்'"));
 }
 

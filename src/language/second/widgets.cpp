@@ -184,6 +184,15 @@ bool isProperty(std::string_view name) {
     return names.count(name) != 0;
 }
 
+bool isStyle(std::string_view word) {
+    static const std::unordered_set<std::string_view> words = [] {
+        std::unordered_set<std::string_view> found{STYLE_KEY};
+        visitProperties([&](const WidgetProperty& property) { found.insert(property.style); });
+        return found;
+    }();
+    return words.count(word) != 0;
+}
+
 Rows<WidgetProperty> headerProperties() {
     return HEADER_PROPERTIES;
 }

@@ -15,6 +15,9 @@ constexpr std::string_view EACH_LIST = "பட்டியல்";
 constexpr std::string_view EACH_ELEMENT = "உருப்படி";
 constexpr std::string_view EACH_KEY = "சாவி";
 
+/// The key that may stand before a style block.
+constexpr std::string_view STYLE_KEY = "பாணி";
+
 /// The widget of this word, null if there is none.
 const Widget* findWidget(std::string_view word);
 
@@ -36,6 +39,9 @@ bool isHandler(std::string_view name);
 
 /// Whether any widget, style or header has a property of this name.
 bool isProperty(std::string_view name);
+
+/// Whether any widget has a style block of this word.
+bool isStyle(std::string_view word);
 
 /// The properties of an application's header.
 Rows<WidgetProperty> headerProperties();

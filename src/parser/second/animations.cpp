@@ -58,13 +58,21 @@ void AnimationGrammar::parseItem(AnimationNode& animation, const language::Widge
     }
     const std::string word = wordOf(*written.value);
     if (written.row->name == property::DURATION) {
-        checkWritten(written);
         animation.duration = writtenNumber(*written.value).value_or(0);
     } else if (written.row->name == language::second::ANIMATION_CURVE) {
-        parse_.properties.checkChoice(written.row->name, word, language::second::curveNames(), written.valueRange);
+        checkCurve(written, word);
         animation.curve = word;
     } else {
         animation.condition = word;
+    }
+}
+
+void AnimationGrammar::checkCurve(const WrittenProperty& written, const std::string& name) {
+    const std::string curve(written.row->name);
+    if (name.empty()) {
+        note(fault::NO_LITERAL, written.valueRange, {curve, "வளைவின் பெயர்"});
+    } else {
+        parse_.properties.checkChoice(curve, name, language::second::curveNames(), written.valueRange);
     }
 }
 
@@ -82,16 +90,7 @@ void AnimationGrammar::parseTarget(AnimationNode& animation, PropertyList& list)
     if (const std::optional<float> number = writtenNumber(*written.value)) {
         animation.numericTargets[std::string(written.row->name)] = *number;
     } else {
-        checkWritten(written);
         animation.stringTargets[std::string(written.row->name)] = wordOf(*written.value);
-    }
-}
-
-/// A number of an animation is settled when the page is built.
-void AnimationGrammar::checkWritten(const WrittenProperty& written) {
-    const bool isNumber = written.row->kind == language::ValueKind::Number;
-    if (isNumber && literalKind(*written.value) == LiteralKind::None) {
-        note(fault::NO_LITERAL, written.valueRange, {std::string(written.row->name), "எண்"});
     }
 }
 

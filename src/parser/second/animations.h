@@ -17,9 +17,9 @@ public:
 
 private:
     void parseItem(AnimationNode& animation, const language::Widget& widget, PropertyList& list);
+    void checkCurve(const WrittenProperty& written, const std::string& name);
     void parseTargets(AnimationNode& animation, const language::Widget& widget);
     void parseTarget(AnimationNode& animation, PropertyList& list);
-    void checkWritten(const WrittenProperty& written);
 };
 
 } // namespace pozhil::second

@@ -3,6 +3,7 @@
 #include "base/scoped_value.h"
 #include "language/alignments.h"
 #include "language/colours.h"
+#include "language/second/written_values.h"
 #include "parser/second/file_parse.h"
 #include "parser/second/literals.h"
 #include "parser/second/names.h"
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 namespace pozhil::second {
 namespace {
@@ -18,6 +20,7 @@ using language::ValueKind;
 using language::WidgetProperty;
 
 constexpr const char* COLOUR_OBJECT = "நிறம்";
+constexpr const char* WHOLE_NUMBER = "முழு எண்";
 
 /// What a property of this kind takes, for messages.
 const char* nameOf(ValueKind kind) {
@@ -58,29 +61,36 @@ bool takes(ValueKind kind, LiteralKind literal) {
     }
 }
 
-/// Whether the page is built with the value, so that it must be known then.
-bool isFixed(ValueKind kind) {
-    return kind == ValueKind::Path || kind == ValueKind::Variable;
-}
-
 /// The word that a value gives: a plain name, or the last of two joined by a dot.
-std::string_view wordOf(const Expression& value) {
+std::optional<std::string_view> wordOf(const Expression& value) {
     if (const auto* get = nodeCast<GetExpression>(&value)) {
         return get->member.value;
     }
     const auto* name = nodeCast<VariableAccess>(&value);
-    return name == nullptr ? std::string_view() : std::string_view(name->name);
+    return name == nullptr ? std::nullopt : std::optional<std::string_view>(name->name);
 }
 
-/// The word of a colour: a text, a name, or the word of நிறம்.word; empty for anything else.
-std::string_view colourWordOf(const Expression& value) {
-    if (const auto* text = nodeCast<StringLiteral>(&value)) {
-        return text->value;
-    }
+/// Whether \p value is a member, but not of the name by which colours go.
+bool isOtherMember(const Expression& value) {
     const auto* get = nodeCast<GetExpression>(&value);
     const auto* object = get == nullptr ? nullptr : nodeCast<VariableAccess>(get->object.get());
-    const bool isOther = get != nullptr && (object == nullptr || object->name != COLOUR_OBJECT);
-    return isOther ? std::string_view() : wordOf(value);
+    return get != nullptr && (object == nullptr || object->name != COLOUR_OBJECT);
+}
+
+/// The word of its own that the value of a property is chosen by; nothing for any other value. Alignments aren't texts.
+std::optional<std::string_view> chosenWord(const WidgetProperty& property, const Expression& value) {
+    const auto* text = nodeCast<StringLiteral>(&value);
+    const bool isColour = property.kind == ValueKind::Colour;
+    if (property.kind == ValueKind::Alignment) {
+        return wordOf(value);
+    }
+    if (!isColour && property.choices.size() == 0) {
+        return std::nullopt;
+    }
+    if (text != nullptr) {
+        return text->value;
+    }
+    return isColour && isOtherMember(value) ? std::nullopt : wordOf(value);
 }
 
 bool isPlace(const Expression& value) {
@@ -114,10 +124,10 @@ WrittenProperty PropertyGrammar::parseProperty(PropertyList& list) {
     if (row == list.known.end()) {
         noteUnknown(list, name, written.nameRange);
         static constexpr WidgetProperty ANYTHING = {"", "", ValueKind::Value, {"", ""}};
-        written.value = parseValue(ANYTHING);
+        written.value = parseValue(list, ANYTHING);
         return written;
     }
-    written.value = parseValue(**row);
+    written.value = parseValue(list, **row);
     written.valueRange = tokens_.rangeFrom(first + 2);
     if (!list.written.insert((*row)->name).second) {
         note(fault::PROPERTY_TWICE, written.nameRange, {name});
@@ -138,7 +148,7 @@ void PropertyGrammar::noteUnknown(const PropertyList& list, std::string_view nam
 }
 
 /// The value of a property, checked as far as it is written out.
-ExpressionPtr PropertyGrammar::parseValue(const WidgetProperty& property) {
+ExpressionPtr PropertyGrammar::parseValue(const PropertyList& list, const WidgetProperty& property) {
     const std::size_t first = tokens_.position();
     const bool mayBeWidget =
         property.kind == ValueKind::Widget || property.kind == ValueKind::Handler || property.kind == ValueKind::Value;
@@ -155,7 +165,7 @@ ExpressionPtr PropertyGrammar::parseValue(const WidgetProperty& property) {
     const ScopedValue<bool> percentages(parse_.takesPercentages, property.kind == ValueKind::Size);
     ExpressionPtr value = parse_.expressions.parseInner();
     const ByteRange range = tokens_.rangeFrom(first);
-    checkValue(property, *value, range);
+    checkValue(list, property, *value, range);
     return property.kind == ValueKind::Colour ? asColour(std::move(value), first) : std::move(value);
 }
 
@@ -170,26 +180,18 @@ ExpressionPtr PropertyGrammar::asColour(ExpressionPtr value, std::size_t first) 
     return value;
 }
 
-void PropertyGrammar::checkValue(const WidgetProperty& property, const Expression& value, ByteRange range) {
-    const bool isChosen = property.kind == ValueKind::Colour || property.kind == ValueKind::Alignment;
-    const bool hasChoices = property.choices.size() != 0;
-    if (const auto* choice = nodeCast<TernaryExpression>(&value);
-        choice != nullptr && !isFixed(property.kind) && !isChosen && !hasChoices) {
+void PropertyGrammar::checkValue(const PropertyList& list, const WidgetProperty& property, const Expression& value,
+                                 ByteRange range) {
+    const auto* choice = nodeCast<TernaryExpression>(&value);
+    if (const auto word = chosenWord(property, value)) {
+        checkWord(property, *word, range);
+    } else if (choice == nullptr || language::second::isWritten(list.owner, property)) {
+        checkLiteral(list, property, value, range);
+    } else {
         for (const Expression* branch : {choice->thenBranch.get(), choice->elseBranch.get()}) {
             const auto place = parse_.places.of(*branch);
-            checkValue(property, *branch, place ? place->range : range);
+            checkValue(list, property, *branch, place ? place->range : range);
         }
-        return;
-    }
-    const auto* text = nodeCast<StringLiteral>(&value);
-    const std::string_view name = wordOf(value);
-    const std::string_view word = property.kind == ValueKind::Colour ? colourWordOf(value)
-                                  : hasChoices && text != nullptr    ? std::string_view(text->value)
-                                                                     : name;
-    if ((isChosen || hasChoices) && (!word.empty() || (text != nullptr && property.kind != ValueKind::Alignment))) {
-        checkWord(property, word, range);
-    } else {
-        checkLiteral(property, value, range);
     }
 }
 
@@ -224,18 +226,21 @@ void PropertyGrammar::checkChoice(std::string_view property, std::string_view wo
 }
 
 /// A value that isn't a word of the property's own.
-void PropertyGrammar::checkLiteral(const WidgetProperty& property, const Expression& value, ByteRange range) {
+void PropertyGrammar::checkLiteral(const PropertyList& list, const WidgetProperty& property, const Expression& value,
+                                   ByteRange range) {
     const LiteralKind literal = literalKind(value);
     const bool isWrongPlace = property.kind == ValueKind::Place && !isPlace(value);
-    const bool mustBeWritten = isFixed(property.kind) || property.kind == ValueKind::Colour ||
-                               property.kind == ValueKind::Alignment || property.choices.size() != 0;
     if (literal == LiteralKind::Percentage) {
         return; // told where it stands
     }
-    if (literal == LiteralKind::None && mustBeWritten) {
-        note(fault::NO_LITERAL, range, {std::string(property.name), nameOf(property.kind)});
-    } else if (isWrongPlace || (literal != LiteralKind::None && !takes(property.kind, literal))) {
+    const bool isUnknown = literal == LiteralKind::None && language::second::isWritten(list.owner, property);
+    const bool isNoWhole =
+        language::second::isWhole(list.owner, property) && nodeCast<NumberLiteral>(&value) == nullptr;
+    const bool isWrong = literal != LiteralKind::None && !takes(property.kind, literal);
+    if (isWrong || isWrongPlace) {
         note(fault::WRONG_KIND, range, {std::string(property.name), nameOf(property.kind), literalName(literal)});
+    } else if (isUnknown || isNoWhole) {
+        note(fault::NO_LITERAL, range, {std::string(property.name), isNoWhole ? WHOLE_NUMBER : nameOf(property.kind)});
     }
 }
 

@@ -58,7 +58,8 @@ public:
     void store(PropertyMap& properties, std::string key, WrittenProperty property);
 
     /// Tells what is wrong with a value of a property, if it shows.
-    void checkValue(const language::WidgetProperty& property, const Expression& value, ByteRange range);
+    void checkValue(const PropertyList& list, const language::WidgetProperty& property, const Expression& value,
+                    ByteRange range);
 
     /// Tells of a word that isn't among those that a property chooses from.
     void checkChoice(std::string_view property, std::string_view word, const std::vector<std::string_view>& choices,
@@ -68,9 +69,10 @@ public:
     void noteUnknown(const PropertyList& list, std::string_view name, ByteRange range);
 
 private:
-    ExpressionPtr parseValue(const language::WidgetProperty& property);
+    ExpressionPtr parseValue(const PropertyList& list, const language::WidgetProperty& property);
     ExpressionPtr asColour(ExpressionPtr value, std::size_t first);
-    void checkLiteral(const language::WidgetProperty& property, const Expression& value, ByteRange range);
+    void checkLiteral(const PropertyList& list, const language::WidgetProperty& property, const Expression& value,
+                      ByteRange range);
     void checkWord(const language::WidgetProperty& property, std::string_view word, ByteRange range);
 };
 

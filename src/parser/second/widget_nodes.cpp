@@ -1,5 +1,6 @@
 #include "parser/second/widget_nodes.h"
 
+#include "base/number_text.h"
 #include "language/alignments.h"
 #include "language/property_words.h"
 #include "language/second/widgets.h"
@@ -7,7 +8,6 @@
 #include "parser/second/literals.h"
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 
 namespace pozhil::second {
@@ -128,7 +128,8 @@ bool keepField(WidgetNode& node, const WidgetProperty& property, const Expressio
     }
     const std::optional<float> number = writtenNumber(value);
     if (auto* flexible = dynamic_cast<FlexibleNode*>(&node); flexible != nullptr && property.name == widget::SHARE) {
-        flexible->flex = static_cast<int>(number.value_or(1));
+        const auto* share = nodeCast<NumberLiteral>(&value);
+        flexible->flex = share == nullptr ? flexible->flex : intOf(share->value);
         return true;
     }
     if (auto* padding = dynamic_cast<PaddingNode*>(&node); padding != nullptr && property.name == property::SIZE) {
@@ -137,9 +138,6 @@ bool keepField(WidgetNode& node, const WidgetProperty& property, const Expressio
     auto* bar = dynamic_cast<SnackBarNode*>(&node);
     if (bar != nullptr && property.name == property::BACKGROUND && nodeCast<StringLiteral>(&value) != nullptr) {
         bar->background = textOf(value);
-    }
-    if (bar != nullptr && property.name == property::DURATION && number) {
-        bar->durationMs = static_cast<int>(*number);
     }
     return false;
 }

@@ -3,7 +3,6 @@
 #include "language/property_words.h"
 #include "language/widget_words.h"
 #include "parser/second/file_parse.h"
-#include "parser/second/literals.h"
 #include "parser/second/names.h"
 #include "parser/second/widget_nodes.h"
 
@@ -14,12 +13,10 @@ namespace {
 
 namespace property = language::property;
 
-constexpr const char* STYLE_KEY = "பாணி";
-
 } // namespace
 
 bool StyleGrammar::isStyleAhead(const language::Widget& widget) const {
-    const bool hasKey = tokens_.peek().value == STYLE_KEY && tokens_.peek(1).type == TokenType::COLON;
+    const bool hasKey = tokens_.peek().value == language::second::STYLE_KEY && tokens_.peek(1).type == TokenType::COLON;
     const std::size_t offset = hasKey ? 2 : 0;
     const std::string& word = tokens_.peek(offset).value;
     const std::vector<std::string_view> styles = language::second::stylesOf(widget);
@@ -43,21 +40,11 @@ void StyleGrammar::parseProperty(const language::Widget& widget, WidgetNode& nod
         return;
     }
     if (list.owner == property::TEXT_STYLE && keepTextStyle(node.style, *written.row, *written.value)) {
-        checkTextStyle(*written.row, *written.value, written.valueRange);
         notePlace(written.row->name == property::FONT ? &node.style.font : &node.style.color, written.nameRange);
         return;
     }
     const std::string key = keyOf(widget, *written.row);
     parse_.properties.store(node.properties, key, std::move(written));
-}
-
-/// A text style is settled when the page is built, so that all of it must be written out.
-void StyleGrammar::checkTextStyle(const language::WidgetProperty& property, const Expression& value, ByteRange range) {
-    const bool isTold = property.kind == language::ValueKind::Colour || property.kind == language::ValueKind::Path ||
-                        property.choices.size() != 0;
-    if (!isTold && literalKind(value) == LiteralKind::None) {
-        note(fault::NO_LITERAL, range, {std::string(property.name), "நேரடி மதிப்பு"});
-    }
 }
 
 } // namespace pozhil::second

@@ -18,7 +18,6 @@ public:
 
 private:
     void parseProperty(const language::Widget& widget, WidgetNode& node, PropertyList& list);
-    void checkTextStyle(const language::WidgetProperty& property, const Expression& value, ByteRange range);
 };
 
 } // namespace pozhil::second

@@ -159,7 +159,9 @@ void WidgetGrammar::parseItem(Draft& draft) {
     }
     const bool isWidgetHere = language::second::findWidget(tokens_.peek().value) != nullptr &&
                               draft.row.children != WidgetChildren::None && isWord(tokens_.peek());
-    if (!isWidgetHere && takesText(draft)) {
+    const bool isOtherStyle =
+        tokens_.peek(1).type == TokenType::LPAREN && language::second::isStyle(tokens_.peek().value);
+    if (!isWidgetHere && !isOtherStyle && takesText(draft)) {
         parseText(draft);
     } else {
         parseChild(draft);
@@ -261,12 +263,30 @@ void WidgetGrammar::parseText(Draft& draft) {
     text.row = language::second::findProperty(draft.row, "", property::TEXT);
     text.value = parse_.expressions.parseInner();
     text.nameRange = tokens_.rangeFrom(first);
-    parse_.properties.checkValue(*text.row, *text.value, text.nameRange);
+    parse_.properties.checkValue(draft.properties, *text.row, *text.value, text.nameRange);
     draft.properties.written.insert(text.row->name);
     keepProperty(draft, std::move(text));
 }
 
+/// A style or handler that other widgets have.
+void WidgetGrammar::checkOtherPart(const Draft& draft) {
+    const Token& word = tokens_.peek();
+    const bool isPart = isWord(word) && tokens_.peek(1).type == TokenType::LPAREN &&
+                        language::second::findWidget(word.value) == nullptr &&
+                        (language::second::isProperty(word.value) || language::second::isStyle(word.value));
+    if (!isPart) {
+        return;
+    }
+    SecondFault unknown = recovery_.faultAt(fault::UNKNOWN_PROPERTY, tokens_.rangeOf(tokens_.position()),
+                                            {std::string(draft.row.word), word.value});
+    if (const std::vector<std::string_view> styles = language::second::stylesOf(draft.row); !styles.empty()) {
+        unknown.remedy = "இந்த விட்ஜெட்டின் பாணியை '" + std::string(styles.front()) + "(…)' என்று எழுது மச்சி!";
+    }
+    throw SyntaxFault{std::move(unknown)};
+}
+
 void WidgetGrammar::parseChild(Draft& draft) {
+    checkOtherPart(draft);
     const std::size_t first = tokens_.position();
     WidgetPtr child = parseWidget();
     const Widget& row = *language::second::findWidget(tokens_.at(first).value);

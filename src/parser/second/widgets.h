@@ -45,6 +45,7 @@ private:
     ExpressionPtr asFunction(std::size_t opening, StatementList statements);
     void checkRequired(const Draft& draft, std::size_t first);
     void parseText(Draft& draft);
+    void checkOtherPart(const Draft& draft);
     void parseChild(Draft& draft);
     bool takesText(const Draft& draft) const;
 };
