@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <unordered_set>
+#include <utility>
 
 namespace pozhil::language::second {
 namespace {
@@ -101,29 +103,9 @@ template <class Visit> void visitProperties(const Visit& visit) {
     }
 }
 
-} // namespace
-
-const Widget* findWidget(std::string_view word) {
-    if (word == EACH) {
-        return &EACH_WIDGET;
-    }
-    const Widget* const widget = language::findWidget(word);
-    const bool isKnown = widget != nullptr && widget->role != WidgetRole::Key && word != widget::PADDING_MISSPELT;
-    return isKnown ? widget : nullptr;
-}
-
-std::vector<std::string_view> widgetWords() {
-    std::vector<std::string_view> words{EACH};
-    for (const Widget& widget : widgets()) {
-        if (findWidget(widget.word) != nullptr && widget.role != WidgetRole::Style) {
-            words.push_back(widget.word);
-        }
-    }
-    return words;
-}
-
-std::vector<const WidgetProperty*> propertiesOf(const Widget& widget, std::string_view style) {
-    std::vector<const WidgetProperty*> found;
+/// What propertiesOf tells, worked out.
+WidgetProperties collectProperties(const Widget& widget, std::string_view style) {
+    WidgetProperties found;
     const auto add = [&](const WidgetProperty& row) {
         const bool isKnown = std::any_of(found.begin(), found.end(),
                                          [&](const WidgetProperty* other) { return other->name == row.name; });
@@ -145,8 +127,48 @@ std::vector<const WidgetProperty*> propertiesOf(const Widget& widget, std::strin
     return found;
 }
 
+} // namespace
+
+const Widget* findWidget(std::string_view word) {
+    if (word == EACH) {
+        return &EACH_WIDGET;
+    }
+    const Widget* const widget = language::findWidget(word);
+    const bool isKnown = widget != nullptr && widget->role != WidgetRole::Key && word != widget::PADDING_MISSPELT;
+    return isKnown ? widget : nullptr;
+}
+
+std::vector<std::string_view> widgetWords() {
+    std::vector<std::string_view> words{EACH};
+    for (const Widget& widget : widgets()) {
+        if (findWidget(widget.word) != nullptr && widget.role != WidgetRole::Style) {
+            words.push_back(widget.word);
+        }
+    }
+    return words;
+}
+
+const WidgetProperties& propertiesOf(const Widget& widget, std::string_view style) {
+    using Place = std::pair<std::string_view, std::string_view>;
+    static const std::map<Place, WidgetProperties> all = [] {
+        std::map<Place, WidgetProperties> found;
+        const auto add = [&](const Widget& one) {
+            found[{one.word, ""}] = collectProperties(one, "");
+            for (const std::string_view block : stylesOf(one)) {
+                found[{one.word, block}] = collectProperties(one, block);
+            }
+        };
+        std::for_each(widgets().begin(), widgets().end(), add);
+        add(EACH_WIDGET);
+        return found;
+    }();
+    static const WidgetProperties none;
+    const auto found = all.find({widget.word, style});
+    return found == all.end() ? none : found->second;
+}
+
 const WidgetProperty* findProperty(const Widget& widget, std::string_view style, std::string_view name) {
-    const std::vector<const WidgetProperty*> properties = propertiesOf(widget, style);
+    const WidgetProperties& properties = propertiesOf(widget, style);
     const auto found = std::find_if(properties.begin(), properties.end(),
                                     [&](const WidgetProperty* property) { return property->name == name; });
     return found == properties.end() ? nullptr : *found;

@@ -18,6 +18,8 @@ constexpr std::string_view EACH_KEY = "சாவி";
 /// The key that may stand before a style block.
 constexpr std::string_view STYLE_KEY = "பாணி";
 
+using WidgetProperties = std::vector<const WidgetProperty*>;
+
 /// The widget of this word, null if there is none.
 const Widget* findWidget(std::string_view word);
 
@@ -28,8 +30,8 @@ std::vector<std::string_view> widgetWords();
 /// \param style the word of the style block that it stands in; empty between the widget's own brackets
 const WidgetProperty* findProperty(const Widget& widget, std::string_view style, std::string_view name);
 
-/// All that findProperty finds.
-std::vector<const WidgetProperty*> propertiesOf(const Widget& widget, std::string_view style);
+/// All that findProperty finds. They live as long as the program.
+const WidgetProperties& propertiesOf(const Widget& widget, std::string_view style);
 
 /// The words of the style blocks that stand between the brackets of \p widget.
 std::vector<std::string_view> stylesOf(const Widget& widget);

@@ -28,7 +28,8 @@ void addPage(const fs::path& page, std::vector<PublishedProgram>& samples) {
             text += line + "\n";
         }
         ++number;
-        if (tag == "பொழில்" || tag == "பொழில்-வலை") {
+        // A word after the tag of a page names its picture, one after that of a program the file that it is.
+        if (tag == "பொழில்" || tag.substr(0, tag.find(' ')) == "பொழில்-வலை") {
             sample.text = text;
             samples.push_back(sample);
             sample = {};
