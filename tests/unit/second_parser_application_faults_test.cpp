@@ -183,6 +183,15 @@ TEST(Brackets, LeftOpenAreFoundAtTheNextSection) {
     EXPECT_THAT(secondFaults("வலைதளம் (\n தலைமை()\n குமரி(உரை(\"அ\")))\n வரையறை()\n)\n"), SizeIs(testing::Le(3U)));
 }
 
+TEST(Faults, AtTheEndOfATextStandInIt) {
+    const std::string text = "வலைதளம் (\n தலைமை()\n குமரி(\n  உரை(\"அ\")\n பெட்டி(அகலம்: வரையறை(\n  அ = 1\n )\n)\n";
+    const SecondProgram program = parseSecondEdition(makeSource("நிரல்.பொழில்", text), {});
+    ASSERT_FALSE(program.faults.empty());
+    for (const SecondFault& fault : program.faults) {
+        EXPECT_LE(fault.place.range.end, text.size()) << fault.number;
+    }
+}
+
 TEST(Nesting, OfWidgetsHasALimit) {
     const auto nested = [](int depth) {
         return application(repeated("நெடுவரிசை(", depth) + "உரை(\"அ\")" + repeated(")", depth));

@@ -102,17 +102,16 @@ StatementPtr ApplicationGrammar::parseHeader() {
 StatementPtr ApplicationGrammar::parseInterface() {
     const std::size_t opening = tokens_.position();
     StatementPtr root;
-    bool isWritten = false;
+    int widgets = 0;
     parse_.properties.parseItems([&] {
-        const ByteRange range = tokens_.rangeOf(tokens_.position());
-        if (isWritten) {
-            note(fault::SECOND_ROOT, range);
+        const bool isFirst = ++widgets == 1;
+        if (widgets == 2) {
+            note(fault::SECOND_ROOT, tokens_.visibleRange());
         }
-        const bool isFirst = !std::exchange(isWritten, true);
         StatementPtr widget = parse_.widgets.parseWidget();
         root = isFirst ? std::move(widget) : std::move(root);
     });
-    if (!isWritten) {
+    if (widgets == 0) {
         note(fault::NO_WIDGET, tokens_.rangeOf(opening), {tokens_.shown(tokens_.position() - 1)});
     }
     return root;
