@@ -161,7 +161,8 @@ PropertyMap ApplicationGrammar::parseProperties(std::string_view owner, language
     parse_.properties.parseItems([&] {
         WrittenProperty written = parse_.properties.parseProperty(list);
         if (written.row != nullptr) {
-            parse_.properties.store(properties, std::string(written.row->name), std::move(written));
+            std::string name(written.row->name);
+            parse_.properties.store(properties, std::move(name), std::move(written));
         }
     });
     return properties;
