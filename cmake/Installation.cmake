@@ -12,6 +12,7 @@ install(DIRECTORY உள்ளடக்கம்/ DESTINATION உள்ளடக
 install(FILES ${precompiled_headers} ${web_precompiled_headers} DESTINATION உள்ளடக்கம்)
 install(FILES ${web_headers} DESTINATION உள்ளடக்கம்/nanovg)
 install(FILES ${engine_headers} DESTINATION உள்ளடக்கம்/engine)
+install(FILES ${report_headers} DESTINATION உள்ளடக்கம்/report)
 install(FILES ${reporter_object} ${engine_archive} ${web_objects} DESTINATION திரட்டு)
 # g++ compiles the report from these where its object is missing.
 set(reporter_source ${PROJECT_SOURCE_DIR}/src/diagnostics/error_handler.cpp)
@@ -25,7 +26,7 @@ install(DIRECTORY தொகுப்புகள்/ DESTINATION தொகுப
 set(stage ${PROJECT_BINARY_DIR}/பொழில்)
 file(GLOB_RECURSE installed_files CONFIGURE_DEPENDS உள்ளடக்கம்/* தொகுப்புகள்/*)
 # The list is a file of its own, so that a deleted header or module disappears from the folder too.
-file(CONFIGURE OUTPUT generated/installed_files.txt CONTENT "${installed_files};${last_word_sources};${engine_headers};${web_objects};${web_headers}")
+file(CONFIGURE OUTPUT generated/installed_files.txt CONTENT "${installed_files};${last_word_sources};${engine_headers};${report_headers};${web_objects};${web_headers}")
 
 add_custom_command(
     OUTPUT ${stage}/பொழி
@@ -33,7 +34,7 @@ add_custom_command(
     COMMAND ${CMAKE_COMMAND} -E env --unset=DESTDIR ${CMAKE_COMMAND} --install ${PROJECT_BINARY_DIR} --prefix ${stage}
     COMMAND ${CMAKE_COMMAND} -E touch ${stage}/பொழி
     DEPENDS pozhil pozhil_command ${precompiled_headers} ${reporter_object} ${reporter_source} ${last_word_sources}
-            ${engine_archive} ${engine_headers}
+            ${engine_archive} ${engine_headers} ${report_headers}
             ${web_objects} ${web_headers} ${web_precompiled_headers}
             ${installed_files} ${PROJECT_BINARY_DIR}/generated/installed_files.txt
     COMMENT "Staging the installation"

@@ -121,10 +121,15 @@ constexpr std::size_t MODEST = 4 * MEBIBYTE;
 } // namespace
 
 void runOnBigStack(void (*function)(void* argument), void* argument) {
+    if (Frame::stackLimit != nullptr) {
+        function(argument); // it runs on one already
+        return;
+    }
     const Room stack = takeStack();
     if (stack.begin == nullptr) {
         Frame::stackLimit = static_cast<const char*>(__builtin_frame_address(0)) - MODEST;
         function(argument);
+        Frame::stackLimit = nullptr;
         return;
     }
     Frame::stackLimit = stack.begin + GUARD + KEPT_FREE;

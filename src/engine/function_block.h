@@ -22,6 +22,9 @@ inline Closure& functionBlock(const Value& value) {
 /// A value of the method that calls it on this object.
 Value boundMethod(const FunctionInfo& info, const Value& self);
 
+/// How many arguments a function wants; -1 of what is no function.
+int parameterCount(const Value& callee);
+
 /// Calls a method of an object that is known to have it, after counting the arguments.
 /// \param arguments without the object
 Value callBound(const FunctionInfo& info, const Value& self, Value* arguments, int count, Place place);

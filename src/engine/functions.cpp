@@ -135,6 +135,14 @@ const Value& calledVariable(const char* name, const Value& held, Place place) {
     return held;
 }
 
+int parameterCount(const Value& callee) {
+    if (!callee.is(Tag::Function)) {
+        return -1;
+    }
+    const Closure& closure = functionBlock(callee);
+    return closure.info->parameters - (closure.self.is(Tag::Unset) ? 0 : 1);
+}
+
 unsigned mutableParameters(const Value& callee) {
     if (!callee.is(Tag::Function)) {
         return 0;

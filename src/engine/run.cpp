@@ -1,46 +1,17 @@
 #include "engine/big_stack.h"
-#include "engine/builtin_members.h"
-#include "engine/calls.h"
-#include "engine/collections.h"
 #include "engine/fault_details.h"
 #include "engine/memory.h"
-#include "engine/object.h"
 #include "engine/output.h"
+#include "engine/program_start.h"
 #include "engine/raise.h"
 #include "engine/running_faults.h"
-#include "engine/running_program.h"
 #include "report/box.h"
 
 #include <cstdlib>
 #include <exception>
-#include <new>
-#include <stdexcept>
 
 namespace pozhil::engine {
 namespace {
-
-void makeTexts(const ProgramInfo& program) {
-    for (int index = 0; index < program.textCount; ++index) {
-        program.texts[index] = text(program.literals[index].bytes, program.literals[index].length);
-    }
-}
-
-/// Carries out the program; what the C++ library throws becomes a fault as well.
-void startProgram() {
-    try {
-        makeTexts(runningProgram());
-        runningProgram().start();
-    } catch (const Fault&) {
-        throw;
-    } catch (const std::bad_alloc&) {
-        raiseOutOfMemory();
-    } catch (const std::length_error&) {
-        // A text or list that is larger than any memory.
-        raiseOutOfMemory();
-    } catch (const std::exception& error) {
-        raise(FAULT_OF_OURS, nullptr, {error.what()});
-    }
-}
 
 /// What can't be caught, since something of ours isn't prepared for it, is told all the same.
 [[noreturn]] void endByMistake() {
@@ -56,7 +27,7 @@ void startProgram() {
 /// \param status becomes the exit status of the program
 void runToTheEnd(void* status) {
     try {
-        startProgram();
+        callWithFaults([](void* /*none*/) { startProgram(); }, nullptr);
     } catch (const Fault& fault) {
         *static_cast<int*>(status) = 1;
         flushOutput();
@@ -70,11 +41,7 @@ void runToTheEnd(void* status) {
 
 int run(const ProgramInfo& program) {
     std::set_terminate(endByMistake);
-    openStandardStreams();
-    watchMemory();
-    setRunningProgram(program);
-    numberBuiltinMembers(program);
-    makeTables(program);
+    prepareProgram(program);
     int status = 0;
     runOnBigStack(runToTheEnd, &status);
     return status;

@@ -30,7 +30,9 @@ enum ValueFault : int {
     NO_POWER = 621,
     POWER_TOO_LARGE = 622,
 
-    DECIMAL_TEXT_TOO_LARGE = 623
+    DECIMAL_TEXT_TOO_LARGE = 623,
+
+    NUMBER_EXPECTED = 624
 };
 
 } // namespace pozhil::engine

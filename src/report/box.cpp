@@ -224,4 +224,20 @@ std::string faultBox(const FaultText& fault) {
     return box + remedyText(fault) + "\n";
 }
 
+std::string plainFaultBox(const FaultText& fault) {
+    constexpr std::string_view BEGIN = "\033[";
+    const std::string box = faultBox(fault);
+    std::string plain;
+    std::size_t told = 0;
+    for (std::size_t found = box.find(BEGIN); found != std::string::npos; found = box.find(BEGIN, found + 1)) {
+        const std::size_t end = box.find_first_not_of("0123456789;", found + BEGIN.size());
+        // A told value may hold what looks like the beginning of a colour.
+        if (end != std::string::npos && box[end] == 'm') {
+            plain.append(box, told, found - told);
+            told = end + 1;
+        }
+    }
+    return plain.append(box, told, std::string::npos);
+}
+
 } // namespace pozhil::report

@@ -52,4 +52,7 @@ constexpr std::size_t MAX_TOLD_CALLS = 12;
 /// The box, with its colours, ending in a line end.
 std::string faultBox(const FaultText& fault);
 
+/// The same without colours, for what is no terminal.
+std::string plainFaultBox(const FaultText& fault);
+
 } // namespace pozhil::report

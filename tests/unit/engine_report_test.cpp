@@ -125,6 +125,14 @@ TEST(Catalogue, FillsHoles) {
     EXPECT_EQ(filled("{} {0} {12} {", {"அ"}), "{} {0} {12} {");
 }
 
+TEST(Box, IsShownWithoutColoursToo) {
+    FaultText fault = someFault();
+    EXPECT_EQ(plainFaultBox(fault), plainBox(fault));
+    fault.message = "\033[ மணம் \033[9 \033[31mம";
+    EXPECT_THAT(plainFaultBox(fault), HasSubstr("மச்சி, \033[ மணம் \033[9 ம\n"))
+        << "what only begins like a colour stays";
+}
+
 TEST(Box, ShowsTheWholeFault) {
     EXPECT_EQ(plainBox(someFault()), R"(
 ------------------------------------------------------------

@@ -1,0 +1,71 @@
+#pragma once
+
+/// What the emitted text of a web page uses of the engine besides program.h: a page lives on after its statements, and is
+/// told of faults instead of ending by one.
+
+#include "engine/calls.h"
+#include "engine/operations.h"
+#include "report/box.h"
+
+#include <string>
+#include <type_traits>
+
+namespace pozhil::engine {
+
+/// A fault that nobody caught.
+struct ReportedFault {
+    /// Of the catalogue, such as 642.
+    int number = 0;
+    /// Code, category, message, remedy, place and way of calls, each on its own.
+    report::FaultText text;
+    /// All of it as a console shows it, without colours.
+    std::string box;
+};
+
+/// Shows a fault to the user. It may not throw.
+using FaultTeller = void (*)(const ReportedFault& fault);
+
+/// From here on faults are told by this function. Until then, and with null, they are written to standard error.
+void tellFaultsBy(FaultTeller teller);
+
+/// Runs the work of guarded(). What it prints is shown when it returns.
+/// \return false after a fault, which has been told
+bool runGuarded(void (*work)(void* argument), void* argument);
+
+/// Runs a piece of the page's work, such as a frame or a handler: work(). A fault that it doesn't catch, and whatever else
+/// it throws, is told, and the page goes on.
+/// \return whether it went well
+template <class Work> bool guarded(Work&& work) {
+    using Plain = std::remove_reference_t<Work>;
+    return runGuarded([](void* argument) { (*static_cast<Plain*>(argument))(); },
+                      const_cast<void*>(static_cast<const void*>(&work)));
+}
+
+/// Readies the engine for a program and carries out the statements of all its files, guarded.
+/// \param program must last as long as the page
+/// \return whether the statements went well; handlers can be called either way
+bool startPage(const ProgramInfo& program);
+
+/// How a value is shown, as அச்சிடு does.
+std::string pageText(const Value& value);
+
+/// The value of a property that takes a number; anything else is a fault.
+double pageNumber(const Value& value, Place place);
+
+/// The value of a condition; anything but a truth value is a fault.
+inline bool pageTruth(const Value& value, Place place) {
+    return truth(value, place);
+}
+
+/// Whether the values are equal, as சமம் finds.
+inline bool pageEqual(const Value& left, const Value& right) {
+    return equal(left, right);
+}
+
+/// Calls a handler; anything but a function is a fault.
+void callHandler(const Value& handler, Place place);
+
+/// The same for a handler that may want to know the value that is new. One without parameters is called without it.
+void callHandler(const Value& handler, const Value& news, Place place);
+
+} // namespace pozhil::engine
