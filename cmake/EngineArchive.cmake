@@ -11,12 +11,19 @@ list(APPEND engine_headers ${engine_directory}/program.h ${engine_directory}/pag
 set(report_headers ${PROJECT_SOURCE_DIR}/src/report/box.h)
 
 file(GLOB engine_sources CONFIGURE_DEPENDS ${engine_directory}/*.cpp ${PROJECT_SOURCE_DIR}/src/report/*.cpp)
+file(GLOB native_engine_sources CONFIGURE_DEPENDS ${engine_directory}/native/*.cpp)
+file(GLOB web_engine_sources CONFIGURE_DEPENDS ${engine_directory}/web/*.cpp)
 
-set(engine_objects)
-foreach(source IN LISTS engine_sources)
+# engine_object(<variable> <directory> <source>): where a source of the engine is compiled to.
+function(engine_object variable directory source)
     cmake_path(RELATIVE_PATH source BASE_DIRECTORY ${PROJECT_SOURCE_DIR}/src OUTPUT_VARIABLE name)
     string(REPLACE / _ name ${name})
-    set(object ${PROJECT_BINARY_DIR}/generated/engine/${name}.o)
+    set(${variable} ${PROJECT_BINARY_DIR}/generated/${directory}/${name}.o PARENT_SCOPE)
+endfunction()
+
+set(engine_objects)
+foreach(source IN LISTS engine_sources native_engine_sources)
+    engine_object(object engine ${source})
     add_generated_program_file(
         ${object} ${source} -c -O2 -I ${PROJECT_SOURCE_DIR}/src -I ${POZHIL_UTF8PROC_HEADERS} -D UTF8PROC_STATIC)
     list(APPEND engine_objects ${object})

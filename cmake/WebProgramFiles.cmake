@@ -3,9 +3,11 @@
 # so it is in debug builds, to spare them the work.
 
 find_program(POZHIL_EMXX em++)
+find_program(POZHIL_EMAR emar)
 find_path(POZHIL_STB stb_truetype.h PATH_SUFFIXES stb)
 set(nanovg ${PROJECT_SOURCE_DIR}/third_party/nanovg/src)
 set(nanosvg ${PROJECT_SOURCE_DIR}/third_party/nanosvg/src)
+set(utf8proc ${PROJECT_SOURCE_DIR}/third_party/utf8proc)
 
 set(web_objects)
 set(web_headers)
@@ -13,7 +15,8 @@ set(web_precompiled_headers)
 if(CMAKE_BUILD_TYPE STREQUAL Debug)
     return()
 endif()
-if(NOT POZHIL_EMXX OR NOT POZHIL_STB OR NOT EXISTS ${nanovg}/nanovg.c OR NOT EXISTS ${nanosvg}/nanosvg.h)
+if(NOT POZHIL_EMXX OR NOT POZHIL_EMAR OR NOT POZHIL_STB OR NOT EXISTS ${nanovg}/nanovg.c
+   OR NOT EXISTS ${nanosvg}/nanosvg.h OR NOT EXISTS ${utf8proc}/utf8proc.c)
     message(STATUS "No parts for web programs; scripts/setup-web installs what they take")
     return()
 endif()
@@ -102,5 +105,28 @@ add_custom_command(
     COMMENT "Compiling ${web_reporter_object}"
     VERBATIM)
 
-set(web_objects ${web_reporter_object} ${nanovg_object})
+# The engine for web programs: the same code as for others, but for the sources of the system that it runs on.
+set(utf8proc_object ${web_parts}/engine_web/utf8proc.o)
+add_web_program_file(${utf8proc_object} ${utf8proc}/utf8proc.c -O2 -x c -I ${utf8proc} -D UTF8PROC_STATIC)
+set(web_engine_objects ${utf8proc_object})
+foreach(source IN LISTS engine_sources web_engine_sources)
+    engine_object(object engine_web ${source})
+    add_web_program_file(
+        ${object} ${source} -x c++ -O2 -std=c++17 -I ${PROJECT_SOURCE_DIR}/src -I ${utf8proc} -D UTF8PROC_STATIC)
+    list(APPEND web_engine_objects ${object})
+endforeach()
+file(MAKE_DIRECTORY ${web_parts}/engine_web)
+
+set(web_engine_archive ${web_parts}/libpozhil_engine_web.a)
+# The list of objects is a file, so that one that is gone leaves the archive.
+file(CONFIGURE OUTPUT generated/web_engine_objects.txt CONTENT "${web_engine_objects}")
+add_custom_command(
+    OUTPUT ${web_engine_archive}
+    COMMAND ${CMAKE_COMMAND} -E rm -f ${web_engine_archive}
+    COMMAND ${POZHIL_EMAR} rcs ${web_engine_archive} ${web_engine_objects}
+    DEPENDS ${web_engine_objects} ${web_parts}/web_engine_objects.txt
+    COMMENT "Archiving ${web_engine_archive}"
+    VERBATIM)
+
+set(web_objects ${web_reporter_object} ${nanovg_object} ${web_engine_archive})
 add_custom_target(web_program_files DEPENDS ${web_objects} ${web_precompiled_headers})

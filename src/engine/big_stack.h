@@ -7,4 +7,9 @@ namespace pozhil::engine {
 /// \param function must not throw
 void runOnBigStack(void (*function)(void* argument), void* argument);
 
+/// Asks for more room where the stack has become too full.
+/// \param end where the call that asks begins
+/// \return whether there is some; the limit has moved then
+bool extendStack(const void* end);
+
 } // namespace pozhil::engine

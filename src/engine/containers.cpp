@@ -10,6 +10,7 @@
 #include "engine/told_value.h"
 
 #include <algorithm>
+#include <limits>
 
 /// The functions of the language for lists and maps.
 
@@ -41,7 +42,10 @@ void removeEntry(Value& map, const Value& key, Place place) {
 
 Value rangeList(Counting numbers, Place place) {
     noteGrowth(place);
-    Value list = makeList(numbers.left());
+    if (numbers.left() > std::numeric_limits<std::size_t>::max()) {
+        raiseOutOfMemory(); // where addresses are short
+    }
+    Value list = makeList(static_cast<std::size_t>(numbers.left()));
     while (numbers.hasNext()) {
         appendTo(listBlock(list), numbers.next());
     }

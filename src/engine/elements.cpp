@@ -30,7 +30,7 @@ Whole indexOf(const Value& index, Place place) {
 
 /// \p index if there are so many elements that it is one of them.
 std::size_t checkedIndex(Whole index, std::size_t length, RunningFault fault, Place place) {
-    if (index < 0 || static_cast<std::size_t>(index) >= length) {
+    if (index < 0 || static_cast<unsigned long long>(index) >= length) {
         raise(fault, place, {std::to_string(index), std::to_string(length)});
     }
     return static_cast<std::size_t>(index);

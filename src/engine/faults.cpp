@@ -1,5 +1,6 @@
 #include "engine/faults.h"
 
+#include "engine/big_stack.h"
 #include "engine/fault_details.h"
 #include "engine/memory.h"
 #include "engine/places.h"
@@ -104,8 +105,10 @@ int Attempt::running = 0;
 const Frame* Frame::innermost = nullptr;
 const char* Frame::stackLimit = nullptr;
 
-void Frame::tooDeep(const char* function, Place calledAt) {
-    raise(TOO_DEEP, calledAt, {function});
+void Frame::makeRoom(Place calledAt) const {
+    if (!extendStack(this)) {
+        raise(TOO_DEEP, calledAt, {function_});
+    }
 }
 
 } // namespace pozhil::engine

@@ -41,7 +41,7 @@ public:
     /// \param calledAt the place of the call
     Frame(const char* function, Place calledAt) : function_(function), calledAt_(calledAt), caller_(innermost) {
         if (reinterpret_cast<char*>(this) < stackLimit) {
-            tooDeep(function, calledAt);
+            makeRoom(calledAt);
         }
         innermost = this;
     }
@@ -59,7 +59,8 @@ public:
     static const char* stackLimit;
 
 private:
-    [[noreturn]] static void tooDeep(const char* function, Place calledAt);
+    /// Asks for more stack; that there is none is a fault.
+    [[gnu::cold]] void makeRoom(Place calledAt) const;
 
     const char* function_;
     Place calledAt_;

@@ -24,8 +24,8 @@ inline const Value* elementOf(const Value& container, Whole index) {
         return nullptr;
     }
     const List& list = listBlock(container);
-    // A negative index is a very large one without its sign.
-    return static_cast<std::size_t>(index) < list.size ? list.elements + index : nullptr;
+    // A negative index is a very large one without its sign. Where addresses are short, an index may be larger than any.
+    return static_cast<unsigned long long>(index) < list.size ? list.elements + index : nullptr;
 }
 
 /// The same for writing: null also if others hold the list.
@@ -34,7 +34,7 @@ inline Value* ownElementOf(const Value& container, Whole index) {
         return nullptr;
     }
     const List& list = listBlock(container);
-    const bool isOwn = list.references == 1 && static_cast<std::size_t>(index) < list.size;
+    const bool isOwn = list.references == 1 && static_cast<unsigned long long>(index) < list.size;
     return isOwn ? list.elements + index : nullptr;
 }
 

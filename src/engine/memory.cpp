@@ -3,6 +3,7 @@
 #include "engine/fault_details.h"
 #include "engine/raise.h"
 #include "engine/running_faults.h"
+#include "engine/system.h"
 
 #include <cstdlib>
 #include <new>
@@ -16,10 +17,8 @@ public:
     bool isThere() const { return memory_ != nullptr; }
     /// Takes some, if it isn't there and there is any.
     void fill() {
-        // What telling a fault takes, many times over.
-        constexpr std::size_t SIZE = std::size_t{4} << 20U;
         if (!isThere()) {
-            memory_ = std::malloc(SIZE);
+            memory_ = std::malloc(reserveSize());
         }
     }
     /// Gives it back to the heap.

@@ -1,15 +1,12 @@
 #include "engine/number_form.h"
 
+#include "engine/system.h"
+
 #include <charconv>
 #include <cmath>
 #include <iterator>
 
 namespace pozhil::engine {
-namespace {
-
-constexpr int DIGITS = 15;
-
-} // namespace
 
 void appendWhole(std::string& out, Whole number) {
     char digits[24];
@@ -27,8 +24,7 @@ void appendDecimal(std::string& out, Decimal number) {
         appendWhole(out, static_cast<Whole>(number));
     } else {
         char digits[32];
-        out.append(digits,
-                   std::to_chars(std::begin(digits), std::end(digits), number, std::chars_format::general, DIGITS).ptr);
+        out.append(digits, writeDecimal(digits, number));
     }
 }
 

@@ -1,10 +1,7 @@
 #include "engine/output.h"
 
-#include <fcntl.h>
-#include <poll.h>
-#include <unistd.h>
+#include "engine/system.h"
 
-#include <cerrno>
 #include <cstddef>
 
 namespace pozhil::engine {
@@ -20,29 +17,10 @@ std::string& buffer() {
     return *text;
 }
 
-/// A file that the program opens would get the number of a stream that is closed, and what is printed with it.
-void fillGap(int stream) {
-    if (fcntl(stream, F_GETFD) == -1 && errno == EBADF) {
-        open("/dev/null", O_RDWR);
-    }
-}
-
-/// Whether writing may be tried again after it failed, at once or when a stream that doesn't wait has room again.
-bool canWriteAgain(int error) {
-    if (error == EAGAIN || error == EWOULDBLOCK) {
-        pollfd output = {STDOUT_FILENO, POLLOUT, 0};
-        return poll(&output, 1, -1) == 1 || errno == EINTR;
-    }
-    return error == EINTR;
-}
-
 } // namespace
 
 void openStandardStreams() {
-    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        fillGap(stream);
-    }
-    isTerminal = isatty(STDOUT_FILENO) == 1;
+    isTerminal = openStreams();
     buffer(); // as long as there is memory for it: a program that prints nothing may end for want of memory
 }
 
@@ -57,15 +35,7 @@ void endPrinting() {
 }
 
 void flushOutput() noexcept {
-    std::string_view rest = buffer();
-    while (!rest.empty()) {
-        const ssize_t written = write(STDOUT_FILENO, rest.data(), rest.size());
-        if (written > 0) {
-            rest.remove_prefix(static_cast<std::size_t>(written));
-        } else if (!canWriteAgain(errno)) {
-            break;
-        }
-    }
+    writeOutput(buffer());
     buffer().clear();
 }
 

@@ -7,15 +7,14 @@
 
 namespace pozhil::engine {
 
-/// Readies the standard streams. One that is closed swallows what is written to it, and gives nothing.
+/// Readies the standard streams.
 void openStandardStreams();
 
 /// What is printed next, for whoever appends to it in place; endPrinting follows.
 std::string& waitingOutput();
 /// Passes on what waits if there is much of it, or if somebody sits before it.
 void endPrinting();
-/// Passes on all that waits, however slowly it is read. What can't be written is dropped. A reader that has gone ends the
-/// program by its signal, or one that prints for ever would never end before "| head".
+/// Passes on all that waits.
 void flushOutput() noexcept;
 
 } // namespace pozhil::engine

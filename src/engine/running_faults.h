@@ -38,11 +38,13 @@ enum RunningFault : int {
     FILE_NOT_WRITTEN = 672,
     FILE_NOT_READ = 673,
     PATH_NOT_TEXT = 674,
+    NO_INPUT = 675,
 
     BAD_WAIT = 680,
     BOUNDS_CROSSED = 681,
     NOT_A_TIME = 682,
     TIME_FIXED = 683,
+    CANNOT_WAIT = 684,
 
     FAULT_OF_OURS = 699
 };

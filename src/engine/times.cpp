@@ -3,15 +3,14 @@
 #include "engine/output.h"
 #include "engine/raise.h"
 #include "engine/running_faults.h"
+#include "engine/system.h"
 #include "engine/text.h"
 #include "engine/time_stamp.h"
 
 #include <chrono>
-#include <cmath>
 #include <cstdio>
 #include <ctime>
 #include <memory>
-#include <thread>
 
 namespace pozhil::engine {
 namespace {
@@ -49,9 +48,7 @@ void wait(const Value& seconds, Place place) {
         raise(BAD_WAIT, place, {textForm(seconds)});
     }
     flushOutput();
-    // Longer than any program runs, and well within what the clock can count.
-    constexpr Decimal A_CENTURY = 100 * 365.25 * 24 * 3600;
-    std::this_thread::sleep_for(std::chrono::duration<Decimal>(std::fmin(count, A_CENTURY)));
+    passTime(count, place);
 }
 
 Value now(Place /*place*/) {
