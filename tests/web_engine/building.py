@@ -1,0 +1,92 @@
+"""Builds programs with g++, as the compiler does, and once more with em++ and the web's engine."""
+
+import shutil
+
+from support import texts as t
+from support.compiler import compiler_path, plain_environment
+from support.process import run
+
+TIMEOUT = 120
+ARCHIVE = "libpozhil_engine_web.a"
+
+# The one for whoever tries a page out. Published pages are optimised.
+PLAIN = ("-O0",)
+OPTIMISED = ("-Oz",)
+
+# What a program is linked with whatever it is, on a page or not.
+MEMORY = ("-sALLOW_MEMORY_GROWTH=1",)
+
+_DISPATCH = """#include <cstdlib>
+int main(int, char** arguments) {{
+    int (*const programs[])() = {{{names}}};
+    return programs[std::atoi(arguments[1])]();
+}}
+"""
+
+
+class BuildError(Exception):
+    """What a compiler said that failed."""
+
+
+def has_web_engine():
+    return shutil.which("em++") is not None and (compiler_path().parent / t.CACHE_DIRECTORY / ARCHIVE).is_file()
+
+
+def build_native(program, folder):
+    """Compiles the program in a new folder, and runs it.
+
+    Returns its emitted text and the executable; raises `BuildError` if there is none.
+    """
+    if program.files:
+        shutil.copytree(program.files, folder)
+    else:
+        folder.mkdir()
+    source = f"நிரல்{t.SOURCE_ENDING}"
+    (folder / source).write_bytes(program.source)
+    result = run([compiler_path(), source], cwd=folder, env=plain_environment(folder), timeout=TIMEOUT)
+    built = folder / t.WORK_DIRECTORY / source
+    if not (built / t.PROGRAM_NAME).is_file():
+        raise BuildError(f"{program.name}: {result}")
+    return built / t.EMITTED_NAME, built / t.PROGRAM_NAME
+
+
+def build_web(sources, folder, optimisation, linked_with=()):
+    """Compiles C++ sources and links them with the web's engine; returns the script for node."""
+    installation = compiler_path().parent
+    script = folder / "program.js"
+    command = ["em++", "-std=c++17", "-fwasm-exceptions", f"-I{installation / t.INCLUDE_DIRECTORY}", *optimisation, *sources]
+    objects = []
+    for source in sources:
+        objects.append(source.with_suffix(".o"))
+        _call([*command[: -len(sources)], "-c", source, "-o", objects[-1]], folder)
+    # Linked without optimisation, which would only take long.
+    _call(["em++", "-fwasm-exceptions", *objects, installation / t.CACHE_DIRECTORY / ARCHIVE, *MEMORY, "-sEXIT_RUNTIME=1",
+           *linked_with, "-o", script], folder)
+    return script
+
+
+def build_group(emitted_texts, folder, optimisation):
+    """Compiles emitted texts as one program, which runs the one whose number it is given."""
+    names = [f"program_{number}" for number, _ in enumerate(emitted_texts)]
+    parts = [f'namespace {name} {{\n#include "{text}"\n}}\n' for name, text in zip(names, emitted_texts)]
+    source = folder / "group.cpp"
+    mains = ", ".join(f"{name}::main" for name in names)
+    source.write_text('#include "engine/program.h"\n' + "".join(parts) + _DISPATCH.format(names=mains), encoding="utf-8")
+    return build_web([source], folder, optimisation)
+
+
+def run_native(executable, folder):
+    folder.mkdir()
+    return run([executable], cwd=folder, env=plain_environment(folder), timeout=TIMEOUT)
+
+
+def run_web(script, *arguments):
+    # em++ takes a node that knows fetch for a browser.
+    command = ["node", "--no-experimental-fetch", script, *arguments]
+    return run(command, cwd=script.parent, env=plain_environment(script.parent), timeout=TIMEOUT)
+
+
+def _call(command, folder):
+    result = run(command, cwd=folder, env=plain_environment(folder), timeout=TIMEOUT * 5)
+    if result.status != 0:
+        raise BuildError(str(result))
