@@ -15,7 +15,10 @@ NUMBERS = sorted(int(code.rpartition("-")[2]) for code in SECOND_DESCRIPTIONS)
 RUNNING = [number for number in NUMBERS if number >= 601]
 
 WITHOUT_PROGRAM = {
+    624: "only properties of widgets ask for it",
     661: "the analysis knows every construction, and refuses that of an abstract structure",
+    675: "only a page has no input",
+    684: "only a page can't wait",
     699: "a mistake of the engine, which no program knows how to make",
 }
 
