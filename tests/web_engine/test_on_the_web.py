@@ -11,7 +11,10 @@ from programs import Program
 
 from support import texts as t
 
-pytestmark = pytest.mark.skipif(not has_web_engine(), reason="this installation has no parts for web programs")
+pytestmark = [
+    pytest.mark.skipif(not has_web_engine(), reason="this installation has no parts for web programs"),
+    pytest.mark.xdist_group("one program"),
+]
 
 PROGRAMS = {
     "deep": """
