@@ -105,9 +105,40 @@ add_custom_command(
     COMMENT "Compiling ${web_reporter_object}"
     VERBATIM)
 
-# The engine for web programs: the same code as for others, but for the sources of the system that it runs on.
+# Utf8proc with tables that are a third as large: what few characters have is looked up in lists of these characters.
+set(small_utf8proc ${web_parts}/utf8proc)
+add_executable(letter_tables EXCLUDE_FROM_ALL ${PROJECT_SOURCE_DIR}/src/installation/letter_tables.cpp)
+target_include_directories(letter_tables SYSTEM PRIVATE ${utf8proc})
+add_custom_command(
+    OUTPUT ${small_utf8proc}/utf8proc_data.c
+    COMMAND letter_tables > ${small_utf8proc}/utf8proc_data.c
+    DEPENDS letter_tables
+    COMMENT "Writing ${small_utf8proc}/utf8proc_data.c"
+    VERBATIM)
+file(READ ${utf8proc}/utf8proc.c utf8proc_text)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${utf8proc}/utf8proc.c)
+foreach(looked_up IN ITEMS
+        "(property->decomp_seqindex,|(decomp_seqindex_of(uc),"
+        "starter_property->comb_index|comb_index_of(*starter)"
+        "current_property->comb_index|comb_index_of(current_char)"
+        "utf8proc_get_property(c)->lowercase_seqindex|lowercase_seqindex_of(c)"
+        "utf8proc_get_property(c)->uppercase_seqindex|uppercase_seqindex_of(c)")
+    string(REPLACE "|" ";" looked_up ${looked_up})
+    list(GET looked_up 0 field)
+    list(GET looked_up 1 call)
+    string(FIND "${utf8proc_text}" "${field}" place)
+    if(place EQUAL -1)
+        message(FATAL_ERROR "${utf8proc}/utf8proc.c has no ${field}")
+    endif()
+    string(REPLACE "${field}" "${call}" utf8proc_text "${utf8proc_text}")
+endforeach()
+file(CONFIGURE OUTPUT ${small_utf8proc}/utf8proc.c CONTENT "${utf8proc_text}" @ONLY)
 set(utf8proc_object ${web_parts}/engine_web/utf8proc.o)
-add_web_program_file(${utf8proc_object} ${utf8proc}/utf8proc.c -O2 -x c -I ${utf8proc} -D UTF8PROC_STATIC)
+add_web_program_file(
+    ${utf8proc_object} ${small_utf8proc}/utf8proc.c -O2 -x c -I ${small_utf8proc} -I ${utf8proc} -D UTF8PROC_STATIC)
+add_custom_command(OUTPUT ${utf8proc_object} DEPENDS ${small_utf8proc}/utf8proc_data.c APPEND)
+
+# The engine for web programs: the same code as for others, but for the sources of the system that it runs on.
 set(web_engine_objects ${utf8proc_object})
 foreach(source IN LISTS engine_sources web_engine_sources)
     engine_object(object engine_web ${source})

@@ -63,9 +63,9 @@ def build_web(sources, folder, optimisation, linked_with=()):
     include = installation / t.INCLUDE_DIRECTORY
     objects = [source.with_suffix(".o") for source in sources]
     for source, compiled in zip(sources, objects):
-        _call(["em++", "-std=c++17", "-fwasm-exceptions", f"-I{include}", *optimisation, "-c", source, "-o", compiled], folder)
+        call(["em++", "-std=c++17", "-fwasm-exceptions", f"-I{include}", *optimisation, "-c", source, "-o", compiled], folder)
     # Linked without optimisation, which would only take long.
-    _call(["em++", "-fwasm-exceptions", *objects, installation / t.CACHE_DIRECTORY / ARCHIVE, *MEMORY, "-sEXIT_RUNTIME=1",
+    call(["em++", "-fwasm-exceptions", *objects, installation / t.CACHE_DIRECTORY / ARCHIVE, *MEMORY, "-sEXIT_RUNTIME=1",
            *linked_with, "-o", script], folder)
     return script
 
@@ -91,7 +91,8 @@ def run_web(script, *arguments, **environment):
     return run(command, cwd=script.parent, env=plain_environment(script.parent, **environment), timeout=TIMEOUT)
 
 
-def _call(command, folder):
+def call(command, folder):
+    """Runs a compiler; raises `BuildError` if it fails."""
     result = run(command, cwd=folder, env=plain_environment(folder), timeout=TIMEOUT * 5)
     if result.status != 0:
         raise BuildError(str(result))
