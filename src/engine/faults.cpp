@@ -22,7 +22,7 @@ std::string filledText(const char* text, const std::vector<std::string>& values)
 /// The entry of a fault. A number that the catalogue lacks can only be a mistake of ours, which must not hide the fault.
 const report::Entry& entryOf(const Fault::Details& details) {
     static constexpr report::Entry UNKNOWN = {0, "இயக்கநேரப் பிழை", "அறியப்படாத பிழை.", ""};
-    const report::Entry* const entry = report::findEntry(details.number);
+    const report::Entry* const entry = report::findRunningEntry(details.number);
     return entry == nullptr ? UNKNOWN : *entry;
 }
 

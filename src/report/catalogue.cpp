@@ -12,14 +12,8 @@ bool beginsWithHole(std::string_view text) {
     return text.size() >= HOLE_SIZE && text[0] == '{' && text[1] >= '1' && text[1] <= '9' && text[2] == '}';
 }
 
-} // namespace
-
-Catalogue catalogue() {
-    return {{writingRows(), meaningRows(), valueRows(), applicationRows(), runningRows()}};
-}
-
-const Entry* findEntry(int number) {
-    for (const EntryRows& rows : catalogue().blocks) {
+template <std::size_t count> const Entry* findIn(const EntryRows (&blocks)[count], int number) {
+    for (const EntryRows& rows : blocks) {
         for (const Entry& entry : rows) {
             if (entry.number == number) {
                 return &entry;
@@ -27,6 +21,20 @@ const Entry* findEntry(int number) {
         }
     }
     return nullptr;
+}
+
+} // namespace
+
+Catalogue catalogue() {
+    return {{writingRows(), meaningRows(), valueRows(), applicationRows(), runningRows()}};
+}
+
+const Entry* findEntry(int number) {
+    return findIn(catalogue().blocks, number);
+}
+
+const Entry* findRunningEntry(int number) {
+    return findIn({valueRows(), runningRows()}, number);
 }
 
 std::string codeOf(int number) {

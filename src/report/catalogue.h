@@ -23,6 +23,8 @@ struct Entry {
 
 /// The row of this number, null if there is none.
 const Entry* findEntry(int number);
+/// The same among those of running programs, so that programs needn't carry the others.
+const Entry* findRunningEntry(int number);
 
 /// "பொழி-501"
 std::string codeOf(int number);

@@ -93,6 +93,8 @@ TEST(Catalogue, FindsRows) {
     ASSERT_NE(findEntry(642), nullptr);
     EXPECT_EQ(findEntry(642)->number, 642);
     EXPECT_EQ(findEntry(550), nullptr);
+    EXPECT_NE(findEntry(501), nullptr);
+    EXPECT_EQ(findRunningEntry(501), nullptr);
     EXPECT_EQ(codeOf(642), "பொழி-642");
 }
 
@@ -113,7 +115,8 @@ TEST(Catalogue, HasARowForEveryFaultOfTheEngine) {
         const std::vector<int> numbers = numbersIn(header);
         EXPECT_GT(numbers.size(), 10U) << header;
         for (const int number : numbers) {
-            EXPECT_NE(findEntry(number), nullptr) << number;
+            ASSERT_NE(findEntry(number), nullptr) << number;
+            EXPECT_EQ(findRunningEntry(number), findEntry(number)) << number;
         }
     }
 }
