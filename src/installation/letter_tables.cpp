@@ -4,6 +4,7 @@
 ///   letter_tables >utf8proc_data.c
 
 #include <utf8proc.h>
+// NOLINTNEXTLINE(bugprone-suspicious-include): it is data
 #include <utf8proc_data.c>
 
 #include <array>
