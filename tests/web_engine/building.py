@@ -42,7 +42,7 @@ def build_native(program, folder, runs=True):
         shutil.copytree(program.files, folder)
     else:
         folder.mkdir()
-    source = f"நிரல்{t.SOURCE_ENDING}"
+    source = program.name.rpartition("/")[2] + t.SOURCE_ENDING
     (folder / source).write_bytes(program.source)
     environment = plain_environment(folder)
     if not runs:

@@ -32,7 +32,7 @@ FEW_CASES = (
 
 @dataclass(frozen=True)
 class Program:
-    """A program that runs to its end; `files` is a folder with what it imports, or None."""
+    """A program that runs to its end, by its folder and name; `files` is a folder with what it imports, or None."""
 
     name: str
     source: bytes
@@ -55,15 +55,19 @@ def _runs(case):
     return stated.edition == 2 and stated.needs_program and not stated.diagnostics and not stated.texts(cf.INPUT)
 
 
+def _program(case):
+    return Program(f"{case.path.parent.name}/{case.path.stem}", case.source, case.files)
+
+
 def _language_cases():
     cases = [cf.read_case(path) for path in sorted((TESTS / "language").glob(f"*/*{cf.SOURCE_SUFFIX}"))]
-    return [Program(f"{case.path.parent.name}/{case.path.stem}", case.source, case.files) for case in cases if _runs(case)]
+    return [_program(case) for case in cases if _runs(case)]
 
 
 def _surprises():
     pairs = [pair_file.read_pair(path) for path in sorted((TESTS / "surprises").glob(f"*/*{cf.SOURCE_SUFFIX}"))]
     cases = [pair.case(2) for pair in pairs if not pair.not_run(2)]
-    return [Program(f"{case.path.parent.name}/{case.path.stem}", case.source) for case in cases if _runs(case)]
+    return [_program(case) for case in cases if _runs(case)]
 
 
 def all_programs():

@@ -12,6 +12,7 @@ GROUP = 40
 # Programs, or their folders, that a browser lets end in another way; what they come to there is in test_on_the_web.py.
 OTHERWISE = {
     "அழைப்பின்_ஆழம்": "the stack of a browser is smaller",
+    "செயல்கள்/அழைப்பின்_ஆழம்": "it nests as deeply",
     "நேரமும்_உள்ளீடும்/முந்தைய_நேரம்": "it waits, which no page can",
 }
 
