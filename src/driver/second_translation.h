@@ -4,18 +4,23 @@
 #include "diagnostics/second_hint.h"
 #include "front_end/second_edition.h"
 #include "generator/second/generator.h"
+#include "generator/web/page/application.h"
 
-#include <string>
+#include <optional>
 #include <vector>
 
 namespace pozhil {
 
 /// What became of a source of the second edition.
 struct SecondTranslation {
+    /// The program as it is written.
+    SecondProgram program;
     /// The output text; empty if there are faults.
     SecondText output;
     /// All files of the program, as the places of the output text number them.
     std::vector<SourcePtr> sources;
+    /// What the pages of the program ask for, which stand in its trees; nothing for a console program.
+    std::optional<Application> application;
     SecondFaults faults;
     /// What runs but surely isn't meant.
     SecondHints hints;

@@ -15,6 +15,9 @@ struct SecondText {
     std::vector<resolved::Place> origins;
     /// How many blocks stand inside each other at most.
     std::size_t deepestLevel = 0;
+    /// How many bytes at the head of the text are the runtime of pages, the same whatever the pages are; none of them in a
+    /// console program.
+    std::size_t runtimeLength = 0;
 };
 
 SecondText writeSecondEdition(const resolved::Program& program);

@@ -227,7 +227,7 @@ namespace pozhil {
 
 SecondText writeSecondEdition(const resolved::Program& program) {
     const resolved::writer::EmittedLines lines = resolved::writer::ProgramWriter(program).write();
-    return {lines.text(), lines.origins(), lines.deepestLevel()};
+    return {lines.text(), lines.origins(), lines.deepestLevel(), 0};
 }
 
 } // namespace pozhil
