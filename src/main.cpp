@@ -8,6 +8,7 @@
 #include "driver/native/native_watch.h"
 #include "driver/native/second_mode.h"
 #include "driver/output_stage.h"
+#include "driver/second_translation.h"
 #include "driver/settings.h"
 #include "driver/translation.h"
 #include "driver/web/emscripten_environment.h"
@@ -95,6 +96,31 @@ int compileFirstEdition(const Invocation& invocation, const SourcePtr& source, c
     return 0;
 }
 
+/// Compiles a program of the second edition, and runs it.
+int compileSecondEdition(const Invocation& invocation, const SourcePtr& source, const FrontEndOptions& options,
+                         const std::filesystem::path& appDirectory) {
+    const SecondTranslation translation = translateSecondEdition(source, options);
+    if (!translation.faults.empty()) {
+        reportFaults(translation.faults);
+        return 1;
+    }
+    if (!translation.application) {
+        if (invocation.web) {
+            printNoWebApplication(invocation.sourcePath);
+            return 1;
+        }
+        return runSecondEdition(invocation, translation, options, appDirectory);
+    }
+    printWebStart();
+    printWebGeneration();
+    printWebGenerated();
+    if (!createWebDirectory()) {
+        return 1;
+    }
+    runWeb(invocation.sourcePath, translation, options, appDirectory,
+           directoryOfSource(prepareTemporaryDirectory(), invocation.sourcePath));
+}
+
 int compile(const Invocation& invocation) {
     const std::filesystem::path appDirectory = platform::executableDirectory();
     FrontEndOptions options;
@@ -111,7 +137,7 @@ int compile(const Invocation& invocation) {
         return 1;
     }
     if (edition == Edition::Second) {
-        return runSecondEdition(invocation, source, options, appDirectory);
+        return compileSecondEdition(invocation, source, options, appDirectory);
     }
     try {
         return compileFirstEdition(invocation, source, options, appDirectory);

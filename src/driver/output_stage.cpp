@@ -15,7 +15,7 @@ void tellNoOutput(const std::filesystem::path& path) {
 }
 
 /// \param shownPath the file that the user is told of
-bool writeFile(const std::filesystem::path& path, const std::filesystem::path& shownPath, const std::string& text) {
+bool writeFile(const std::filesystem::path& path, const std::filesystem::path& shownPath, std::string_view text) {
     errno = 0;
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     file << text;
@@ -58,13 +58,13 @@ bool createOutput(const std::filesystem::path& path) {
     return file.is_open();
 }
 
-bool writeOutput(const std::filesystem::path& path, const std::string& text) {
+bool writeOutput(const std::filesystem::path& path, std::string_view text) {
     std::error_code ignored; // while a source is watched, the directory may have been tidied away
     std::filesystem::create_directories(path.parent_path(), ignored);
     return writeFile(path, path, text);
 }
 
-bool replaceOutput(const std::filesystem::path& path, const std::string& text) {
+bool replaceOutput(const std::filesystem::path& path, std::string_view text) {
     std::error_code failure;
     std::filesystem::create_directories(path.parent_path(), failure);
     const std::filesystem::path fresh = platform::freshBeside(path);

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 namespace pozhil {
 
@@ -20,10 +21,10 @@ bool createOutput(const std::filesystem::path& path);
 
 /// Writes the output text, into a directory that is made if it is missing, or tells on standard error that it doesn't
 /// fit.
-bool writeOutput(const std::filesystem::path& path, const std::string& text);
+bool writeOutput(const std::filesystem::path& path, std::string_view text);
 
 /// Puts the output text in the place of the one before: whoever reads the file meanwhile finds either of them whole. Tells
 /// on standard error why that can't be.
-bool replaceOutput(const std::filesystem::path& path, const std::string& text);
+bool replaceOutput(const std::filesystem::path& path, std::string_view text);
 
 } // namespace pozhil

@@ -12,6 +12,42 @@
 namespace pozhil {
 namespace {
 
+/// Tells that a watched source is no longer of the kind that it is watched as, which can't change while it is.
+/// \param what decides that
+/// \param isThere whether the source has it now
+void tellOtherKind(const char* what, bool isThere) {
+    std::cerr << "பிழை: " << what << " இப்போது " << (isThere ? "உள்ளது! அதை நீக்கு" : "இல்லை! அதைத் திரும்ப எழுது")
+              << ", அல்லது தொகுப்பியை மீண்டும் தொடங்கு." << std::endl;
+}
+
+/// Whether a changed source is still of the edition that it is watched in. Tells it if not, and what is wrong with the line
+/// that asks for an edition.
+bool keepsEdition(const SourcePtr& source, Edition edition) {
+    SecondFaults faults;
+    const Edition now = editionOf(source, faults);
+    if (!faults.empty()) {
+        reportFaults(faults);
+    } else if (now != edition) {
+        tellOtherKind("முதல் வரியில் 'ஃ பொழில் 2'", now == Edition::Second);
+    }
+    return faults.empty() && now == edition;
+}
+
+/// Whether a changed source still has an application, or still none. Tells it if not.
+bool keepsApplication(const SecondTranslation& translation, bool hadOne) {
+    const bool hasOne = translation.application.has_value();
+    if (hasOne != hadOne) {
+        tellOtherKind("நிரலில் 'வலைதளம்'", hasOne);
+    }
+    return hasOne == hadOne;
+}
+
+void callIfAny(const std::function<void()>& step) {
+    if (step) {
+        step();
+    }
+}
+
 void rebuild(const std::string& sourcePath, const FrontEndOptions& options, const WatchSteps& steps) {
     try {
         SourcePtr source = loadSource(sourcePath, options);
@@ -19,6 +55,7 @@ void rebuild(const std::string& sourcePath, const FrontEndOptions& options, cons
             source = makeSource(sourcePath, ""); // an editor may be about to put it back
         }
         if (!keepsEdition(source, Edition::First)) {
+            callIfAny(steps.afterOtherKind);
             return;
         }
         const ParsedSource parsed = parseSource(std::move(source), options);
@@ -33,22 +70,30 @@ void rebuild(const std::string& sourcePath, const FrontEndOptions& options, cons
     }
 }
 
-} // namespace
-
-bool keepsEdition(const SourcePtr& source, Edition edition) {
-    SecondFaults faults;
-    const Edition now = editionOf(source, faults);
-    if (!faults.empty()) {
-        reportFaults(faults);
-    } else if (now != edition) {
-        std::cerr << "பிழை: முதல் வரியில் 'ஃ பொழில் 2' இப்போது "
-                  << (edition == Edition::Second ? "இல்லை! அதைத் திரும்ப எழுது" : "உள்ளது! அதை நீக்கு")
-                  << ", அல்லது தொகுப்பியை மீண்டும் தொடங்கு." << std::endl;
+void rebuild(const std::string& sourcePath, const FrontEndOptions& options, const SecondWatchSteps& steps) {
+    SourcePtr source = loadSource(sourcePath, options);
+    if (source == nullptr) {
+        return; // an editor may be about to put it back
     }
-    return faults.empty() && now == edition;
+    if (!keepsEdition(source, Edition::Second)) {
+        callIfAny(steps.afterOtherKind);
+        return;
+    }
+    const SecondTranslation translation = translateSecondEdition(std::move(source), options);
+    if (!translation.faults.empty()) {
+        reportFaults(translation.faults);
+        if (steps.afterFaults) {
+            steps.afterFaults(translation.faults);
+        }
+    } else if (keepsApplication(translation, steps.isForPages)) {
+        steps.build(translation);
+    } else {
+        callIfAny(steps.afterOtherKind);
+    }
 }
 
-void watchFile(const std::string& path, const char* changeNote, const std::function<void()>& react) {
+/// Calls \p react whenever a file changes, after it has told so. Never returns.
+[[noreturn]] void watchFile(const std::string& path, const char* changeNote, const std::function<void()>& react) {
     constexpr std::chrono::milliseconds PAUSE{500};
     const std::filesystem::path file = std::filesystem::u8path(path);
     auto last = std::filesystem::last_write_time(file);
@@ -63,7 +108,13 @@ void watchFile(const std::string& path, const char* changeNote, const std::funct
     }
 }
 
+} // namespace
+
 void watchSource(const std::string& sourcePath, const FrontEndOptions& options, const WatchSteps& steps) {
+    watchFile(sourcePath, steps.changeNote, [&] { rebuild(sourcePath, options, steps); });
+}
+
+void watchSource(const std::string& sourcePath, const FrontEndOptions& options, const SecondWatchSteps& steps) {
     watchFile(sourcePath, steps.changeNote, [&] { rebuild(sourcePath, options, steps); });
 }
 

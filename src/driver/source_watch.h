@@ -1,11 +1,10 @@
 #pragma once
 
+#include "driver/second_translation.h"
 #include "driver/translation.h"
-#include "front_end/second_edition.h"
 
 #include <functional>
 #include <string>
-#include <vector>
 
 namespace pozhil {
 
@@ -19,19 +18,30 @@ struct WatchSteps {
     std::function<void(const StageFailure&)> reportFailure;
     /// Takes the fault that is about to end the process; may be empty
     std::function<void(const Fault&)> prepareEnd{};
+    /// Called after the user was told that the source is no longer of the edition it is watched in; may be empty
+    std::function<void()> afterOtherKind{};
 };
 
-/// Whether a changed source is still of the edition that it is watched in, which can't change while it is. Tells it if not,
-/// and what is wrong with the line that asks for an edition.
-bool keepsEdition(const SourcePtr& source, Edition edition);
-
-/// Calls \p react whenever a file changes, after it has told so. Never returns.
-/// \throws std::filesystem::filesystem_error if the file vanishes
-[[noreturn]] void watchFile(const std::string& path, const char* changeNote, const std::function<void()>& react);
+/// The same for a source of the second edition.
+struct SecondWatchSteps {
+    const char* changeNote;
+    /// Whether an application is watched, not a console program
+    bool isForPages = false;
+    std::function<void(const SecondTranslation&)> build;
+    /// Takes what was told of a source with faults; may be empty
+    std::function<void(const SecondFaults&)> afterFaults{};
+    /// Called after the user was told that the source is no longer of the edition it is watched in, or has gained or lost
+    /// its application; may be empty
+    std::function<void()> afterOtherKind{};
+};
 
 /// Compiles a source file anew whenever it changes, each time on objects of its own. Never returns; a fault
 /// with a box ends the process.
 /// \throws std::filesystem::filesystem_error if the source file vanishes
 [[noreturn]] void watchSource(const std::string& sourcePath, const FrontEndOptions& options, const WatchSteps& steps);
+
+/// The same for a source of the second edition; after faults the next change is waited for.
+[[noreturn]] void watchSource(const std::string& sourcePath, const FrontEndOptions& options,
+                              const SecondWatchSteps& steps);
 
 } // namespace pozhil

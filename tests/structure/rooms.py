@@ -79,6 +79,7 @@ ROOMS = {
         "src/emit",
         "src/generator/first",
         "src/generator/second",
+        "src/generator/web/page",
         "src/driver/console",
     ],
     "src/driver/native": [

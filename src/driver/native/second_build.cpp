@@ -1,15 +1,11 @@
 #include "driver/native/second_build.h"
 
-#include "base/line_index.h"
-#include "diagnostics/refusals/toolchain_errors.h"
 #include "driver/console/console_style.h"
-#include "driver/console/explanation.h"
-#include "driver/native/build_failure.h"
+#include "driver/second_build_failure.h"
 #include "driver/settings.h"
 #include "platform/fresh_path.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <iostream>
 #include <iterator>
 #include <limits>
@@ -45,20 +41,6 @@ const char* optimisationFor(const SecondText& text) {
                             return text.origins.size() <= row.mostLines && text.deepestLevel <= row.deepestLevel;
                         })
         ->flag;
-}
-
-/// Where in the source the statement stands whose text was refused first.
-ShownPlace placeOf(const SecondTranslation& translation, const std::vector<ToolchainError>& errors) {
-    for (const ToolchainError& error : errors) {
-        if (error.line == 0 || error.line > translation.output.origins.size()) {
-            continue;
-        }
-        const resolved::Place& place = translation.output.origins[error.line - 1];
-        const SourcePtr& source = translation.sources[place.file];
-        const auto line = static_cast<std::int32_t>(LineIndex(source->text).lineAt(place.range.begin));
-        return {source->path, line, lineOf(source->text, line)};
-    }
-    return {};
 }
 
 } // namespace
@@ -116,29 +98,13 @@ void SecondBuild::reportFailure(const SecondTranslation& translation, const plat
     } else if (!fs::exists(archive_, ignored)) {
         std::cerr << style::RED << "பிழை: '" << archive_.u8string() << "' கிடைக்கவில்லை! பொழிலை மீண்டும் நிறுவிக்கொள்."
                   << style::RESET << std::endl;
-    } else if (const auto obstacle = findObstacle(result)) {
-        tellObstacle(*obstacle);
-    } else if (isFaultOfFlags(translation)) {
-        tellObstacle({"POZHIL_CXXFLAGS-இல் உள்ள தெரிவுகளோடு g++ ஏற்காத உரையை, அவை இல்லாமல் ஏற்கிறது.",
-                      "அந்தத் தெரிவுகளைச் சரிசெய்; வேண்டாம்னா 'unset POZHIL_CXXFLAGS' என்று கட்டளையிடு மச்சி!"});
     } else {
-        reportRefusal(translation, result.errors);
+        reportBuildFailure(translation, {GXX, generatedSource_.u8string(), result, plainCall(translation)});
     }
 }
 
-/// Nothing that g++ says tells that for certain, so it is tried.
-bool SecondBuild::isFaultOfFlags(const SecondTranslation& translation) const {
-    return !settings::cxxFlags().empty() && platform::captureCommand(command(translation, {})).status == 0;
-}
-
-void SecondBuild::reportRefusal(const SecondTranslation& translation, const std::string& errors) const {
-    std::cerr << style::RED << "பிழை: இது பொழிலின் தவறு, உன் நிரலின் தவறு அல்ல: உருவான C++ உரையை g++ ஏற்கவில்லை."
-              << style::RESET << std::endl;
-    printExplanation(
-        {placeOf(translation, readToolchainErrors(errors, generatedSource_.u8string())),
-         {"உருவான C++ உரை: '" + generatedSource_.u8string() + "'",
-          "g++ சொன்னதைப் பார்க்க: POZHIL_SHOW_CXX=1 என்று வைத்து மீண்டும் ஓட்டு."},
-         "உன் நிரலையும் அந்த C++ உரையையும் பொழில் குழுவுக்கு அனுப்பு மச்சி; அதுவரை அந்தக் கூற்றை வேறு விதமா எழுதிப் பாரு!"});
+std::optional<platform::Command> SecondBuild::plainCall(const SecondTranslation& translation) const {
+    return settings::cxxFlags().empty() ? std::nullopt : std::optional(command(translation, {}));
 }
 
 } // namespace pozhil

@@ -5,6 +5,9 @@
 
 #include <filesystem>
 #include <future>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace pozhil {
 
@@ -32,8 +35,7 @@ private:
     platform::Command command(const SecondTranslation& translation, const std::vector<std::string>& userFlags) const;
     int runProgram() const;
     void reportFailure(const SecondTranslation& translation, const platform::CommandResult& result) const;
-    bool isFaultOfFlags(const SecondTranslation& translation) const;
-    void reportRefusal(const SecondTranslation& translation, const std::string& errors) const;
+    std::optional<platform::Command> plainCall(const SecondTranslation& translation) const;
 
     std::filesystem::path appDirectory_;
     std::filesystem::path archive_;

@@ -10,6 +10,7 @@ namespace pozhil {
 
 enum class Access {
     Open,  ///< whoever asks, with any file below the current directory and beside it
+    Files, ///< whoever asks, with the files of the application alone
     Strict ///< pages of this server alone, with the files of the application alone
 };
 

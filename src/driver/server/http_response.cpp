@@ -49,10 +49,10 @@ struct Head {
     std::string more{};
 };
 
-/// Pages of other hosts may read what is open to all.
+/// Pages of other hosts may read what whoever asks gets.
 std::string textOf(const Head& head, std::uint64_t length, Access access) {
     const char* const others =
-        access == Access::Open ? "Access-Control-Allow-Origin: *" : "Cross-Origin-Resource-Policy: same-origin";
+        access == Access::Strict ? "Cross-Origin-Resource-Policy: same-origin" : "Access-Control-Allow-Origin: *";
     return std::string("HTTP/1.1 ") + head.status + "\r\nContent-Type: " + head.type +
            "\r\nContent-Length: " + std::to_string(length) + "\r\n" + head.more + "Connection: close\r\n" + others +
            "\r\n\r\n";

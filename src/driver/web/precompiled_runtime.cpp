@@ -24,16 +24,16 @@ bool write(const std::filesystem::path& path, const std::string& text) {
 PrecompiledRuntime::PrecompiledRuntime(const std::filesystem::path& temporaryDirectory)
     : source_(temporaryDirectory / "வலை_இயக்கம்.h"), precompiled_(temporaryDirectory / "வலை_இயக்கம்.pch") {}
 
-bool PrecompiledRuntime::isRuntimeOf(const OutputText& output) const {
-    return runtime_.size() == output.runtimeLength && output.text.compare(0, output.runtimeLength, runtime_) == 0;
+bool PrecompiledRuntime::isRuntimeOf(const WebText& text) const {
+    return text.output.substr(0, text.runtimeLength) == runtime_;
 }
 
-void PrecompiledRuntime::prepare(const OutputText& output, const platform::Command& compiler) {
-    if (isRuntimeOf(output) || (compilation_.valid() && !isOver(compilation_))) {
+void PrecompiledRuntime::prepare(const WebText& text, const platform::Command& compiler) {
+    if (isRuntimeOf(text) || (compilation_.valid() && !isOver(compilation_))) {
         return;
     }
     isReady_ = false;
-    runtime_ = output.text.substr(0, output.runtimeLength);
+    runtime_ = text.output.substr(0, text.runtimeLength);
     if (!write(source_, runtime_)) {
         return;
     }
@@ -46,7 +46,7 @@ void PrecompiledRuntime::prepare(const OutputText& output, const platform::Comma
     compilation_ = std::async(std::launch::async, [command] { return platform::runSilently(command) == 0; });
 }
 
-PrecompiledHeaders PrecompiledRuntime::headersFor(const OutputText& output) {
+PrecompiledHeaders PrecompiledRuntime::headersFor(const WebText& text) {
     if (compilation_.valid() && isOver(compilation_)) {
         isReady_ = compilation_.get();
     }
@@ -55,10 +55,10 @@ PrecompiledHeaders PrecompiledRuntime::headersFor(const OutputText& output) {
         isReady_ = false; // tidied away, to be made anew
         runtime_.clear();
     }
-    if (!isReady_ || !isRuntimeOf(output)) {
+    if (!isReady_ || !isRuntimeOf(text)) {
         return {};
     }
-    return {precompiled_, output.runtimeLength};
+    return {precompiled_, text.runtimeLength};
 }
 
 } // namespace pozhil

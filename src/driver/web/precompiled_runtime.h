@@ -1,7 +1,7 @@
 #pragma once
 
-#include "driver/translation.h"
 #include "driver/web/emscripten_environment.h"
+#include "driver/web/web_text.h"
 #include "platform/process.h"
 
 #include <filesystem>
@@ -17,15 +17,15 @@ public:
     /// \param temporaryDirectory where it is made
     explicit PrecompiledRuntime(const std::filesystem::path& temporaryDirectory);
 
-    /// Starts to precompile the runtime of \p output, unless that is done or going on.
+    /// Starts to precompile the runtime of \p text, unless that is done or going on.
     /// \param compiler the call of em++ up to the source, with its environment
-    void prepare(const OutputText& output, const platform::Command& compiler);
+    void prepare(const WebText& text, const platform::Command& compiler);
 
-    /// What is ready for \p output; none while it is still being made, or if the runtime is another.
-    PrecompiledHeaders headersFor(const OutputText& output);
+    /// What is ready for \p text; none while it is still being made, or if the runtime is another.
+    PrecompiledHeaders headersFor(const WebText& text);
 
 private:
-    bool isRuntimeOf(const OutputText& output) const;
+    bool isRuntimeOf(const WebText& text) const;
 
     std::filesystem::path source_;
     std::filesystem::path precompiled_;

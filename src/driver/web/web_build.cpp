@@ -1,7 +1,6 @@
 #include "driver/web/web_build.h"
 
 #include "driver/output_stage.h"
-#include "driver/refusal_report.h"
 #include "driver/server/build_fault.h"
 #include "driver/server/web_state.h"
 #include "driver/web/page_template.h"
@@ -29,28 +28,19 @@ WebBuild::WebBuild(const fs::path& appDirectory, const fs::path& temporaryDirect
       compiler_(appDirectory, source_, outputDirectory_),
       headers_(precompiledHeaders(appDirectory, compiler_.program())), runtime_(temporaryDirectory) {}
 
-bool WebBuild::run(const ParsedSource& source, const OutputText& output) {
-    if (!writeOutput(source_, output.text)) {
+bool WebBuild::run(const WebText& text) {
+    if (!writeOutput(source_, text.output)) {
         return false;
     }
     const int version = g_appVersion + 1;
-    const Application application = readApplication(source.program);
-    if (!makePage(application, version)) {
+    if (!makePage(text.application, version)) {
         return false;
     }
-    const std::vector<std::string> packing = packingArguments(application);
+    const WebCall call = {text.linking, packingArguments(text.application)};
     clearOutput();
-    const platform::CommandResult compiled = compile(output, packing);
+    platform::CommandResult compiled = compile(text, call);
     if (compiled.status != 0) {
-        const bool isKnown = compiler_.toldCause();
-        printCompilationFailure();
-        BuildFault fault = {"பொழி-404", "", 0, BUILD_FAILURE};
-        if (!isKnown) {
-            const ShownPlace place = reportRefusals(source, output, source_.u8string(), compiled.errors);
-            fault.file = place.file;
-            fault.line = place.line;
-        }
-        tellPages(fault);
+        tellPages(reportFailure(text, call, std::move(compiled)).fault);
         return false;
     }
     copies_.makeFor(resultsIn(outputDirectory_));
@@ -58,6 +48,12 @@ bool WebBuild::run(const ParsedSource& source, const OutputText& output) {
     tellPagesOfSuccess();
     g_appVersion = version;
     return true;
+}
+
+WebFailure WebBuild::reportFailure(const WebText& text, WebCall call, platform::CommandResult result) const {
+    const bool isCauseTold = compiler_.toldCause(text.linking);
+    call.isUsers = false;
+    return text.reportFailure({source_.u8string(), std::move(result), compiler_.command(call), isCauseTold});
 }
 
 /// Nothing of an earlier build may pass for a result of this one.
@@ -87,27 +83,28 @@ bool WebBuild::makePage(const Application& application, int version) const {
     return true;
 }
 
-PrecompiledHeaders WebBuild::headersFor(const OutputText& output) {
-    const PrecompiledHeaders runtime = headers_.file.empty() ? PrecompiledHeaders() : runtime_.headersFor(output);
+PrecompiledHeaders WebBuild::headersFor(const WebText& text) {
+    const PrecompiledHeaders runtime = headers_.file.empty() ? PrecompiledHeaders() : runtime_.headersFor(text);
     return runtime.file.empty() ? headers_ : runtime;
 }
 
 /// For the versions that follow; it is done before this one is.
-void WebBuild::prepareRuntime(const OutputText& output) {
+void WebBuild::prepareRuntime(const WebText& text) {
     if (!headers_.file.empty()) {
-        runtime_.prepare(output, compiler_.languageCommand(headers_));
+        runtime_.prepare(text, compiler_.languageCommand(headers_));
     }
 }
 
 /// Unlike g++, em++ refuses precompiled headers that don't fit, as with other flags or after an update.
-platform::CommandResult WebBuild::compile(const OutputText& output, const std::vector<std::string>& packing) {
-    const PrecompiledHeaders headers = headersFor(output);
-    prepareRuntime(output);
-    platform::CommandResult result = platform::captureCommand(compiler_.command(packing, headers));
-    if (result.status == 0 || headers.file.empty()) {
+platform::CommandResult WebBuild::compile(const WebText& text, WebCall call) {
+    call.headers = headersFor(text);
+    prepareRuntime(text);
+    platform::CommandResult result = platform::captureCommand(compiler_.command(call));
+    if (result.status == 0 || call.headers.file.empty()) {
         return result;
     }
-    result = platform::captureCommand(compiler_.command(packing, {}));
+    call.headers = {};
+    result = platform::captureCommand(compiler_.command(call));
     if (result.status == 0) {
         // They would fail the next time as well, and so would what is made with them.
         headers_ = {};

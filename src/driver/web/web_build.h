@@ -1,10 +1,10 @@
 #pragma once
 
-#include "driver/translation.h"
 #include "driver/web/compressed_copies.h"
 #include "driver/web/emscripten_environment.h"
 #include "driver/web/precompiled_runtime.h"
 #include "driver/web/web_compiler.h"
+#include "driver/web/web_text.h"
 #include "generator/web/page/application.h"
 #include "platform/process.h"
 
@@ -24,14 +24,15 @@ public:
     /// Makes the page of one version anew for the server and compiles its output text. The server's version number grows
     /// once all files are in place. What goes wrong is told to the user.
     /// \return whether em++ succeeded
-    bool run(const ParsedSource& source, const OutputText& output);
+    bool run(const WebText& text);
 
 private:
     bool makePage(const Application& application, int version) const;
     void clearOutput();
-    PrecompiledHeaders headersFor(const OutputText& output);
-    void prepareRuntime(const OutputText& output);
-    platform::CommandResult compile(const OutputText& output, const std::vector<std::string>& packing);
+    PrecompiledHeaders headersFor(const WebText& text);
+    void prepareRuntime(const WebText& text);
+    platform::CommandResult compile(const WebText& text, WebCall call);
+    WebFailure reportFailure(const WebText& text, WebCall call, platform::CommandResult result) const;
 
     std::filesystem::path appDirectory_;
     std::filesystem::path source_;

@@ -25,11 +25,19 @@ std::vector<std::string> languageArguments(const fs::path& include) {
 } // namespace
 
 WebCompiler::WebCompiler(const fs::path& appDirectory, fs::path source, fs::path outputDirectory)
-    : include_(appDirectory / "உள்ளடக்கம்"), program_(emscriptenCompiler(appDirectory)),
-      source_(std::move(source)), objects_{appDirectory / "திரட்டு" / "error_handler_web.o",
-                                           appDirectory / "திரட்டு" / "nanovg_web.o"},
+    : include_(appDirectory / "உள்ளடக்கம்"), objectDirectory_(appDirectory / "திரட்டு"),
+      program_(emscriptenCompiler(appDirectory)), source_(std::move(source)),
       outputDirectory_(std::move(outputDirectory)) {
     platform::allowDeepStacks(); // for widgets inside each other
+}
+
+/// What the output text is linked with, as it stands in the installation.
+std::vector<fs::path> WebCompiler::objects(const WebLinking& linking) const {
+    std::vector<fs::path> all = {objectDirectory_ / "error_handler_web.o", objectDirectory_ / "nanovg_web.o"};
+    for (const std::string& archive : linking.archives) {
+        all.push_back(objectDirectory_ / archive);
+    }
+    return all;
 }
 
 platform::Command WebCompiler::languageCommand(const PrecompiledHeaders& headers) const {
@@ -38,29 +46,34 @@ platform::Command WebCompiler::languageCommand(const PrecompiledHeaders& headers
     return command;
 }
 
-platform::Command WebCompiler::command(const std::vector<std::string>& packing, const PrecompiledHeaders& headers,
-                                       const std::vector<std::string>& optimisation) const {
+platform::Command WebCompiler::command(const WebCall& call) const {
     platform::Command command;
-    command.environment = emscriptenVariables(headers);
-    command.arguments = {program_, source_.u8string(), objects_[0].u8string(), objects_[1].u8string()};
+    command.environment = emscriptenVariables(call.headers);
+    command.arguments = {program_, source_.u8string()};
+    for (const fs::path& object : objects(call.linking)) {
+        command.arguments.push_back(object.u8string());
+    }
     append(command.arguments, languageArguments(include_));
     append(command.arguments, {"--bind", "-s", "USE_GLFW=3", "-s", "FULL_ES2=1", "-s", "WASM=1", "-s",
                                "ALLOW_MEMORY_GROWTH=1", "-s", "EXPORTED_RUNTIME_METHODS=['ccall','cwrap']"});
-    append(command.arguments, packing);
-    append(command.arguments, optimisation);
+    append(command.arguments, call.linking.arguments);
+    append(command.arguments, call.packing);
+    append(command.arguments, call.optimisation);
     append(command.arguments, {"-o", (outputDirectory_ / "index.js").u8string()});
-    append(command.arguments, settings::emFlags());
+    if (call.isUsers) {
+        append(command.arguments, settings::emFlags());
+    }
     return command;
 }
 
-bool WebCompiler::toldCause() const {
+bool WebCompiler::toldCause(const WebLinking& linking) const {
     constexpr std::uintmax_t LITTLE_SPACE = 1048576;
     if (program_ == "em++" && !platform::findProgram("em++")) {
         printMissingCompiler();
         return true;
     }
     std::error_code error;
-    for (const fs::path& object : objects_) {
+    for (const fs::path& object : objects(linking)) {
         if (!fs::exists(object, error)) {
             printMissingObject(object.u8string());
             return true;

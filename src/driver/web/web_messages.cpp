@@ -49,8 +49,14 @@ void printInvalidHost(const std::string& host) {
     std::cerr << "பிழை: POZHIL_HOST-இல் உள்ள '" << host << "' முகவரி அல்ல! 127.0.0.1 போல எண்களால் எழுதவும்." << std::endl;
 }
 
-void printWebFailure() {
-    std::cout << RED << "தோல்வி! குறியீட்டில் உள்ள பிழைகளைச் சரிசெய்யவும்." << RESET << std::endl;
+void printWebFailure(Edition edition) {
+    // What is wrong with a program of the second edition was told before em++ got it.
+    const char* const advice = edition == Edition::Second ? "காரணம் மேலே உள்ளது." : "குறியீட்டில் உள்ள பிழைகளைச் சரிசெய்யவும்.";
+    std::cout << RED << "தோல்வி! " << advice << RESET << std::endl;
+}
+
+void printNoWebApplication(const std::string& path) {
+    std::cerr << "பிழை: '" << path << "' நிரலில் 'வலைதளம்' இல்லை! '--வலை' இல்லாமல் ஓட்டு." << std::endl;
 }
 
 void printWebUpdated() {

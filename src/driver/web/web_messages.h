@@ -1,5 +1,7 @@
 #pragma once
 
+#include "front_end/second_edition.h"
+
 #include <filesystem>
 #include <string>
 
@@ -25,7 +27,10 @@ void printWebSuccess(const std::string& place, const std::string& address);
 void printInvalidHost(const std::string& host);
 
 /// Tells that the first build failed.
-void printWebFailure();
+void printWebFailure(Edition edition);
+
+/// Tells that a program that is asked for as one for the web has no application.
+void printNoWebApplication(const std::string& path);
 
 /// Tells that a later version of the application is served.
 void printWebUpdated();

@@ -37,8 +37,9 @@ struct WebFailure {
 /// outlives it.
 struct WebText {
     Edition edition = Edition::First;
-    std::string_view text;
-    /// How many bytes at the head of the text are the same in all versions of the application
+    /// The output text
+    std::string_view output;
+    /// How many bytes at its head are the same in all versions of the application
     std::size_t runtimeLength = 0;
     Application application;
     WebLinking linking{};

@@ -116,9 +116,4 @@ void printNoApplication(const std::string& path) {
     std::cerr << "பிழை: '" << path << "' நிரலில் 'வலைதளம்' இல்லை! வலைச் செயலிகளை மட்டுமே வெளியிட முடியும்." << std::endl;
 }
 
-void printSecondEdition() {
-    std::cerr << "பிழை: வலைச் செயலிகளுக்கு இரண்டாம் பதிப்பு இன்னும் இல்லை! முதல் வரியில் உள்ள 'ஃ பொழில் 2' என்பதை நீக்கு."
-              << std::endl;
-}
-
 } // namespace pozhil::tools

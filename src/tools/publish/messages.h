@@ -32,7 +32,4 @@ void printMissingSource(const std::string& path);
 /// Tells that a source has no application.
 void printNoApplication(const std::string& path);
 
-/// Tells that a source is of an edition that has no applications yet.
-void printSecondEdition();
-
 } // namespace pozhil::tools

@@ -1,7 +1,8 @@
 #include "driver/console/second_fault_report.h"
-#include "driver/hint_report.h"
+#include "driver/second_translation.h"
 #include "driver/settings.h"
 #include "driver/translation.h"
+#include "driver/web/web_text.h"
 #include "front_end/front_end.h"
 #include "front_end/second_edition.h"
 #include "platform/interrupt.h"
@@ -81,29 +82,14 @@ std::optional<Order> readOrder(const std::vector<std::string>& arguments) {
     return order;
 }
 
-/// The status to end with if the source isn't of the edition that has applications; what is wrong is told.
-std::optional<ExitStatus> refuseEdition(const SourcePtr& source) {
-    SecondFaults faults;
-    const bool isSecond = editionOf(source, faults) == Edition::Second;
-    if (!faults.empty()) {
-        reportFaults(faults);
-        return FAULT_IN_SOURCE;
-    }
-    if (isSecond) {
-        printSecondEdition();
-        return FAULT_IN_SOURCE;
-    }
-    return std::nullopt;
-}
-
-ExitStatus makeSite(const ParsedSource& source, const OutputText& output, const SiteFolder& site) {
+ExitStatus makeSite(const WebText& text, const SiteFolder& site) {
     const platform::EndingText farewell(INTERRUPTED);
     Workshop workshop(site.place());
     const fs::path made = workshop.folder() / "site";
     const fs::path work = workshop.folder() / "work";
     fs::create_directory(made);
     fs::create_directory(work);
-    switch (buildSite(source, output, work, made)) {
+    switch (buildSite(text, work, made)) {
     case BuildResult::Refused: return FAULT_IN_SOURCE;
     case BuildResult::Failed: return FAILED;
     case BuildResult::Done: break;
@@ -111,6 +97,40 @@ ExitStatus makeSite(const ParsedSource& source, const OutputText& output, const 
     workshop.close();
     site.replaceWith(made);
     return DONE;
+}
+
+ExitStatus publishText(const WebText& text, const SiteFolder& site) {
+    const ExitStatus status = makeSite(text, site);
+    if (status == DONE) {
+        printSizes(site.place());
+        text.reportHints();
+    }
+    return status;
+}
+
+ExitStatus publishFirstEdition(SourcePtr source, const FrontEndOptions& options, const SiteFolder& site) {
+    const std::string path = source->path;
+    const ParsedSource parsed = parseSource(std::move(source), options);
+    if (!isWebProgram(parsed.program)) {
+        printNoApplication(path);
+        return WRONG_USE;
+    }
+    const OutputText output = generateText(parsed);
+    return publishText(webTextOf(parsed, output), site);
+}
+
+ExitStatus publishSecondEdition(SourcePtr source, const FrontEndOptions& options, const SiteFolder& site) {
+    const std::string path = source->path;
+    const SecondTranslation translation = translateSecondEdition(std::move(source), options);
+    if (!translation.faults.empty()) {
+        reportFaults(translation.faults);
+        return FAULT_IN_SOURCE;
+    }
+    if (!translation.application) {
+        printNoApplication(path);
+        return WRONG_USE;
+    }
+    return publishText(webTextOf(translation), site);
 }
 
 int publish(const std::vector<std::string>& arguments) {
@@ -125,8 +145,11 @@ int publish(const std::vector<std::string>& arguments) {
         printMissingSource(order->source);
         return WRONG_USE;
     }
-    if (const auto refusal = refuseEdition(source)) {
-        return *refusal;
+    SecondFaults editionFaults;
+    const Edition edition = editionOf(source, editionFaults);
+    if (!editionFaults.empty()) {
+        reportFaults(editionFaults);
+        return FAULT_IN_SOURCE;
     }
     const SiteFolder site(fs::u8path(order->folder));
     if (const auto problem = site.problem()) {
@@ -134,17 +157,8 @@ int publish(const std::vector<std::string>& arguments) {
         return problem->kind == FolderProblem::Kind::Unwritable ? FAILED : WRONG_USE;
     }
     printStep("நிரல் படிக்கப்படுகிறது");
-    const ParsedSource parsed = parseSource(std::move(source), options);
-    if (!isWebProgram(parsed.program)) {
-        printNoApplication(order->source);
-        return WRONG_USE;
-    }
-    const ExitStatus status = makeSite(parsed, generateText(parsed), site);
-    if (status == DONE) {
-        printSizes(site.place());
-        reportHints(parsed);
-    }
-    return status;
+    return edition == Edition::Second ? publishSecondEdition(std::move(source), options, site)
+                                      : publishFirstEdition(std::move(source), options, site);
 }
 
 } // namespace

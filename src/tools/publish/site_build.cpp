@@ -3,13 +3,11 @@
 #include "base/text.h"
 #include "base/whole_file.h"
 #include "driver/output_stage.h"
-#include "driver/refusal_report.h"
 #include "driver/web/page_template.h"
 #include "driver/web/page_values.h"
 #include "driver/web/web_assets.h"
 #include "driver/web/web_compiler.h"
 #include "driver/web/web_messages.h"
-#include "generator/web/page/application.h"
 #include "platform/paths.h"
 #include "tools/publish/compression.h"
 #include "tools/publish/licences.h"
@@ -67,48 +65,46 @@ std::vector<std::string> packingOf(const Application& application, const fs::pat
     return packing;
 }
 
-BuildResult compileProgram(const ParsedSource& source, const OutputText& output,
-                           const std::vector<std::string>& packing, const fs::path& workFolder,
+BuildResult compileProgram(const WebText& text, std::vector<std::string> packing, const fs::path& workFolder,
                            const fs::path& folder) {
-    const fs::path text = workFolder / "வலை_வெளியீடு.cpp";
-    if (!writeOutput(text, output.text)) {
+    const fs::path source = workFolder / "வலை_வெளியீடு.cpp";
+    if (!writeOutput(source, text.output)) {
         return BuildResult::Failed;
     }
-    const WebCompiler compiler(platform::executableDirectory(), text, folder);
-    const platform::CommandResult compiled = platform::captureCommand(compiler.command(packing, {}, optimisation()));
+    const WebCompiler compiler(platform::executableDirectory(), source, folder);
+    WebCall call = {text.linking, std::move(packing), {}, optimisation()};
+    platform::CommandResult compiled = platform::captureCommand(compiler.command(call));
     if (compiled.status == 0) {
         return BuildResult::Done;
     }
-    if (compiler.toldCause()) {
+    if (compiler.toldCause(text.linking)) {
         return BuildResult::Failed;
     }
-    printCompilationFailure();
-    reportRefusals(source, output, text.u8string(), compiled.errors);
-    return BuildResult::Refused;
+    call.isUsers = false;
+    const WebFailure failure = text.reportFailure({source.u8string(), std::move(compiled), compiler.command(call)});
+    return failure.isOfMachine ? BuildResult::Failed : BuildResult::Refused;
 }
 
 } // namespace
 
-BuildResult buildSite(const ParsedSource& source, const OutputText& output, const fs::path& workFolder,
-                      const fs::path& folder) {
-    const Application application = readApplication(source.program);
-    const auto page = pageOf(application, platform::executableDirectory());
+BuildResult buildSite(const WebText& text, const fs::path& workFolder, const fs::path& folder) {
+    const auto page = pageOf(text.application, platform::executableDirectory());
     if (!page) {
         return BuildResult::Failed;
     }
     printStep("தொகுக்கப்படுகிறது; சில வினாடிகள் ஆகும்");
-    const auto measuredFont = packedMeasuredFont(output.text);
+    const auto measuredFont = packedMeasuredFont(text.output);
     const fs::path fontFile = measuredFont ? workFolder / "measured.ttf" : fs::path();
     if (measuredFont && !write(fontFile, *measuredFont)) {
         printUnfinished(folder);
         return BuildResult::Failed;
     }
-    const BuildResult compiled = compileProgram(source, output, packingOf(application, fontFile), workFolder, folder);
+    const BuildResult compiled = compileProgram(text, packingOf(text.application, fontFile), workFolder, folder);
     if (compiled != BuildResult::Done) {
         return compiled;
     }
     printStep("சுருக்கப்படுகிறது");
-    const std::string licences = licencesOf(applicationFiles(application), measuredFont ? MEASURED_FONT : "");
+    const std::string licences = licencesOf(applicationFiles(text.application), measuredFont ? MEASURED_FONT : "");
     const bool isWritten = write(folder / "index.html", *page) && tidyScript(folder / "index.js") &&
                            (licences.empty() || write(folder / "licences.txt", licences)) && compressFiles(folder);
     if (!isWritten) {

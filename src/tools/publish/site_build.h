@@ -1,7 +1,6 @@
 #pragma once
 
-#include "driver/translation.h"
-#include "front_end/front_end.h"
+#include "driver/web/web_text.h"
 
 #include <filesystem>
 
@@ -11,10 +10,9 @@ namespace pozhil::tools {
 enum class BuildResult { Done, Refused, Failed };
 
 /// Makes the files that a host needs to serve an application: page, program, data, licences, and compressed copies.
-/// \param output the output text of \p source
 /// \param workFolder for what is needed meanwhile
 /// \param folder where the files go, and nothing else is
-BuildResult buildSite(const ParsedSource& source, const OutputText& output, const std::filesystem::path& workFolder,
+BuildResult buildSite(const WebText& text, const std::filesystem::path& workFolder,
                       const std::filesystem::path& folder);
 
 } // namespace pozhil::tools
