@@ -17,6 +17,7 @@ from support.workplace import NOBODY
 SOURCE = "செயலி.பொழில்"
 SITE = "செயலி_தளம்"
 APPLICATION = 'வலைதளம் தளம்(\n    தலைமை(இணைய_தலைப்பு: "என் தளம்")\n    குமரி(உரை("வணக்கம்"))\n    வரையறை()\n)\n'
+SECOND_EDITION = "ஃ பொழில் 2\n"
 MARKER = "pozhil-site.txt"
 MEASURED = "assets/font/Coiny-Regular.ttf"
 DRAWN = "assets/font/Tamil-Regular.ttf"
@@ -273,11 +274,11 @@ def test_program_without_an_application(place, publish):
     nothing_left(place)
 
 
-def test_second_edition_has_no_applications_yet(place, publish):
-    place.write(SOURCE, "ஃ பொழில் 2\n" + APPLICATION)
+def test_program_of_the_second_edition_without_an_application(place, publish):
+    place.write(SOURCE, SECOND_EDITION + 'அச்சிடு("வணக்கம்")\n')
     result = publish("வெளியிடு", SOURCE)
-    assert result.status == FAULT
-    assert "இரண்டாம் பதிப்பு இன்னும் இல்லை!" in result.err
+    assert result.status == WRONG_USE
+    assert "நிரலில் 'வலைதளம்' இல்லை!" in result.err
     nothing_left(place)
 
 
@@ -285,6 +286,7 @@ def test_second_edition_has_no_applications_yet(place, publish):
 
 @pytest.mark.parametrize("source, code", [
     (APPLICATION.replace("உரை(", "உரை"), "பொழி-203"), (APPLICATION.replace('"வணக்கம்"', '"வணக்கம்'), "பொழி-102"),
+    (SECOND_EDITION + "அச்சிடு(இல்லாதது)\n", "பொழி-551"), ("ஃ பொழில் 7\n" + APPLICATION, "பொழி-501"),
 ])
 def test_fault_in_the_source_shows_its_box(place, publish, source, code):
     place.write(SOURCE, source)

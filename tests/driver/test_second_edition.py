@@ -18,7 +18,7 @@ HELLO = MARKER + 'அச்சிடு("வணக்கம்")\n'
 FAULTY = MARKER + "அச்சிடு(இல்லாதது)\nஅச்சிடு(அதுவும்)\n"
 ARCHIVE = "libpozhil_engine.a"
 
-NO_WEB = "பிழை: வலைச் செயலிகளுக்கு இரண்டாம் பதிப்பு இன்னும் இல்லை!"
+NO_APPLICATION = f"பிழை: '{SOURCE}' நிரலில் 'வலைதளம்' இல்லை! '--வலை' இல்லாமல் ஓட்டு.\n"
 MORE_FAULTS = (
     f"{t.GOLD}  இன்னும் பிழைகள் உள்ளன; முதல் 10 மட்டும் மேலே உள்ளன. இவற்றைச் சரி செய்துவிட்டு மீண்டும் ஓட்டு மச்சி!{t.RESET}\n\n"
 )
@@ -165,13 +165,19 @@ def test_a_number_that_no_edition_has(place, tools):
     assert tools.calls() == []
 
 
-@pytest.mark.parametrize("arguments", [[SOURCE, t.FLAG_WEB], [t.FLAG_WEB, SOURCE]])
-def test_web_applications_are_refused(place, tools, arguments):
+@pytest.mark.parametrize("arguments", [[SOURCE, t.FLAG_WEB], [t.FLAG_WEB, SOURCE], [SOURCE, t.FLAG_WEB, t.FLAG_WATCH]])
+def test_a_console_program_is_nothing_for_the_web(place, tools, arguments):
     place.write(SOURCE, HELLO)
     result = place.run(*arguments)
-    assert (result.status, result.out) == (1, "")
-    assert result.err.startswith(NO_WEB)
+    assert (result.status, result.out, result.err) == (1, "", NO_APPLICATION)
     assert tools.calls() == [] == tools.calls("em++")
+    assert not place.web_directory.exists()
+
+
+def test_faults_come_before_that_there_is_no_application(place):
+    place.write(SOURCE, FAULTY)
+    result = place.run(SOURCE, t.FLAG_WEB)
+    assert (result.status, result.err, len(split_boxes(result.out)[1])) == (1, "", 2)
 
 
 # A toolchain that fails.

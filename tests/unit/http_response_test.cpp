@@ -381,4 +381,19 @@ TEST_F(Answers, StrictOnesAreOfTheApplicationAlone) {
     }
 }
 
+TEST_F(Answers, OfTheApplicationsFilesAloneAreForWhoeverAsks) {
+    write("assets/a.png", "png");
+    write("secret.txt", "secret");
+    write("வெளியீடு/index.js", "script");
+    g_web_html.store({"page", "", {"assets"}});
+    HttpRequest foreign = own("/assets/a.png");
+    foreign.host = "192.168.1.5:6931";
+    EXPECT_EQ(answerTo(foreign, Access::Files), head("image/png", 3) + "png");
+    EXPECT_EQ(answerTo(own("/"), Access::Files), head("text/html; charset=utf-8", 4) + "page");
+    EXPECT_EQ(answerTo(own("/index.js"), Access::Files), head("application/javascript", 6) + "script");
+    for (const char* path : {"/secret.txt", "/assets/../secret.txt", "/../up.png", "//etc/passwd"}) {
+        EXPECT_EQ(answerTo(own(path), Access::Files), NOT_FOUND) << path;
+    }
+}
+
 } // namespace
