@@ -34,11 +34,11 @@ void tellRefusal(const FailedBuild& build, const ShownPlace& place) {
     const std::string compiler(build.compiler.name);
     std::cerr << style::RED << "பிழை: " << OUR_FAULT << ": உருவான C++ உரையை " << compiler << " ஏற்கவில்லை."
               << style::RESET << std::endl;
-    printExplanation(
-        {place,
-         {"உருவான C++ உரை: '" + build.file + "'",
-          compiler + " சொன்னதைப் பார்க்க: POZHIL_SHOW_CXX=1 என்று வைத்து மீண்டும் ஓட்டு."},
-         "உன் நிரலையும் அந்த C++ உரையையும் பொழில் குழுவுக்கு அனுப்பு மச்சி; அதுவரை அந்தக் கூற்றை வேறு விதமா எழுதிப் பாரு!"});
+    const std::string text = build.isTextKept ? "உருவான C++ உரை: '" + build.file + "'" : "";
+    const std::string sent = build.isTextKept ? "உன் நிரலையும் அந்த C++ உரையையும்" : "உன் நிரலைப்";
+    printExplanation({place,
+                      {text, compiler + " சொன்னதைப் பார்க்க: POZHIL_SHOW_CXX=1 என்று வைத்து மீண்டும் ஓட்டு."},
+                      sent + " பொழில் குழுவுக்கு அனுப்பு மச்சி; அதுவரை அந்தக் கூற்றை வேறு விதமா எழுதிப் பாரு!"});
 }
 
 } // namespace

@@ -21,6 +21,8 @@ struct FailedBuild {
     platform::CommandResult result;
     /// The same call without the user's own arguments; nothing if there are none
     std::optional<platform::Command> plainCall;
+    /// Whether the output text stays where it is
+    bool isTextKept = true;
 };
 
 /// Whom a failed build is to be blamed on.

@@ -121,6 +121,16 @@ def test_diagnostic_ends_watch_and_server(session, web_place, tools):
     assert len(tools.calls("em++")) == 1
 
 
+def test_source_that_gains_a_marker_is_told_in_pages_too(session, web_place, tools):
+    web_place.change_until(session, SOURCE, "ஃ பொழில் 2\n" + CHANGED)
+    session.wait_for_errors("'ஃ பொழில் 2' இப்போது உள்ளது!")
+    session.wait_until(lambda: "முனையத்தில்" in get("/version/fault")[1])
+    assert len(tools.calls("em++")) == 1
+    web_place.change_until(session, SOURCE, CHANGED, age=-20)
+    session.wait_for_output(UPDATED)
+    assert get("/version/fault")[1] == "{}"
+
+
 def test_watch_goes_on_without_a_server(web_place):
     with socket.create_server(("", PORT)), web_place.session(SOURCE, t.FLAG_WEB) as session:
         session.wait_until(lambda: t.WEB_PORT_TAKEN.encode() == session.stderr)

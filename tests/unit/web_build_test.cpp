@@ -240,6 +240,19 @@ TEST_F(WebBuilds, FailureTellsWhomToBlame) {
     testing::internal::GetCapturedStderr();
 }
 
+/// Nobody is sent to look at a text that is gone.
+TEST_F(WebBuilds, RefusedTextIsNamedIfItIsKept) {
+    const WebText text = webTextOf(translation_);
+    for (const bool isKept : {true, false}) {
+        testing::internal::CaptureStderr();
+        text.reportFailure({"a.cpp", {1, "", "a.cpp:3:1: error: x"}, {}, false, isKept});
+        const std::string told = testing::internal::GetCapturedStderr();
+        EXPECT_THAT(told, HasSubstr("இரண்டு()"));
+        EXPECT_EQ(told.find("a.cpp") != std::string::npos, isKept);
+        EXPECT_EQ(told.find("அந்த C++ உரையையும்") != std::string::npos, isKept);
+    }
+}
+
 TEST_F(WebBuilds, HintsOfTheSecondEditionAreThoseOfTheTranslation) {
     SecondTranslation made = translation();
     made.hints.push_back({{made.sources.front(), {0, 1}}, "இது குறிப்பு."});

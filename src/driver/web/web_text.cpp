@@ -35,7 +35,8 @@ WebFailure reportSecondFailure(const SecondTranslation& translation, const Faile
         return failure;
     }
     const auto plainCall = settings::emFlags().empty() ? std::nullopt : std::optional(failed.plainCall);
-    const BuildBlame blame = reportBuildFailure(translation, {EMXX, failed.file, failed.result, plainCall});
+    const BuildBlame blame =
+        reportBuildFailure(translation, {EMXX, failed.file, failed.result, plainCall, failed.isTextKept});
     if (!blame.isOfMachine) {
         failure = {{"", blame.place.file, blame.place.line, std::string(OUR_FAULT) + "; " + BUILD_FAILURE}, false};
     }

@@ -23,6 +23,8 @@ struct FailedCompilation {
     platform::Command plainCall;
     /// Whether the user has been told the cause already
     bool isCauseTold = false;
+    /// Whether the output text stays where it is
+    bool isTextKept = true;
 };
 
 /// What a failed run of em++ came of.

@@ -81,7 +81,8 @@ BuildResult compileProgram(const WebText& text, std::vector<std::string> packing
         return BuildResult::Failed;
     }
     call.isUsers = false;
-    const WebFailure failure = text.reportFailure({source.u8string(), std::move(compiled), compiler.command(call)});
+    const WebFailure failure =
+        text.reportFailure({source.u8string(), std::move(compiled), compiler.command(call), false, false});
     return failure.isOfMachine ? BuildResult::Failed : BuildResult::Refused;
 }
 
