@@ -22,6 +22,13 @@ SecondTranslation translateSecondEdition(SourcePtr source, const FrontEndOptions
     for (const resolved::File& file : meaning.program.files) {
         translation.sources.push_back(file.source);
     }
+    if (!meaning.program.pages.empty()) {
+        std::vector<const WebAppNode*> pages;
+        for (const resolved::Page& page : meaning.program.pages) {
+            pages.push_back(page.tree);
+        }
+        translation.application = readApplication(std::move(pages));
+    }
     translation.output = writeSecondEdition(meaning.program);
     return translation;
 }

@@ -105,6 +105,10 @@ bool startPage(const ProgramInfo& program) {
     });
 }
 
+Value pageInput(const std::string& text) {
+    return makeText(text);
+}
+
 std::string pageText(const Value& value) {
     return textForm(value);
 }

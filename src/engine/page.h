@@ -49,6 +49,9 @@ bool startPage(const ProgramInfo& program);
 /// How a value is shown, as அச்சிடு does.
 std::string pageText(const Value& value);
 
+/// What a user has typed, as a value of the program.
+Value pageInput(const std::string& text);
+
 /// The value of a property that takes a number; anything else is a fault.
 double pageNumber(const Value& value, Place place);
 

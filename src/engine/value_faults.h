@@ -32,7 +32,7 @@ enum ValueFault : int {
 
     DECIMAL_TEXT_TOO_LARGE = 623,
 
-    NUMBER_EXPECTED = 624
+    NUMBER_EXPECTED = 617
 };
 
 } // namespace pozhil::engine

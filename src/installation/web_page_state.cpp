@@ -12,6 +12,8 @@
 /// Of the generated program; missing in one without pages.
 extern std::string g_currentPage __attribute__((weak));
 extern std::map<std::string, std::any> global_vars __attribute__((weak));
+/// Of a program of the second edition, which knows its variables itself.
+extern "C" int pozhil_program_shows(const char* name, int atFirst) __attribute__((weak));
 
 extern "C" {
 /// Of the linker: the bounds of what the program holds outside of its stack, which is empty between frames.
@@ -59,6 +61,9 @@ EMSCRIPTEN_KEEPALIVE void pozhil_show_page(const char* name) {
 /// Whether the variable shows the widgets that name it.
 /// \param atFirst whether they are there while the variable has no value
 EMSCRIPTEN_KEEPALIVE int pozhil_shows(const char* name, int atFirst) {
+    if (&pozhil_program_shows != nullptr) {
+        return pozhil_program_shows(name, atFirst);
+    }
     if (&global_vars == nullptr) {
         return atFirst;
     }

@@ -23,6 +23,7 @@ namespace {
 void openFiles(second::Model& model) {
     const auto& files = model.source.files;
     model.fileScopes.resize(files.size());
+    model.applications.resize(files.size());
     model.own.resize(files.size());
     model.visible.resize(files.size());
     model.program.files.resize(files.size());

@@ -46,8 +46,12 @@ const resolved::Structure* structureAround(const Scope& scope) {
 
 void resolveFunction(Model& model, Scope& scope) {
     Resolution resolution{model, scope, structureAround(scope)};
-    if (scope.value != nullptr) {
+    if (scope.page != nullptr) {
+        scope.function->body = resolvePage(resolution, *scope.page);
+    } else if (scope.value != nullptr) {
         scope.function->body = bodyOfValue(resolution, scope.value);
+    } else if (scope.statements != nullptr) {
+        scope.function->body = resolveStatements(resolution, *scope.statements);
     } else if (scope.body != nullptr) {
         scope.function->body = resolveBlock(resolution, scope.body);
     }

@@ -68,16 +68,6 @@ resolved::ExpressionPtr enumerationMember(Resolution& resolution, const GetExpre
     return literal;
 }
 
-/// A fault if a call doesn't give the number of arguments that is asked for.
-/// \param remedy what to do about it, if that isn't what the catalogue says
-void checkCount(Resolution& resolution, const CallExpression& call, std::string_view name, std::size_t fewest,
-                std::size_t most, std::string remedy = {}) {
-    const std::size_t given = call.arguments.size();
-    if (given < fewest || given > most) {
-        tellWrongCount(resolution.model, name, fewest, most, given, resolution.placeOf(&call), std::move(remedy));
-    }
-}
-
 /// Places inside the indices of places are resolved twice each, as value and as place. Nobody writes more of them inside
 /// each other.
 constexpr int MAX_PLACE_DEPTH = 8;
@@ -234,6 +224,9 @@ resolved::ExpressionPtr unknownClockPart(Resolution& resolution, const CallExpre
 }
 
 resolved::ExpressionPtr callMember(Resolution& resolution, const CallExpression& call, const GetExpression& member) {
+    if (auto fieldCall = resolveFieldCall(resolution, call, member)) {
+        return fieldCall;
+    }
     if (const auto* object = nodeCast<VariableAccess>(withoutBrackets(member.object.get()))) {
         const Meaning meaning = resolution.meaningOf(object->name, Use::Read);
         if (meaning.structure != nullptr) {
@@ -252,7 +245,18 @@ resolved::ExpressionPtr callMember(Resolution& resolution, const CallExpression&
 
 } // namespace
 
+void checkCount(Resolution& resolution, const CallExpression& call, std::string_view name, std::size_t fewest,
+                std::size_t most, std::string remedy) {
+    const std::size_t given = call.arguments.size();
+    if (given < fewest || given > most) {
+        tellWrongCount(resolution.model, name, fewest, most, given, resolution.placeOf(&call), std::move(remedy));
+    }
+}
+
 resolved::ExpressionPtr resolveMember(Resolution& resolution, const GetExpression& member) {
+    if (auto part = resolveFieldPart(resolution, member)) {
+        return part;
+    }
     if (const auto* object = nodeCast<VariableAccess>(withoutBrackets(member.object.get()))) {
         const Meaning meaning = resolution.meaningOf(object->name, Use::Read);
         if (meaning.enumeration != nullptr) {
@@ -295,6 +299,10 @@ resolved::ExpressionPtr resolveCall(Resolution& resolution, const CallExpression
     const Builtin* const builtin = language::second::findBuiltin(BuiltinForm::Call, name->name);
     if (meaning.isUnknown() && builtin != nullptr) {
         return callBuiltin(resolution, call, builtin);
+    }
+    const Builtin* const ofPages = findPageBuiltin(resolution.model, BuiltinForm::PageCall, name->name);
+    if (meaning.isUnknown() && ofPages != nullptr) {
+        return callBuiltin(resolution, call, ofPages);
     }
     const resolved::Place place = resolution.placeOf(name);
     if (meaning.enumeration != nullptr) {

@@ -1,6 +1,7 @@
 #include "analysis/second/collector.h"
 
 #include "analysis/second/fault_numbers.h"
+#include "base/scoped_value.h"
 #include "front_end/second_edition.h"
 #include "parser/tree/shapes.h"
 
@@ -189,6 +190,7 @@ Scope& Collector::openScope(const void* node, std::string_view name, resolved::P
     scope.file = file_;
     scope.outer = scope_;
     scope.function = function;
+    scope.isOfApplication = isInApplication_;
     model_.scopeOf[node] = &scope;
     model_.scopeOfFunction[function] = &scope;
     return scope;
@@ -217,6 +219,9 @@ void Collector::collectBody(Scope& scope) {
     Scope* const before = std::exchange(scope_, &scope);
     collect(scope.body);
     collect(scope.value);
+    if (scope.statements != nullptr) {
+        collect(*scope.statements);
+    }
     scope_ = before;
 }
 
@@ -319,6 +324,47 @@ void Collector::visit(const EnumerationStatement& node) {
             const resolved::Place place = model_.locations.ofPart(file_, &member, &node, member.value);
             tellSecondDefinition(member.value, definition.place, place);
         }
+    }
+}
+
+// Applications.
+
+/// The logic is a part of its file. Each frame of the page is like a call of a function that shows all its values.
+void Collector::visit(const WebAppNode& node) {
+    model_.hasApplication = true;
+    const ScopedValue<bool> inside(isInApplication_, true);
+    collectLogic(logicOf(node));
+    const resolved::Place place = model_.locations.of(file_, &node);
+    Scope& frame = openScope(&node, "பக்கம்", place);
+    frame.page = &node;
+    frame.function->isPage = true;
+    Scope* const before = std::exchange(scope_, &frame);
+    walk(node);
+    scope_ = before;
+}
+
+void Collector::onHandler(const WidgetNode& widget) {
+    Scope& scope = openScope(&widget.eventStatements, "வினை", model_.locations.of(file_, &widget));
+    scope.statements = &widget.eventStatements;
+    scope.isLambda = true;
+    collectBody(scope);
+}
+
+void Collector::onStateName(const StringLiteral& name) {
+    model_.applications[file_].stateNames.insert(name.value);
+    model_.fileScopes[file_]->given.push_back(
+        {name.value, GivenName::By::Control, model_.locations.of(file_, &name), nullptr});
+}
+
+void Collector::tellDatabase(const void* node) {
+    model_.faults.add(fault::NO_DATABASE, model_.locations.of(file_, node));
+}
+
+void Collector::collectLogic(const BlockStatement* logic) {
+    const std::size_t before = scope_->given.size();
+    collect(logic);
+    for (std::size_t index = before; index < scope_->given.size(); ++index) {
+        model_.applications[file_].stateNames.insert(scope_->given[index].name);
     }
 }
 

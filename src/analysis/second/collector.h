@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/second/model.h"
+#include "analysis/second/page_walk.h"
 
 #include <cstddef>
 #include <string_view>
@@ -10,7 +11,7 @@ namespace pozhil::second {
 
 /// Goes over the tree of a file and notes what it defines and which names stand where. What the names mean is found out
 /// when all files are known.
-class Collector {
+class Collector : private PageWalk {
 public:
     Collector(Model& model, std::size_t file) : model_(model), file_(file) {}
 
@@ -55,12 +56,25 @@ public:
     void visit(const FileVariablesStatement& node);
     void visit(const ImportStatement&) {}
     void visit(const EnumerationStatement& node);
+    void visit(const WebAppNode& node);
+    void visit(const RTDBInsertExpression& node) { tellDatabase(&node); }
+    void visit(const RTDBUpdateExpression& node) { tellDatabase(&node); }
+    void visit(const RTDBDeleteExpression& node) { tellDatabase(&node); }
+    void visit(const RTDBReadStatement& node) { tellDatabase(&node); }
 
 private:
     void collect(const Expression* expression);
     void collect(const Statement* statement);
     void collect(const ExpressionList& expressions);
     void collect(const StatementList& statements);
+
+    void onValue(const Expression& value) override { collect(&value); }
+    void onVariableName(const StringLiteral& name) override { mention(name.value, Use::Read); }
+    void onStateName(const StringLiteral& name) override;
+    void onWidgetName(const std::string& name) override { model_.applications[file_].widgetNames.insert(name); }
+    void onHandler(const WidgetNode& widget) override;
+    void tellDatabase(const void* node);
+    void collectLogic(const BlockStatement* logic);
 
     void mention(std::string_view name, Use use) { scope_->mentions.push_back({name, use}); }
     void give(std::string_view name, GivenName::By by, resolved::Place place, const Expression* value = nullptr);
@@ -82,6 +96,7 @@ private:
     Scope* scope_ = nullptr;
     /// The structure in whose method this stands.
     resolved::Structure* structure_ = nullptr;
+    bool isInApplication_ = false;
 };
 
 } // namespace pozhil::second

@@ -128,6 +128,11 @@ public:
 
     void visit(const GroupingExpression& node) { result_ = resolveValue(resolution_, node.inner.get()); }
 
+    // Told already.
+    void visit(const RTDBInsertExpression&) {}
+    void visit(const RTDBUpdateExpression&) {}
+    void visit(const RTDBDeleteExpression&) {}
+
     void visit(const ListLiteral& node) {
         auto list = makeNode<resolved::ListLiteral>(resolution_.placeOf(&node));
         list->elements = resolveValues(resolution_, node.elements);
@@ -251,6 +256,11 @@ resolved::ExpressionPtr resolveName(Resolution& resolution, const VariableAccess
         auto value = makeNode<resolved::BuiltinValue>(place);
         value->builtin = builtin;
         return value;
+    }
+    if (const auto* word = findPageBuiltin(resolution.model, language::second::BuiltinForm::PageWord, name.name)) {
+        auto call = makeNode<resolved::BuiltinCall>(place);
+        call->builtin = word;
+        return call;
     }
     tellUnknownName(resolution, name.name, place);
     return unknownValue(place);

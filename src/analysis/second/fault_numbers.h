@@ -4,6 +4,7 @@
 
 namespace pozhil::second::fault {
 
+constexpr int NO_DATABASE = 546;
 // Names.
 constexpr int UNKNOWN_NAME = 551;
 constexpr int UNKNOWN_FUNCTION = 552;

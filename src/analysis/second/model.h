@@ -35,7 +35,7 @@ struct Mention {
 
 /// A place where a name gets a value.
 struct GivenName {
-    enum class By : std::uint8_t { Assignment, Compound, Loop, Catch };
+    enum class By : std::uint8_t { Assignment, Compound, Loop, Catch, Control };
     std::string_view name;
     By by;
     resolved::Place place;
@@ -53,8 +53,14 @@ struct Scope {
     /// What is carried out: a block, or for a short lambda the value that it gives.
     const BlockStatement* body = nullptr;
     const Expression* value = nullptr;
+    /// The same as body, of what isn't written as a function.
+    const StatementList* statements = nullptr;
     /// It has no name, so it is always used as a value.
     bool isLambda = false;
+    /// The page that is drawn in each call of the function; null for all other functions.
+    const WebAppNode* page = nullptr;
+    /// It stands in an application, so that it assigns the application's variables without a word.
+    bool isOfApplication = false;
 
     std::unordered_map<std::string_view, resolved::Variable*> variables;
     /// Functions that are written in this one.
@@ -88,6 +94,14 @@ struct VariableFacts {
     bool isAssignedByPublic = false;
 };
 
+/// What the applications of a file have in common.
+struct ApplicationFacts {
+    /// Names of their state: what their logic assigns by itself, and what their pages show.
+    std::unordered_set<std::string_view> stateNames;
+    /// Names that the program calls widgets by.
+    std::unordered_set<std::string_view> widgetNames;
+};
+
 /// A structure as it is written.
 struct StructureFacts {
     const StructDefinitionStatement* tree = nullptr;
@@ -108,6 +122,9 @@ struct Model {
     /// Outer ones before inner ones, those of a file in the order of the text.
     std::deque<Scope> scopes;
     std::vector<Scope*> fileScopes;
+    /// Of each file.
+    std::vector<ApplicationFacts> applications;
+    bool hasApplication = false;
     /// By the node of the function in its tree.
     std::unordered_map<const void*, Scope*> scopeOf;
     std::unordered_map<const resolved::Function*, Scope*> scopeOfFunction;

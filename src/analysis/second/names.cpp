@@ -1,7 +1,6 @@
 #include "analysis/second/names.h"
 
 #include "analysis/second/fault_numbers.h"
-#include "language/second/builtins.h"
 #include "parser/tree/shapes.h"
 
 #include <algorithm>
@@ -18,9 +17,9 @@ public:
         for (const GivenName& given : scope_.given) {
             resolved::Variable* const variable = variableFor(given);
             VariableFacts& facts = model_.variables[variable];
-            facts.isFilledFromOutside |= given.by == GivenName::By::Loop;
+            facts.isFilledFromOutside |= given.by == GivenName::By::Loop || given.by == GivenName::By::Control;
             facts.isGivenInText = true;
-            facts.isAssignedByPublic |= variable->owner == nullptr && scope_.function != nullptr;
+            facts.isAssignedByPublic |= variable->owner == nullptr && (scope_.function != nullptr || given.by == GivenName::By::Control);
             if (given.value != nullptr) {
                 facts.values.push_back(given.value);
             }
@@ -53,7 +52,8 @@ private:
                 return *scope;
             }
         }
-        return scope_;
+        const auto& state = model_.applications[scope_.file].stateNames;
+        return scope_.isOfApplication && state.count(given.name) != 0 ? *model_.fileScopes[scope_.file] : scope_;
     }
 
     Model& model_;
@@ -137,7 +137,37 @@ void checkSharedNames(Model& model, const Scope& scope) {
 
 } // namespace
 
+/// Whether a function around a place, up to its page, has a parameter of this name.
+bool isParameterAround(const Scope& scope, std::string_view name) {
+    for (const Scope* one = &scope; one->function != nullptr; one = one->outer) {
+        if (one->variables.count(name) != 0) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// What pages show is state of their application, also where its functions alone give it values.
+void nameShownState(Model& model) {
+    for (const Scope& scope : model.scopes) {
+        const Scope* page = &scope;
+        while (page != nullptr && page->page == nullptr) {
+            page = page->outer;
+        }
+        if (page == nullptr) {
+            continue;
+        }
+        for (const Mention& mention : scope.mentions) {
+            if (mention.use == Use::Read && !isParameterAround(scope, mention.name) &&
+                visibleDefinition(model, scope.file, mention.name) == nullptr) {
+                model.applications[scope.file].stateNames.insert(mention.name);
+            }
+        }
+    }
+}
+
 void declareVariables(Model& model) {
+    nameShownState(model);
     for (Scope& scope : model.scopes) {
         Declaring(model, scope).declare();
     }
@@ -164,6 +194,16 @@ Meaning meaningOf(const Model& model, const Scope& scope, std::string_view name,
     }
     const Definition* const definition = visibleDefinition(model, scope.file, name);
     return definition == nullptr ? Meaning() : meaningOf(*definition);
+}
+
+bool isWidgetName(const Model& model, const Scope& scope, std::string_view name) {
+    return model.applications[scope.file].widgetNames.count(name) != 0 &&
+           meaningOf(model, scope, name, Use::Read).isUnknown();
+}
+
+const language::second::Builtin* findPageBuiltin(const Model& model, language::second::BuiltinForm form,
+                                                 std::string_view name) {
+    return model.hasApplication ? language::second::findBuiltin(form, name) : nullptr;
 }
 
 bool isOfLanguage(std::string_view name) {

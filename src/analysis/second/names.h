@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/second/model.h"
+#include "language/second/builtins.h"
 
 #include <string_view>
 #include <vector>
@@ -29,6 +30,13 @@ void declareVariables(Model& model);
 /// Who calls a name means what can be called: a variable that is nowhere given a function lets a call through to the
 /// function of its name further out, or to the one that comes with the language.
 Meaning meaningOf(const Model& model, const Scope& scope, std::string_view name, Use use);
+
+/// What the program calls a widget by, where nothing else has that name.
+bool isWidgetName(const Model& model, const Scope& scope, std::string_view name);
+
+/// The built-in of applications of this form and name; null if there is none, or if the program has no application.
+const language::second::Builtin* findPageBuiltin(const Model& model, language::second::BuiltinForm form,
+                                                 std::string_view name);
 
 /// Whether the language gives the name a value, as long as the program gives it none.
 bool isOfLanguage(std::string_view name);

@@ -68,6 +68,17 @@ resolved::ExpressionPtr resolveMember(Resolution& resolution, const GetExpressio
 resolved::ExpressionPtr resolveCall(Resolution& resolution, const CallExpression& call);
 resolved::ExpressionPtr resolveAssignmentValue(Resolution& resolution, const PlaceAssignment& assignment);
 
+/// A part of what the user has typed into a field, or a call that asks or tells the field something; null if the object is
+/// no field.
+resolved::ExpressionPtr resolveFieldPart(Resolution& resolution, const GetExpression& member);
+resolved::ExpressionPtr resolveFieldCall(Resolution& resolution, const CallExpression& call,
+                                         const GetExpression& member);
+
+/// A fault if a call doesn't give the number of arguments that is asked for.
+/// \param remedy what to do about it, if that isn't what the catalogue says
+void checkCount(Resolution& resolution, const CallExpression& call, std::string_view name, std::size_t fewest,
+                std::size_t most, std::string remedy = {});
+
 /// What is written, a fault if the expression is no place.
 resolved::TargetPtr resolveTarget(Resolution& resolution, const Expression* expression);
 /// The place of an expression, null if it is none or may not be changed.
@@ -87,6 +98,9 @@ resolved::StatementPtr resolveStatement(Resolution& resolution, const Statement*
 /// Never null.
 resolved::BlockPtr resolveBlock(Resolution& resolution, const BlockStatement* block);
 resolved::BlockPtr resolveStatements(Resolution& resolution, const StatementList& statements);
+
+/// Evaluates, in the order of the text, all that the widgets of a page take from the program.
+resolved::BlockPtr resolvePage(Resolution& resolution, const WebAppNode& page);
 
 /// Gives every function of the program its body, every field its first value, every file its statements.
 void resolveBodies(Model& model);

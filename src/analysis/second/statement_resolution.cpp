@@ -1,6 +1,7 @@
 #include "analysis/second/resolution.h"
 
 #include "analysis/second/fault_numbers.h"
+#include "analysis/second/page_walk.h"
 #include "language/second/builtins.h"
 #include "parser/tree/shapes.h"
 
@@ -131,6 +132,10 @@ public:
         wait->seconds = resolveValue(resolution_, node.duration.get());
         result_ = std::move(wait);
     }
+
+    void visit(const WebAppNode& node) { result_ = resolveBlock(resolution_, logicOf(node)); }
+
+    void visit(const RTDBReadStatement&) {} // told already
 
     void visit(const FunctionDefinitionStatement&) {}
     void visit(const StructDefinitionStatement&) {}

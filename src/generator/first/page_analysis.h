@@ -27,7 +27,7 @@ public:
 private:
     /// A text that nobody reads, and what writes it.
     struct Scratch {
-        explicit Scratch(Edition& edition, const Program& program) : web(out, edition, program) {}
+        explicit Scratch(Edition& edition, const Program& program) : web(out, edition, readApplication(program)) {}
 
         CodeWriter out;
         WebEmitter web;

@@ -19,6 +19,11 @@ void EmittedLines::line(const std::string& text) {
     origins_.insert(origins_.end(), 1 + static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')), place_);
 }
 
+void EmittedLines::lines(std::string_view text) {
+    text_ += text;
+    origins_.insert(origins_.end(), static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')), place_);
+}
+
 void EmittedLines::open(const std::string& text) {
     line(text);
     ++level_;

@@ -3,6 +3,7 @@
 #include "analysis/second/resolved/node.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace pozhil::resolved::writer {
@@ -12,6 +13,8 @@ class EmittedLines {
 public:
     /// A line of its own at the present level of indentation; empty ones stay empty.
     void line(const std::string& text);
+    /// Lines that are indented already, each with its end.
+    void lines(std::string_view text);
     /// A line that opens a block, "if (…) {"; what follows stands one level deeper.
     void open(const std::string& text);
     /// Ends a block: "}" and what comes after it on the line.

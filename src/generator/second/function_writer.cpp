@@ -67,7 +67,7 @@ std::string FunctionWriter::adapterHead(const Function& function) const {
 }
 
 void FunctionWriter::declare(const Function& function, EmittedLines& lines) {
-    if (function.body == nullptr) {
+    if (function.body == nullptr || function.isPage) {
         return;
     }
     lines.setPlace(function.place);
@@ -81,7 +81,7 @@ void FunctionWriter::declare(const Function& function, EmittedLines& lines) {
 }
 
 void FunctionWriter::define(const Function& function, EmittedLines& lines) {
-    if (function.body == nullptr) {
+    if (function.body == nullptr || function.isPage) {
         return;
     }
     lines.setPlace(function.place);

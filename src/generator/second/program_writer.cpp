@@ -4,6 +4,7 @@
 #include "generator/second/generator.h"
 #include "generator/second/literals.h"
 #include "generator/second/local_facts.h"
+#include "generator/second/pages/page_program.h"
 #include "generator/second/statement_writer.h"
 #include "generator/second/structure_writer.h"
 #include "generator/second/tree_walk.h"
@@ -53,20 +54,31 @@ EmittedLines ProgramWriter::write() {
     for (std::size_t file = 0; file < program_.files.size(); ++file) {
         writeStart(file);
     }
+    PageProgram pages(program_, tables_);
+    const bool hasPages = !program_.pages.empty();
+    if (hasPages) {
+        pages_ = pages.pages();
+    }
     writeConstants();
     writeProgram();
 
     EmittedLines whole;
     const std::string path = tables_.places.sources().front()->path;
     whole.line(lineComment(path));
-    whole.line("#include \"engine/program.h\"");
-    whole.line("using namespace pozhil::engine;");
-    whole.line("");
+    if (hasPages) {
+        whole.append(pages.head());
+        runtimeLength_ = whole.text().size();
+    } else {
+        whole.line("#include \"engine/program.h\"");
+        whole.line("using namespace pozhil::engine;");
+        whole.line("");
+    }
     for (EmittedLines* part : {&constants_, &variables_, &declarations_, &definitions_}) {
         part->gap();
         whole.append(*part);
     }
     whole.append(ending_);
+    whole.append(pages_);
     return whole;
 }
 
@@ -202,10 +214,7 @@ void ProgramWriter::writeProgram() {
     ending_.close();
     ending_.gap();
     writeSources();
-    const std::size_t memberCount = tables_.members.rows().size();
-    const std::size_t structureCount = program_.structures.size();
-    const std::size_t textCount = tables_.texts.rows().size();
-    if (structureCount > 0) {
+    if (!program_.structures.empty()) {
         ending_.open("static Structure* const structures[] = {");
         for (const auto& structure : program_.structures) {
             ending_.line("&" + tables_.names.of(*structure) + ",");
@@ -213,12 +222,26 @@ void ProgramWriter::writeProgram() {
         ending_.close(";");
     }
     ending_.gap();
-    ending_.open("int main() {");
-    ending_.line("return run({start, sources, " + std::to_string(program_.files.size()) + ", " +
-                 (memberCount > 0 ? "members" : "nullptr") + ", " + std::to_string(memberCount) + ", " +
-                 (structureCount > 0 ? "structures" : "nullptr") + ", " + std::to_string(structureCount) + ", " +
-                 (textCount > 0 ? "texts, literals" : "nullptr, nullptr") + ", " + std::to_string(textCount) + "});");
+    if (program_.pages.empty()) {
+        ending_.open("int main() {");
+        ending_.line("return run(" + programInfo() + ");");
+    } else {
+        ending_.open("static void init_globals() {");
+        ending_.line("static const ProgramInfo program = " + programInfo() + ";");
+        ending_.line("tellFaultsBy(page::tellFault);");
+        ending_.line("startPage(program);");
+    }
     ending_.close();
+}
+
+std::string ProgramWriter::programInfo() const {
+    const std::size_t memberCount = tables_.members.rows().size();
+    const std::size_t structureCount = program_.structures.size();
+    const std::size_t textCount = tables_.texts.rows().size();
+    return "{start, sources, " + std::to_string(program_.files.size()) + ", " +
+           (memberCount > 0 ? "members" : "nullptr") + ", " + std::to_string(memberCount) + ", " +
+           (structureCount > 0 ? "structures" : "nullptr") + ", " + std::to_string(structureCount) + ", " +
+           (textCount > 0 ? "texts, literals" : "nullptr, nullptr") + ", " + std::to_string(textCount) + "}";
 }
 
 } // namespace pozhil::resolved::writer

@@ -15,6 +15,8 @@ public:
     explicit ProgramWriter(const Program& program) : program_(program), tables_(program) {}
 
     EmittedLines write();
+    /// How many bytes at its head are the runtime of pages.
+    std::size_t runtimeLength() const { return runtimeLength_; }
 
 private:
     void writeFunctions();
@@ -29,6 +31,8 @@ private:
     void writeBuiltinValues();
     /// What the engine is told of the program, and main.
     void writeProgram();
+    /// The braces of what the engine is told.
+    std::string programInfo() const;
     void writeSources();
 
     const Program& program_;
@@ -38,6 +42,9 @@ private:
     EmittedLines declarations_;
     EmittedLines definitions_;
     EmittedLines ending_;
+    /// Of an application; empty in a console program.
+    EmittedLines pages_;
+    std::size_t runtimeLength_ = 0;
     /// The functions that carry out the statements of all files, in their order.
     std::vector<std::string> starts_;
 };

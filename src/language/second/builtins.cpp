@@ -76,6 +76,24 @@ constexpr Builtin BUILTINS[] = {
     {"நிமிடம்", Form::Part, 1, 1, "minute", Kind::Whole, false, {"நேரம்"}, {"நிமிடம்", "the minute"}, owner::TIME},
     {"வினாடி", Form::Part, 1, 1, "second", Kind::Whole, false, {"நேரம்"}, {"வினாடி", "the second"}, owner::TIME},
     {"வாரநாள்", Form::Part, 1, 1, "weekday", Kind::Whole, false, {"நேரம்"}, {"வாரத்தின் நாள்: ஞாயிறு 0, சனி 6", "the day of the week: 0 is Sunday, 6 is Saturday"}, owner::TIME},
+
+    // Of web applications.
+    {"செல்க", Form::PageCall, 1, 1, "page::go", Kind::Nothing, false, {"பக்கம்"}, {"பக்கத்திற்குச் செல்லும்", "goes to a page"}},
+    {"நகர்த்து", Form::PageCall, 1, 1, "page::scrollTo", Kind::Nothing, false, {"அடையாளம்"}, {"அந்த இடத்திற்கு உருட்டும்", "scrolls there"}},
+    {"திரை_அகலம்", Form::PageWord, 0, 0, "page::windowWidth", Kind::Decimal, false, {}, {"சாளரத்தின் அகலம்", "width of the window"}},
+    {"திரை_உயரம்", Form::PageWord, 0, 0, "page::windowHeight", Kind::Decimal, false, {}, {"சாளரத்தின் உயரம்", "height of the window"}},
+    {"உரைதரவு", Form::FieldPart, 1, 1, "page::fieldText", Kind::Text, false, {"பெட்டி"}, {"எழுதிய உரை", "the text"}},
+    {"வெறுமை", Form::FieldPart, 1, 1, "page::isFieldEmpty", Kind::Truth, false, {"பெட்டி"}, {"வெறுமையா?", "is it empty?"}},
+    {"வெறுமைஇல்லை", Form::FieldPart, 1, 1, "page::isFieldFilled", Kind::Truth, false, {"பெட்டி"}, {"ஏதேனும் எழுதப்பட்டுள்ளதா?", "is anything typed?"}},
+    {"நீளம்", Form::FieldPart, 1, 1, "page::fieldLength", Kind::Whole, false, {"பெட்டி"}, {"எழுத்துகளின் எண்ணிக்கை", "letters"}},
+    {"சுத்தம்", Form::FieldPart, 1, 1, "page::fieldTrimmed", Kind::Text, false, {"பெட்டி"}, {"முனைகளின் இடைவெளி இல்லாமல்", "trimmed"}},
+    {"பெரியஎழுத்து", Form::FieldPart, 1, 1, "page::fieldUpperCase", Kind::Text, false, {"பெட்டி"}, {"ஆங்கிலப் பெரிய எழுத்துகளில்", "in capitals"}},
+    {"சிறியஎழுத்து", Form::FieldPart, 1, 1, "page::fieldLowerCase", Kind::Text, false, {"பெட்டி"}, {"ஆங்கிலச் சிறிய எழுத்துகளில்", "in small letters"}},
+    {"கொண்டுள்ளது", Form::FieldMethod, 2, 2, "page::fieldContains", Kind::Truth, false, {"பெட்டி", "உரை"}, {"உள்ளதா", "contains"}},
+    {"தொடக்கம்", Form::FieldMethod, 2, 2, "page::fieldStartsWith", Kind::Truth, false, {"பெட்டி", "உரை"}, {"தொடங்குகிறதா", "begins with"}},
+    {"முடிவு", Form::FieldMethod, 2, 2, "page::fieldEndsWith", Kind::Truth, false, {"பெட்டி", "உரை"}, {"முடிகிறதா", "ends in"}},
+    {"பிழைசெய்தி", Form::FieldMethod, 2, 2, "page::setFieldError", Kind::Nothing, false, {"பெட்டி", "செய்தி"}, {"சிவப்புக் கரையும் கீழே செய்தியும்; தட்டச்சு செய்ததும் நீங்கும்", "a red border and a message below; typing clears it"}},
+    {"பிழை_அழி", Form::FieldMethod, 1, 1, "page::clearFieldError", Kind::Nothing, false, {"பெட்டி"}, {"பிழையை நீக்கும்", "clears the error"}},
 };
 // clang-format on
 

@@ -15,7 +15,12 @@ enum class BuiltinForm : std::uint8_t {
     Call,   ///< name(a)
     Method, ///< value.name(a); the value counts as the first argument
     Part,   ///< value.name, without brackets; the value is the only argument
-    Clock   ///< நேரம்.name()
+    Clock,  ///< நேரம்.name()
+    // In programs with a web application only.
+    PageCall,   ///< name(a)
+    PageWord,   ///< name
+    FieldPart,  ///< field.name, without brackets; the name of the field, as a text, is the only argument
+    FieldMethod ///< field.name(a); the name of the field, as a text, counts as the first argument
 };
 
 /// What a value is certain to be; the names of the kinds stand in analysis.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "parser/tree/application.h"
+#include "parser/tree/database.h"
 #include "parser/tree/definitions.h"
 #include "parser/tree/expressions.h"
 #include "parser/tree/statements.h"
@@ -68,13 +70,15 @@ struct EnumerationStatement : Statement {
 using SecondExpressionClasses =
     NodeClasses<VariableAccess, NumberLiteral, StringLiteral, CallExpression, BinaryExpression, PlaceAssignment,
                 GetExpression, IndexExpression, BooleanLiteral, DoubleLiteral, GroupingExpression, LogicalExpression,
-                UnaryExpression, ListLiteral, KeyedMapLiteral, LambdaExpression, FunctionExpression, TernaryExpression>;
+                UnaryExpression, ListLiteral, KeyedMapLiteral, LambdaExpression, FunctionExpression, TernaryExpression,
+                RTDBInsertExpression, RTDBUpdateExpression, RTDBDeleteExpression>;
 
 /// Statements of the second edition, those that programs use most first.
 using SecondStatementClasses =
     NodeClasses<ExpressionStatement, PrintStatement, IfStatement, ReturnStatement, ForStatement, WhileStatement,
                 FunctionDefinitionStatement, BlockStatement, BreakStatement, ContinueStatement, PassStatement,
                 TryCatchStatement, SwitchStatement, WaitStatement, StructDefinitionStatement,
-                AbstractStructDefinitionStatement, FileVariablesStatement, ImportStatement, EnumerationStatement>;
+                AbstractStructDefinitionStatement, FileVariablesStatement, ImportStatement, EnumerationStatement,
+                WebAppNode, RTDBReadStatement>;
 
 } // namespace pozhil

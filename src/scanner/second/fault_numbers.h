@@ -55,7 +55,7 @@ constexpr int PART_WITHOUT_STATEMENT = 542;
 constexpr int FILE_VARIABLES_OUTSIDE_FUNCTION = 543;
 constexpr int IMPORT_PATH = 544;
 constexpr int NO_SUCH_FILE = 545;
-constexpr int WEB_APPLICATION = 546;
+
 constexpr int NESTED_TOO_DEEP = 547;
 constexpr int RESERVED_WORD = 548;
 constexpr int SPLIT_WORD = 549;

@@ -83,6 +83,7 @@ export function webTest(name, source, ...rest) {
         await withPage(context, async page => {
             page.address = server.add(built);
             page.files = built;
+            page.openBuilt = other => page.open(server.add(other));
             if (open) {
                 await page.open(page.address);
             }

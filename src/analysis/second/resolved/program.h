@@ -7,7 +7,12 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
+
+namespace pozhil {
+struct WebAppNode;
+} // namespace pozhil
 
 namespace pozhil::resolved {
 
@@ -65,6 +70,8 @@ struct Function {
     bool isPrivate = false;
     /// Somewhere its name stands for a value, so it can be called without being named.
     bool isValue = false;
+    /// It stands for the frames of a page.
+    bool isPage = false;
 };
 
 /// A field of a structure.
@@ -99,6 +106,20 @@ struct File {
     std::unique_ptr<Block> body;
 };
 
+/// A page of a web application.
+struct Page {
+    const WebAppNode* tree = nullptr;
+    /// Each of its calls is a frame: its statements evaluate, in the order of the text, what the widgets show and what
+    /// happens when they are used. Its values are written where the widgets need them.
+    const Function* frame = nullptr;
+};
+
+/// A value of a page, as a statement of its frame.
+struct PageValue {
+    const Evaluation* evaluation = nullptr;
+    const Function* frame = nullptr;
+};
+
 /// A whole program with every name resolved. It owns all that its parts point to.
 struct Program {
     /// In the order in which they run: what is imported before who imports it, the program's own file last.
@@ -108,6 +129,10 @@ struct Program {
     /// Parents before their children.
     std::vector<std::unique_ptr<Structure>> structures;
     std::vector<std::unique_ptr<Variable>> variables;
+    /// In the order of the text; none in a console program. The trees outlive the program.
+    std::vector<Page> pages;
+    /// The values of pages, by their nodes in the tree; the statements of a handler by their list.
+    std::unordered_map<const void*, PageValue> pageValues;
 };
 
 } // namespace pozhil::resolved

@@ -5,6 +5,7 @@
 #include "language/widget_words.h"
 
 #include <optional>
+#include <utility>
 
 namespace pozhil {
 namespace {
@@ -88,24 +89,35 @@ void collectFiles(const Statement* statement, std::set<std::string>& files) {
 } // namespace
 
 Application readApplication(const Program& program) {
-    Application application;
+    std::vector<const WebAppNode*> pages;
     for (const StatementPtr& statement : program.statements) {
         if (const auto* app = nodeCast<WebAppNode>(statement.get())) {
-            application.pages.push_back(app);
+            pages.push_back(app);
         }
+    }
+    Application application = readApplication(std::move(pages));
+    for (const StatementPtr& statement : program.statements) {
         collectFiles(statement.get(), application.files);
     }
-    if (!application.pages.empty()) {
-        const WebAppNode& first = *application.pages.front();
-        const auto* header = nodeCast<HeaderNode>(first.header.get());
-        application.windowName = first.name;
+    return application;
+}
+
+Application readApplication(std::vector<const WebAppNode*> pages) {
+    Application application;
+    for (const WebAppNode* page : pages) {
+        collectFiles(page, application.files);
+    }
+    if (!pages.empty()) {
+        const auto* header = nodeCast<HeaderNode>(pages.front()->header.get());
+        application.windowName = pages.front()->name;
         application.screen = header == nullptr ? ScreenConfig() : header->screen;
     }
-    application.startPage = startPageOf(application.pages);
-    application.title = headerText(application.pages, "இணைய_தலைப்பு");
-    application.icon = headerText(application.pages, "சின்னம்");
-    application.background = headerText(application.pages, "பின்னணி");
-    application.video = headerText(application.pages, "பின்னணிகாணொளி");
+    application.startPage = startPageOf(pages);
+    application.title = headerText(pages, "இணைய_தலைப்பு");
+    application.icon = headerText(pages, "சின்னம்");
+    application.background = headerText(pages, "பின்னணி");
+    application.video = headerText(pages, "பின்னணிகாணொளி");
+    application.pages = std::move(pages);
     return application;
 }
 

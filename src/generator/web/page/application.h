@@ -31,6 +31,9 @@ struct Application {
 /// \param program outlives the record
 Application readApplication(const Program& program);
 
+/// \param pages of a program, in order; they outlive the record
+Application readApplication(std::vector<const WebAppNode*> pages);
+
 /// The name of the page that \p app describes, "home" if its header gives none.
 std::string pageName(const WebAppNode& app);
 

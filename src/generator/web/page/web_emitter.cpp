@@ -6,10 +6,12 @@
 #include "generator/web/write/colours.h"
 #include "generator/web/write/widget_properties.h"
 
+#include <utility>
+
 namespace pozhil {
 
-WebEmitter::WebEmitter(CodeWriter& out, Edition& edition, const Program& program)
-    : out_(out), edition_(edition), application_(readApplication(program)), widgets_(out, edition) {}
+WebEmitter::WebEmitter(CodeWriter& out, Edition& edition, Application application)
+    : out_(out), edition_(edition), application_(std::move(application)), widgets_(out, edition) {}
 
 void WebEmitter::writeDatabaseSetup() {
     for (const WebAppNode* app : application_.pages) {

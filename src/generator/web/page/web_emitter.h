@@ -15,8 +15,8 @@ namespace pozhil {
 /// wherever the source has them.
 class WebEmitter {
 public:
-    /// \param out, edition, program outlive the emitter; the edition writes to the same text
-    WebEmitter(CodeWriter& out, Edition& edition, const Program& program);
+    /// \param out, edition, and the trees of the application outlive the emitter; the edition writes to the same text
+    WebEmitter(CodeWriter& out, Edition& edition, Application application);
 
     /// The applications of the program, one page each, in order. A console program has none.
     const std::vector<const WebAppNode*>& applications() const { return application_.pages; }

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "parser/tree/expressions.h"
+#include "parser/tree/widgets.h"
+
+#include <string>
+#include <string_view>
+
+namespace pozhil::second {
+
+/// Goes over what the widgets of a page take from the program, in the order of the tree.
+class PageWalk {
+public:
+    void walk(const WebAppNode& application);
+    void walk(const WidgetNode& widget);
+
+protected:
+    ~PageWalk() = default;
+
+    /// A value that is evaluated anew whenever the widget is drawn or used.
+    virtual void onValue(const Expression& value) = 0;
+    /// Statements that a press carries out, as a function would.
+    virtual void onHandler(const WidgetNode& widget) = 0;
+    /// The name of a variable, as a text, that the widget shows or changes.
+    virtual void onVariableName(const StringLiteral& name) = 0;
+    /// The name of a variable that holds whether a control is on, as a text. The control may be the first to give it a value.
+    virtual void onStateName(const StringLiteral& name) = 0;
+    /// The name that the program calls a widget by, as a text.
+    virtual void onWidgetName(const std::string& name) = 0;
+
+private:
+    void walkProperty(const WidgetNode& widget, const std::string& name, const Expression* value);
+    void walkSize(const Expression* size);
+};
+
+/// The logic of an application, null if it has none.
+const BlockStatement* logicOf(const WebAppNode& application);
+
+} // namespace pozhil::second

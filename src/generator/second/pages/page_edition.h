@@ -1,0 +1,71 @@
+#pragma once
+
+#include "generator/second/program_tables.h"
+#include "generator/web/write/edition.h"
+
+#include <string>
+
+namespace pozhil {
+class WebEmitter;
+}
+
+namespace pozhil::resolved::writer {
+
+/// How pages reach the values of the second edition, which the analysis has resolved: by their nodes in the tree. A fault in
+/// one of them is told, and the page goes on without what it belongs to.
+class PageEdition final : public Edition {
+public:
+    /// \param program, tables, out outlive the edition; what widgets write goes to \p out
+    PageEdition(const Program& program, ProgramTables& tables, CodeWriter& out)
+        : program_(program), tables_(tables), out_(out) {}
+
+    /// Whoever writes the widgets that stand in values.
+    void setEmitter(WebEmitter& emitter) { emitter_ = &emitter; }
+
+    Filling text(const pozhil::Expression* value, const std::string& otherwise) override;
+    Filling shownText(const pozhil::Expression* value, const std::string& otherwise) override;
+    Filling number(const pozhil::Expression& value) override;
+    Filling truth(const pozhil::Expression& value) override;
+    Filling equality(const pozhil::Expression& left, const pozhil::Expression& right) override;
+    std::string literal(const std::string& text) const override;
+    std::string valueType() const override { return "Value"; }
+
+    std::string computedSize(const pozhil::Expression& size, const std::string& base) override;
+    std::string sizeCondition(const pozhil::Expression& condition, const std::string& base) override;
+
+    /// By the variable that காட்சி_பெயர் names. A dialog waits until it says so; anything else is there until it says no.
+    std::optional<Visibility> visibility(const WidgetNode& widget) override;
+    void writeTruthRead(WidgetWriter& control, const std::string& state) override;
+    void writeTruthChange(WidgetWriter& control, const std::string& state) override;
+    void writeWindowSize(CodeWriter& out) override;
+    void writeOpenAlerts(CodeWriter& out) override;
+    void writeDrawing(CodeWriter& out) override;
+
+    /// The function pozhil_program_shows of the emitted program: whether the variable of a name shows the widgets that name it,
+    /// for whoever mirrors the page.
+    void writeShownNames(CodeWriter& out);
+
+    void writeHandler(WidgetWriter& widget, const pozhil::Expression& handler, HandlerSite site) override;
+    void writeHandlerStatements(WidgetWriter& widget, const pozhil::StatementList& statements) override;
+    void writeMessageFunction(WidgetWriter& bar, const Filling& message, const ByteColour& colour) override;
+    MessageBar messageBar() const override;
+
+    void writeStatement(const pozhil::Statement* statement) override;
+    void writeBody(const pozhil::StatementList& statements) override;
+    Fault faultWithoutPlace(const std::string& code, std::int32_t line, const std::string& details) const override;
+
+private:
+    /// The variable of the program that holds whether the control is on, null if it has none.
+    const Variable* stateOf(const WidgetWriter& control) const;
+    const PageValue& valueOf(const void* node) const;
+    std::string written(const void* node);
+    void writeCall(WidgetWriter& widget, const void* handler);
+    std::string visibilityCondition(const pozhil::Expression& name, const std::string& atFirst);
+
+    const Program& program_;
+    ProgramTables& tables_;
+    CodeWriter& out_;
+    WebEmitter* emitter_ = nullptr;
+};
+
+} // namespace pozhil::resolved::writer

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "emit/emitted_block.h"
+
+/// Fixed texts of applications of the second edition, each the file of its name in text/, embedded by the build.
+namespace pozhil::second_page_text {
+
+/// What a page gives its program: window, message bar, fields, faults.
+extern const Block page_functions;
+
+} // namespace pozhil::second_page_text

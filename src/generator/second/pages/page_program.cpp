@@ -1,0 +1,65 @@
+#include "generator/second/pages/page_program.h"
+
+#include "emit/code_writer.h"
+#include "generator/second/literals.h"
+#include "generator/second/pages/page_edition.h"
+#include "generator/second/pages/page_functions_text.h"
+#include "generator/web/page/runtime_text.h"
+#include "generator/web/page/web_emitter.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace pozhil::resolved::writer {
+namespace {
+
+namespace page = page_runtime;
+
+Application applicationOf(const Program& program) {
+    std::vector<const WebAppNode*> pages;
+    pages.reserve(program.pages.size());
+    for (const Page& page : program.pages) {
+        pages.push_back(page.tree);
+    }
+    return readApplication(std::move(pages));
+}
+
+} // namespace
+
+EmittedLines PageProgram::head() const {
+    EmittedLines lines;
+    for (const std::string_view section : {page::page_headers, page::web_text_layer, page::page_state, page::overlays}) {
+        lines.lines(section);
+    }
+    lines.lines(page::navigationFrom(textLiteral(applicationOf(program_).startPage)));
+    lines.lines(page::input_state);
+    lines.lines(page::canvas_keys);
+    lines.lines(page::bridgeWith("", ""));
+    for (const std::string_view section : {page::animation_engine, page::scrolling, page::web_boilerplate,
+                                           page::input_fields, page::media_elements, page::frame_helpers}) {
+        lines.lines(section);
+    }
+    lines.line("#include <cstring>");
+    lines.line("#include \"engine/program.h\"");
+    lines.line("#include \"engine/page.h\"");
+    lines.line("using namespace pozhil::engine;");
+    lines.line("");
+    lines.lines(second_page_text::page_functions.text());
+    return lines;
+}
+
+EmittedLines PageProgram::pages() {
+    CodeWriter out;
+    PageEdition edition(program_, tables_, out);
+    WebEmitter emitter(out, edition, applicationOf(program_));
+    edition.setEmitter(emitter);
+    edition.writeShownNames(out);
+    emitter.writeProgram();
+    EmittedLines lines;
+    lines.setPlace(program_.pages.front().frame->place);
+    lines.lines(out.text());
+    return lines;
+}
+
+} // namespace pozhil::resolved::writer

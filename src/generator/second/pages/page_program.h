@@ -1,0 +1,28 @@
+#pragma once
+
+#include "generator/second/emitted_lines.h"
+#include "generator/second/program_tables.h"
+
+#include <cstddef>
+
+namespace pozhil::resolved::writer {
+
+/// Writes what an application has besides the functions of its program: the runtime of pages before them, and its pages
+/// after them.
+class PageProgram {
+public:
+    /// \param program has pages
+    PageProgram(const Program& program, ProgramTables& tables) : program_(program), tables_(tables) {}
+
+    /// All up to the program: the runtime of pages, the engine, and what pages give their programs.
+    EmittedLines head() const;
+
+    /// The frame function and main, which calls init_globals first.
+    EmittedLines pages();
+
+private:
+    const Program& program_;
+    ProgramTables& tables_;
+};
+
+} // namespace pozhil::resolved::writer
