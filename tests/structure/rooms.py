@@ -64,7 +64,14 @@ ROOMS = {
         "src/generator/web/measure",
         "src/generator/web/page",
     ],
-    "src/generator/second": ["src/base", "src/language", "src/parser/tree", "src/analysis/second"],
+    "src/generator/second": [
+        *FLOOR,
+        "src/parser/tree",
+        "src/emit",
+        "src/analysis/second",
+        "src/generator/web/write",
+        "src/generator/web/page",
+    ],
     "src/installation": ["உள்ளடக்கம்", "src/generator/first/runtime"],
     "src/driver/console": ["உள்ளடக்கம்", "src/report", *SYSTEM, "src/front_end"],
     "src/driver": [

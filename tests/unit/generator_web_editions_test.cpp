@@ -155,7 +155,7 @@ std::string pageOf(std::unique_ptr<WidgetNode> widget, PropertyMap header = {}) 
     program.statements.push_back(make<WebAppNode>(SOURCE_TEXT, nullptr, std::move(head), std::move(widget), nullptr));
     CodeWriter out;
     MarkEdition edition(out);
-    WebEmitter(out, edition, program).writeProgram();
+    WebEmitter(out, edition, readApplication(program)).writeProgram();
     return out.text();
 }
 
@@ -269,7 +269,7 @@ template <class Write> std::string writtenBy(Write write) {
     const Program program;
     CodeWriter out;
     MarkEdition edition(out);
-    WebEmitter web(out, edition, program);
+    WebEmitter web(out, edition, readApplication(program));
     write(web);
     return out.text();
 }

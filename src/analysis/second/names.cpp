@@ -19,7 +19,8 @@ public:
             VariableFacts& facts = model_.variables[variable];
             facts.isFilledFromOutside |= given.by == GivenName::By::Loop || given.by == GivenName::By::Control;
             facts.isGivenInText = true;
-            facts.isAssignedByPublic |= variable->owner == nullptr && (scope_.function != nullptr || given.by == GivenName::By::Control);
+            facts.isAssignedByPublic |=
+                variable->owner == nullptr && (scope_.function != nullptr || given.by == GivenName::By::Control);
             if (given.value != nullptr) {
                 facts.values.push_back(given.value);
             }

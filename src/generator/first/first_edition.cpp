@@ -5,8 +5,9 @@ namespace pozhil {
 FirstEdition::FirstEdition(const Program& program, const FunctionTable& functions, const StructTable& structures,
                            const AbstractStructTable& abstracts, const std::string& path, std::string_view source)
     : pages_(program), analysis_(functions, structures, abstracts, path, source, pages_),
-      web_(out_, *this, readApplication(program)), emission_{out_, analysis_.facts(), analysis_.structures(), functions, path, web_},
-      expressions_(emission_), statements_(emission_, expressions_) {
+      web_(out_, *this, readApplication(program)),
+      emission_{out_, analysis_.facts(), analysis_.structures(), functions, path, web_}, expressions_(emission_),
+      statements_(emission_, expressions_) {
     pages_.setAnalysis(analysis_);
 }
 

@@ -101,7 +101,8 @@ std::string PageEdition::literal(const std::string& text) const {
 }
 
 std::string PageEdition::computedSize(const pozhil::Expression& size, const std::string&) {
-    return "(float)pageNumber(" + written(&size) + ", " + tables_.places.literal(valueOf(&size).evaluation->place) + ")";
+    return "(float)pageNumber(" + written(&size) + ", " + tables_.places.literal(valueOf(&size).evaluation->place) +
+           ")";
 }
 
 std::string PageEdition::sizeCondition(const pozhil::Expression& condition, const std::string&) {
@@ -202,11 +203,10 @@ template <class Draw> void pozhil_draw(Draw draw) {
 
 void PageEdition::writeHandler(WidgetWriter& widget, const pozhil::Expression& handler, HandlerSite) {
     if (asWidget(&handler) != nullptr) {
-        widget.block("page::handle([&] {\n    $bar\n});\n",
-                     {{"bar", widget.blocks([&] {
-                          emitter_->writeExpression(&handler);
-                          out_ << ";\n";
-                      })}});
+        widget.block("page::handle([&] {\n    $bar\n});\n", {{"bar", widget.blocks([&] {
+                                                                  emitter_->writeExpression(&handler);
+                                                                  out_ << ";\n";
+                                                              })}});
         return;
     }
     writeCall(widget, &handler);
@@ -219,19 +219,17 @@ void PageEdition::writeHandlerStatements(WidgetWriter& widget, const pozhil::Sta
 void PageEdition::writeCall(WidgetWriter& widget, const void* handler) {
     const PageValue& value = valueOf(handler);
     const std::string text = written(handler);
-    const std::string call =
-        isDeed(*value.evaluation->value)
-            ? text
-            : "callHandler(" + text + ", " + tables_.places.literal(value.evaluation->place) + ")";
+    const std::string call = isDeed(*value.evaluation->value)
+                                 ? text
+                                 : "callHandler(" + text + ", " + tables_.places.literal(value.evaluation->place) + ")";
     widget.block("page::handle([&] { $call; });\n", {{"call", call}});
 }
 
 void PageEdition::writeMessageFunction(WidgetWriter& bar, const Filling& message, const ByteColour& colour) {
-    bar.block("page::showMessage($message, $r, $g, $b)",
-              {{"message", message},
-               {"r", std::to_string(colour.red)},
-               {"g", std::to_string(colour.green)},
-               {"b", std::to_string(colour.blue)}});
+    bar.block("page::showMessage($message, $r, $g, $b)", {{"message", message},
+                                                          {"r", std::to_string(colour.red)},
+                                                          {"g", std::to_string(colour.green)},
+                                                          {"b", std::to_string(colour.blue)}});
 }
 
 MessageBar PageEdition::messageBar() const {

@@ -29,7 +29,8 @@ Application applicationOf(const Program& program) {
 
 EmittedLines PageProgram::head() const {
     EmittedLines lines;
-    for (const std::string_view section : {page::page_headers, page::web_text_layer, page::page_state, page::overlays}) {
+    for (const std::string_view section :
+         {page::page_headers, page::web_text_layer, page::page_state, page::overlays}) {
         lines.lines(section);
     }
     lines.lines(page::navigationFrom(textLiteral(applicationOf(program_).startPage)));

@@ -23,7 +23,8 @@ void emitRectangle(WidgetWriter& image) {
     std::string path = $path;
     bool isGif = path.size() >= 4 && (path.substr(path.size() - 4) == ".gif" || path.substr(path.size() - 4) == ".GIF");
 )",
-                {{"radius", numberConstant(image.widget(), {"வளைவு"}, 0.0F)}, {"path", image.edition().literal(pictureFile(image.widget()))}});
+                {{"radius", numberConstant(image.widget(), {"வளைவு"}, 0.0F)},
+                 {"path", image.edition().literal(pictureFile(image.widget()))}});
 }
 
 /// படம்: a picture from a file, stretched to its box; an animated one is played by the browser.
