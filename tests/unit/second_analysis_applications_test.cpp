@@ -121,3 +121,29 @@ TEST(SecondApplicationFaults, FunctionsOfPagesArePartOfApplicationsOnly) {
     EXPECT_THAT(meaningFaults("செல்க(\"ஆ\")\n"), ElementsAre(HasSubstr("552 1 'செல்க'")));
     EXPECT_THAT(meaningFaults("அச்சிடு(திரை_அகலம்)\n"), ElementsAre(HasSubstr("551 1 'திரை_அகலம்'")));
 }
+
+// Widgets that come once for each element of a list.
+
+TEST(SecondApplications, ElementsAreParametersOfWhatTheirWidgetsShow) {
+    const std::string text =
+        resolvedText(application("நெடுவரிசை(ஒவ்வொன்றும்(பட்டியல்: ப, உருப்படி: எ, சாவி: எ)(உரை(எ), உரை(இடம்)), உரை(இடம்))",
+                                 "    ப = [1]\n    இடம் = 5\n"));
+    EXPECT_THAT(text, HasSubstr("ஒவ்வொன்றும்(எ, இடம்): {(do எ) (do எ) (do இடம்)}"));
+    EXPECT_THAT(text, HasSubstr("பக்கம்(): {(do ::ப) (do ::இடம்)}"));
+}
+
+TEST(SecondApplications, HandlersOfElementsShareTheElement) {
+    const std::string text = resolvedText(
+        application("நெடுவரிசை(ஒவ்வொன்றும்(பட்டியல்: ப, உருப்படி: எ)(பொத்தான்(உரை: \"அ\", அழுத்தினால்: () => f(எ))))",
+                    "    ப = [1]\n    செயல் f(அ):\n        அச்சிடு(அ)\n"));
+    EXPECT_THAT(text, HasSubstr("ஒவ்வொன்றும்(^எ, இடம்): {"));
+}
+
+TEST(SecondApplications, ElementsAreCopiesThatNobodyAssigns) {
+    for (const char* handler : {"() => எ = 5", "() => எ[0] = 5", "() => இடம் = 5"}) {
+        const std::string source = application(
+            "நெடுவரிசை(ஒவ்வொன்றும்(பட்டியல்: ப, உருப்படி: எ)(பொத்தான்(உரை: \"அ\", அழுத்தினால்: " + std::string(handler) + ")))",
+            "    ப = [1]\n");
+        EXPECT_THAT(meaningFaults(source), ElementsAre(HasSubstr("598 3"))) << handler;
+    }
+}

@@ -3,6 +3,7 @@
 #include "analysis/second/fault_numbers.h"
 #include "base/scoped_value.h"
 #include "front_end/second_edition.h"
+#include "language/second/widgets.h"
 #include "parser/tree/shapes.h"
 
 #include <memory>
@@ -341,6 +342,21 @@ void Collector::visit(const WebAppNode& node) {
     Scope* const before = std::exchange(scope_, &frame);
     walk(node);
     scope_ = before;
+}
+
+/// Each element is like a call of a function with the element and its index.
+void Collector::enterEach(const EachNode& each) {
+    static const Token INDEX{TokenType::IDENTIFIER, std::string(language::second::EACH_INDEX), 0};
+    Scope& scope = openScope(&each, each.kind, model_.locations.of(file_, &each));
+    scope.function->isPage = true;
+    for (const Token* name : {&each.element, &INDEX}) {
+        addParameter(scope, &each, *name, false);
+    }
+    scope_ = &scope;
+}
+
+void Collector::leaveEach(const EachNode&) {
+    scope_ = scope_->outer;
 }
 
 void Collector::onHandler(const WidgetNode& widget) {

@@ -72,6 +72,8 @@ private:
     void onVariableName(const StringLiteral& name) override { mention(name.value, Use::Read); }
     void onStateName(const StringLiteral& name) override;
     void onWidgetName(const std::string& name) override { model_.applications[file_].widgetNames.insert(name); }
+    void enterEach(const EachNode& each) override;
+    void leaveEach(const EachNode& each) override;
     void onHandler(const WidgetNode& widget) override;
     void tellDatabase(const void* node);
     void collectLogic(const BlockStatement* logic);

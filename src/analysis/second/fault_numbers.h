@@ -29,6 +29,7 @@ constexpr int BREAK_OUTSIDE_LOOP = 559;
 constexpr int CONTINUE_OUTSIDE_LOOP = 560;
 constexpr int RETURN_OUTSIDE_FUNCTION = 561;
 constexpr int CHANGED_CONSTANT = 572;
+constexpr int CHANGED_ELEMENT = 598;
 constexpr int NO_PLACE = 573;
 constexpr int NO_PLACE_TO_CHANGE = 574;
 constexpr int DOUBLE_KEY = 579;

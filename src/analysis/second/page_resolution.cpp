@@ -3,6 +3,7 @@
 #include "analysis/second/suggestions.h"
 
 #include <utility>
+#include <vector>
 
 namespace pozhil::second {
 namespace {
@@ -10,23 +11,31 @@ namespace {
 /// Makes a statement of every value that the widgets of a page take from the program.
 class PageMaker : public PageWalk {
 public:
-    explicit PageMaker(Resolution& resolution) : resolution_(resolution) {}
+    explicit PageMaker(const Resolution& resolution) { open(resolution); }
 
-    resolved::BlockPtr take() { return std::move(block_); }
+    resolved::BlockPtr take() { return std::move(parts_.back().block); }
 
 protected:
-    void onValue(const Expression& value) override { add(&value, resolveValue(resolution_, &value)); }
+    void onValue(const Expression& value) override { add(&value, resolveValue(now(), &value)); }
+
+    void enterEach(const EachNode& each) override { open({now().model, *now().model.scopeOf.at(&each)}); }
+
+    void leaveEach(const EachNode& each) override {
+        now().model.program.elements[&each] = now().scope.function;
+        now().scope.function->body = take();
+        parts_.pop_back();
+    }
 
     void onHandler(const WidgetNode& widget) override {
-        const resolved::Function* const function = resolution_.model.scopeOf.at(&widget.eventStatements)->function;
-        add(&widget.eventStatements, functionValue(resolution_, function, resolution_.placeOf(&widget)));
+        const resolved::Function* const function = now().model.scopeOf.at(&widget.eventStatements)->function;
+        add(&widget.eventStatements, functionValue(now(), function, now().placeOf(&widget)));
     }
 
     void onVariableName(const StringLiteral& name) override {
-        const resolved::Place place = resolution_.placeOf(&name);
-        const Meaning meaning = resolution_.meaningOf(name.value, Use::Read);
+        const resolved::Place place = now().placeOf(&name);
+        const Meaning meaning = now().meaningOf(name.value, Use::Read);
         if (meaning.variable == nullptr) {
-            tellUnknownName(resolution_, name.value, place);
+            tellUnknownName(now(), name.value, place);
             return;
         }
         auto read = makeNode<resolved::VariableRead>(place);
@@ -38,15 +47,24 @@ protected:
     void onWidgetName(const std::string&) override {}
 
 private:
+    /// The page itself, or what each element of a list shows.
+    struct Part {
+        Resolution resolution;
+        resolved::BlockPtr block = std::make_unique<resolved::Block>();
+    };
+
+    void open(const Resolution& resolution) { parts_.push_back({resolution}); }
+
+    Resolution& now() { return parts_.back().resolution; }
+
     void add(const void* node, resolved::ExpressionPtr value) {
         auto evaluation = makeNode<resolved::Evaluation>(value->place);
         evaluation->value = std::move(value);
-        resolution_.model.program.pageValues[node] = {evaluation.get(), resolution_.scope.function};
-        block_->statements.push_back(std::move(evaluation));
+        now().model.program.pageValues[node] = {evaluation.get(), now().scope.function};
+        parts_.back().block->statements.push_back(std::move(evaluation));
     }
 
-    Resolution& resolution_;
-    resolved::BlockPtr block_ = std::make_unique<resolved::Block>();
+    std::vector<Part> parts_;
 };
 
 } // namespace

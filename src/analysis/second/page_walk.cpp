@@ -1,6 +1,7 @@
 #include "analysis/second/page_walk.h"
 
 #include "language/property_words.h"
+#include "language/second/widgets.h"
 #include "language/widgets.h"
 
 #include <algorithm>
@@ -41,6 +42,11 @@ bool isConstant(const Expression& value) {
     return nodeCast<ColorExpression>(&value) != nullptr || nodeCast<PercentageLiteral>(&value) != nullptr;
 }
 
+const Expression* propertyOf(const EachNode& each, std::string_view name) {
+    const auto found = each.properties.find(std::string(name));
+    return found == each.properties.end() ? nullptr : found->second.get();
+}
+
 bool endsInPercent(const std::string& text) {
     return !text.empty() && text.back() == '%';
 }
@@ -56,17 +62,37 @@ void PageWalk::walk(const WebAppNode& application) {
 }
 
 void PageWalk::walk(const WidgetNode& widget) {
+    if (const auto* each = dynamic_cast<const EachNode*>(&widget)) {
+        walkEach(*each);
+        return;
+    }
     for (const auto& [name, value] : widget.properties) {
         walkProperty(widget, name, value.get());
     }
     if (!widget.eventStatements.empty()) {
         onHandler(widget);
     }
+    walkChildren(widget);
+}
+
+void PageWalk::walkChildren(const WidgetNode& widget) {
     for (const StatementPtr& child : widget.children) {
         if (const auto* inner = dynamic_cast<const WidgetNode*>(child.get())) {
             walk(*inner);
         }
     }
+}
+
+void PageWalk::walkEach(const EachNode& each) {
+    if (const Expression* list = listOf(each)) {
+        onValue(*list);
+    }
+    enterEach(each);
+    if (const Expression* key = keyOf(each)) {
+        onValue(*key);
+    }
+    walkChildren(each);
+    leaveEach(each);
 }
 
 void PageWalk::walkProperty(const WidgetNode& widget, const std::string& name, const Expression* value) {
@@ -109,6 +135,14 @@ void PageWalk::walkSize(const Expression* size) {
             onValue(*size);
         }
     }
+}
+
+const Expression* listOf(const EachNode& each) {
+    return propertyOf(each, language::second::EACH_LIST);
+}
+
+const Expression* keyOf(const EachNode& each) {
+    return propertyOf(each, language::second::EACH_KEY);
 }
 
 const BlockStatement* logicOf(const WebAppNode& application) {

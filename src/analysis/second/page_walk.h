@@ -19,6 +19,9 @@ protected:
 
     /// A value that is evaluated anew whenever the widget is drawn or used.
     virtual void onValue(const Expression& value) = 0;
+    /// What comes until leaveEach() does so for each element of the list, whose value is told before.
+    virtual void enterEach(const EachNode& each) = 0;
+    virtual void leaveEach(const EachNode& each) = 0;
     /// Statements that a press carries out, as a function would.
     virtual void onHandler(const WidgetNode& widget) = 0;
     /// The name of a variable, as a text, that the widget shows or changes.
@@ -29,9 +32,15 @@ protected:
     virtual void onWidgetName(const std::string& name) = 0;
 
 private:
+    void walkChildren(const WidgetNode& widget);
+    void walkEach(const EachNode& each);
     void walkProperty(const WidgetNode& widget, const std::string& name, const Expression* value);
     void walkSize(const Expression* size);
 };
+
+/// What an ஒவ்வொன்றும் goes through, and what it knows an element by; null if it doesn't say.
+const Expression* listOf(const EachNode& each);
+const Expression* keyOf(const EachNode& each);
 
 /// The logic of an application, null if it has none.
 const BlockStatement* logicOf(const WebAppNode& application);

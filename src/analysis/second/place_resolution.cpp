@@ -62,6 +62,13 @@ bool changesConstant(const Expression* expression) {
     return root != nullptr && isConstantName(root->name);
 }
 
+/// The element of a list that a page shows, or its index, is a copy for as long as it is drawn.
+bool changesElement(const Resolution& resolution, const Expression* expression) {
+    const auto* const root = rootOf(expression);
+    const auto* const variable = root == nullptr ? nullptr : resolution.meaningOf(root->name, Use::Write).variable;
+    return variable != nullptr && variable->owner != nullptr && variable->owner->isPage;
+}
+
 } // namespace
 
 bool isPlace(const Resolution& resolution, const Expression* expression) {
@@ -91,12 +98,16 @@ resolved::TargetPtr resolveTarget(Resolution& resolution, const Expression* expr
         resolution.model.faults.add(fault::CHANGED_CONSTANT, resolution.placeOf(expression),
                                     {rootOf(expression)->name});
     }
+    if (changesElement(resolution, expression)) {
+        resolution.model.faults.add(fault::CHANGED_ELEMENT, resolution.placeOf(expression), {rootOf(expression)->name});
+    }
     return makeTarget(resolution, expression);
 }
 
 resolved::TargetPtr placeIfAny(Resolution& resolution, const Expression* expression) {
-    return isPlace(resolution, expression) && !changesConstant(expression) ? makeTarget(resolution, expression)
-                                                                           : nullptr;
+    const bool mayChange =
+        isPlace(resolution, expression) && !changesConstant(expression) && !changesElement(resolution, expression);
+    return mayChange ? makeTarget(resolution, expression) : nullptr;
 }
 
 bool isCompound(const PlaceAssignment& assignment) {

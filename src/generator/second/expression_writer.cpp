@@ -65,7 +65,8 @@ std::string ExpressionWriter::memberArguments(const std::string& member, const P
 }
 
 std::string ExpressionWriter::cellOf(const Variable& variable) const {
-    if (variable.owner == scope_.function) {
+    // What the elements of lists show stands inside of what shows the lists.
+    if (variable.owner == scope_.function || scope_.function->isPage) {
         return cellName(nameOf(variable)) + ".cell()";
     }
     const std::vector<Variable*>& captures = scope_.function->captures;

@@ -32,6 +32,17 @@ bool endsInReturn(const Block& body) {
 
 } // namespace
 
+std::string parameterName(const Parameter& parameter, const Names& names) {
+    const std::string& name = names.of(*parameter.variable);
+    return parameter.variable->isShared && !parameter.isMutable ? "p" + name.substr(1) : name;
+}
+
+std::string sharedParameter(const Parameter& parameter, const Names& names) {
+    const std::string& name = names.of(*parameter.variable);
+    return parameter.isMutable ? "const SharedPlace " + cellName(name) + "(" + name + ");"
+                               : sharedVariable(name, "(" + parameterName(parameter, names) + ")");
+}
+
 bool hasAdapter(const Function& function) {
     return function.body != nullptr && (function.isValue || function.structure != nullptr ||
                                         function.enclosing != nullptr || takesCaptures(function));
@@ -41,16 +52,11 @@ std::string FunctionWriter::shownName(const Function& function) {
     return function.structure == nullptr ? function.name : function.structure->name + "." + function.name;
 }
 
-std::string FunctionWriter::parameterName(const Parameter& parameter) const {
-    const std::string& name = tables_.names.of(*parameter.variable);
-    return parameter.variable->isShared && !parameter.isMutable ? "p" + name.substr(1) : name;
-}
-
 std::string FunctionWriter::parameterList(const Function& function) const {
     std::string list = takesCaptures(function) ? "const Closure& own, " : "";
     for (const Parameter& parameter : function.parameters) {
         list += std::string(nameOf(typeOf(*parameter.variable))) + (parameter.isMutable ? "& " : " ") +
-                parameterName(parameter) + ", ";
+                parameterName(parameter, tables_.names) + ", ";
     }
     return list + "Place at";
 }
@@ -123,15 +129,9 @@ void FunctionWriter::declareVariables(const Function& function, EmittedLines& li
     }
     for (const Parameter& parameter : function.parameters) {
         if (parameter.variable->isShared) {
-            shareParameter(parameter, lines);
+            lines.line(sharedParameter(parameter, tables_.names));
         }
     }
-}
-
-void FunctionWriter::shareParameter(const Parameter& parameter, EmittedLines& lines) {
-    const std::string& name = tables_.names.of(*parameter.variable);
-    lines.line(parameter.isMutable ? "const SharedPlace " + cellName(name) + "(" + name + ");"
-                                   : sharedVariable(name, "(" + parameterName(parameter) + ")"));
 }
 
 /// Takes the arguments out of an array, as the engine hands them over.

@@ -7,6 +7,12 @@
 
 namespace pozhil::resolved::writer {
 
+/// What the C++ parameter is called: as the variable, unless that gets a cell that functions share.
+std::string parameterName(const Parameter& parameter, const Names& names);
+
+/// The cell and the variable of a parameter that functions share: "Shared c_எ(p_எ); Value& v_எ = c_எ.value();"
+std::string sharedParameter(const Parameter& parameter, const Names& names);
+
 /// Writes functions, methods and lambdas as C++ functions, and how the engine calls those that are values or methods.
 class FunctionWriter {
 public:
@@ -23,13 +29,10 @@ public:
 private:
     /// "Value v_a, Value& v_b, Place at"
     std::string parameterList(const Function& function) const;
-    /// What the C++ parameter is called: as the variable, unless that gets a cell that functions share.
-    std::string parameterName(const Parameter& parameter) const;
     std::string head(const Function& function) const;
     std::string adapterHead(const Function& function) const;
     void defineAdapter(const Function& function, EmittedLines& lines);
     void declareVariables(const Function& function, EmittedLines& lines);
-    void shareParameter(const Parameter& parameter, EmittedLines& lines);
 
     ProgramTables& tables_;
 };

@@ -51,7 +51,7 @@ constexpr WidgetProperty COMMON_PROPERTIES[] = {
     {property::ALIGNMENT, "", ValueKind::Alignment, {"பெட்டிக்குள் நிற்கும் இடம்", "where it stands in a box"}},
     {"நகர்வு_X", "", ValueKind::Number, {"அடுக்கியில் வலமாக நகர்த்த", "moves it right in a stack"}},
     {"நகர்வு_Y", "", ValueKind::Number, {"அடுக்கியில் கீழாக நகர்த்த", "moves it down in a stack"}},
-    {"தெரிய", "", ValueKind::Truth, {"பொய் எனில் இடமே எடுக்காது", "takes no room while it is false"}},
+    {SHOWN, "", ValueKind::Truth, {"பொய் எனில் இடமே எடுக்காது", "takes no room while it is false"}},
 };
 
 constexpr WidgetProperty EACH_PROPERTIES[] = {

@@ -15,6 +15,12 @@ constexpr std::string_view EACH_LIST = "பட்டியல்";
 constexpr std::string_view EACH_ELEMENT = "உருப்படி";
 constexpr std::string_view EACH_KEY = "சாவி";
 
+/// The name by which the index of an element is known beside it.
+constexpr std::string_view EACH_INDEX = "இடம்";
+
+/// The property that says whether a widget is there.
+constexpr std::string_view SHOWN = "தெரிய";
+
 /// The key that may stand before a style block.
 constexpr std::string_view STYLE_KEY = "பாணி";
 

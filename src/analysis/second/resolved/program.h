@@ -11,6 +11,7 @@
 #include <vector>
 
 namespace pozhil {
+struct EachNode;
 struct WebAppNode;
 } // namespace pozhil
 
@@ -133,6 +134,8 @@ struct Program {
     std::vector<Page> pages;
     /// The values of pages, by their nodes in the tree; the statements of a handler by their list.
     std::unordered_map<const void*, PageValue> pageValues;
+    /// By the node of an ஒவ்வொன்றும், the function whose parameters are the element and its index.
+    std::unordered_map<const EachNode*, const Function*> elements;
 };
 
 } // namespace pozhil::resolved

@@ -3,11 +3,13 @@
 #include "analysis/second/page_walk.h"
 #include "emit/code_writer.h"
 #include "generator/second/expression_writer.h"
+#include "generator/second/function_writer.h"
 #include "generator/second/literals.h"
 #include "generator/web/page/web_emitter.h"
 #include "generator/web/write/widget_properties.h"
 #include "generator/web/write/widget_writer.h"
 #include "language/property_words.h"
+#include "language/second/widgets.h"
 #include "language/widget_words.h"
 
 #include <algorithm>
@@ -40,6 +42,8 @@ public:
 
 protected:
     void onValue(const pozhil::Expression&) override {}
+    void enterEach(const EachNode&) override {}
+    void leaveEach(const EachNode&) override {}
     void onVariableName(const StringLiteral& name) override { found.emplace(name.value, &name); }
     void onStateName(const StringLiteral&) override {}
     void onWidgetName(const std::string&) override {}
@@ -129,6 +133,88 @@ std::optional<Visibility> PageEdition::visibility(const WidgetNode& widget) {
     return Visibility{name->value, visibilityCondition(*name, isDialog(widget) ? "false" : "true")};
 }
 
+std::string PageEdition::shownWhile(const WidgetNode& widget) {
+    const pozhil::Expression* const condition = findProperty(widget, {language::second::SHOWN.data()});
+    return condition == nullptr ? "" : sizeCondition(*condition, "");
+}
+
+// Lists.
+
+const Function& PageEdition::functionOf(const EachNode& each) const {
+    return *program_.elements.at(&each);
+}
+
+std::string PageEdition::listArguments(const EachNode& each) {
+    const pozhil::Expression* const list = second::listOf(each);
+    return written(list) + ", " + tables_.places.literal(valueOf(list).evaluation->place);
+}
+
+std::string PageEdition::elementParameters(const EachNode& each) const {
+    std::string parameters;
+    for (const Parameter& parameter : functionOf(each).parameters) {
+        parameters += (parameters.empty() ? "Value " : ", Value ") + parameterName(parameter, tables_.names);
+    }
+    return "[&](" + parameters + ")";
+}
+
+std::string PageEdition::sharedElements(const EachNode& each) const {
+    std::string declarations;
+    for (const Parameter& parameter : functionOf(each).parameters) {
+        if (parameter.variable->isShared) {
+            declarations += sharedParameter(parameter, tables_.names) + " ";
+        }
+    }
+    return declarations;
+}
+
+std::string PageEdition::overElements(const char* gather, const EachNode& each, const Extent& ofOne) {
+    return std::string("page::") + gather + "(" + listArguments(each) + ", " + elementParameters(each) +
+           " -> float { " + sharedElements(each) + "return " + ofOne.text() + "; })";
+}
+
+Extent PageEdition::sumOverElements(const EachNode& each, const Extent& ofOne) {
+    if (!ofOne.isConstant()) {
+        return Extent::computed(overElements("sum", each, ofOne));
+    }
+    return Extent::computed("page::count(" + listArguments(each) + ")") * ofOne;
+}
+
+Extent PageEdition::largestOfElements(const EachNode& each, const Extent& ofOne) {
+    return ofOne.isConstant() ? onlyWhile("page::count(" + listArguments(each) + ") > 0.0f", ofOne)
+                              : Extent::computed(overElements("largest", each, ofOne));
+}
+
+void PageEdition::writeEach(WidgetWriter& layout, const EachNode& each, const Filling& body) {
+    const pozhil::Expression* const key = second::keyOf(each);
+    const std::string index = tables_.names.of(*functionOf(each).parameters.back().variable);
+    layout.block(R"(
+    page::each($list, $parameters {
+        $shared
+        const page::Element element($number, pageText($key));
+        $body
+    });
+)",
+                 {{"list", listArguments(each)},
+                  {"parameters", elementParameters(each)},
+                  {"shared", sharedElements(each)},
+                  {"number", layout.partNumber()},
+                  {"key", key == nullptr ? index : written(key)},
+                  {"body", body}});
+}
+
+Filling PageEdition::elementState(const std::string& type, const std::string& name, const Filling& first) const {
+    return Filling(std::vector<Filling>{
+        "page::ElementState<" + type + "> " + name + "(" + textLiteral(name) + ", (" + type + ")(", first, "))"});
+}
+
+std::string PageEdition::elementKey(const std::string& key) const {
+    return "page::elementKey(" + key + ")";
+}
+
+std::string PageEdition::elementName(const std::string& name) const {
+    return "page::elementName(" + name + ")";
+}
+
 const Variable* PageEdition::stateOf(const WidgetWriter& control) const {
     const auto* const name = nodeCast<StringLiteral>(findProperty(control.widget(), {language::property::ID.data()}));
     if (name == nullptr) {
@@ -158,7 +244,7 @@ void PageEdition::writeTruthChange(WidgetWriter& control, const std::string& sta
 }
 
 void PageEdition::writeWindowSize(CodeWriter& out) {
-    out.block("page::width = winWidth;\npage::height = winHeight;\n");
+    out.block("page::width = winWidth;\npage::height = winHeight;\npage::runHandlers();\n");
 }
 
 void PageEdition::writeOpenAlerts(CodeWriter& out) {
@@ -203,7 +289,7 @@ template <class Draw> void pozhil_draw(Draw draw) {
 
 void PageEdition::writeHandler(WidgetWriter& widget, const pozhil::Expression& handler, HandlerSite) {
     if (asWidget(&handler) != nullptr) {
-        widget.block("page::handle([&] {\n    $bar\n});\n", {{"bar", widget.blocks([&] {
+        widget.block("page::handle([=] {\n    $bar\n});\n", {{"bar", widget.blocks([&] {
                                                                   emitter_->writeExpression(&handler);
                                                                   out_ << ";\n";
                                                               })}});
@@ -222,7 +308,7 @@ void PageEdition::writeCall(WidgetWriter& widget, const void* handler) {
     const std::string call = isDeed(*value.evaluation->value)
                                  ? text
                                  : "callHandler(" + text + ", " + tables_.places.literal(value.evaluation->place) + ")";
-    widget.block("page::handle([&] { $call; });\n", {{"call", call}});
+    widget.block("page::handle([=] { $call; });\n", {{"call", call}});
 }
 
 void PageEdition::writeMessageFunction(WidgetWriter& bar, const Filling& message, const ByteColour& colour) {

@@ -35,6 +35,15 @@ public:
 
     /// By the variable that காட்சி_பெயர் names. A dialog waits until it says so; anything else is there until it says no.
     std::optional<Visibility> visibility(const WidgetNode& widget) override;
+    std::string shownWhile(const WidgetNode& widget) override;
+
+    Extent sumOverElements(const EachNode& each, const Extent& ofOne) override;
+    Extent largestOfElements(const EachNode& each, const Extent& ofOne) override;
+    void writeEach(WidgetWriter& layout, const EachNode& each, const Filling& body) override;
+    Filling elementState(const std::string& type, const std::string& name, const Filling& first) const override;
+    std::string elementKey(const std::string& key) const override;
+    std::string elementName(const std::string& name) const override;
+
     void writeTruthRead(WidgetWriter& control, const std::string& state) override;
     void writeTruthChange(WidgetWriter& control, const std::string& state) override;
     void writeWindowSize(CodeWriter& out) override;
@@ -59,6 +68,13 @@ private:
     const Variable* stateOf(const WidgetWriter& control) const;
     const PageValue& valueOf(const void* node) const;
     std::string written(const void* node);
+    const Function& functionOf(const EachNode& each) const;
+    /// What a loop goes through, and where that stands, as two arguments.
+    std::string listArguments(const EachNode& each);
+    std::string elementParameters(const EachNode& each) const;
+    /// Variables that handlers of the element share; empty or a statement of one line.
+    std::string sharedElements(const EachNode& each) const;
+    std::string overElements(const char* gather, const EachNode& each, const Extent& ofOne);
     void writeCall(WidgetWriter& widget, const void* handler);
     std::string visibilityCondition(const pozhil::Expression& name, const std::string& atFirst);
 

@@ -11,29 +11,30 @@ namespace {
 constexpr LayoutAxis AXIS = {"H", "fixedHeightSum", "உயரம்", "containerH", "scrollY", &WidgetWriter::heightOf};
 
 /// Rectangle of the column. One that scrolls takes the window's height, wherever it starts.
-void emitRectangle(WidgetWriter& column, const LayoutChildren& children, float contentHeight) {
+void emitRectangle(WidgetWriter& column, const LayoutChildren& children, const Extent& contentHeight) {
     column.block(R"(
 {
     float colX = $x; float colY = $y;
     float containerW = (forcedW > 0.0f) ? forcedW : $contentW;
 )",
-                 {{"contentW", floatConstant(children.largestWidth)}});
+                 {{"contentW", children.across.largest.text()}});
     emitLayoutSize(column, {"style_அகலம்", "அகலம்"}, "containerW", "forcedW", "winWidth");
     column.block(R"(
     containerW = responsiveW(containerW, winWidth, 0.0f);
     float containerH = (forcedH > 0.0f) ? forcedH : $contentH;
 )",
-                 {{"contentH", floatConstant(contentHeight)}});
+                 {{"contentH", contentHeight.text()}});
     emitLayoutSize(column, {"style_உயரம்", "உயரம்"}, "containerH", "forcedH", "winHeight");
     column.block("    float colW = containerW;\n    float colH = $height;\n",
                  {{"height", hasScrollBar(column.widget()) ? "winHeight" : "containerH"}});
 }
 
-void emitScrolling(WidgetWriter& column, float contentHeight) {
-    column.block(R"(
+void emitScrolling(WidgetWriter& column, const Extent& contentHeight) {
+    column.block(
+        R"(
     float contentH = $contentH;
     if (contentH < colH) contentH = colH;
-    static float scrollY_$n = 0.0f;
+    $state;
     float mouseX = pozhil_mouse_x();
     float mouseY = pozhil_mouse_y();
     if (mouseX >= colX && mouseX <= colX + colW && mouseY >= colY && mouseY <= colY + colH && !g_isHoveringH) {
@@ -41,7 +42,7 @@ void emitScrolling(WidgetWriter& column, float contentHeight) {
         scrollY_$n += wheel;
     }
 )",
-                 {{"contentH", floatConstant(contentHeight)}});
+        {{"contentH", contentHeight.text()}, {"state", column.state("float", "scrollY_" + column.number(), "0.0f")}});
     emitScrollLimits(column, AXIS, "contentH", "colH");
     emitClip(column, "colX", "colY", "colW", "colH");
     emitScrollToId(column, "scrollY", "colY", SCROLL_Y);
@@ -63,7 +64,7 @@ void emitScrollBar(WidgetWriter& column) {
 
 /// The child's width across the column. A text is measured, so that centring goes by what is seen.
 void emitChildWidth(WidgetWriter& column, const WidgetNode& child) {
-    column.block("    float childW = $width;\n", {{"width", floatConstant(column.widthOf(child))}});
+    column.block("    float childW = $width;\n", {{"width", column.widthOf(child).text()}});
     const Expression* text = findProperty(child, {"உரை"});
     if (child.kind == language::widget::TEXT && text != nullptr) {
         column.block(R"(
@@ -88,7 +89,7 @@ void emitFreeChild(WidgetWriter& column, const WidgetNode& child) {
 )",
                  {{"child", column.blocks([&] {
                        if (child.kind != language::widget::SPACER) {
-                           column.child(child, "childX", "currentY");
+                           emitVisibleChild(column, child, "childX", "currentY");
                        }
                    })}});
 }
@@ -108,9 +109,11 @@ void emitChild(WidgetWriter& column, const WidgetNode& child) {
         column.block("    currentY += current_hH + spacing;\n");
     } else {
         emitFreeChild(column, child);
-        const float height = column.heightOf(child);
-        if (height > 0.0F) {
-            column.block("    currentY += $height + spacing;\n", {{"height", floatConstant(height)}});
+        const Extent height = column.heightOf(child);
+        if (!height.isNothing()) {
+            column.block(height.isConstant() ? "    currentY += $height + spacing;\n"
+                                             : "    if ($height > 0.0f) currentY += $height + spacing;\n",
+                         {{"height", height.text()}});
         }
     }
 }
@@ -118,7 +121,7 @@ void emitChild(WidgetWriter& column, const WidgetNode& child) {
 /// நெடுவரிசை: children one below the other.
 void emitColumn(WidgetWriter& column) {
     const LayoutChildren children(column);
-    const float contentHeight = children.heightSum + children.gaps;
+    const Extent contentHeight = children.down.sum + children.gaps;
     const bool scrolls = hasScrollBar(column.widget());
     const auto [alignX, alignY] = getAlignmentCoords(column.widget().alignment);
     emitRectangle(column, children, contentHeight);
@@ -134,7 +137,7 @@ void emitColumn(WidgetWriter& column) {
 )",
                  {{"alignX", floatConstant(alignX)},
                   {"alignY", floatConstant(alignY)},
-                  {"contentH", floatConstant(contentHeight)},
+                  {"contentH", contentHeight.text()},
                   {"start", scrolls ? "startY - scrollY_" + column.number() : "startY"}});
     emitShares(column, children, AXIS);
     column.eachChild(children.widgets, [&](const WidgetNode& child) {

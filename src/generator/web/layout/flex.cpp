@@ -9,7 +9,7 @@ namespace {
 void emitFlexWrapper(WidgetWriter& wrapper) {
     const auto children = childWidgets(wrapper.widget());
     if (!children.empty()) {
-        wrapper.child(*children.front(), wrapper.x(), wrapper.y());
+        wrapper.slot(*children.front(), wrapper.x(), wrapper.y());
     }
 }
 

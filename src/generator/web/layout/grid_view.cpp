@@ -1,3 +1,4 @@
+#include "generator/web/layout/layout_children.h"
 #include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_writer.h"
@@ -50,8 +51,13 @@ void emitCell(WidgetWriter& grid, const WidgetNode& child) {
         }
     }
 )",
-               {{"height", floatConstant(grid.heightOf(child))},
-                {"child", grid.blocks([&] { grid.child(child, "curX", "curY"); })}});
+               {{"height", grid.heightOf(child).text()},
+                {"child", grid.blocks([&] { emitVisibleChild(grid, child, "curX", "curY"); })}});
+}
+
+Extent widthOf(const WidgetWriter& grid) {
+    const std::optional<float> given = constantOf(findProperty(grid.widget(), {"width", "அகலம்"}));
+    return given ? Extent(*given) : grid.widthOf(grid.widget());
 }
 
 /// கட்டம்_காட்சி: children in rows of so many, fewer on a narrow window.
@@ -76,7 +82,7 @@ void emitGridView(WidgetWriter& grid) {
         {{"cols", std::to_string(columnsOf(widget))},
          {"gapH", gapOf(widget, "அகலம்", {"h_gap", "கி_இவெ"})},
          {"gapV", gapOf(widget, "உயரம்", {"v_gap", "நெ_இவெ"})},
-         {"width", floatConstant(constantOf(findProperty(widget, {"width", "அகலம்"})).value_or(grid.widthOf(widget)))}});
+         {"width", widthOf(grid).text()}});
     grid.eachChild(childWidgets(widget), [&](const WidgetNode& child) { emitCell(grid, child); });
     grid.block("}\n");
 }
@@ -103,27 +109,30 @@ float gridGap(const Measure& measure, std::optional<float> otherwise) {
     return otherwise.value_or(USUAL);
 }
 
-float gridSize(const Measure& measure, std::size_t cells, float emptyCell, std::optional<float> namedGap) {
-    const float largest = largestChild(measure);
-    const float cell = largest == 0.0F ? emptyCell : largest;
-    const float gaps = cells > 1 ? static_cast<float>(cells - 1) : 0.0F;
-    return static_cast<float>(cells) * cell + gaps * gridGap(measure, namedGap);
+Extent gridSize(const Measure& measure, const Extent& cells, float emptyCell, std::optional<float> namedGap) {
+    const Extent largest = largestChild(measure);
+    const Extent cell = largest.isNothing() ? Extent(emptyCell) : largest;
+    return cell * cells + gapsBetween(cells) * gridGap(measure, namedGap);
 }
 
-float gridWidth(const Measure& measure) {
+Extent gridWidth(const Measure& measure) {
     constexpr float EMPTY_CELL = 150.0F;
     if (const std::optional<float> given =
             fixedSize(findProperty(measure.widget, {measure.axis.styleName, measure.axis.name, "width"}))) {
         return *given;
     }
-    return gridSize(measure, gridColumns(measure.widget), EMPTY_CELL, std::nullopt);
+    return gridSize(measure, static_cast<float>(gridColumns(measure.widget)), EMPTY_CELL, std::nullopt);
 }
 
-float gridHeight(const Measure& measure) {
+/// How many rows it takes, as far as the compiler knows the columns of a wide window.
+Extent gridRows(const Measure& measure) {
+    const Extent cells = measure.roomOf(childWidgets(measure.widget)).number;
+    return cells.inGroupsOf(static_cast<float>(gridColumns(measure.widget)));
+}
+
+Extent gridHeight(const Measure& measure) {
     constexpr float EMPTY_CELL = 40.0F;
-    const std::size_t columns = gridColumns(measure.widget);
-    const std::size_t rows = (columns + childWidgets(measure.widget).size() - 1) / columns;
-    return gridSize(measure, rows, EMPTY_CELL, numberOf(findProperty(measure.widget, {"v_gap"})));
+    return gridSize(measure, gridRows(measure), EMPTY_CELL, numberOf(findProperty(measure.widget, {"v_gap"})));
 }
 
 } // namespace

@@ -5,21 +5,32 @@
 #include "generator/web/write/widget_writer.h"
 #include "language/widget_words.h"
 
-#include <algorithm>
-
 namespace pozhil {
+
+namespace {
+
+/// Shares of the free space, all children together.
+Extent sharesOf(const std::vector<const WidgetNode*>& children, Presence& presence) {
+    Extent shares;
+    for (const WidgetNode* child : children) {
+        if (const auto* each = dynamic_cast<const EachNode*>(child)) {
+            shares += presence.sumOverElements(*each, sharesOf(childWidgets(*each), presence));
+        } else if (const std::optional<float> share = flexShare(*child)) {
+            shares += onlyWhile(presence.shownWhile(*child), *share);
+        }
+    }
+    return shares;
+}
+
+} // namespace
 
 LayoutChildren::LayoutChildren(WidgetWriter& layout)
     : widgets(childWidgets(layout.widget())),
       spacing(numberOf(findProperty(layout.widget(), {"இடைவெளி"})).value_or(0.0F)) {
-    for (const WidgetNode* child : widgets) {
-        widthSum += layout.widthOf(*child);
-        heightSum += layout.heightOf(*child);
-        largestWidth = std::max(largestWidth, layout.widthOf(*child));
-        largestHeight = std::max(largestHeight, layout.heightOf(*child));
-        totalFlex += flexShare(*child).value_or(0.0F);
-    }
-    gaps = widgets.size() > 1 ? static_cast<float>(widgets.size() - 1) * spacing : 0.0F;
+    across = layout.metrics().roomAcross(widgets);
+    down = layout.metrics().roomDown(widgets);
+    gaps = gapsBetween(down.number) * spacing;
+    totalFlex = sharesOf(widgets, layout.edition());
 }
 
 std::optional<float> flexShare(const WidgetNode& child) {
@@ -47,20 +58,19 @@ void emitLayoutSize(WidgetWriter& layout, std::initializer_list<const char*> nam
 }
 
 void emitShares(WidgetWriter& layout, const LayoutChildren& children, const LayoutAxis& axis) {
-    layout.block(R"(
+    layout.block(
+        R"(
     float $sum = 0.0f;
     float totalFlex = $flex;
     float spacing = 0.0f;
     spacing = $spacing;
 )",
-                 {{"sum", axis.fixedSum},
-                  {"flex", floatConstant(children.totalFlex)},
-                  {"spacing", floatConstant(children.spacing)}});
+        {{"sum", axis.fixedSum}, {"flex", children.totalFlex.text()}, {"spacing", floatConstant(children.spacing)}});
     layout.eachChild(children.widgets, [&](const WidgetNode& child) {
         if (flexShare(child)) {
             return;
         }
-        std::string size = floatConstant((layout.*axis.sizeOf)(child));
+        std::string size = (layout.*axis.sizeOf)(child).text();
         if (child.kind == language::widget::GAP) {
             size = processPercentage(layout.edition(), findProperty(child, {axis.gapProperty}), axis.gapBase);
         }
@@ -83,6 +93,24 @@ void emitScrollLimits(WidgetWriter& layout, const LayoutAxis& axis, const char* 
     if (${offset}_$n > maxScroll) ${offset}_$n = maxScroll;
 )",
                  {{"content", content}, {"visible", visible}, {"offset", axis.offset}});
+}
+
+void emitVisibleChild(WidgetWriter& layout, const WidgetNode& child, const char* x, const char* y) {
+    if (!layout.isInOwnEach()) {
+        layout.child(child, x, y);
+        return;
+    }
+    // Shadows reach out of their widgets, and sizes are known only roughly.
+    layout.block(R"(
+    if ($left < winWidth + 100.0f && $left + $width > -100.0f && $top < winHeight + 100.0f && $top + $height > -100.0f) {
+        $child
+    }
+)",
+                 {{"left", x},
+                  {"top", y},
+                  {"width", layout.widthOf(child).text()},
+                  {"height", layout.heightOf(child).text()},
+                  {"child", layout.blocks([&] { layout.child(child, x, y); })}});
 }
 
 void emitClip(WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height) {

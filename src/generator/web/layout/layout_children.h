@@ -1,5 +1,6 @@
 #pragma once
 
+#include "generator/web/measure/metrics.h"
 #include "parser/syntax_tree.h"
 
 #include <initializer_list>
@@ -15,15 +16,13 @@ struct LayoutChildren {
     explicit LayoutChildren(WidgetWriter& layout);
 
     std::vector<const WidgetNode*> widgets;
-    float widthSum = 0;
-    float heightSum = 0;
-    float largestWidth = 0;
-    float largestHeight = 0;
+    Room across;
+    Room down;
     /// The gap between two children, and all gaps together.
     float spacing = 0;
-    float gaps = 0;
+    Extent gaps;
     /// Shares of the free space, all children together.
-    float totalFlex = 0;
+    Extent totalFlex;
 };
 
 /// How many shares of the free space a child takes; nothing for a child with a size of its own.
@@ -42,6 +41,10 @@ void emitClip(WidgetWriter& layout, const char* x, const char* y, const char* wi
 void emitClipRectangle(WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height);
 void emitClipEnd(WidgetWriter& layout);
 
+/// Writes a child that stands where the texts \p x and \p y of the emitted program tell. Of the elements of a list, of which
+/// there may be many, only those near the window are drawn.
+void emitVisibleChild(WidgetWriter& layout, const WidgetNode& child, const char* x, const char* y);
+
 /// The direction in which a layout places its children, by the names of its emitted variables.
 struct LayoutAxis {
     const char* letter;      ///< W or H, the end of containerW, remainingH and so on
@@ -49,7 +52,7 @@ struct LayoutAxis {
     const char* gapProperty; ///< the property of a gap that says its size
     const char* gapBase;     ///< what a gap's percentage is taken of
     const char* offset;      ///< how far the layout is scrolled
-    float (WidgetWriter::*sizeOf)(const WidgetNode&) const;
+    Extent (WidgetWriter::*sizeOf)(const WidgetNode&) const;
 };
 
 /// How the free space is shared out among the children.

@@ -9,7 +9,7 @@ namespace {
 void emitScrolling(WidgetWriter& list) {
     emitClip(list, "listStartX", "listStartY", "winWidth", "winHeight");
     list.block(R"(
-    static float scrollOffset_$n = 0.0f;
+    $state;
     float mouseX = pozhil_mouse_x();
     float mouseY = pozhil_mouse_y();
     if (mouseX >= listStartX && mouseX <= listStartX + winWidth && mouseY >= listStartY && mouseY <= listStartY + winHeight) {
@@ -20,7 +20,8 @@ void emitScrolling(WidgetWriter& list) {
     if (maxScroll < 0.0f) maxScroll = 0.0f;
     if (scrollOffset_$n < 0.0f) scrollOffset_$n = 0.0f;
     if (scrollOffset_$n > maxScroll) scrollOffset_$n = maxScroll;
-)");
+)",
+               {{"state", list.state("float", "scrollOffset_" + list.number(), "0.0f")}});
     emitScrollToId(list, "scrollOffset", "listStartY", SCROLL_Y);
 }
 
@@ -54,7 +55,7 @@ void emitListView(WidgetWriter& list) {
     float totalContentHeight = 0.0f;
 )");
     list.eachChild(children, [&](const WidgetNode& child) {
-        list.block("    totalContentHeight += $height;\n", {{"height", floatConstant(list.heightOf(child))}});
+        list.block("    totalContentHeight += $height;\n", {{"height", list.heightOf(child).text()}});
     });
     emitScrolling(list);
     list.block("    float currentY = listStartY - scrollOffset_$n;\n");
@@ -69,9 +70,9 @@ void emitListView(WidgetWriter& list) {
         currentY += $height;
     }
 )",
-                   {{"width", floatConstant(list.widthOf(child))},
-                    {"height", floatConstant(list.heightOf(child))},
-                    {"child", list.blocks([&] { list.child(child, "childX", "currentY"); })}});
+                   {{"width", list.widthOf(child).text()},
+                    {"height", list.heightOf(child).text()},
+                    {"child", list.blocks([&] { emitVisibleChild(list, child, "childX", "currentY"); })}});
     });
     emitClipEnd(list);
     emitScrollBar(list);

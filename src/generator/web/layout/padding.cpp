@@ -26,7 +26,7 @@ void emitPadding(WidgetWriter& padding) {
                     })}});
 }
 
-float paddingSize(const Measure& measure) {
+Extent paddingSize(const Measure& measure) {
     constexpr float BOTH_SIDES = 20.0F;
     const auto* padding = dynamic_cast<const PaddingNode*>(&measure.widget);
     return firstChild(measure) + (padding == nullptr ? BOTH_SIDES : 2 * padding->padding);

@@ -10,27 +10,27 @@ namespace {
 constexpr LayoutAxis AXIS = {"W",       "fixedWidthSum",       "அகலம்", "(forcedW > 0.0f ? forcedW : containerW)",
                              "scrollX", &WidgetWriter::widthOf};
 
-void emitRectangle(WidgetWriter& row, const LayoutChildren& children, float contentWidth) {
+void emitRectangle(WidgetWriter& row, const LayoutChildren& children, const Extent& contentWidth) {
     row.block(R"(
 {
     float rowX = $x; float rowY = $y;
     float containerW = (forcedW > 0.0f) ? forcedW : $contentW;
 )",
-              {{"contentW", floatConstant(contentWidth)}});
+              {{"contentW", contentWidth.text()}});
     emitLayoutSize(row, {"style_அகலம்", "அகலம்"}, "containerW", "forcedW", "winWidth");
     row.block("    float containerH = (forcedH > 0.0f) ? forcedH : $contentH;\n",
-              {{"contentH", floatConstant(children.largestHeight)}});
+              {{"contentH", children.down.largest.text()}});
     emitLayoutSize(row, {"style_உயரம்", "உயரம்"}, "containerH", "forcedH", "winHeight");
     row.block("    float rowW = $width;\n    float rowH = containerH;\n",
               {{"width", hasScrollBar(row.widget()) ? "winWidth" : "containerW"}});
 }
 
 /// A scrolling row leaves room after its last child.
-void emitScrolling(WidgetWriter& row, float contentWidth) {
+void emitScrolling(WidgetWriter& row, const Extent& contentWidth) {
     row.block(R"(
     float contentW = $contentW + 150.0f;
     if (contentW < rowW) contentW = rowW;
-    static float scrollX_$n = 0.0f;
+    $state;
     float mouseX = pozhil_mouse_x();
     float mouseY = pozhil_mouse_y();
     if (mouseX >= rowX && mouseX <= rowX + rowW && mouseY >= rowY && mouseY <= rowY + rowH) {
@@ -38,7 +38,7 @@ void emitScrolling(WidgetWriter& row, float contentWidth) {
         scrollX_$n += wheel;
     }
 )",
-              {{"contentW", floatConstant(contentWidth)}});
+              {{"contentW", contentWidth.text()}, {"state", row.state("float", "scrollX_" + row.number(), "0.0f")}});
     emitScrollLimits(row, AXIS, "contentW", "rowW");
     emitClip(row, "rowX", "rowY", "rowW", "rowH");
     emitScrollToId(row, "scrollX", "rowX", SCROLL_X);
@@ -62,7 +62,7 @@ void emitScrollBar(WidgetWriter& row) {
 void emitChildTop(WidgetWriter& row, const WidgetNode& child) {
     const float alignY = getAlignmentCoords(row.widget().alignment).second;
     row.block("    float childH_val = $height;\n    float childY = $top;\n",
-              {{"height", floatConstant(row.heightOf(child))},
+              {{"height", row.heightOf(child).text()},
                {"top", alignY < 0.0F   ? "rowY"
                        : alignY > 0.0F ? "rowY + (containerH - childH_val)"
                                        : "rowY + (containerH - childH_val) / 2.0f"}});
@@ -80,7 +80,7 @@ void emitPlacedChild(WidgetWriter& row, const WidgetNode& child, const char* wid
     $child
     forcedW = savedForcedW; forcedH = savedForcedH;
 )",
-              {{"width", width}, {"child", row.blocks([&] { row.child(child, "currentX", "childY"); })}});
+              {{"width", width}, {"child", row.blocks([&] { emitVisibleChild(row, child, "currentX", "childY"); })}});
 }
 
 void emitChild(WidgetWriter& row, const WidgetNode& child) {
@@ -95,7 +95,7 @@ void emitChild(WidgetWriter& row, const WidgetNode& child) {
         row.block("    float current_wW = 0.0f;\n");
         emitSize(row, findProperty(child, {AXIS.gapProperty}), "current_wW", "(forcedW > 0.0f ? forcedW : containerW)");
     } else {
-        row.block("    float current_wW = $width;\n", {{"width", floatConstant(row.widthOf(child))}});
+        row.block("    float current_wW = $width;\n", {{"width", row.widthOf(child).text()}});
         emitPlacedChild(row, child, "-1.0f");
     }
     row.block("    currentX += $width + spacing;\n", {{"width", isOneShare ? "unitFlexW" : "current_wW"}});
@@ -104,7 +104,7 @@ void emitChild(WidgetWriter& row, const WidgetNode& child) {
 /// கிடைவரிசை: children side by side.
 void emitRow(WidgetWriter& row) {
     const LayoutChildren children(row);
-    const float contentWidth = children.widthSum + children.gaps;
+    const Extent contentWidth = children.across.sum + children.gaps;
     const bool scrolls = hasScrollBar(row.widget());
     emitRectangle(row, children, contentWidth);
     if (scrolls) {

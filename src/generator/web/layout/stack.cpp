@@ -22,7 +22,7 @@ void emitStack(WidgetWriter& stack) {
     float stackW = $width; float stackH = $height;
     float sStartX = $x; float sStartY = $y;
 )",
-                {{"width", floatConstant(children.largestWidth)}, {"height", floatConstant(children.largestHeight)}});
+                {{"width", children.across.largest.text()}, {"height", children.down.largest.text()}});
     stack.eachChild(children.widgets, [&](const WidgetNode& child) {
         stack.block(R"(
     {
@@ -34,8 +34,8 @@ void emitStack(WidgetWriter& stack) {
         forcedW = savedForcedW; forcedH = savedForcedH;
     }
 )",
-                    {{"width", floatConstant(stack.widthOf(child))},
-                     {"height", floatConstant(stack.heightOf(child))},
+                    {{"width", stack.widthOf(child).text()},
+                     {"height", stack.heightOf(child).text()},
                      {"alignX", floatConstant(align.first)},
                      {"alignY", floatConstant(align.second)},
                      {"offsetX", floatConstant(offsetOf(child, "நகர்வு_X"))},

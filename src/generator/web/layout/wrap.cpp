@@ -1,3 +1,4 @@
+#include "generator/web/layout/layout_children.h"
 #include "generator/web/measure/metric_rules.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_writer.h"
@@ -35,17 +36,17 @@ void emitWrap(WidgetWriter& wrap) {
         curX += childW + spacing;
     }
 )",
-                   {{"width", floatConstant(wrap.widthOf(child))},
-                    {"height", floatConstant(wrap.heightOf(child))},
-                    {"child", wrap.blocks([&] { wrap.child(child, "curX", "curY"); })}});
+                   {{"width", wrap.widthOf(child).text()},
+                    {"height", wrap.heightOf(child).text()},
+                    {"child", wrap.blocks([&] { emitVisibleChild(wrap, child, "curX", "curY"); })}});
     });
     wrap.block(wrap.isAtTop() ? "}\n" : "    $y = curY + rowMaxH + spacing;\n}\n");
 }
 
-float wrapHeight(const Measure& measure) {
+Extent wrapHeight(const Measure& measure) {
     constexpr float LINES = 3.0F;
     constexpr float USUAL_GAP = 10.0F;
-    return LINES * largestChild(measure) + (LINES - 1.0F) * numberProperty(measure.widget, "இடைவெளி", USUAL_GAP);
+    return largestChild(measure) * LINES + (LINES - 1.0F) * numberProperty(measure.widget, "இடைவெளி", USUAL_GAP);
 }
 
 } // namespace

@@ -23,27 +23,19 @@ float numberProperty(const WidgetNode& widget, const char* name, float usual) {
     return numberOf(findProperty(widget, {name})).value_or(usual);
 }
 
-float largestChild(const Measure& measure) {
-    float largest = 0.0F;
-    for (const WidgetNode* child : childWidgets(measure.widget)) {
-        largest = std::max(largest, measure.of(child));
-    }
-    return largest;
+Extent largestChild(const Measure& measure) {
+    return measure.roomOf(childWidgets(measure.widget)).largest;
 }
 
-float firstChild(const Measure& measure) {
-    const auto children = childWidgets(measure.widget);
-    return children.empty() ? 0.0F : measure.of(children.front());
+Extent firstChild(const Measure& measure) {
+    auto children = childWidgets(measure.widget);
+    children.resize(std::min<std::size_t>(children.size(), 1));
+    return measure.roomOf(children).sum;
 }
 
-float lineOfChildren(const Measure& measure) {
-    const auto children = childWidgets(measure.widget);
-    float sum = 0.0F;
-    for (const WidgetNode* child : children) {
-        sum += measure.of(child);
-    }
-    const float gaps = children.size() > 1 ? static_cast<float>(children.size() - 1) : 0.0F;
-    return sum + gaps * numberProperty(measure.widget, "இடைவெளி", 0.0F);
+Extent lineOfChildren(const Measure& measure) {
+    const Room room = measure.roomOf(childWidgets(measure.widget));
+    return room.sum + gapsBetween(room.number) * numberProperty(measure.widget, "இடைவெளி", 0.0F);
 }
 
 float labelWidth(const WidgetNode& widget, float size) {

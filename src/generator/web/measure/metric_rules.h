@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace pozhil {
 
@@ -13,7 +14,7 @@ namespace pozhil {
 struct MetricAxis {
     const char* styleName;
     const char* name;
-    float (WidgetMetrics::*measure)(const Statement*);
+    Extent (WidgetMetrics::*measure)(const Statement*);
 };
 
 /// What a rule measures with.
@@ -22,7 +23,8 @@ struct Measure {
     const WidgetNode& widget;
     const MetricAxis& axis;
 
-    float of(const Statement* child) const { return (metrics.*axis.measure)(child); }
+    /// What children take of the widget.
+    Room roomOf(const std::vector<const WidgetNode*>& children) const { return metrics.roomOf(children, axis); }
 };
 
 /// A size that the source gives. A percentage is resolved in the running page and counts as nothing here.
@@ -37,23 +39,23 @@ std::optional<float> plainSize(const Measure& measure);
 /// A whole number among the properties.
 float numberProperty(const WidgetNode& widget, const char* name, float usual);
 
-template <int USUAL> float sized(const Measure& measure) {
+template <int USUAL> Extent sized(const Measure& measure) {
     return givenSize(measure).value_or(static_cast<float>(USUAL));
 }
 
-template <int USUAL> float plainSized(const Measure& measure) {
+template <int USUAL> Extent plainSized(const Measure& measure) {
     return plainSize(measure).value_or(static_cast<float>(USUAL));
 }
 
-template <int SIZE> float fixed(const Measure&) {
+template <int SIZE> Extent fixed(const Measure&) {
     return static_cast<float>(SIZE);
 }
 
-float largestChild(const Measure& measure);
-float firstChild(const Measure& measure);
+Extent largestChild(const Measure& measure);
+Extent firstChild(const Measure& measure);
 
 /// Children in a line, with gaps between them.
-float lineOfChildren(const Measure& measure);
+Extent lineOfChildren(const Measure& measure);
 
 /// How wide a button's label of the given size in pixels is, by a rough width per code point.
 float labelWidth(const WidgetNode& widget, float size);

@@ -1,35 +1,54 @@
 #pragma once
 
+#include "generator/web/measure/presence.h"
 #include "generator/web/measure/widget_kind.h"
 #include "parser/syntax_tree.h"
 
 #include <unordered_map>
+#include <vector>
 
 namespace pozhil {
 
 struct MetricAxis;
 
+/// What several children take of their parent along one axis, each only while it is there.
+struct Room {
+    Extent sum;
+    Extent largest;
+    /// How many children there are.
+    Extent number;
+};
+
 /// Sizes of widgets in pixels as far as the source tells them. A page has no measuring pass: a layout writes the sizes
-/// of its children into the text as constants. What is known only when the page runs (the window, variables, a
-/// percentage) counts as nothing or as the widget's usual size.
+/// of its children into the text, as constants but for children that aren't always there. What is known only when the
+/// page runs (the window, variables, a percentage) counts as nothing or as the widget's usual size.
 ///
 /// Sizes are kept, so that a layout inside many others is measured once.
 class WidgetMetrics {
 public:
     /// \param findKind finds the rules that a widget's size follows
-    explicit WidgetMetrics(WidgetLookup findKind) : findKind_(findKind) {}
+    /// \param presence outlives the metrics
+    WidgetMetrics(WidgetLookup findKind, Presence& presence) : findKind_(findKind), presence_(presence) {}
 
-    /// 0 for what is no widget, and for kinds without a size.
-    float calculateWidgetWidth(const Statement* statement);
-    float calculateWidgetHeight(const Statement* statement);
+    /// The size that a widget has while it is there; 0 for what is no widget, and for kinds without a size.
+    Extent calculateWidgetWidth(const Statement* statement);
+    Extent calculateWidgetHeight(const Statement* statement);
+
+    /// What children take of their parent.
+    Room roomAcross(const std::vector<const WidgetNode*>& children);
+    Room roomDown(const std::vector<const WidgetNode*>& children);
+
+    Room roomOf(const std::vector<const WidgetNode*>& children, const MetricAxis& axis);
 
 private:
-    float measureOnce(const Statement* statement, const MetricAxis& axis, MetricRule WidgetKind::*rule,
-                      std::unordered_map<const Statement*, float>& known);
+    void addElements(Room& room, const EachNode& each, const MetricAxis& axis);
+    Extent measureOnce(const Statement* statement, const MetricAxis& axis, MetricRule WidgetKind::*rule,
+                       std::unordered_map<const Statement*, Extent>& known);
 
     WidgetLookup findKind_;
-    std::unordered_map<const Statement*, float> widths_;
-    std::unordered_map<const Statement*, float> heights_;
+    Presence& presence_;
+    std::unordered_map<const Statement*, Extent> widths_;
+    std::unordered_map<const Statement*, Extent> heights_;
 };
 
 } // namespace pozhil

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "generator/web/measure/extent.h"
+
 #include <string_view>
 
 namespace pozhil {
@@ -10,8 +12,8 @@ struct Measure;
 /// Writes the block of one widget.
 using WidgetBlock = void (*)(WidgetWriter&);
 
-/// The size of a widget along an axis, as far as the source tells it (metric_rules.h).
-using MetricRule = float (*)(const Measure& measure);
+/// The size of a widget along an axis, while it is there (metric_rules.h).
+using MetricRule = Extent (*)(const Measure& measure);
 
 /// A kind of widget: the row that its file ends in.
 struct WidgetKind {

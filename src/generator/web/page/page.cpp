@@ -121,7 +121,7 @@ void emitTitle(WidgetWriter& page) {
 /// The root of a page stands at the texts "0.0f", by which layouts know that they are one.
 void emitRoot(WidgetWriter& page, const Statement* root) {
     if (const WidgetNode* widget = asWidget(root)) {
-        page.child(*widget, "0.0f", "0.0f");
+        page.slot(*widget, "0.0f", "0.0f");
     }
 }
 

@@ -40,7 +40,8 @@ if ($condition) {
 
 } // namespace
 
-WidgetFrame::WidgetFrame(CodeWriter& out, Edition& edition) : WidgetContext(out, edition), metrics_(findWidgetKind) {}
+WidgetFrame::WidgetFrame(CodeWriter& out, Edition& edition)
+    : WidgetContext(out, edition), metrics_(findWidgetKind, edition) {}
 
 void WidgetFrame::writeWidget(const WidgetNode& widget, const std::string& x, const std::string& y) {
     const CodeWriter::For origin(out(), &widget);
@@ -84,14 +85,6 @@ void WidgetFrame::writeWidgetValue(const WidgetNode& widget) {
     } else {
         writeWidget(widget, "0.0f", "0.0f");
     }
-}
-
-float WidgetFrame::widthOf(const WidgetNode& widget) {
-    return metrics_.calculateWidgetWidth(&widget);
-}
-
-float WidgetFrame::heightOf(const WidgetNode& widget) {
-    return metrics_.calculateWidgetHeight(&widget);
 }
 
 } // namespace pozhil

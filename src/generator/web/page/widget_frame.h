@@ -12,8 +12,7 @@ public:
     WidgetFrame(CodeWriter& out, Edition& edition);
 
     void writeWidget(const WidgetNode& widget, const std::string& x, const std::string& y) override;
-    float widthOf(const WidgetNode& widget) override;
-    float heightOf(const WidgetNode& widget) override;
+    WidgetMetrics& metrics() override { return metrics_; }
 
     /// A widget as a statement of its own, outside any page: a text is drawn once, a column passes over to its children.
     void writeWidgetStatement(const WidgetNode& widget);

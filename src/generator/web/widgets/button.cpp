@@ -200,7 +200,7 @@ void emitButton(WidgetWriter& button) {
     emitLabel(button, label);
 }
 
-float buttonWidth(const Measure& measure) {
+Extent buttonWidth(const Measure& measure) {
     const std::optional<float> given = givenSize(measure);
     return given ? *given : labelWidth(measure.widget, USUAL_TEXT_SIZE);
 }

@@ -72,7 +72,7 @@ void emitChildren(WidgetWriter& card) {
     currentChildY += $height + 10.0f;
 )",
                    {{"child", card.blocks([&] { card.child(child, CHILD_X, "currentChildY"); })},
-                    {"height", floatConstant(card.heightOf(child))}});
+                    {"height", card.heightOf(child).text()}});
     });
     card.block("    forcedW = savedForcedW; forcedH = savedForcedH;\n");
 }
@@ -92,20 +92,20 @@ void emitCard(WidgetWriter& card) {
 }
 
 /// A card is as large as its first child with the space around it.
-float cardSize(const Measure& measure, float usual) {
+Extent cardSize(const Measure& measure, float usual) {
     constexpr float BOTH_SIDES = 20.0F;
     if (const std::optional<float> given = givenSize(measure)) {
         return *given;
     }
-    return childWidgets(measure.widget).empty() ? usual : firstChild(measure) + BOTH_SIDES;
+    return childWidgets(measure.widget).empty() ? Extent(usual) : firstChild(measure) + BOTH_SIDES;
 }
 
-float cardWidth(const Measure& measure) {
+Extent cardWidth(const Measure& measure) {
     constexpr float USUAL = 350.0F;
     return cardSize(measure, USUAL);
 }
 
-float cardHeight(const Measure& measure) {
+Extent cardHeight(const Measure& measure) {
     constexpr float USUAL = 200.0F;
     return cardSize(measure, USUAL);
 }

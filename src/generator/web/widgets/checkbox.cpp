@@ -40,15 +40,16 @@ void emitBoxAndLabelSize(WidgetWriter& box) {
 void emitState(WidgetWriter& box, const std::string& id) {
     box.block(R"(
     float cbX = ($x); float cbY = ($y);
-    static bool checked_$n = $initial;
+    $state;
     float hitW = cb_w + 15.0f + _txtW;
 )",
-              {{"initial", truthValue(box, findProperty(box.widget(), {"தேர்வுபெட்டிநிலை"}))}});
+              {{"state", box.state("bool", "checked_" + box.number(),
+                                   truthValue(box, findProperty(box.widget(), {"தேர்வுபெட்டிநிலை"})))}});
     emitPressArea(box, {"cbX", "cbX + hitW", "cbY", "cbY + cb_h"}, box.blocks([&] {
         box.block("checked_$n = !checked_$n;\n");
         box.edition().writeTruthChange(box, "checked_" + box.number());
         if (!id.empty()) {
-            box.block("g_inputErrors.erase($id);\n", {{"id", box.edition().literal(id)}});
+            box.block("g_inputErrors.erase($id);\n", {{"id", box.nameFrom(box.edition().literal(id))}});
         }
     }));
     box.edition().writeTruthRead(box, "checked_" + box.number());
@@ -91,7 +92,7 @@ void emitLabel(WidgetWriter& box) {
         forcedW = savedForcedW; forcedH = savedForcedH;
     }
 )",
-                  {{"label", box.blocks([&] { box.child(*label, "cbChildX", "cbTextY"); })}});
+                  {{"label", box.blocks([&] { box.slot(*label, "cbChildX", "cbTextY"); })}});
     }
 }
 
@@ -106,7 +107,7 @@ void emitError(WidgetWriter& box, const std::string& id) {
         drawFixedText(cbX, cbY + cb_h + 6, g_inputErrors[$id].c_str(), "#F44336", 12.0f, "left");
     }
 )",
-              {{"id", box.edition().literal(id)}});
+              {{"id", box.nameFrom(box.edition().literal(id))}});
 }
 
 /// தேர்வுபெட்டி: a box to tick, with a label beside it.
@@ -124,17 +125,17 @@ void emitCheckbox(WidgetWriter& box) {
 
 constexpr float CHECK_BOX = 24.0F;
 
-float checkBoxWidth(const Measure& measure) {
+Extent checkBoxWidth(const Measure& measure) {
     constexpr float GAP = 12.0F;
     if (const std::optional<float> given = givenSize(measure)) {
         return *given;
     }
-    return childWidgets(measure.widget).empty() ? CHECK_BOX : CHECK_BOX + GAP + firstChild(measure);
+    return childWidgets(measure.widget).empty() ? Extent(CHECK_BOX) : firstChild(measure) + (CHECK_BOX + GAP);
 }
 
-float checkBoxHeight(const Measure& measure) {
+Extent checkBoxHeight(const Measure& measure) {
     const std::optional<float> given = givenSize(measure);
-    return given ? *given : std::max(CHECK_BOX, firstChild(measure));
+    return given ? Extent(*given) : larger(CHECK_BOX, firstChild(measure));
 }
 
 } // namespace

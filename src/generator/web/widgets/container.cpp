@@ -33,7 +33,7 @@ std::pair<float, float> alignmentOf(const WidgetNode& child) {
 /// A text is measured as it will be drawn, since its width by the count of its letters is only a rough one.
 void emitChildSize(WidgetWriter& box, const WidgetNode& child) {
     box.block("        float childW = $width; float childH = $height;\n",
-              {{"width", floatConstant(box.widthOf(child))}, {"height", floatConstant(box.heightOf(child))}});
+              {{"width", box.widthOf(child).text()}, {"height", box.heightOf(child).text()}});
     if (child.kind == language::widget::TEXT) {
         box.block(R"block(
         if (std::string(u8"உரை") == "$kind") {
@@ -89,7 +89,7 @@ void emitContainer(WidgetWriter& box) {
     box.block("}\n");
 }
 
-float boxSize(const Measure& measure) {
+Extent boxSize(const Measure& measure) {
     constexpr float USUAL = 100.0F;
     for (const WidgetNode* child : childWidgets(measure.widget)) {
         if (child->kind == language::widget::BOX_STYLE) {

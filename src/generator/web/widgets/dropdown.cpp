@@ -30,8 +30,10 @@ void emitState(WidgetWriter& dropdown) {
     emitOwnSize(dropdown, "ddW", "ddH");
     dropdown.block(R"(
     ddW = responsiveW(ddW, winWidth, 0.0f);
-    static bool isOpen_$n = false; static int selectedIndex_$n = -1;
-)");
+    $isOpen; $selectedIndex;
+)",
+                   {{"isOpen", dropdown.state("bool", "isOpen_" + dropdown.number(), "false")},
+                    {"selectedIndex", dropdown.state("int", "selectedIndex_" + dropdown.number(), "-1")}});
     emitItems(dropdown);
     dropdown.block(R"(
     std::string displayFilter = "தேர்ந்தெடு...";

@@ -19,7 +19,7 @@ void emitHtmlInput(WidgetWriter& input) {
                                             : colourProperty(widget, {"எழுத்து_நிறம்"}, "#000000");
     input.block(R"(
 {
-    std::string inputId = "input_$n";
+    std::string inputId = $id;
     float tx = std::floor($x); float ty = std::floor($y);
     float tw = $width;
     tw = responsiveW(tw, winWidth, 40.0f);
@@ -30,7 +30,8 @@ void emitHtmlInput(WidgetWriter& input) {
     nvgFill(vg);
     pozhil_place_html_input(inputId.c_str(), $hint, "$background", "$colour", tx, ty, tw, th, winHeight);
 )",
-                {{"width", numberConstant(widget, {"style_அகலம்", "அகலம்"}, WIDTH)},
+                {{"id", input.nameFrom("\"input_" + input.number() + "\"")},
+                 {"width", numberConstant(widget, {"style_அகலம்", "அகலம்"}, WIDTH)},
                  {"height", numberConstant(widget, {"style_உயரம்", "உயரம்"}, HEIGHT)},
                  {"fill", floatColour(background)},
                  {"hint", input.edition().literal(textOf(findProperty(widget, {"குறிப்பு"})))},

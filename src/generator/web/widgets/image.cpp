@@ -32,7 +32,7 @@ void emitImage(WidgetWriter& image) {
     emitRectangle(image);
     image.block(R"(
     if (isGif) {
-        std::string imgId = "gif_$n";
+        std::string imgId = $id;
         float mx = pozhil_mouse_x();
         float my = pozhil_mouse_y();
         bool isImgHover = mx >= imgX - 10 && mx <= imgX + tw + 10 && my >= imgY - 10 && my <= imgY + th + 10;
@@ -59,7 +59,8 @@ void emitImage(WidgetWriter& image) {
         }
     }
 }
-)");
+)",
+                {{"id", image.nameFrom("\"gif_" + image.number() + "\"")}});
 }
 
 } // namespace

@@ -58,7 +58,7 @@ Filling slotContent(WidgetWriter& tile, const WidgetNode& content, const char* x
     $content
     forcedW = savedForcedW; forcedH = savedForcedH;
 )",
-                   {{"content", tile.blocks([&] { tile.child(content, x, y); })}});
+                   {{"content", tile.blocks([&] { tile.slot(content, x, y); })}});
     });
 }
 
@@ -71,8 +71,8 @@ void emitLeading(WidgetWriter& tile) {
         currentContentX += $width + 12.0f;
     }
 )",
-                   {{"height", floatConstant(tile.heightOf(*leading))},
-                    {"width", floatConstant(tile.widthOf(*leading))},
+                   {{"height", tile.heightOf(*leading).text()},
+                    {"width", tile.widthOf(*leading).text()},
                     {"content", slotContent(tile, *leading, "currentContentX", "leadY")}});
     }
 }
@@ -80,7 +80,7 @@ void emitLeading(WidgetWriter& tile) {
 void emitLines(WidgetWriter& tile) {
     const Expression* subtitleSlot = findProperty(tile.widget(), {"துணைத்_தலைப்பு"});
     if (const WidgetNode* title = asWidget(findProperty(tile.widget(), {"தலைப்பு"}))) {
-        const std::string centred = "ltY + (ltH - " + floatConstant(tile.heightOf(*title)) + ") / 2.0f";
+        const std::string centred = "ltY + (ltH - " + tile.heightOf(*title).text() + ") / 2.0f";
         tile.block(R"(
     {
         float titleY = $top;
@@ -97,7 +97,7 @@ void emitLines(WidgetWriter& tile) {
         $content
     }
 )",
-                   {{"height", floatConstant(tile.heightOf(*subtitle))},
+                   {{"height", tile.heightOf(*subtitle).text()},
                     {"content", slotContent(tile, *subtitle, "currentContentX", "subY")}});
     }
 }
@@ -112,8 +112,8 @@ void emitTrailing(WidgetWriter& tile) {
         $content
     }
 )",
-                   {{"width", floatConstant(tile.widthOf(*trailing))},
-                    {"height", floatConstant(tile.heightOf(*trailing))},
+                   {{"width", tile.widthOf(*trailing).text()},
+                    {"height", tile.heightOf(*trailing).text()},
                     {"content", slotContent(tile, *trailing, "trailX", "trailY")}});
     }
 }
@@ -127,7 +127,7 @@ void emitListTile(WidgetWriter& tile) {
     tile.block("}\n");
 }
 
-float tileHeight(const Measure& measure) {
+Extent tileHeight(const Measure& measure) {
     constexpr float ONE_LINE = 56.0F;
     constexpr float TWO_LINES = 72.0F;
     const bool hasSubtitle = findProperty(measure.widget, {"துணைத்_தலைப்பு"}) != nullptr;

@@ -24,8 +24,9 @@ void emitSelection(WidgetWriter& radio, const Expression* value, const Expressio
                     {{"isEqual", radio.edition().equality(*value, *group)}});
     } else {
         radio.block(R"(
-    static bool demoState_$n = false; isSelected = demoState_$n;
-)");
+    $state; isSelected = demoState_$n;
+)",
+                    {{"state", radio.state("bool", "demoState_" + radio.number(), "false")}});
     }
 }
 

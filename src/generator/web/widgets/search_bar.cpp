@@ -102,10 +102,11 @@ void emitSearchBar(WidgetWriter& bar) {
     emitLens(bar);
     const std::string hint = textOf(findProperty(bar.widget(), {"தேடல்_குறிப்பு", "குறிப்பு"}));
     bar.block(R"(
-    std::string sbId = "search_" + std::to_string($n);
+    std::string sbId = $id;
     pozhil_place_search_field(sbId.c_str(), $hint, sbX, sbY, sbW, sbH, fSize);
 )",
-              {{"hint", bar.edition().literal(hint.empty() ? "Search..." : hint)}});
+              {{"id", bar.nameFrom("\"search_\" + std::to_string(" + bar.number() + ")")},
+               {"hint", bar.edition().literal(hint.empty() ? "Search..." : hint)}});
     emitClear(bar);
 }
 

@@ -38,10 +38,11 @@ void emitButtonState(WidgetWriter& slider) {
 void emitValue(WidgetWriter& slider) {
     const Expression* value = findProperty(slider.widget(), {"மதிப்பு"});
     slider.block(R"(
-    static float currentVal_$n = -99999.0f;
+    $state;
     if (currentVal_$n == -99999.0f) currentVal_$n = $value;
 )",
-                 {{"value", value == nullptr ? "minVal" : numberValue(slider, value, 0.0F)}});
+                 {{"state", slider.state("float", "currentVal_" + slider.number(), "-99999.0f")},
+                  {"value", value == nullptr ? "minVal" : numberValue(slider, value, 0.0F)}});
 }
 
 /// The thumb follows the pointer while the button is down and the pointer near the track.

@@ -36,7 +36,7 @@ void emitSpinner(WidgetWriter& spinner) {
                    {"thickness", numberConstant(widget, {"style_தடிமன்"}, THICKNESS)}});
 }
 
-float spinnerSize(const Measure& measure) {
+Extent spinnerSize(const Measure& measure) {
     constexpr float USUAL = 40.0F;
     return numberProperty(measure.widget, "style_அளவு", USUAL);
 }

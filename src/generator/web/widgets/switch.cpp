@@ -51,9 +51,10 @@ void emitSwitch(WidgetWriter& widget) {
     float swX = std::floor($x); float swY = std::floor($y);
     float swW = 48.0f; float swH = 28.0f;
     float thumbSize = 24.0f; float padding = (swH - thumbSize) / 2.0f;
-    static bool isOn_$n = $initial;
+    $state;
 )",
-                 {{"initial", truthValue(widget, findProperty(widget.widget(), {"ஆரம்ப_நிலை"}))}});
+                 {{"state", widget.state("bool", "isOn_" + widget.number(),
+                                         truthValue(widget, findProperty(widget.widget(), {"ஆரம்ப_நிலை"})))}});
     if (!isDisabled(widget.widget())) {
         emitPressArea(widget, {"swX - 5", "swX + swW + 5", "swY - 5", "swY + swH + 5"}, widget.blocks([&] {
             widget.block("isOn_$n = !isOn_$n;\n$handler\n", {{"handler", changeHandler(widget)}});

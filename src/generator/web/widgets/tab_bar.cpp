@@ -24,7 +24,7 @@ void emitBar(WidgetWriter& bar) {
 {
     float tbX = $x; float tbY = $y;
     float tbW = winWidth; float tbH = 50.0f;
-    static int curTabIdx_$n = $initial; int& curTabIdx = curTabIdx_$n;
+    $state; int& curTabIdx = curTabIdx_$n;
     nvgBeginPath(vg);
     nvgRect(vg, tbX, tbY, tbW, tbH);
     nvgFillColor(vg, $fill);
@@ -34,7 +34,7 @@ void emitBar(WidgetWriter& bar) {
     nvgFillPaint(vg, nvgBoxGradient(vg, tbX, tbY+tbH-2, tbW, 6, 0, 6, nvgRGBA(0,0,0,30), nvgRGBA(0,0,0,0)));
     nvgFill(vg);
 )",
-              {{"initial", initialIndex(bar)},
+              {{"state", bar.state("int", "curTabIdx_" + bar.number(), initialIndex(bar))},
                {"fill", byteColourText(colourProperty(bar.widget(), {"style_பின்னணி"}, "#2196F3"))}});
 }
 

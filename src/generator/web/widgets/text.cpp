@@ -73,7 +73,7 @@ void emitText(WidgetWriter& text) {
                 {"font", edition.literal(style.font)}});
 }
 
-float textWidth(const Measure& measure) {
+Extent textWidth(const Measure& measure) {
     constexpr std::size_t UNKNOWN_LENGTH = 10;
     constexpr float PER_CODE_POINT = 0.65F;
     const float styleSize = measure.widget.style.size;
@@ -88,7 +88,7 @@ float textWidth(const Measure& measure) {
     return static_cast<float>(count) * PER_CODE_POINT * size;
 }
 
-float textHeight(const Measure& measure) {
+Extent textHeight(const Measure& measure) {
     constexpr float USUAL_HEIGHT = 20.0F;
     return measure.widget.style.size > 0 ? measure.widget.style.size : USUAL_HEIGHT;
 }

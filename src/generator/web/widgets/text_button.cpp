@@ -54,7 +54,7 @@ void emitTextButton(WidgetWriter& button) {
          {"colour", cssColour(colourProperty(widget, {"style_நிறம்"}, "#ffffff"))}});
 }
 
-float textButtonWidth(const Measure& measure) {
+Extent textButtonWidth(const Measure& measure) {
     return labelWidth(measure.widget, numberProperty(measure.widget, "style_அளவு", USUAL_TEXT_SIZE));
 }
 

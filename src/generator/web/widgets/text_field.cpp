@@ -64,7 +64,7 @@ void emitError(WidgetWriter& field, const std::string& id) {
         drawFixedText(tbX, tbY + tbH + 4, g_inputErrors[$id].c_str(), "#F44336", 12.0f, "left");
     }
 )",
-                {{"id", field.edition().literal(id)}});
+                {{"id", field.nameFrom(field.edition().literal(id))}});
 }
 
 /// A widget in front of the text, such as an icon.
@@ -86,9 +86,9 @@ void emitPrefix(WidgetWriter& field) {
         forcedW = savedForcedW; forcedH = savedForcedH;
     }
 )",
-                {{"width", floatConstant(field.widthOf(*prefix))},
-                 {"height", floatConstant(field.heightOf(*prefix))},
-                 {"prefix", field.blocks([&] { field.child(*prefix, "leadX", "leadY"); })}});
+                {{"width", field.widthOf(*prefix).text()},
+                 {"height", field.heightOf(*prefix).text()},
+                 {"prefix", field.blocks([&] { field.slot(*prefix, "leadX", "leadY"); })}});
 }
 
 /// The browser's field: made when it is first drawn, and placed over its box in each frame.
@@ -100,7 +100,7 @@ void emitOverlay(WidgetWriter& field, const std::string& id) {
     pozhil_place_text_field($id, $hint, $manyLines, "$colour", tbX, tbY, tbW, tbH, prefixOffset, fSize);
 }
 )",
-        {{"id", edition.literal(id == NO_ID ? "text_" + field.number() : id)},
+        {{"id", field.nameFrom(edition.literal(id == NO_ID ? "text_" + field.number() : id))},
          {"hint", edition.literal(textOf(findProperty(field.widget(), {"குறிப்பு"})))},
          {"manyLines", hasManyLines ? "true" : "false"},
          {"colour", cssColour(colourProperty(field.widget(), {"style_எழுத்து_நிறம்", "எழுத்து_நிறம்"}, "#333333"))}});

@@ -42,10 +42,11 @@ void emitAnimationProgress(WidgetWriter& widget, const char* isHover) {
     std::string aCond = $condition;
     if (aCond == "மவுஸ்_மேலே" || aCond == "hover" || aCond == "சுட்டி_மேல்") animActive = $isHover;
     if (aCond == "தானாக") animActive = true;
-    float progress = updateProgress(${n}ULL, aCond, animActive, $y, winHeight, $duration);
+    float progress = updateProgress($key, aCond, animActive, $y, winHeight, $duration);
     float t = getCurveValue($curve, progress);
 )",
                  {{"condition", widget.edition().literal(animation->condition)},
+                  {"key", widget.animationKey()},
                   {"isHover", isHover},
                   {"duration", floatConstant(animation->duration)},
                   {"curve", widget.edition().literal(animation->curve)}});

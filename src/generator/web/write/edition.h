@@ -2,6 +2,7 @@
 
 #include "diagnostics/fault.h"
 #include "emit/emitted_block.h"
+#include "generator/web/measure/presence.h"
 #include "generator/web/write/colours.h"
 #include "parser/tree/node.h"
 
@@ -48,10 +49,8 @@ struct MessageBar {
 /// variables and functions is known to the edition alone, which writes all that has to do with them.
 ///
 /// What an edition returns goes into a hole of a block, once for each time that the hole stands there.
-class Edition {
+class Edition : public Presence {
 public:
-    virtual ~Edition() = default;
-
     // Values.
 
     /// A std::string that a member may be asked of: what \p value shows, evaluated where it stands.
@@ -104,6 +103,20 @@ public:
     /// The function pozhil_open_alerts of the emitted program: a std::set<std::string> of the names by which widgets are
     /// there that mask the page.
     virtual void writeOpenAlerts(CodeWriter& out) = 0;
+
+    // Widgets that come once for each element of a list; in editions that have such.
+
+    /// A loop over the elements with \p body in it.
+    virtual void writeEach(WidgetWriter& layout, const EachNode& each, const Filling& body);
+
+    /// The declaration of a variable that belongs to the element (WidgetWriter::state).
+    virtual Filling elementState(const std::string& type, const std::string& name, const Filling& first) const;
+
+    /// An unsigned number of the emitted text: another for each element and each \p key.
+    virtual std::string elementKey(const std::string& key) const;
+
+    /// A std::string of the emitted text: another for each element and each \p name, which is one as well.
+    virtual std::string elementName(const std::string& name) const;
 
     // Faults of the running program.
 

@@ -16,7 +16,7 @@ bool isDrawnInPlace(const Expression* handler) {
 Filling handlerCall(WidgetWriter& widget, const Expression* handler, HandlerSite site) {
     return widget.blocks([&widget, handler, site] {
         if (isDrawnInPlace(handler)) {
-            widget.child(*asWidget(handler), "0.0f", "0.0f");
+            widget.slot(*asWidget(handler), "0.0f", "0.0f");
         } else {
             widget.edition().writeHandler(widget, *handler, site);
         }

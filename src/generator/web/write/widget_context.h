@@ -9,6 +9,8 @@
 
 namespace pozhil {
 
+class WidgetMetrics;
+
 /// What all widgets of a program share while they are written: the text, the edition, the running number, and each
 /// other.
 class WidgetContext {
@@ -29,14 +31,29 @@ public:
     /// Writes \p widget and all below it, with its corner where the texts \p x and \p y of the emitted program tell.
     virtual void writeWidget(const WidgetNode& widget, const std::string& x, const std::string& y) = 0;
 
-    /// Sizes of a widget in pixels, as far as the source tells them.
-    virtual float widthOf(const WidgetNode& widget) = 0;
-    virtual float heightOf(const WidgetNode& widget) = 0;
+    /// Sizes that a widget has while it is there, and what children take of their parent.
+    virtual WidgetMetrics& metrics() = 0;
+
+    /// In how many lists within each other what is being written comes, once for each element.
+    int depthOfEach() const { return depthOfEach_; }
+
+    /// Everything written while it lives comes once for each element.
+    class InEach {
+    public:
+        explicit InEach(WidgetContext& context) : context_(context) { ++context_.depthOfEach_; }
+        ~InEach() { --context_.depthOfEach_; }
+        InEach(const InEach&) = delete;
+        InEach& operator=(const InEach&) = delete;
+
+    private:
+        WidgetContext& context_;
+    };
 
 private:
     CodeWriter& out_;
     Edition& edition_;
     std::uint64_t numbers_ = 0;
+    int depthOfEach_ = 0;
 };
 
 } // namespace pozhil

@@ -1,5 +1,6 @@
 #include "generator/web/write/widget_writer.h"
 
+#include "generator/web/measure/metrics.h"
 #include "generator/web/write/widget_context.h"
 
 #include <utility>
@@ -18,7 +19,8 @@ bool isZeroText(const std::string& text) {
 
 WidgetWriter::WidgetWriter(WidgetContext& context, const WidgetNode& widget, std::string x, std::string y,
                            std::uint64_t number)
-    : context_(context), widget_(widget), x_(std::move(x)), y_(std::move(y)), number_(number) {}
+    : context_(context), widget_(widget), x_(std::move(x)), y_(std::move(y)), number_(number),
+      depthOfEach_(context.depthOfEach()) {}
 
 std::string WidgetWriter::partNumber() {
     return std::to_string(context_.nextNumber());
@@ -36,12 +38,16 @@ void WidgetWriter::block(const Block& block, const Holes& holes) {
     context_.out().block(block, holes, {{"x", x_}, {"y", y_}, {"n", number()}});
 }
 
-float WidgetWriter::widthOf(const WidgetNode& widget) const {
-    return context_.widthOf(widget);
+Extent WidgetWriter::widthOf(const WidgetNode& widget) const {
+    return context_.metrics().calculateWidgetWidth(&widget);
 }
 
-float WidgetWriter::heightOf(const WidgetNode& widget) const {
-    return context_.heightOf(widget);
+Extent WidgetWriter::heightOf(const WidgetNode& widget) const {
+    return context_.metrics().calculateWidgetHeight(&widget);
+}
+
+WidgetMetrics& WidgetWriter::metrics() const {
+    return context_.metrics();
 }
 
 Edition& WidgetWriter::edition() const {
@@ -69,19 +75,62 @@ void WidgetWriter::child(const WidgetNode& widget, const std::string& x, const s
 }
 
 /// WebAssembly takes no function with as many locals as the children of a large layout would need.
-void WidgetWriter::eachChild(const std::vector<const WidgetNode*>& children,
-                             const std::function<void(const WidgetNode&)>& write) {
+void WidgetWriter::eachChild(const std::vector<const WidgetNode*>& children, const WriteChild& write) {
     constexpr std::size_t MOST_IN_A_FUNCTION = 32;
     const bool isSplit = children.size() > MOST_IN_A_FUNCTION;
     for (std::size_t index = 0; index < children.size(); ++index) {
         if (isSplit && index % MOST_IN_A_FUNCTION == 0) {
             block(index == 0 ? "    [&] {\n" : "    }();\n    [&] {\n");
         }
-        write(*children[index]);
+        writeChild(*children[index], write);
     }
     if (isSplit) {
         block("    }();\n");
     }
+}
+
+void WidgetWriter::writeChild(const WidgetNode& child, const WriteChild& write) {
+    const auto* each = dynamic_cast<const EachNode*>(&child);
+    if (each == nullptr) {
+        whileShown(child, write);
+        return;
+    }
+    edition().writeEach(*this, *each, blocks([this, each, &write] {
+        const WidgetContext::InEach inside(context_);
+        eachChild(childWidgets(*each), write);
+    }));
+}
+
+void WidgetWriter::whileShown(const WidgetNode& widget, const WriteChild& write) {
+    const std::string condition = edition().shownWhile(widget);
+    if (condition.empty()) {
+        write(widget);
+        return;
+    }
+    block("    if ($condition) {\n$shown\n    }\n",
+          {{"condition", condition}, {"shown", blocks([&] { write(widget); })}});
+}
+
+void WidgetWriter::slot(const WidgetNode& widget, const std::string& x, const std::string& y) {
+    whileShown(widget, [&](const WidgetNode& shown) { child(shown, x, y); });
+}
+
+bool WidgetWriter::isInOwnEach() const {
+    return context_.depthOfEach() > depthOfEach_;
+}
+
+Filling WidgetWriter::state(const std::string& type, const std::string& name, const Filling& first) const {
+    return isInEach() ? edition().elementState(type, name, first)
+                      : Filling(std::vector<Filling>{"static " + type + " " + name + " = ", first});
+}
+
+std::string WidgetWriter::nameFrom(const std::string& name) const {
+    return isInEach() ? edition().elementName(name) : name;
+}
+
+std::string WidgetWriter::animationKey() const {
+    const std::string key = number() + "ULL";
+    return isInEach() ? edition().elementKey(key) : key;
 }
 
 Fault WidgetWriter::faultWithoutPlace(const std::string& code, std::int32_t line, const std::string& details) const {

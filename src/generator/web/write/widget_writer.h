@@ -1,6 +1,7 @@
 #pragma once
 
 #include "emit/emitted_block.h"
+#include "generator/web/measure/extent.h"
 #include "generator/web/write/edition.h"
 #include "generator/web/write/widget_properties.h"
 #include "parser/syntax_tree.h"
@@ -14,6 +15,7 @@
 namespace pozhil {
 
 class WidgetContext;
+class WidgetMetrics;
 
 /// What the emitter of a widget works with: the widget, where it stands, and the means to write its block.
 class WidgetWriter {
@@ -34,9 +36,12 @@ public:
     /// Whether its top is the page's top, so that there is no variable of a parent to move on.
     bool isAtTop() const;
 
-    /// Sizes of a widget as far as the source tells them, as constants of the emitted text.
-    float widthOf(const WidgetNode& widget) const;
-    float heightOf(const WidgetNode& widget) const;
+    /// Sizes that a widget has while it is there.
+    Extent widthOf(const WidgetNode& widget) const;
+    Extent heightOf(const WidgetNode& widget) const;
+
+    /// Sizes, and what children take of their parent.
+    WidgetMetrics& metrics() const;
 
     /// Writes a block of the emitted text. Besides \p holes it may have `$x`, `$y` (the position) and `$n` (the number).
     void block(const Block& block, const Holes& holes = {});
@@ -49,18 +54,40 @@ public:
     Filling blocks(std::function<void()> write);
     /// Writes another widget, at the position that \p x and \p y tell.
     void child(const WidgetNode& widget, const std::string& x, const std::string& y);
-    /// Writes what \p write writes for each of \p children, in functions of the emitted text where they are many.
-    void eachChild(const std::vector<const WidgetNode*>& children, const std::function<void(const WidgetNode&)>& write);
+
+    using WriteChild = std::function<void(const WidgetNode&)>;
+    /// Writes what \p write writes for each of \p children, in functions of the emitted text where they are many. What
+    /// isn't always there is asked whether it is; what is there for each element of a list comes in a loop over it.
+    void eachChild(const std::vector<const WidgetNode*>& children, const WriteChild& write);
+    /// Writes a widget that isn't a child of a layout, at the position that \p x and \p y tell, if it is there.
+    void slot(const WidgetNode& widget, const std::string& x, const std::string& y);
+
+    /// Whether what is being written comes once for each element of a list that is a child of this widget.
+    bool isInOwnEach() const;
+    /// A declaration, without a semicolon: the variable \p name of the block keeps its value from frame to frame. In a list
+    /// each element has one of its own.
+    Filling state(const std::string& type, const std::string& name, const Filling& first) const;
+    /// A std::string of the emitted text by which the page knows what it makes for the widget. In a list each element has
+    /// one of its own.
+    std::string nameFrom(const std::string& name) const;
+    /// An unsigned number of the emitted text by which the widget's animation is known.
+    std::string animationKey() const;
 
     /// A fault in the source that is told without its place, to be thrown.
     Fault faultWithoutPlace(const std::string& code, std::int32_t line, const std::string& details) const;
 
 private:
+    /// Whether the widget itself comes once for each element of a list.
+    bool isInEach() const { return depthOfEach_ > 0; }
+    void writeChild(const WidgetNode& child, const WriteChild& write);
+    void whileShown(const WidgetNode& widget, const WriteChild& write);
+
     WidgetContext& context_;
     const WidgetNode& widget_;
     std::string x_;
     std::string y_;
     std::uint64_t number_;
+    int depthOfEach_;
 };
 
 } // namespace pozhil

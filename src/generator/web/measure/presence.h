@@ -1,0 +1,27 @@
+#pragma once
+
+#include "generator/web/measure/extent.h"
+
+#include <string>
+
+namespace pozhil {
+
+struct EachNode;
+struct WidgetNode;
+
+/// How often a child is there: once, only while a condition holds, or once for each element of a list. An edition whose
+/// widgets are always there has nothing to add.
+class Presence {
+public:
+    virtual ~Presence() = default;
+
+    /// A bool of the emitted text, asked anew in each frame; empty for a widget that always takes its room.
+    virtual std::string shownWhile(const WidgetNode&) { return {}; }
+
+    /// What all elements take together, and the most that one takes.
+    /// \param ofOne what one takes; it may name the element
+    virtual Extent sumOverElements(const EachNode& each, const Extent& ofOne);
+    virtual Extent largestOfElements(const EachNode& each, const Extent& ofOne);
+};
+
+} // namespace pozhil
