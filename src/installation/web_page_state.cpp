@@ -14,6 +14,7 @@ extern std::string g_currentPage __attribute__((weak));
 extern std::map<std::string, std::any> global_vars __attribute__((weak));
 /// Of a program of the second edition, which knows its variables itself.
 extern "C" int pozhil_program_shows(const char* name, int atFirst) __attribute__((weak));
+extern "C" int pozhil_program_has_page(const char* name) __attribute__((weak));
 
 extern "C" {
 /// Of the linker: the bounds of what the program holds outside of its stack, which is empty between frames.
@@ -56,6 +57,11 @@ EMSCRIPTEN_KEEPALIVE void pozhil_show_page(const char* name) {
     if (&g_currentPage != nullptr) {
         g_currentPage = name;
     }
+}
+
+/// Whether the program says that it has a page of this name.
+EMSCRIPTEN_KEEPALIVE int pozhil_has_page(const char* name) {
+    return &pozhil_program_has_page != nullptr && pozhil_program_has_page(name) != 0 ? 1 : 0;
 }
 
 /// Whether the variable shows the widgets that name it.

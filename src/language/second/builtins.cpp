@@ -79,6 +79,7 @@ constexpr Builtin BUILTINS[] = {
 
     // Of web applications.
     {"செல்க", Form::PageCall, 1, 1, "page::go", Kind::Nothing, false, {"பக்கம்"}, {"பக்கத்திற்குச் செல்லும்", "goes to a page"}},
+    {"முகவரி", Form::PageCall, 0, 0, "page::address", Kind::Text, false, {}, {"காட்டப்படும் பக்கத்தின் பெயர்", "the name of the page that is shown"}},
     {"நகர்த்து", Form::PageCall, 1, 1, "page::scrollTo", Kind::Nothing, false, {"அடையாளம்"}, {"அந்த இடத்திற்கு உருட்டும்", "scrolls there"}},
     {"திரை_அகலம்", Form::PageWord, 0, 0, "page::windowWidth", Kind::Decimal, false, {}, {"சாளரத்தின் அகலம்", "width of the window"}},
     {"திரை_உயரம்", Form::PageWord, 0, 0, "page::windowHeight", Kind::Decimal, false, {}, {"சாளரத்தின் உயரம்", "height of the window"}},

@@ -50,12 +50,23 @@ EmittedLines PageProgram::head() const {
     return lines;
 }
 
+/// The function pozhil_program_has_page of the emitted program, for the addresses of pages.
+void PageProgram::writePageNames(CodeWriter& out) const {
+    out.block("extern \"C\" int pozhil_program_has_page(const char* name) {\n");
+    for (const Page& page : program_.pages) {
+        out.block("    if (std::strcmp(name, $name) == 0) {\n        return 1;\n    }\n",
+                  {{"name", textLiteral(pageName(*page.tree))}});
+    }
+    out.block("    return 0;\n}\n");
+}
+
 EmittedLines PageProgram::pages() {
     CodeWriter out;
     PageEdition edition(program_, tables_, out);
     WebEmitter emitter(out, edition, applicationOf(program_));
     edition.setEmitter(emitter);
     edition.writeShownNames(out);
+    writePageNames(out);
     emitter.writeProgram();
     EmittedLines lines;
     lines.setPlace(program_.pages.front().frame->place);

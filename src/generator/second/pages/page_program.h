@@ -5,6 +5,10 @@
 
 #include <cstddef>
 
+namespace pozhil {
+class CodeWriter;
+}
+
 namespace pozhil::resolved::writer {
 
 /// Writes what an application has besides the functions of its program: the runtime of pages before them, and its pages
@@ -21,6 +25,8 @@ public:
     EmittedLines pages();
 
 private:
+    void writePageNames(CodeWriter& out) const;
+
     const Program& program_;
     ProgramTables& tables_;
 };
