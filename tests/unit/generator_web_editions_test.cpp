@@ -44,6 +44,7 @@ public:
     Filling equality(const Expression& left, const Expression& right) override {
         return "EQUAL(" + nameOf(&left) + ", " + nameOf(&right) + ")";
     }
+    std::string inComment(const std::string&) const override { return "COMMENT"; }
     std::string literal(const std::string& text) const override {
         return text == SOURCE_TEXT ? "LITERAL" : "\"" + text + "\"";
     }

@@ -1,8 +1,7 @@
 // Widgets that come once for each element of a list, and widgets that are there only while a condition holds.
 
+import { MARKER } from './harness/editions.js';
 import { application, assert, webTest } from './harness/index.js';
-
-const MARKER = 'ஃ பொழில் 2\n';
 const second = (body, logic, header) => MARKER + application(body, { logic, header });
 
 const tasks = second(`

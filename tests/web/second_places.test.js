@@ -1,5 +1,6 @@
 // The pages of an application as places of the browser.
 
+import { MARKER } from './harness/editions.js';
 import { assert, webTest } from './harness/index.js';
 
 const page = (name, body, header = '', logic = '') => `வலைதளம் ${name}(
@@ -14,7 +15,7 @@ const page = (name, body, header = '', logic = '') => `வலைதளம் ${n
 )
 `;
 const to = name => `பொத்தான்(உரை: "${name} செல்", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்: () => செல்க("${name}"))`;
-const PLACES = 'ஃ பொழில் 2\n' + page('முதல்', `${to('இரண்டு')},\n            ${to('மூன்று')}`, ', ஆரம்ப_பக்கம்: மெய்')
+const PLACES = MARKER + page('முதல்', `${to('இரண்டு')},\n            ${to('மூன்று')}`, ', ஆரம்ப_பக்கம்: மெய்')
     + page('இரண்டு', to('மூன்று')) + page('மூன்று', to('முதல்'));
 
 const nameOf = async ({ page: tab }) => decodeURIComponent(new URL(tab.url()).hash);
@@ -59,7 +60,7 @@ webTest('a link leads into an application, and a page stays when it is loaded an
     await page.waitForText('இது முதல்');
 });
 
-const FIRST = PLACES.replace('ஃ பொழில் 2\n', '').replaceAll('முகவரி()', '"இங்கே"');
+const FIRST = PLACES.replace(MARKER, '').replaceAll('முகவரி()', '"இங்கே"');
 
 webTest('pages of the first edition have no addresses of their own', FIRST, async page => {
     await page.click(100, 36);

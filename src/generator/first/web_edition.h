@@ -18,6 +18,7 @@ public:
     Filling equality(const Expression& left, const Expression& right) override;
     /// Escapes are the same in both languages.
     std::string literal(const std::string& text) const override;
+    std::string inComment(const std::string& text) const override { return text; }
     std::string valueType() const override { return "std::any"; }
 
     /// Variables and the size of the window, and comparisons of these with each other and with sizes.

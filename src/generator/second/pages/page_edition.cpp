@@ -104,6 +104,10 @@ std::string PageEdition::literal(const std::string& text) const {
     return textLiteral(text);
 }
 
+std::string PageEdition::inComment(const std::string& text) const {
+    return lineComment(text).substr(lineComment("").size());
+}
+
 std::string PageEdition::computedSize(const pozhil::Expression& size, const std::string&) {
     return "(float)pageNumber(" + written(&size) + ", " + tables_.places.literal(valueOf(&size).evaluation->place) +
            ")";

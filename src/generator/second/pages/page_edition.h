@@ -28,6 +28,7 @@ public:
     Filling truth(const pozhil::Expression& value) override;
     Filling equality(const pozhil::Expression& left, const pozhil::Expression& right) override;
     std::string literal(const std::string& text) const override;
+    std::string inComment(const std::string& text) const override;
     std::string valueType() const override { return "Value"; }
 
     std::string computedSize(const pozhil::Expression& size, const std::string& base) override;

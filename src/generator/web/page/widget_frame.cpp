@@ -33,7 +33,7 @@ void emitVisibilityCheck(WidgetWriter& writer, const Visibility& visibility) {
 g_alert_names.insert($literal);
 if ($condition) {
 )",
-                 {{"name", visibility.name},
+                 {{"name", writer.edition().inComment(visibility.name)},
                   {"literal", writer.edition().literal(visibility.name)},
                   {"condition", visibility.condition}});
 }
@@ -59,7 +59,7 @@ void WidgetFrame::writeWidget(const WidgetNode& widget, const std::string& x, co
         writer.block("});\n");
     }
     if (visibility) {
-        writer.block("} // End Visibility Check for $name\n", {{"name", visibility->name}});
+        writer.block("} // End Visibility Check for $name\n", {{"name", edition().inComment(visibility->name)}});
     }
 }
 

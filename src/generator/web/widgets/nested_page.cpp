@@ -23,7 +23,7 @@ if (g_currentPage == $literal) {
     $children
 }
 )",
-               {{"name", name}, {"literal", page.edition().literal(name)}, {"children", children}});
+               {{"name", page.edition().inComment(name)}, {"literal", page.edition().literal(name)}, {"children", children}});
 }
 
 } // namespace

@@ -73,6 +73,9 @@ public:
     /// A text of the source as a literal of C++, in its quotes.
     virtual std::string literal(const std::string& text) const = 0;
 
+    /// A text of the source as a part of a comment of one line.
+    virtual std::string inComment(const std::string& text) const = 0;
+
     /// The type of C++ that holds any value of the program, and nothing when it is made without arguments.
     virtual std::string valueType() const = 0;
 

@@ -1,0 +1,27 @@
+// Applications that look alike in both editions.
+
+import { files, source } from './examples.js';
+import { assert, buildPage, webTest } from './index.js';
+
+/// The line by which a source is of the second edition.
+export const MARKER = 'ஃ பொழில் 2\n';
+
+const DESKTOP = { width: 1280, height: 800 };
+
+/// What a page shows when it has come to rest: its texts, and a picture of it.
+async function look(page) {
+    await page.frames(30);
+    return { texts: await page.texts(), picture: (await page.page.screenshot()).toString('base64') };
+}
+
+/// A test that the published application of this name looks in the second edition as it does in the first.
+export function expectLikeLook(name) {
+    webTest(`${name} looks in both editions alike`, source(name), { files: files(), viewport: DESKTOP }, async page => {
+        const first = await look(page);
+        const built = await buildPage(MARKER + source(name), { files: files() });
+        await page.openBuilt(built);
+        const second = await look(page);
+        assert.deepEqual(second.texts, first.texts);
+        assert.ok(second.picture === first.picture, 'the pictures differ');
+    });
+}
