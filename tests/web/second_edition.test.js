@@ -1,14 +1,11 @@
 // Applications of the second edition: the published ones look in it as they do in the first, and what only it does.
 
-import { MARKER, expectLikeLook } from './harness/editions.js';
-import { application, assert, webTest } from './harness/index.js';
+import { expectLikeLook, second } from './harness/editions.js';
+import { assert, webTest } from './harness/index.js';
 
 for (const name of ['இரு_பக்கங்கள்', 'பதிவுப்_படிவம்']) {
     expectLikeLook(name);
 }
-
-/// An application of one page in the second edition.
-const second = (body, logic, header) => MARKER + application(body, { logic, header });
 
 const counting = second(`
         நெடுவரிசை(

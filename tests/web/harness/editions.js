@@ -1,10 +1,13 @@
 // Applications that look alike in both editions.
 
 import { files, source } from './examples.js';
-import { assert, buildPage, webTest } from './index.js';
+import { application, assert, buildPage, webTest } from './index.js';
 
 /// The line by which a source is of the second edition.
 export const MARKER = 'ஃ பொழில் 2\n';
+
+/// An application of one page in the second edition.
+export const second = (body, logic, header) => MARKER + application(body, { logic, header });
 
 const DESKTOP = { width: 1280, height: 800 };
 
