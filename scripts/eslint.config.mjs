@@ -35,8 +35,8 @@ const PAGE = readonly(['CanvasRenderingContext2D', 'Event', 'FS', 'FontFace', 'H
 const PAGE_SCRIPTS = {
     ...readonly(['Browser', 'ErrorEvent', 'GL', 'GLFW', 'HEAP32', 'HEAPF32', 'HEAPU8', 'HTMLCanvasElement',
         'HTMLImageElement', 'HTMLScriptElement', 'TextDecoder', 'WebAssembly', 'abort', 'history', 'pozhilDrawing',
-        'pozhilFaults', 'pozhilFrames', 'pozhilLoading', 'pozhilPictures', 'pozhilPointer', 'pozhilShown', 'pozhilTextCanvas',
-        'pozhilWidths']),
+        'pozhilFaults', 'pozhilFrames', 'pozhilLoading', 'pozhilPictures', 'pozhilPointer', 'pozhilShown',
+        'pozhilTextCanvas', 'pozhilWidths']),
     UTF8ToString: 'writable',
     currentVersion: 'writable',
 };

@@ -1,4 +1,4 @@
-#include "generator/web/measure/extent.h"
+#include "generator/web/write/extent.h"
 
 #include <gtest/gtest.h>
 

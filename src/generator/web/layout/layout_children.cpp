@@ -27,8 +27,8 @@ Extent sharesOf(const std::vector<const WidgetNode*>& children, Presence& presen
 LayoutChildren::LayoutChildren(WidgetWriter& layout)
     : widgets(childWidgets(layout.widget())),
       spacing(numberOf(findProperty(layout.widget(), {"இடைவெளி"})).value_or(0.0F)) {
-    across = layout.metrics().roomAcross(widgets);
-    down = layout.metrics().roomDown(widgets);
+    across = layout.roomAcross(widgets);
+    down = layout.roomDown(widgets);
     gaps = gapsBetween(down.number) * spacing;
     totalFlex = sharesOf(widgets, layout.edition());
 }

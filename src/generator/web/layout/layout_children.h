@@ -1,6 +1,6 @@
 #pragma once
 
-#include "generator/web/measure/metrics.h"
+#include "generator/web/write/extent.h"
 #include "parser/syntax_tree.h"
 
 #include <initializer_list>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "generator/web/measure/presence.h"
 #include "generator/web/measure/widget_kind.h"
+#include "generator/web/write/presence.h"
 #include "parser/syntax_tree.h"
 
 #include <unordered_map>
@@ -10,14 +10,6 @@
 namespace pozhil {
 
 struct MetricAxis;
-
-/// What several children take of their parent along one axis, each only while it is there.
-struct Room {
-    Extent sum;
-    Extent largest;
-    /// How many children there are.
-    Extent number;
-};
 
 /// Sizes of widgets in pixels as far as the source tells them. A page has no measuring pass: a layout writes the sizes
 /// of its children into the text, as constants but for children that aren't always there. What is known only when the

@@ -12,7 +12,10 @@ public:
     WidgetFrame(CodeWriter& out, Edition& edition);
 
     void writeWidget(const WidgetNode& widget, const std::string& x, const std::string& y) override;
-    WidgetMetrics& metrics() override { return metrics_; }
+    Extent widthOf(const WidgetNode& widget) override { return metrics_.calculateWidgetWidth(&widget); }
+    Extent heightOf(const WidgetNode& widget) override { return metrics_.calculateWidgetHeight(&widget); }
+    Room roomAcross(const std::vector<const WidgetNode*>& children) override { return metrics_.roomAcross(children); }
+    Room roomDown(const std::vector<const WidgetNode*>& children) override { return metrics_.roomDown(children); }
 
     /// A widget as a statement of its own, outside any page: a text is drawn once, a column passes over to its children.
     void writeWidgetStatement(const WidgetNode& widget);

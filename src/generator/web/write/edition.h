@@ -2,8 +2,8 @@
 
 #include "diagnostics/fault.h"
 #include "emit/emitted_block.h"
-#include "generator/web/measure/presence.h"
 #include "generator/web/write/colours.h"
+#include "generator/web/write/presence.h"
 #include "parser/tree/node.h"
 
 #include <cstdint>

@@ -2,14 +2,14 @@
 
 #include "emit/code_writer.h"
 #include "generator/web/write/edition.h"
+#include "generator/web/write/extent.h"
 #include "parser/syntax_tree.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace pozhil {
-
-class WidgetMetrics;
 
 /// What all widgets of a program share while they are written: the text, the edition, the running number, and each
 /// other.
@@ -31,8 +31,13 @@ public:
     /// Writes \p widget and all below it, with its corner where the texts \p x and \p y of the emitted program tell.
     virtual void writeWidget(const WidgetNode& widget, const std::string& x, const std::string& y) = 0;
 
-    /// Sizes that a widget has while it is there, and what children take of their parent.
-    virtual WidgetMetrics& metrics() = 0;
+    /// Sizes that a widget has while it is there.
+    virtual Extent widthOf(const WidgetNode& widget) = 0;
+    virtual Extent heightOf(const WidgetNode& widget) = 0;
+
+    /// What children take of their parent.
+    virtual Room roomAcross(const std::vector<const WidgetNode*>& children) = 0;
+    virtual Room roomDown(const std::vector<const WidgetNode*>& children) = 0;
 
     /// In how many lists within each other what is being written comes, once for each element.
     int depthOfEach() const { return depthOfEach_; }

@@ -1,6 +1,5 @@
 #include "generator/web/write/widget_writer.h"
 
-#include "generator/web/measure/metrics.h"
 #include "generator/web/write/widget_context.h"
 
 #include <utility>
@@ -39,15 +38,19 @@ void WidgetWriter::block(const Block& block, const Holes& holes) {
 }
 
 Extent WidgetWriter::widthOf(const WidgetNode& widget) const {
-    return context_.metrics().calculateWidgetWidth(&widget);
+    return context_.widthOf(widget);
 }
 
 Extent WidgetWriter::heightOf(const WidgetNode& widget) const {
-    return context_.metrics().calculateWidgetHeight(&widget);
+    return context_.heightOf(widget);
 }
 
-WidgetMetrics& WidgetWriter::metrics() const {
-    return context_.metrics();
+Room WidgetWriter::roomAcross(const std::vector<const WidgetNode*>& children) const {
+    return context_.roomAcross(children);
+}
+
+Room WidgetWriter::roomDown(const std::vector<const WidgetNode*>& children) const {
+    return context_.roomDown(children);
 }
 
 Edition& WidgetWriter::edition() const {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "emit/emitted_block.h"
-#include "generator/web/measure/extent.h"
 #include "generator/web/write/edition.h"
+#include "generator/web/write/extent.h"
 #include "generator/web/write/widget_properties.h"
 #include "parser/syntax_tree.h"
 
@@ -15,7 +15,6 @@
 namespace pozhil {
 
 class WidgetContext;
-class WidgetMetrics;
 
 /// What the emitter of a widget works with: the widget, where it stands, and the means to write its block.
 class WidgetWriter {
@@ -40,8 +39,9 @@ public:
     Extent widthOf(const WidgetNode& widget) const;
     Extent heightOf(const WidgetNode& widget) const;
 
-    /// Sizes, and what children take of their parent.
-    WidgetMetrics& metrics() const;
+    /// What children take of their parent.
+    Room roomAcross(const std::vector<const WidgetNode*>& children) const;
+    Room roomDown(const std::vector<const WidgetNode*>& children) const;
 
     /// Writes a block of the emitted text. Besides \p holes it may have `$x`, `$y` (the position) and `$n` (the number).
     void block(const Block& block, const Holes& holes = {});

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "generator/web/measure/extent.h"
+#include "generator/web/write/extent.h"
 
 #include <string>
 

@@ -37,6 +37,14 @@ private:
 
 Extent larger(const Extent& left, const Extent& right);
 
+/// What several children take of their parent along one axis, each only while it is there.
+struct Room {
+    Extent sum;
+    Extent largest;
+    /// How many children there are.
+    Extent number;
+};
+
 /// How many gaps lie between \p number children.
 Extent gapsBetween(const Extent& number);
 

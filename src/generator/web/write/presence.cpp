@@ -1,4 +1,4 @@
-#include "generator/web/measure/presence.h"
+#include "generator/web/write/presence.h"
 
 #include <stdexcept>
 
