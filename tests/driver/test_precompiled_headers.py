@@ -7,11 +7,11 @@ import pytest
 
 from support import texts as t
 from support.server import get
+from support.web_console import UPDATED
 
 pytestmark = pytest.mark.usefixtures("port")
 
 SOURCE = "அ.பொழில்"
-UPDATED = t.WEB_UPDATED + "\n"
 
 # Longer than the pause between two looks at the source.
 A_WHILE = 0.8

@@ -18,11 +18,11 @@ HELLO = MARKER + 'அச்சிடு("வணக்கம்")\n'
 FAULTY = MARKER + "அச்சிடு(இல்லாதது)\nஅச்சிடு(அதுவும்)\n"
 ARCHIVE = "libpozhil_engine.a"
 
-NO_APPLICATION = f"பிழை: '{SOURCE}' நிரலில் 'வலைதளம்' இல்லை! '--வலை' இல்லாமல் ஓட்டு.\n"
+NO_APPLICATION = f"பிழை: '{SOURCE}{t.NO_WEB_APPLICATION_BEHIND}"
 MORE_FAULTS = (
     f"{t.GOLD}  இன்னும் பிழைகள் உள்ளன; முதல் 10 மட்டும் மேலே உள்ளன. இவற்றைச் சரி செய்துவிட்டு மீண்டும் ஓட்டு மச்சி!{t.RESET}\n\n"
 )
-OUR_FAULT = "பிழை: இது பொழிலின் தவறு, உன் நிரலின் தவறு அல்ல"
+OUR_FAULT = f"பிழை: {t.OUR_FAULT}"
 NO_ARCHIVE = "கிடைக்கவில்லை! பொழிலை மீண்டும் நிறுவிக்கொள்."
 
 

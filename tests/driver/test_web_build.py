@@ -8,19 +8,14 @@ import pytest
 
 from support import texts as t
 from support.server import ADDRESS, get
+from support.web_console import BEFORE_BUILD, FAILURE, SUCCESS
 from support.workplace import HELLO, NOBODY, Workplace
 
 pytestmark = pytest.mark.usefixtures("port")
 
 SOURCE = "அ.பொழில்"
-RULE = "-" * 55 + "\n"
-BEFORE = (t.WEB_START + RULE + t.WEB_ANALYSIS + t.WEB_DONE + t.WEB_INTERFACE + t.WEB_DONE
-          + t.WEB_PACKING + t.WEB_COMPILING)
-SUCCESS = (t.WEB_SUCCESS + RULE + "🚀 " + t.GREEN + t.WEB_SERVING + t.RESET + "\n👉 " + t.CYAN + ADDRESS + t.RESET
-           + "\n" + t.WEB_WATCHING + RULE + t.WEB_OPENING)
 COMPILATION_FAILED = (t.RED + "\n" + t.WEB_COMPILATION_FAILED + t.RESET + "\n"
                       + t.GOLD + t.WEB_COMPILATION_HINT + t.RESET + "\n")
-FAILURE = t.RED + t.WEB_FAILURE + t.RESET + "\n"
 INSTALL_COMMAND = "apt install emscripten"
 
 
@@ -49,7 +44,7 @@ def test_what_a_good_build_shows(web_place):
     with serving(web_place) as session:
         session.wait_for_output(t.WEB_OPENING)
         assert get("/version") == (200, "2")
-        assert (session.stdout.decode(), session.stderr) == (BEFORE + SUCCESS, b"")
+        assert (session.stdout.decode(), session.stderr) == (BEFORE_BUILD + SUCCESS, b"")
 
 
 def test_what_a_failed_build_shows(web_place, tools):
@@ -57,7 +52,7 @@ def test_what_a_failed_build_shows(web_place, tools):
     with serving(web_place) as session:
         session.wait_for_output(FAILURE)
         assert get("/version") == (200, "1")
-        assert session.stdout.decode() == BEFORE + COMPILATION_FAILED + FAILURE
+        assert session.stdout.decode() == BEFORE_BUILD + COMPILATION_FAILED + FAILURE
         assert b"words" not in session.stderr
 
 
@@ -65,7 +60,7 @@ def test_output_of_the_toolchain_is_thrown_away(web_place, tools):
     tools.stands_in_for("em++", "echo words; echo words >&2")
     with serving(web_place) as session:
         session.wait_for_output(t.WEB_OPENING)
-        assert (session.stdout.decode(), session.stderr) == (BEFORE + SUCCESS, b"")
+        assert (session.stdout.decode(), session.stderr) == (BEFORE_BUILD + SUCCESS, b"")
 
 
 def test_call_of_the_toolchain(web_place, installation, tools):
@@ -162,7 +157,7 @@ def test_template_is_missing(web_place, installation, tools):
     (installation.include / "template.html").unlink()
     with serving(web_place) as session:
         session.wait_for_output(FAILURE)
-        assert session.stdout.decode() == BEFORE + FAILURE
+        assert session.stdout.decode() == BEFORE_BUILD + FAILURE
         assert session.stderr.decode() == (t.TEMPLATE_MISSING_BEFORE + str(installation.folder)
                                            + t.TEMPLATE_MISSING_BEHIND)
         assert get("/version") == (200, "1")
@@ -174,7 +169,7 @@ def test_toolchain_is_missing(web_place, tools, scratch):
     web_place.env["PATH"] = str(scratch / "nothing")
     with serving(web_place) as session:
         session.wait_for_output(FAILURE)
-        assert session.stdout.decode() == BEFORE + COMPILATION_FAILED + FAILURE
+        assert session.stdout.decode() == BEFORE_BUILD + COMPILATION_FAILED + FAILURE
         assert "em++" in session.stderr.decode() and INSTALL_COMMAND in session.stderr.decode()
         assert get("/version") == (200, "1")
 
@@ -240,7 +235,7 @@ class TestBrowser:
             place.env["BROWSER"] = browser
         with serving(place) as session:
             session.wait_until(lambda: tools.calls(tool))
-            assert (session.stdout.decode(), session.stderr) == (BEFORE + SUCCESS, b"")
+            assert (session.stdout.decode(), session.stderr) == (BEFORE_BUILD + SUCCESS, b"")
         return tools.calls(tool)
 
     @pytest.mark.parametrize("browser", [None, "", " "])
@@ -259,7 +254,7 @@ class TestBrowser:
     def test_none(self, web_place, tools):
         with serving(web_place) as session:
             assert get("/version") == (200, "2")
-            assert session.stdout.decode() == BEFORE + SUCCESS
+            assert session.stdout.decode() == BEFORE_BUILD + SUCCESS
         assert tools.calls("xdg-open") == []
 
     @pytest.mark.parametrize("browser", ["/இல்லை/உலாவி", "''"])
@@ -267,7 +262,7 @@ class TestBrowser:
         web_place.env["BROWSER"] = browser
         with serving(web_place) as session:
             assert get("/version") == (200, "2")
-            assert (session.stdout.decode(), session.stderr) == (BEFORE + SUCCESS, b"")
+            assert (session.stdout.decode(), session.stderr) == (BEFORE_BUILD + SUCCESS, b"")
 
     def test_slow_one_is_not_waited_for(self, web_place, tools):
         tools.stands_in_for("xdg-open", "sleep 5")

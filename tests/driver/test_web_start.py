@@ -4,11 +4,12 @@ import pytest
 
 from support import texts as t
 from support.box import split_compiler_box
+from support.web_console import RULE
 from support.workplace import HELLO, WRONG
 
 pytestmark = pytest.mark.usefixtures("port")
 
-ANNOUNCED = t.WEB_START + "-" * 55 + "\n" + t.WEB_ANALYSIS
+ANNOUNCED = t.WEB_START + RULE + t.WEB_ANALYSIS
 STARTED = ANNOUNCED + t.WEB_DONE + t.WEB_INTERFACE
 
 

@@ -10,13 +10,13 @@ import pytest
 from support import texts as t
 from support.box import split_compiler_box
 from support.server import PORT, get
+from support.web_console import UPDATED
 from support.workplace import HELLO, WRONG
 
 pytestmark = pytest.mark.usefixtures("port")
 
 SOURCE = "அ.பொழில்"
 CHANGED = 'அச்சிடு("மாற்றம்")\n'
-UPDATED = t.WEB_UPDATED + "\n"
 
 
 @pytest.fixture

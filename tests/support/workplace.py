@@ -132,11 +132,12 @@ class Installation:
             "-static", "-static-libstdc++", "-static-libgcc", "-lm", "-lpthread",
         ]
 
-    def web_call(self, place, packing=()):
-        """The arguments with which em++ makes the page of `place`."""
+    def web_call(self, place, packing=(), second=None):
+        """The arguments with which em++ makes the page of `place`, or of its source `second` of the second edition."""
         return [
-            str(place.work_directory / t.EMITTED_WEB_NAME),
+            str((place.directory_of(second) if second else place.work_directory) / t.EMITTED_WEB_NAME),
             str(self.cache / "error_handler_web.o"), str(self.cache / "nanovg_web.o"),
+            *([str(self.cache / t.ENGINE_ARCHIVE)] if second else []),
             f"-I{self.include}", f"-I{self.include}/nanovg", "-std=c++17", "-finput-charset=UTF-8", "--bind",
             "-s", "USE_GLFW=3", "-s", "FULL_ES2=1", "-s", "WASM=1", "-s", "ALLOW_MEMORY_GROWTH=1",
             "-s", "EXPORTED_RUNTIME_METHODS=['ccall','cwrap']",
