@@ -4,6 +4,7 @@ import gzip
 import os
 import socket
 import time
+from urllib.parse import quote
 
 import pytest
 
@@ -14,6 +15,7 @@ pytestmark = pytest.mark.usefixtures("port")
 
 SOURCE = "அ.பொழில்"
 APPLICATION = "வலைதளம் தளம்(\n    தலைமை()\n    குமரி()\n    வரையறை()\n)\n"
+SECOND_EDITION = "ஃ பொழில் 2\n"
 VIDEO = bytes(range(256)) * 1000
 
 
@@ -27,11 +29,11 @@ def web_place(installed_place, tools):
 
 
 class Serving:
-    """A session that serves the application, with these variables."""
+    """A session that serves an application, with these variables."""
 
-    def __init__(self, place, **variables):
+    def __init__(self, place, application=APPLICATION, **variables):
         place.env.update(variables)
-        self.session = place.session(place.write(SOURCE, APPLICATION))
+        self.session = place.session(place.write(SOURCE, application))
 
     def __enter__(self):
         self.session.__enter__()
@@ -264,3 +266,94 @@ def test_strict_server_cannot_be_asked_without_a_whole_head(web_place):
         assert b" 403 " in send(b"GET / HTTP/1.1\r\nHost: 127.0.0.1")
         assert b" 403 " in send(b"GET / HTTP/1.1\r\n\r\nHost: 127.0.0.1\r\n\r\n")
         assert b" 403 " in send(b"GET / HTTP/1.1\r\nHost: 127.0.0.1\0\r\n\r\n")
+
+
+# The second edition.
+
+
+def second_application(image, icon="சின்னம்.svg"):
+    body = f'நெடுவரிசை(படம்(பாதை: "{image}"), படம்(பாதை: "படங்கள்/உள்.jpg"), படம்(பாதை: "வெளியே.png"))'
+    header = f'சின்னம்: "{icon}", பின்னணிகாணொளி: "பின்னணி.mp4"'
+    return f"{SECOND_EDITION}வலைதளம் தளம்(\n    தலைமை({header})\n    குமரி({body})\n    வரையறை()\n)\n"
+
+
+OWN_FILES = ["ஒன்று.png", "படங்கள்/உள்.jpg", "சின்னம்.svg", "பின்னணி.mp4", "assets/கடல்.mp4", "assets/உள்/எழுத்து.ttf"]
+OTHER_FILES = ["இரண்டு.png", "படங்கள்/வேறு.jpg", "assets.txt", "இரகசியம்.txt", ".இரகசியம்", "index.txt"]
+
+
+@pytest.fixture
+def second_place(web_place, scratch):
+    """A working directory with files of the application, those of others, and links that lead from the one to the other."""
+    for folder in ("படங்கள்", "assets/உள்"):
+        (web_place.folder / folder).mkdir()
+    for name in (*OWN_FILES, *OTHER_FILES, "../வெளியில்.txt"):
+        web_place.write(name, name)
+    links = {"assets/இணைப்பு.txt": "../இரகசியம்.txt", "assets/அடைவு": "..", "வெளியே.png": scratch / "வெளியில்.txt",
+             "assets/இங்கே.mp4": "கடல்.mp4"}
+    for name, target in links.items():
+        os.symlink(target, web_place.folder / name)
+    return web_place
+
+
+def status_of(path, *headers):
+    return ask(quote(path, safe="/%*"), *headers)[0]
+
+
+def unserved_paths(place):
+    """What lies in the working directory and isn't the application's, and ways to write paths that lead there."""
+    text = f"{t.WORK_DIRECTORY}/{SOURCE}/{t.EMITTED_WEB_NAME}"
+    assert (place.folder / text).is_file()
+    return [
+        *(f"/{name}" for name in OTHER_FILES), f"/{SOURCE}", f"/{text}", f"/{t.WORK_DIRECTORY}", f"/{t.WORK_DIRECTORY}/",
+        f"/{t.WEB_DIRECTORY}/index.js", f"/{t.WEB_DIRECTORY}", "/index.js.gz", "/assets", "/assets/", "/படங்கள்/", "/.", "/..",
+        "/assets/இணைப்பு.txt", "/assets/அடைவு/இரகசியம்.txt", "/வெளியே.png/..",
+        "/assets/../இரகசியம்.txt", "/assets/%2e%2e/இரகசியம்.txt", "/assets/..%2fஇரகசியம்.txt", "/assets/%2e%2e%2fஇரகசியம்.txt",
+        "/assets/./கடல்.mp4", "//assets/கடல்.mp4", "/assets/%252e%252e/இரகசியம்.txt",
+        "/../வெளியில்.txt", "/assets/../../வெளியில்.txt", f"/%2e%2e/{place.folder.name}/assets/கடல்.mp4",
+        "/assets/..\\இரகசியம்.txt", "/assets%2f..%2fஇரகசியம்.txt", "/ஒன்று.png/../இரண்டு.png", "/ஒன்று.png%00.txt",
+        "//etc/passwd", "/../../../../etc/passwd", "/etc/passwd", "/proc/self/environ", "*", "assets/கடல்.mp4",
+    ]
+
+
+@pytest.mark.parametrize("variables", [{}, {"POZHIL_STRICT": "1"}])
+def test_server_of_the_second_edition_has_the_files_of_the_application_alone(second_place, variables):
+    with Serving(second_place, second_application("ஒன்று.png"), **variables) as session:
+        session.wait_until(lambda: list(second_place.web_directory.glob("*.gz")))
+        for path in ("/", "/index.html", "/version", "/version/fault", "/index.js", "/index.wasm", "/index.data"):
+            assert status_of(path, OWN) == 200, path
+        # What the program itself names is in index.data, wherever it leads.
+        for name in (*OWN_FILES, "assets/இங்கே.mp4", "வெளியே.png"):
+            assert status_of(f"/{name}", OWN) == 200, name
+        for path in unserved_paths(second_place):
+            status, _, body = ask(quote(path, safe="/%*"), OWN)
+            assert (status, body.decode()) == (404, "404 - பக்கம் காணவில்லை"), path
+
+
+def test_server_of_the_first_edition_has_any_file(second_place):
+    with Serving(second_place, second_application("ஒன்று.png").removeprefix(SECOND_EDITION)):
+        for path in (*OWN_FILES, *OTHER_FILES, SOURCE, f"{t.WORK_DIRECTORY}/{t.EMITTED_WEB_NAME}", "assets/இணைப்பு.txt",
+                     f"{t.WEB_DIRECTORY}/index.js", "வெளியே.png"):
+            assert status_of(f"/{path}") == 200, path
+
+
+@pytest.mark.parametrize("headers", [[], ["Host: foreign.example"], [OWN, "Origin: http://foreign.example"]])
+def test_server_of_the_second_edition_answers_whoever_asks_unless_it_is_strict(second_place, headers):
+    with Serving(second_place, second_application("ஒன்று.png")):
+        status, answered, _ = ask("/version", *headers)
+        assert (status, answered["Access-Control-Allow-Origin"]) == (200, "*")
+    with Serving(second_place, second_application("ஒன்று.png"), POZHIL_STRICT="1"):
+        assert [status_of(path, *headers) for path in ("/", "/version", MOVIE)] == [403] * 3
+
+
+def test_files_of_the_newest_version_are_served(second_place):
+    with Serving(second_place, second_application("ஒன்று.png")) as session:
+        assert (status_of("/ஒன்று.png"), status_of("/இரண்டு.png")) == (200, 404)
+        second_place.change_until(session, SOURCE, second_application("இரண்டு.png"))
+        session.wait_for_output(t.WEB_UPDATED)
+        assert (status_of("/ஒன்று.png"), status_of("/இரண்டு.png")) == (404, 200)
+
+
+def test_icon_outside_of_the_working_directory_is_in_the_page_but_not_served(second_place):
+    with Serving(second_place, second_application("ஒன்று.png", icon="../வெளியில்.txt")):
+        assert b"data:image/png;base64," in ask("/")[2]
+        assert status_of("/../வெளியில்.txt") == 404
