@@ -21,9 +21,16 @@ PRECOMPILE = 'case $* in *c++-header*) echo "$EMCC_CFLAGS" > "$0.background"; ec
 BUILD = 'for kind in js wasm; do echo $kind > "${out%.js}.$kind"; done\n'
 
 
-def page(name, text):
-    return (f'வலைதளம் அ (\n    தலைமை (பக்கம்: "{name}")\n    குமரி (\n        உரை("{text}")\n    )\n'
-            "    வரையறை (\n        எண் = 1\n    )\n)\n")
+MARKER = "ஃ பொழில் 2\n"
+
+
+def page(name, text, marker=""):
+    return (f'{marker}வலைதளம் அ (\n    தலைமை (பக்கம்: "{name}")\n    குமரி (\n        உரை("{text}")\n    )\n'
+            "    வரையறை (\n        தொகை = 1\n    )\n)\n")
+
+
+def second_page(name, text):
+    return page(name, text, MARKER)
 
 
 @pytest.fixture
@@ -38,8 +45,15 @@ def web_place(installed_place, installation, tools):
     return installed_place
 
 
-def runtime_file(place, ending):
-    return place.work_directory / (t.WEB_RUNTIME_NAME + ending)
+@pytest.fixture
+def second_place(web_place):
+    """The same with an application of the second edition."""
+    web_place.write(SOURCE, second_page("முகப்பு", "1"))
+    return web_place
+
+
+def runtime_file(directory, ending):
+    return directory / (t.WEB_RUNTIME_NAME + ending)
 
 
 def flags(tools):
@@ -52,6 +66,12 @@ def builds(tools):
 
 def precompilations(tools):
     return [call for call in tools.calls("em++") if "c++-header" in call]
+
+
+def precompilation(installation, header, precompiled):
+    """The arguments with which em++ precompiles a runtime."""
+    return [f"-I{installation.include}", f"-I{installation.include}/nanovg", "-std=c++17", "-finput-charset=UTF-8",
+            "-x", "c++-header", "-fpch-instantiate-templates", str(header), "-o", str(precompiled)]
 
 
 def wait_for_precompilations(session, tools, count):
@@ -94,10 +114,8 @@ def test_later_builds_leave_out_the_runtime(web_place, installation, tools, star
         edits.save(page("முகப்பு", "3"))
         assert get("/version") == (200, "4")
     assert builds(tools) == [installation.web_call(web_place)] * 3
-    header, precompiled = runtime_file(web_place, ".h"), str(runtime_file(web_place, ".pch"))
-    assert precompilations(tools) == [[
-        f"-I{installation.include}", f"-I{installation.include}/nanovg", "-std=c++17", "-finput-charset=UTF-8",
-        "-x", "c++-header", "-fpch-instantiate-templates", str(header), "-o", precompiled]]
+    header, precompiled = runtime_file(web_place.work_directory, ".h"), str(runtime_file(web_place.work_directory, ".pch"))
+    assert precompilations(tools) == [precompilation(installation, header, precompiled)]
 
     runtime = header.read_bytes()
     emitted = (web_place.work_directory / t.EMITTED_WEB_NAME).read_bytes()
@@ -132,7 +150,7 @@ def test_nobody_waits_for_the_runtime(web_place, tools, start, scratch):
 
 def test_removed_runtime_is_done_without(web_place, tools, start):
     with start() as session:
-        runtime_file(web_place, ".pch").unlink()
+        runtime_file(web_place.work_directory, ".pch").unlink()
         Edits(web_place, session).save(page("முகப்பு", "2"))
     assert [replaced_bytes(line) for line in flags(tools)] == [None] * 2
 
@@ -166,3 +184,47 @@ def test_program_that_em_refuses_keeps_the_headers(web_place, tools):
         Edits(web_place, session).save(page("முகப்பு", "2"))
     assert ["-include-pch" in line for line in flags(tools)] == [True, False, True]
     assert replaced_bytes(flags(tools)[-1]) is not None
+
+
+# The second edition.
+
+
+def test_later_builds_of_the_second_edition_leave_out_its_runtime(second_place, installation, tools, start):
+    with start() as session:
+        edits = Edits(second_place, session)
+        edits.save(second_page("முகப்பு", "2"))
+        edits.save(second_page("முகப்பு", "3").replace("உரை", "பொத்தான்").replace("தொகை = 1", "செயல் கூட்டு_செய்():\n            விடு"))
+        assert get("/version") == (200, "4")
+    assert builds(tools) == [installation.web_call(second_place, second=SOURCE)] * 3
+    directory = second_place.directory_of(SOURCE)
+    header, precompiled = runtime_file(directory, ".h"), runtime_file(directory, ".pch")
+    assert precompilations(tools) == [precompilation(installation, header, precompiled)]
+
+    runtime = header.read_bytes()
+    emitted = (directory / t.EMITTED_WEB_NAME).read_bytes()
+    assert emitted.startswith(runtime) and runtime.endswith(b"\n")
+    # The engine and what pages give their programs belong to it; what is the program's own doesn't.
+    assert b'#include "engine/page.h"' in runtime and b"#include" not in emitted[len(runtime):]
+    assert "உரை(" not in runtime.decode() and b"start_1" not in runtime
+    first, *later = flags(tools)
+    assert (tools.folder / "em++.background").read_text(encoding="utf-8") == first + "\n"
+    assert f"-include-pch '{installation.include}/web_headers.pch'" in first
+    assert [replaced_bytes(line) for line in later] == [(str(precompiled), len(runtime))] * 2
+
+
+def test_another_start_page_of_the_second_edition_is_another_runtime(second_place, tools, start):
+    with start() as session:
+        edits = Edits(second_place, session)
+        edits.save(second_page("வேறு", "2"))
+        wait_for_precompilations(session, tools, 2)
+        edits.save(second_page("வேறு", "3"))
+    assert [replaced_bytes(line) is not None for line in flags(tools)] == [False, False, True]
+
+
+def test_fault_keeps_the_precompiled_runtime(second_place, tools, start):
+    with start() as session:
+        second_place.change_until(session, SOURCE, second_page("முகப்பு", "2").replace('"2"', "இல்லாதது"), age=-5)
+        session.wait_for_output("பொழி-551")
+        Edits(second_place, session).save(second_page("முகப்பு", "3"))
+    assert [replaced_bytes(line) is not None for line in flags(tools)] == [False, True]
+    assert len(precompilations(tools)) == 1

@@ -249,8 +249,9 @@ std::string ProgramWriter::programInfo() const {
 namespace pozhil {
 
 SecondText writeSecondEdition(const resolved::Program& program) {
-    const resolved::writer::EmittedLines lines = resolved::writer::ProgramWriter(program).write();
-    return {lines.text(), lines.origins(), lines.deepestLevel(), 0};
+    resolved::writer::ProgramWriter writer(program);
+    const resolved::writer::EmittedLines lines = writer.write();
+    return {lines.text(), lines.origins(), lines.deepestLevel(), writer.runtimeLength()};
 }
 
 } // namespace pozhil
