@@ -22,8 +22,8 @@ void tellOtherKind(const char* what, bool isThere) {
 
 /// Whether a changed source is still of the edition that it is watched in. Tells it if not, and what is wrong with the line
 /// that asks for an edition.
-bool keepsEdition(const SourcePtr& source, Edition edition) {
-    SecondFaults faults;
+/// \param[out] faults of that line
+bool keepsEdition(const SourcePtr& source, Edition edition, SecondFaults& faults) {
     const Edition now = editionOf(source, faults);
     if (!faults.empty()) {
         reportFaults(faults);
@@ -54,7 +54,8 @@ void rebuild(const std::string& sourcePath, const FrontEndOptions& options, cons
         if (source == nullptr) {
             source = makeSource(sourcePath, ""); // an editor may be about to put it back
         }
-        if (!keepsEdition(source, Edition::First)) {
+        SecondFaults faults;
+        if (!keepsEdition(source, Edition::First, faults)) {
             callIfAny(steps.afterOtherKind);
             return;
         }
@@ -70,21 +71,35 @@ void rebuild(const std::string& sourcePath, const FrontEndOptions& options, cons
     }
 }
 
+void afterFaults(const SecondFaults& faults, const SecondWatchSteps& steps) {
+    if (steps.afterFaults) {
+        steps.afterFaults(faults);
+    }
+}
+
+/// \param faults of the line that asks for an edition
+void afterOtherEdition(const SecondFaults& faults, const SecondWatchSteps& steps) {
+    if (faults.empty()) {
+        callIfAny(steps.afterOtherKind);
+    } else {
+        afterFaults(faults, steps);
+    }
+}
+
 void rebuild(const std::string& sourcePath, const FrontEndOptions& options, const SecondWatchSteps& steps) {
     SourcePtr source = loadSource(sourcePath, options);
     if (source == nullptr) {
         return; // an editor may be about to put it back
     }
-    if (!keepsEdition(source, Edition::Second)) {
-        callIfAny(steps.afterOtherKind);
+    SecondFaults faults;
+    if (!keepsEdition(source, Edition::Second, faults)) {
+        afterOtherEdition(faults, steps);
         return;
     }
     const SecondTranslation translation = translateSecondEdition(std::move(source), options);
     if (!translation.faults.empty()) {
         reportFaults(translation.faults);
-        if (steps.afterFaults) {
-            steps.afterFaults(translation.faults);
-        }
+        afterFaults(translation.faults, steps);
     } else if (keepsApplication(translation, steps.isForPages)) {
         steps.build(translation);
     } else {
