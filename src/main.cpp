@@ -114,11 +114,11 @@ int compileSecondEdition(const Invocation& invocation, const SourcePtr& source, 
     printWebStart();
     printWebGeneration();
     printWebGenerated();
-    if (!createWebDirectory()) {
+    const std::filesystem::path directory = directoryOfSource(prepareTemporaryDirectory(), invocation.sourcePath);
+    if (!createWebDirectory() || !createDirectory(directory)) {
         return 1;
     }
-    runWeb(invocation.sourcePath, translation, options, appDirectory,
-           directoryOfSource(prepareTemporaryDirectory(), invocation.sourcePath));
+    runWeb(invocation.sourcePath, translation, options, appDirectory, directory);
 }
 
 int compile(const Invocation& invocation) {

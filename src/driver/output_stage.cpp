@@ -46,6 +46,15 @@ std::filesystem::path directoryOfSource(const std::filesystem::path& temporaryDi
     return temporaryDirectory / (isOutside ? path.relative_path() : below);
 }
 
+bool createDirectory(const std::filesystem::path& path) {
+    std::error_code failure;
+    std::filesystem::create_directories(path, failure);
+    if (failure) {
+        tellNoOutput(path);
+    }
+    return !failure;
+}
+
 std::filesystem::path outputPath(const std::filesystem::path& temporaryDirectory) {
     return temporaryDirectory / "generated.cpp";
 }

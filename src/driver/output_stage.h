@@ -13,6 +13,9 @@ std::filesystem::path prepareTemporaryDirectory();
 /// \param source the path as the user gave it
 std::filesystem::path directoryOfSource(const std::filesystem::path& temporaryDirectory, const std::string& source);
 
+/// Makes a directory for an output text, with all that it lies in, or tells on standard error that it can't be made.
+bool createDirectory(const std::filesystem::path& path);
+
 /// Where the output text goes.
 std::filesystem::path outputPath(const std::filesystem::path& temporaryDirectory);
 
