@@ -11,13 +11,16 @@
 namespace pozhil {
 namespace {
 
-/// Where in the source the statement stands whose text was refused first.
+/// Where in the source the statement stands whose text was refused first. What is the same in all programs has no place.
 ShownPlace placeOf(const SecondTranslation& translation, const std::vector<ToolchainError>& errors) {
     for (const ToolchainError& error : errors) {
         if (error.line == 0 || error.line > translation.output.origins.size()) {
             continue;
         }
         const resolved::Place& place = translation.output.origins[error.line - 1];
+        if (place.range.begin == place.range.end) {
+            continue;
+        }
         const SourcePtr& source = translation.sources[place.file];
         const auto line = static_cast<std::int32_t>(LineIndex(source->text).lineAt(place.range.begin));
         return {source->path, line, lineOf(source->text, line)};

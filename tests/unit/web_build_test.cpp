@@ -175,6 +175,24 @@ TEST_F(WebBuilds, WhatEmscriptenRefusesIsOurFaultWithThePlaceOfTheSource) {
     EXPECT_THAT(told, HasSubstr(OUR_WORDS));
 }
 
+TEST_F(WebBuilds, LineThatNoStatementStandsForHasNoPlace) {
+    SecondTranslation made = translation();
+    made.output.origins.front() = {};
+    for (const char* line : {"1", "2"}) {
+        const std::string words = std::string("a.cpp:") + line + ":1: error: x\n";
+        testing::internal::CaptureStderr();
+        const WebFailure failure = webTextOf(made).reportFailure({"a.cpp", {1, "", words}, {}});
+        EXPECT_THAT(testing::internal::GetCapturedStderr(), HasSubstr(OUR_WORDS));
+        EXPECT_EQ(failure.fault.line, line == std::string("1") ? 0 : 2);
+        EXPECT_EQ(failure.fault.file, line == std::string("1") ? "" : "அ.பொழில்");
+    }
+    // One that has a place tells more.
+    testing::internal::CaptureStderr();
+    const std::string both = "a.cpp:1:1: error: x\na.cpp:3:1: error: x\n";
+    EXPECT_EQ(webTextOf(made).reportFailure({"a.cpp", {1, "", both}, {}}).fault.line, 3);
+    testing::internal::GetCapturedStderr();
+}
+
 TEST_F(WebBuilds, RefusalWithoutAPlaceIsOurFaultAsWell) {
     const std::string errors = failure("echo 'wasm-ld: error: undefined symbol: x' >&2; exit 1");
     EXPECT_THAT(errors, HasSubstr(OUR_WORDS));
