@@ -3,15 +3,23 @@ A stand-in for em++ makes the files."""
 
 import gzip
 import os
+import re
 import shutil
 import signal
 import stat
 import struct
+import threading
+import urllib.request
+from functools import partial
+from http.server import SimpleHTTPRequestHandler, ThreadingHTTPServer
+from urllib.parse import quote
 
 import pytest
 
 from support import texts as t
+from support.console import without_colours
 from support.process import Session, run
+from support.second_box import split_boxes
 from support.workplace import NOBODY
 
 SOURCE = "செயலி.பொழில்"
@@ -380,3 +388,145 @@ def test_assets_come_from_the_working_directory(place, publish, tools):
     (call,) = tools.calls("em++")
     assert call[call.index("--preload-file") + 1] == "assets"
     assert (place.folder / SITE / "index.html").exists()
+
+
+# The second edition
+
+SECOND_APPLICATION = SECOND_EDITION + APPLICATION
+
+
+@pytest.fixture
+def second_place(place):
+    place.write(SOURCE, SECOND_APPLICATION)
+    return place
+
+
+class _Quiet(SimpleHTTPRequestHandler):
+    def log_message(self, format, *args):  # what it is called there
+        pass
+
+
+@pytest.fixture
+def plain_host(scratch):
+    """Serves a folder from the path /என்/செயலி/ as any host does; a function that fetches what lies there."""
+    root = scratch / "host"
+    (root / "என்").mkdir(parents=True)
+    with ThreadingHTTPServer(("127.0.0.1", 0), partial(_Quiet, directory=root)) as server:
+        threading.Thread(target=server.serve_forever, daemon=True).start()
+
+        def fetch_from(site, name):
+            (root / "என்/செயலி").unlink(missing_ok=True)
+            (root / "என்/செயலி").symlink_to(site)
+            with urllib.request.urlopen(f"http://127.0.0.1:{server.server_port}{quote('/என்/செயலி/')}{name}") as answer:
+                return answer.read()
+
+        yield fetch_from
+        server.shutdown()
+
+
+@pytest.mark.parametrize("source", [APPLICATION, SECOND_APPLICATION], ids=["first", "second"])
+def test_page_finds_its_files_beside_itself_at_any_host(place, publish, plain_host, source):
+    place.write(SOURCE, source)
+    assert publish("வெளியிடு", SOURCE).status == OK
+    page = plain_host(place.folder / SITE, "").decode()
+    named = re.findall(r'(?:src|href)="([^"]+)"', page)
+    own = [name for name in named if not re.match(r"https?:|data:|#", name)]
+    assert "index.js" in own and not [name for name in own if name.startswith("/")]
+    for name in {*own, "index.wasm", "index.data"} - {"file-icon.png"}:
+        assert plain_host(place.folder / SITE, name), name
+
+
+def test_site_of_the_second_edition_has_the_files_of_the_first(second_place, publish, tools):
+    assert publish("வெளியிடு", SOURCE, "--அடைவு", "இரண்டு").status == OK
+    second_place.write(SOURCE, APPLICATION)
+    assert publish("வெளியிடு", SOURCE, "--அடைவு", "ஒன்று").status == OK
+    first, second = second_place.folder / "ஒன்று", second_place.folder / "இரண்டு"
+    assert names(first) == names(second) == [*MADE, MARKER]
+    assert (first / "index.html").read_bytes() == (second / "index.html").read_bytes()
+    nothing_left(second_place, "ஒன்று", "இரண்டு")
+
+
+def test_second_edition_is_called_as_the_first_with_its_engine(second_place, publish, tools):
+    assert publish("வெளியிடு", SOURCE).status == OK
+    second_place.write(SOURCE, APPLICATION)
+    assert publish("வெளியிடு", SOURCE).status == OK
+    second, first = ([re.sub(r"/\.pozhil-[^/]*/", "/", word) for word in call] for call in tools.calls("em++"))
+    engine = str(second_place.compiler.parent / t.CACHE_DIRECTORY / t.ENGINE_ARCHIVE)
+    assert second == first[:3] + [engine] + first[3:]
+
+
+@pytest.mark.parametrize("source, faults", [
+    (SECOND_APPLICATION.replace("உரை(", "உரைய("), [("பொழி-627", 4)]),
+    (SECOND_APPLICATION.replace('"வணக்கம்"', "இல்லாதது"), [("பொழி-551", 4)]),
+    (SECOND_APPLICATION.replace("வரையறை()", "வரையறை(\n        அ = ஒன்றும்\n        ஆ = இல்லாதது\n    )"),
+     [("பொழி-551", 6), ("பொழி-551", 7)]),
+    ("\n" + SECOND_APPLICATION, [("பொழி-503", 2)]),
+], ids=["widget", "name", "two", "late marker"])
+def test_faults_of_the_second_edition_are_boxes(place, publish, tools, source, faults):
+    place.write(SOURCE, source)
+    result = publish("வெளியிடு", SOURCE)
+    assert (result.status, result.err) == (FAULT, "")
+    assert [(box.code, box.line) for box in split_boxes(result.out)[1]] == faults
+    assert tools.calls("em++") == []
+    nothing_left(place)
+
+
+@pytest.mark.parametrize("source", [SECOND_EDITION, SECOND_EDITION.strip(), "\ufeff" + SECOND_EDITION])
+def test_marker_alone_is_no_application(place, publish, source):
+    place.write(SOURCE, source)
+    result = publish("வெளியிடு", SOURCE)
+    assert result.status == WRONG_USE
+    assert "நிரலில் 'வலைதளம்' இல்லை!" in result.err
+    nothing_left(place)
+
+
+def failure(place, publish, status):
+    """What a publication that ends with this status tells, without colours."""
+    result = publish("வெளியிடு", SOURCE)
+    assert result.status == status
+    assert t.WEB_COMPILATION_FAILED not in result.out
+    nothing_left(place)
+    return without_colours(result.err)
+
+
+def test_text_of_the_second_edition_that_em_refuses_is_our_fault(second_place, publish, tools):
+    tools.stands_in_for("em++", 'line=$(/bin/grep -n -m1 "int main()" "$1" | /usr/bin/cut -d: -f1)\n'
+                                'echo "$1:${line:?}:1: error: strange words" >&2; exit 1')
+    told = failure(second_place, publish, FAULT)
+    assert f"{t.OUR_FAULT}: உருவான C++ உரையை em++ ஏற்கவில்லை." in told and f"📍 {SOURCE}, வரி 2" in told
+    # That text is gone by then.
+    assert t.EMITTED_WEB_NAME not in told and "strange words" not in told
+
+
+def test_missing_engine(second_place, publish, tools):
+    engine = second_place.compiler.parent / t.CACHE_DIRECTORY / t.ENGINE_ARCHIVE
+    engine.unlink()
+    tools.stands_in_for("em++", "exit 1")
+    told = failure(second_place, publish, FAILED)
+    assert told.startswith(f"பிழை: '{engine}' கிடைக்கவில்லை!") and t.OUR_FAULT not in told
+
+
+def test_first_edition_does_without_the_engine(place, publish):
+    (place.compiler.parent / t.CACHE_DIRECTORY / t.ENGINE_ARCHIVE).unlink()
+    assert publish("வெளியிடு", SOURCE).status == OK
+
+
+def test_flags_that_em_refuses(second_place, publish, tools):
+    second_place.env["POZHIL_EMFLAGS"] = "-fno-such"
+    tools.stands_in_for("em++", 'case "$*" in *-fno-such*) exit 1;; esac; echo > "$out"')
+    told = failure(second_place, publish, FAILED)
+    assert "POZHIL_EMFLAGS" in told and t.OUR_FAULT not in told
+
+
+@pytest.mark.parametrize("words", ["No space left on device", "out of memory"])
+def test_machine_that_fails_the_second_edition(second_place, publish, tools, words):
+    tools.stands_in_for("em++", f"echo 'LLVM ERROR: {words}' >&2; exit 1")
+    assert t.OUR_FAULT not in failure(second_place, publish, FAILED)
+
+
+def test_hints_of_the_second_edition_come_last(second_place, publish):
+    slip = "வரையறை(\n        செயல் எண்ணு(மொத்தம்):\n            மொத்தமம் = 1\n            திரும்பு மொத்தம்\n    )"
+    second_place.write(SOURCE, SECOND_APPLICATION.replace("வரையறை()", slip))
+    result = publish("வெளியிடு", SOURCE)
+    assert result.status == OK
+    assert result.err.startswith(t.HINT_BEFORE + f"{SOURCE} வரி 7: ") and result.err.count("\n") == 1
