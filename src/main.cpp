@@ -52,7 +52,7 @@ ParsedSource analyse(const SourcePtr& source, bool& web, const FrontEndOptions& 
 bool prepareOutput(const std::filesystem::path& output, bool web) {
     if (web) {
         printWebGenerated();
-        if (!createWebDirectory()) {
+        if (!createWebDirectory(webDirectory())) {
             return false;
         }
     }
@@ -115,7 +115,7 @@ int compileSecondEdition(const Invocation& invocation, const SourcePtr& source, 
     printWebGeneration();
     printWebGenerated();
     const std::filesystem::path directory = directoryOfSource(prepareTemporaryDirectory(), invocation.sourcePath);
-    if (!createWebDirectory() || !createDirectory(directory)) {
+    if (!createWebDirectory(webDirectoryOf(invocation.sourcePath)) || !createDirectory(directory)) {
         return 1;
     }
     runWeb(invocation.sourcePath, translation, options, appDirectory, directory);

@@ -116,6 +116,24 @@ def test_hints_follow_the_build(web_place):
             assert session.stdout.decode() == BEFORE_BUILD + SUCCESS
 
 
+@pytest.mark.parametrize("other", ["ஆ.பொழில்", "உள்ளே/அ.பொழில்"])
+@pytest.mark.parametrize("marker", [MARKER, ""])
+def test_applications_of_one_folder_do_not_meet(web_place, tools, other, marker):
+    """The second one finds the port taken; what the first one serves stays its own."""
+    (web_place.folder / other).parent.mkdir(exist_ok=True)
+    web_place.write(other, application('உரை("மற்றது")', marker=marker))
+    tools.stands_in_for("em++", '/bin/cp "$1" "$out"')
+    with web_place.session(SOURCE) as first:
+        first.wait_for_output(t.WEB_OPENING)
+        served = get("/index.js")
+        assert served[0] == 200 and "வணக்கம்" in served[1]
+        with web_place.session(other) as second:
+            second.wait_for_errors(t.WEB_PORT_TAKEN)
+            assert get("/index.js") == served
+            assert "வணக்கம்" in emitted(web_place)
+            second.wait_until(lambda: len(tools.calls("em++")) == 2)
+
+
 # Pages of several declarations and files.
 
 
@@ -179,7 +197,7 @@ def test_results_of_an_earlier_build_outlive_a_fault(web_place):
     web_place.write(SOURCE, application("உரை(இல்லாதது)"))
     assert web_place.run(SOURCE).status == 1
     assert emitted(web_place) == before
-    assert (web_place.web_directory / "index.js").read_text() == "js\n"
+    assert (web_place.results_of(SOURCE) / "index.js").read_text() == "js\n"
 
 
 @pytest.mark.parametrize("source", [MARKER, MARKER.strip(), "\ufeff" + MARKER, MARKER + "\n\n", MARKER + "ஃ வலைதளம்\n"],
@@ -191,11 +209,13 @@ def test_marker_alone_is_no_application(web_place, tools, source):
     assert tools.calls("em++") == []
 
 
-def test_output_directory_that_cannot_be_made(web_place, tools):
-    web_place.write(t.WEB_DIRECTORY, "a file")
+@pytest.mark.parametrize("obstacle", [t.WEB_DIRECTORY, f"{t.WEB_DIRECTORY}/{SOURCE}"])
+def test_output_directory_that_cannot_be_made(web_place, tools, obstacle):
+    (web_place.folder / obstacle).parent.mkdir(exist_ok=True)
+    web_place.write(obstacle, "a file")
     result = web_place.run(SOURCE)
     assert result.status == 1
-    assert f"'{web_place.web_directory}' அடைவில் எழுத முடியவில்லை!" in result.err
+    assert f"'{web_place.results_of(SOURCE)}' அடைவில் எழுத முடியவில்லை!" in result.err
     assert tools.calls("em++") == []
 
 

@@ -305,7 +305,7 @@ def unserved_paths(place):
     assert (place.folder / text).is_file()
     return [
         *(f"/{name}" for name in OTHER_FILES), f"/{SOURCE}", f"/{text}", f"/{t.WORK_DIRECTORY}", f"/{t.WORK_DIRECTORY}/",
-        f"/{t.WEB_DIRECTORY}/index.js", f"/{t.WEB_DIRECTORY}", "/index.js.gz", "/assets", "/assets/", "/படங்கள்/", "/.", "/..",
+        f"/{t.WEB_DIRECTORY}/{SOURCE}/index.js", f"/{t.WEB_DIRECTORY}", "/index.js.gz", "/assets", "/assets/", "/படங்கள்/", "/.", "/..",
         "/assets/இணைப்பு.txt", "/assets/அடைவு/இரகசியம்.txt", "/வெளியே.png/..",
         "/assets/../இரகசியம்.txt", "/assets/%2e%2e/இரகசியம்.txt", "/assets/..%2fஇரகசியம்.txt", "/assets/%2e%2e%2fஇரகசியம்.txt",
         "/assets/./கடல்.mp4", "//assets/கடல்.mp4", "/assets/%252e%252e/இரகசியம்.txt",
@@ -318,7 +318,7 @@ def unserved_paths(place):
 @pytest.mark.parametrize("variables", [{}, {"POZHIL_STRICT": "1"}])
 def test_server_of_the_second_edition_has_the_files_of_the_application_alone(second_place, variables):
     with Serving(second_place, second_application("ஒன்று.png"), **variables) as session:
-        session.wait_until(lambda: list(second_place.web_directory.glob("*.gz")))
+        session.wait_until(lambda: list(second_place.results_of(SOURCE).glob("*.gz")))
         for path in ("/", "/index.html", "/version", "/version/fault", "/index.js", "/index.wasm", "/index.data"):
             assert status_of(path, OWN) == 200, path
         # What the program itself names is in index.data, wherever it leads.

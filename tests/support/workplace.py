@@ -62,6 +62,10 @@ class Workplace:
     def web_directory(self):
         return self.folder / t.WEB_DIRECTORY
 
+    def results_of(self, source):
+        """Where em++ writes an application of the second edition to."""
+        return self.web_directory / source
+
     @property
     def program(self):
         return self.work_directory / t.PROGRAM_NAME
@@ -141,7 +145,7 @@ class Installation:
             f"-I{self.include}", f"-I{self.include}/nanovg", "-std=c++17", "-finput-charset=UTF-8", "--bind",
             "-s", "USE_GLFW=3", "-s", "FULL_ES2=1", "-s", "WASM=1", "-s", "ALLOW_MEMORY_GROWTH=1",
             "-s", "EXPORTED_RUNTIME_METHODS=['ccall','cwrap']",
-            *packing, "-o", str(place.web_directory / "index.js"),
+            *packing, "-o", str((place.results_of(second) if second else place.web_directory) / "index.js"),
         ]
 
 

@@ -82,17 +82,19 @@ TEST(MimeType, TheEndingMayBeAll) {
 }
 
 TEST(ServedFile, LiesBelowTheCurrentFolder) {
-    EXPECT_EQ(servedFile("/assets/a.png"), "./assets/a.png");
-    EXPECT_EQ(servedFile("/index.css"), "./index.css");
-    EXPECT_EQ(servedFile("/index.js?x"), "./index.js?x");
-    EXPECT_EQ(servedFile("/a/index.js"), "./a/index.js");
-    EXPECT_EQ(servedFile("x"), ".x");
+    EXPECT_EQ(servedFile("/assets/a.png", "வெளியீடு"), "./assets/a.png");
+    EXPECT_EQ(servedFile("/index.css", "வெளியீடு"), "./index.css");
+    EXPECT_EQ(servedFile("/index.js?x", "வெளியீடு"), "./index.js?x");
+    EXPECT_EQ(servedFile("/a/index.js", "வெளியீடு"), "./a/index.js");
+    EXPECT_EQ(servedFile("x", "வெளியீடு"), ".x");
 }
 
 TEST(ServedFile, OfTheBuildLiesInItsFolder) {
-    EXPECT_EQ(servedFile("/index.js"), "./வெளியீடு/index.js");
-    EXPECT_EQ(servedFile("/index.wasm"), "./வெளியீடு/index.wasm");
-    EXPECT_EQ(servedFile("/index.data"), "./வெளியீடு/index.data");
+    EXPECT_EQ(servedFile("/index.js", "வெளியீடு"), "./வெளியீடு/index.js");
+    EXPECT_EQ(servedFile("/index.wasm", "வெளியீடு"), "./வெளியீடு/index.wasm");
+    EXPECT_EQ(servedFile("/index.data", "வெளியீடு"), "./வெளியீடு/index.data");
+    EXPECT_EQ(servedFile("/index.js", "வெளியீடு/அ.பொழில்"), "./வெளியீடு/அ.பொழில்/index.js");
+    EXPECT_EQ(servedFile("/a.js", "வெளியீடு/அ.பொழில்"), "./a.js");
 }
 
 TEST_F(Answers, VersionIsTheNumberOfTheLastGoodBuildPlusOne) {

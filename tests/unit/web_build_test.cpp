@@ -1,6 +1,7 @@
 #include "driver/web/web_build.h"
 
 #include "driver/server/web_state.h"
+#include "driver/web/web_directory.h"
 #include "support/working_folder.h"
 
 #include <cstdlib>
@@ -71,6 +72,7 @@ protected:
         }
         write("inst/உள்ளடக்கம்/template.html", "<title>{{{ இணைய_தலைப்பு }}}</title>{{{ SCRIPT }}}</body>");
         emscripten("echo built > \"${out}\"");
+        outputDirectory_ = webDirectory();
         g_appVersion = 1;
         tellPagesOfSuccess();
     }
@@ -94,7 +96,7 @@ protected:
     bool build(const WebText& text) {
         testing::internal::CaptureStdout();
         testing::internal::CaptureStderr();
-        WebBuild webBuild(folder() / "inst", folder() / "work" / "அ.பொழில்");
+        WebBuild webBuild(folder() / "inst", folder() / "work" / "அ.பொழில்", outputDirectory_);
         const bool isBuilt = webBuild.run(text);
         output_ = testing::internal::GetCapturedStdout();
         errors_ = testing::internal::GetCapturedStderr();
@@ -114,6 +116,7 @@ protected:
     fs::path textFile() const { return folder() / "work" / "அ.பொழில்" / "வலை_வெளியீடு.cpp"; }
 
     const SecondTranslation translation_ = translation();
+    fs::path outputDirectory_;
     std::string output_;
     std::string errors_;
 };
@@ -138,6 +141,15 @@ TEST_F(WebBuilds, PageOfTheSecondEditionIsServedAndItsVersionTold) {
     EXPECT_EQ(answerToPage(), "{}");
     EXPECT_THAT(g_web_html.load()->text, HasSubstr("<title>என் தளம்</title>"));
     EXPECT_EQ(contentOf("வெளியீடு/index.js"), "built\n");
+}
+
+TEST_F(WebBuilds, ResultsAreServedFromWhereTheyGo) {
+    write("வெளியீடு/index.js", "of another application");
+    outputDirectory_ = webDirectoryOf("வேறு/../அ.பொழில்");
+    EXPECT_TRUE(build(webTextOf(translation_)));
+    EXPECT_EQ(contentOf("வெளியீடு/அ.பொழில்/index.js"), "built\n");
+    EXPECT_EQ(contentOf("வெளியீடு/index.js"), "of another application");
+    EXPECT_EQ(g_web_html.load()->results, "வெளியீடு/அ.பொழில்");
 }
 
 TEST_F(WebBuilds, ArgumentsOfTheLinkingStandBeforeThoseOfTheUser) {

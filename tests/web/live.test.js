@@ -1,7 +1,9 @@
 // The compiler beside an open page: a change reloads it, and faults of a change do it no harm.
 
 import { once } from 'node:events';
+import { existsSync } from 'node:fs';
 import { connect } from 'node:net';
+import path from 'node:path';
 
 import { address, application, assert, liveTest, webTest } from './harness/index.js';
 
@@ -26,6 +28,25 @@ liveTest('a change of the source reloads the page, once', showing('முதல�
     await page.page.waitForTimeout(1500);
     assert.equal(documents.count, 2);
     await page.text('இரண்டாவது');
+    assert.deepEqual(page.errors, []);
+});
+
+const SECOND_EDITION = 'ஃ பொழில் 2\n';
+
+liveTest('an application of the second edition goes on after a fault, on the runtime that was precompiled meanwhile',
+         SECOND_EDITION + showing('முதல்'), async (compiler, page) => {
+    await compiler.waitForVersion(2);
+    await page.open(address);
+    await page.text('முதல்');
+    const runtime = path.join(compiler.folder, '.நிலையற்ற/செயலி.பொழில்/வலை_இயக்கம்.pch');
+    await compiler.waitUntil(() => existsSync(runtime), 'the precompiled runtime');
+    await compiler.edit(SECOND_EDITION + showing('இரண்டாவது').replace('"இரண்டாவது"', 'இல்லாதது'));
+    await page.page.getByText('பொழி-551 · செயலி.பொழில் · வரி 5').waitFor();
+    await page.text('முதல்');
+    await compiler.edit(SECOND_EDITION + showing('மூன்றாவது'));
+    await page.waitForText('மூன்றாவது');
+    assert.equal(await compiler.version(), 3);
+    assert.equal(compiler.status, null);
     assert.deepEqual(page.errors, []);
 });
 

@@ -92,8 +92,8 @@ std::string getMimeType(const std::string& path) {
     return type != TYPES.end() ? type->second : "application/octet-stream";
 }
 
-std::string servedFile(const std::string& path) {
-    return (isBuilt(path) ? "./வெளியீடு" : ".") + path;
+std::string servedFile(const std::string& path, const std::string& results) {
+    return (isBuilt(path) ? "./" + results : ".") + path;
 }
 
 std::optional<HttpResponse> HttpResponse::to(const HttpRequest& request, Access access) {
@@ -132,7 +132,7 @@ HttpResponse HttpResponse::withPage(const HttpRequest& request, Access access) {
 }
 
 std::optional<HttpResponse> HttpResponse::withFile(const HttpRequest& request, Access access) {
-    std::string path = servedFile(request.path);
+    std::string path = servedFile(request.path, g_web_html.load()->results);
     Head head = {getMimeType(request.path)};
     if (request.acceptsGzip && request.range.empty() && isBuilt(request.path) && hasCompressedCopy(path)) {
         path += COMPRESSED_ENDING;

@@ -19,7 +19,8 @@ namespace pozhil {
 std::string getMimeType(const std::string& path);
 
 /// Where the file behind a requested path lies, seen from the current directory.
-std::string servedFile(const std::string& path);
+/// \param results the directory of what is built for the page
+std::string servedFile(const std::string& path, const std::string& results);
 
 /// An answer, given away piece by piece, so that a large file never lies in memory as a whole.
 class HttpResponse {

@@ -16,6 +16,8 @@ struct ServedPage {
     std::string compressed{};
     /// What the application is packed of, seen from the current directory: files, and directories with all in them
     std::vector<std::string> files{};
+    /// The directory of what is built for it, seen from the current one
+    std::string results = "வெளியீடு";
 };
 
 /// The page of a web application. It is replaced as a whole: whoever loads it keeps what was loaded.

@@ -6,7 +6,6 @@
 #include "driver/web/page_template.h"
 #include "driver/web/page_values.h"
 #include "driver/web/web_assets.h"
-#include "driver/web/web_directory.h"
 #include "driver/web/web_messages.h"
 
 #include <system_error>
@@ -23,8 +22,9 @@ std::vector<fs::path> resultsIn(const fs::path& directory) {
 
 } // namespace
 
-WebBuild::WebBuild(const fs::path& appDirectory, const fs::path& temporaryDirectory)
-    : appDirectory_(appDirectory), source_(temporaryDirectory / "வலை_வெளியீடு.cpp"), outputDirectory_(webDirectory()),
+WebBuild::WebBuild(const fs::path& appDirectory, const fs::path& temporaryDirectory, const fs::path& outputDirectory)
+    : appDirectory_(appDirectory), source_(temporaryDirectory / "வலை_வெளியீடு.cpp"), outputDirectory_(outputDirectory),
+      results_(outputDirectory.lexically_relative(fs::current_path()).u8string()),
       compiler_(appDirectory, source_, outputDirectory_),
       headers_(precompiledHeaders(appDirectory, compiler_.program())), runtime_(temporaryDirectory) {}
 
@@ -59,7 +59,7 @@ WebFailure WebBuild::reportFailure(const WebText& text, WebCall call, platform::
 /// Nothing of an earlier build may pass for a result of this one.
 void WebBuild::clearOutput() {
     std::error_code ignored;
-    fs::create_directory(outputDirectory_, ignored);
+    fs::create_directories(outputDirectory_, ignored);
     fs::remove(outputDirectory_ / "index.html", ignored);
     const std::vector<fs::path> results = resultsIn(outputDirectory_);
     copies_.clear(results);
@@ -79,7 +79,7 @@ bool WebBuild::makePage(const Application& application, int version) const {
     values.version = version;
     std::string text = fillTemplate(*page, values);
     std::string compressedText = compressed(text, source_.parent_path());
-    g_web_html.store({std::move(text), std::move(compressedText), applicationFiles(application)});
+    g_web_html.store({std::move(text), std::move(compressedText), applicationFiles(application), results_});
     return true;
 }
 

@@ -14,12 +14,14 @@
 
 namespace pozhil {
 
-/// Builds the versions of an application, one after the other, with em++ into the directory வெளியீடு.
+/// Builds the versions of an application, one after the other, with em++.
 class WebBuild {
 public:
     /// \param appDirectory the installation
     /// \param temporaryDirectory where the output text is written for em++
-    WebBuild(const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory);
+    /// \param outputDirectory where the results go, and are served from
+    WebBuild(const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory,
+             const std::filesystem::path& outputDirectory);
 
     /// Makes the page of one version anew for the server and compiles its output text. The server's version number grows
     /// once all files are in place. What goes wrong is told to the user.
@@ -37,6 +39,8 @@ private:
     std::filesystem::path appDirectory_;
     std::filesystem::path source_;
     std::filesystem::path outputDirectory_;
+    /// The same, seen from the directory that is served.
+    std::string results_;
     WebCompiler compiler_;
     PrecompiledHeaders headers_;
     PrecompiledRuntime runtime_;

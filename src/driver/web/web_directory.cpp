@@ -1,5 +1,6 @@
 #include "driver/web/web_directory.h"
 
+#include "driver/output_stage.h"
 #include "driver/web/web_messages.h"
 
 #include <system_error>
@@ -10,11 +11,15 @@ std::filesystem::path webDirectory() {
     return std::filesystem::current_path() / "வெளியீடு";
 }
 
-bool createWebDirectory() {
+std::filesystem::path webDirectoryOf(const std::string& source) {
+    return directoryOfSource(webDirectory(), source);
+}
+
+bool createWebDirectory(const std::filesystem::path& directory) {
     std::error_code error;
-    std::filesystem::create_directory(webDirectory(), error);
+    std::filesystem::create_directories(directory, error);
     if (error) {
-        printUnwritableDirectory(webDirectory().u8string());
+        printUnwritableDirectory(directory.u8string());
     }
     return !error;
 }

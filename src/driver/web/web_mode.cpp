@@ -4,6 +4,7 @@
 #include "driver/server/build_fault.h"
 #include "driver/source_watch.h"
 #include "driver/web/page_fault.h"
+#include "driver/web/web_directory.h"
 #include "driver/web/web_session.h"
 
 #include <chrono>
@@ -21,7 +22,7 @@ constexpr std::chrono::milliseconds LONGEST_FAREWELL{1000};
 
 void runWeb(const ParsedSource& source, const OutputText& output, const FrontEndOptions& options,
             const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory) {
-    WebSession session(appDirectory, temporaryDirectory, Edition::First);
+    WebSession session(appDirectory, temporaryDirectory, webDirectory(), Edition::First);
     session.open(webTextOf(source, output));
 
     WatchSteps steps;
@@ -43,7 +44,7 @@ void runWeb(const ParsedSource& source, const OutputText& output, const FrontEnd
 
 void runWeb(const std::string& path, const SecondTranslation& translation, const FrontEndOptions& options,
             const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory) {
-    WebSession session(appDirectory, temporaryDirectory, Edition::Second);
+    WebSession session(appDirectory, temporaryDirectory, webDirectoryOf(path), Edition::Second);
     session.open(webTextOf(translation));
 
     SecondWatchSteps steps;

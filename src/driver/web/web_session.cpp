@@ -9,8 +9,8 @@
 namespace pozhil {
 
 WebSession::WebSession(const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory,
-                       Edition edition)
-    : server_(serverSettings(edition)), build_(appDirectory, temporaryDirectory) {}
+                       const std::filesystem::path& outputDirectory, Edition edition)
+    : server_(serverSettings(edition)), build_(appDirectory, temporaryDirectory, outputDirectory) {}
 
 void WebSession::open(const WebText& text) {
     printWebPacking();

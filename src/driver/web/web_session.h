@@ -14,8 +14,9 @@ public:
     /// Ends the process with status 1 if the user's settings name no address to serve at.
     /// \param appDirectory the installation
     /// \param temporaryDirectory where output texts are written for em++
+    /// \param outputDirectory where em++ writes to
     WebSession(const std::filesystem::path& appDirectory, const std::filesystem::path& temporaryDirectory,
-               Edition edition);
+               const std::filesystem::path& outputDirectory, Edition edition);
 
     /// Builds the first version, opens it in the browser if it is good, and serves from now on, on a thread of its own.
     void open(const WebText& text);

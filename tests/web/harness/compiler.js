@@ -15,6 +15,7 @@ const STAGED = path.join(REPOSITORY, 'build/release/பொழில்/பொழ
 const PORT = 6931;
 const SOURCE = 'செயலி.பொழில்';
 const OUTPUT = 'வெளியீடு';
+const SECOND_EDITION = 'ஃ பொழில் 2\n';
 
 // The compiler's port is one for all tests, of other languages too: whoever has this lock may use it.
 const PORT_LOCK = path.join(tmpdir(), 'pozhil-port.lock');
@@ -65,7 +66,7 @@ export class Compiler {
     /// program that each stands in for. `variables` join its environment.
     static async start(source, { files = {}, tools = {}, variables = {} } = {}) {
         const folder = await mkdtemp(path.join(tmpdir(), 'pozhil-web-'));
-        const compiler = new Compiler(folder, variables);
+        const compiler = new Compiler(folder, source, variables);
         for (const [name, contents] of Object.entries({ [SOURCE]: source, ...files })) {
             await compiler.write(name, contents);
         }
@@ -83,14 +84,11 @@ export class Compiler {
     #process = null;
     #variables;
 
-    constructor(folder, variables) {
+    constructor(folder, source, variables) {
         this.folder = folder;
+        this.output = path.join(folder, OUTPUT, source.startsWith(SECOND_EDITION) ? SOURCE : '');
         this.#variables = variables;
         this.tools = path.join(folder, '.tools');
-    }
-
-    get output() {
-        return path.join(this.folder, OUTPUT);
     }
 
     async write(name, contents) {
