@@ -73,7 +73,7 @@ def _run_without_toolchain(command, work, env, tools, timeout):
 
 def _emitted_text(folder, source):
     """The text for em++ if the case is a web program, else the text for g++ of either edition, else None."""
-    for name in (t.EMITTED_WEB_NAME, t.EMITTED_NAME, f"{source}/{t.EMITTED_NAME}"):
+    for name in (t.EMITTED_WEB_NAME, t.EMITTED_NAME, f"{source}/{t.EMITTED_WEB_NAME}", f"{source}/{t.EMITTED_NAME}"):
         if (folder / name).is_file():
             return (folder / name).read_text(encoding="utf-8", errors="backslashreplace")
     return None
