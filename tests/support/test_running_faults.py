@@ -12,10 +12,12 @@ from support.compiler import REPOSITORY
 CASES = REPOSITORY / "tests" / "language" / "ஓடும்போது_பிழைகள்"
 
 NUMBERS = sorted(int(code.rpartition("-")[2]) for code in SECOND_DESCRIPTIONS)
-RUNNING = [number for number in NUMBERS if number >= 601]
+# What is wrong in the source of a web application has its numbers among those of running programs.
+APPLICATIONS = range(624, 640)
+RUNNING = [number for number in NUMBERS if number >= 601 and number not in APPLICATIONS]
 
 WITHOUT_PROGRAM = {
-    624: "only properties of widgets ask for it",
+    617: "only properties of widgets ask for it",
     661: "the analysis knows every construction, and refuses that of an abstract structure",
     675: "only a page has no input",
     684: "only a page can't wait",
