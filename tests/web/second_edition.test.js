@@ -14,7 +14,7 @@ const counting = second(`
             பொத்தான்(உரை: "சுழியம்", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்(
                 எண்ணிக்கை = 0
                 எனில் எண்ணிக்கை சமம் 0:
-                    நிலை = "சுழியம்"
+                    நிலை = "சுழியமானது"
             )),
             உரை("எண்: " இணை எண்ணிக்கை),
             உரை(நிலை)
@@ -23,7 +23,7 @@ const counting = second(`
         நிலை = "தொடக்கம்"
         செயல் இருமடங்கு():
             எண்ணிக்கை = எண்ணிக்கை பெருக்கு 2
-            நிலை = "இருமடங்கு"`);
+            நிலை = "இருமடங்கானது"`);
 
 webTest('handlers are function values, names of functions, and statements', counting, async page => {
     await page.text('எண்: 0');
@@ -32,10 +32,10 @@ webTest('handlers are function values, names of functions, and statements', coun
     await page.text('எண்: 2');
     await page.click(100, 60);
     await page.text('எண்: 4');
-    await page.text('இருமடங்கு');
+    await page.text('இருமடங்கானது');
     await page.click(100, 100);
     await page.text('எண்: 0');
-    await page.text('சுழியம்');
+    await page.text('சுழியமானது');
 });
 
 const failing = second(`
