@@ -188,22 +188,26 @@ Extent PageEdition::largestOfElements(const EachNode& each, const Extent& ofOne)
                               : Extent::computed(overElements("largest", each, ofOne));
 }
 
-void PageEdition::writeEach(WidgetWriter& layout, const EachNode& each, const Filling& body) {
-    const pozhil::Expression* const key = second::keyOf(each);
-    const std::string index = tables_.names.of(*functionOf(each).parameters.back().variable);
+void PageEdition::writeEach(WidgetWriter& layout, const EachNode& each, const Filling& body, const Course* course) {
+    const std::string list = listArguments(each);
     layout.block(R"(
-    page::each($list, $parameters {
+    page::$loop, $parameters {
         $shared
-        const page::Element element($number, pageText($key));
         $body
     });
 )",
-                 {{"list", listArguments(each)},
+                 {{"loop", course == nullptr ? "each(" + list
+                                             : "eachInWindow(" + list + ", " + course->position + ", " + course->step +
+                                                   ", " + course->end},
                   {"parameters", elementParameters(each)},
                   {"shared", sharedElements(each)},
-                  {"number", layout.partNumber()},
-                  {"key", key == nullptr ? index : written(key)},
                   {"body", body}});
+}
+
+std::string PageEdition::elementScope(const EachNode& each, const std::string& number) {
+    const pozhil::Expression* const key = second::keyOf(each);
+    const std::string index = tables_.names.of(*functionOf(each).parameters.back().variable);
+    return "const page::Element element(" + number + ", pageText(" + (key == nullptr ? index : written(key)) + "))";
 }
 
 Filling PageEdition::elementState(const std::string& type, const std::string& name, const Filling& first) const {

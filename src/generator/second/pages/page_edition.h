@@ -40,7 +40,8 @@ public:
 
     Extent sumOverElements(const EachNode& each, const Extent& ofOne) override;
     Extent largestOfElements(const EachNode& each, const Extent& ofOne) override;
-    void writeEach(WidgetWriter& layout, const EachNode& each, const Filling& body) override;
+    void writeEach(WidgetWriter& layout, const EachNode& each, const Filling& body, const Course* course) override;
+    std::string elementScope(const EachNode& each, const std::string& number) override;
     Filling elementState(const std::string& type, const std::string& name, const Filling& first) const override;
     std::string elementKey(const std::string& key) const override;
     std::string elementName(const std::string& name) const override;

@@ -8,7 +8,8 @@
 namespace pozhil {
 namespace {
 
-constexpr LayoutAxis AXIS = {"H", "fixedHeightSum", "உயரம்", "containerH", "scrollY", &WidgetWriter::heightOf};
+constexpr LayoutAxis AXIS = {
+    "H", "fixedHeightSum", "உயரம்", "containerH", "scrollY", &WidgetWriter::heightOf, &WidgetWriter::roomDown};
 
 /// Rectangle of the column. One that scrolls takes the window's height, wherever it starts.
 void emitRectangle(WidgetWriter& column, const LayoutChildren& children, const Extent& contentHeight) {
@@ -140,7 +141,12 @@ void emitColumn(WidgetWriter& column) {
                   {"contentH", contentHeight.text()},
                   {"start", scrolls ? "startY - scrollY_" + column.number() : "startY"}});
     emitShares(column, children, AXIS);
-    column.eachChild(children.widgets, [&](const WidgetNode& child) {
+    const auto stepOf = [&](const WidgetNode& child) -> std::optional<Extent> {
+        const bool isPlain = !flexShare(child) && child.kind != language::widget::GAP;
+        const Extent height = column.heightOf(child);
+        return isPlain ? std::optional(height.isNothing() ? height : height + children.spacing) : std::nullopt;
+    };
+    column.eachChildAlong(children.widgets, "currentY", "winHeight", stepOf, [&](const WidgetNode& child) {
         if (child.kind != "அசைவூட்டம்") {
             column.block("    {\n$child\n    }\n", {{"child", column.blocks([&] { emitChild(column, child); })}});
         }

@@ -5,6 +5,8 @@
 #include "generator/web/write/widget_writer.h"
 #include "language/widget_words.h"
 
+#include <algorithm>
+
 namespace pozhil {
 
 namespace {
@@ -20,6 +22,15 @@ Extent sharesOf(const std::vector<const WidgetNode*>& children, Presence& presen
         }
     }
     return shares;
+}
+
+/// Whether no child of an element takes a share of the free space or of the layout.
+bool isOfFixedSizes(const EachNode& each) {
+    const auto children = childWidgets(each);
+    return std::all_of(children.begin(), children.end(), [](const WidgetNode* child) {
+        const auto* inner = dynamic_cast<const EachNode*>(child);
+        return inner == nullptr ? !flexShare(*child) && child->kind != language::widget::GAP : isOfFixedSizes(*inner);
+    });
 }
 
 } // namespace
@@ -57,6 +68,32 @@ void emitLayoutSize(WidgetWriter& layout, std::initializer_list<const char*> nam
     }
 }
 
+namespace {
+
+/// Adds what a child with a size of its own takes; for all elements of a list at once where each takes the same.
+void emitFixedSize(WidgetWriter& layout, const LayoutAxis& axis, const WidgetNode& child) {
+    const auto* each = dynamic_cast<const EachNode*>(&child);
+    const Room room = (layout.*axis.roomOf)({&child});
+    if (each != nullptr && isOfFixedSizes(*each)) {
+        layout.block("    $sum += $size + $number * spacing;\n",
+                     {{"sum", axis.fixedSum}, {"size", room.sum.text()}, {"number", room.number.text()}});
+        return;
+    }
+    layout.eachChild({&child}, [&](const WidgetNode& shown) {
+        if (flexShare(shown)) {
+            return;
+        }
+        std::string size = (layout.*axis.sizeOf)(shown).text();
+        if (shown.kind == language::widget::GAP) {
+            size = processPercentage(layout.edition(), findProperty(shown, {axis.gapProperty}), axis.gapBase);
+        }
+        layout.block("    $sum += $size + spacing;\n",
+                     {{"sum", axis.fixedSum}, {"size", size.empty() ? "0.0f" : size}});
+    });
+}
+
+} // namespace
+
 void emitShares(WidgetWriter& layout, const LayoutChildren& children, const LayoutAxis& axis) {
     layout.block(
         R"(
@@ -66,17 +103,7 @@ void emitShares(WidgetWriter& layout, const LayoutChildren& children, const Layo
     spacing = $spacing;
 )",
         {{"sum", axis.fixedSum}, {"flex", children.totalFlex.text()}, {"spacing", floatConstant(children.spacing)}});
-    layout.eachChild(children.widgets, [&](const WidgetNode& child) {
-        if (flexShare(child)) {
-            return;
-        }
-        std::string size = (layout.*axis.sizeOf)(child).text();
-        if (child.kind == language::widget::GAP) {
-            size = processPercentage(layout.edition(), findProperty(child, {axis.gapProperty}), axis.gapBase);
-        }
-        layout.block("    $sum += $size + spacing;\n",
-                     {{"sum", axis.fixedSum}, {"size", size.empty() ? "0.0f" : size}});
-    });
+    layout.inParts(children.widgets, [&](const WidgetNode& child) { emitFixedSize(layout, axis, child); });
     layout.block(R"(
     float remaining$axis = container$axis - $sum;
     if (remaining$axis < 0.0f) remaining$axis = 0.0f;
@@ -103,6 +130,7 @@ void emitVisibleChild(WidgetWriter& layout, const WidgetNode& child, const char*
     // Shadows reach out of their widgets, and sizes are known only roughly.
     layout.block(R"(
     if ($left < winWidth + 100.0f && $left + $width > -100.0f && $top < winHeight + 100.0f && $top + $height > -100.0f) {
+        $element;
         $child
     }
 )",
@@ -110,6 +138,7 @@ void emitVisibleChild(WidgetWriter& layout, const WidgetNode& child, const char*
                   {"top", y},
                   {"width", layout.widthOf(child).text()},
                   {"height", layout.heightOf(child).text()},
+                  {"element", layout.elementScope()},
                   {"child", layout.blocks([&] { layout.child(child, x, y); })}});
 }
 

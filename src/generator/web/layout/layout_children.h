@@ -53,6 +53,7 @@ struct LayoutAxis {
     const char* gapBase;     ///< what a gap's percentage is taken of
     const char* offset;      ///< how far the layout is scrolled
     Extent (WidgetWriter::*sizeOf)(const WidgetNode&) const;
+    Room (WidgetWriter::*roomOf)(const std::vector<const WidgetNode*>&) const;
 };
 
 /// How the free space is shared out among the children.

@@ -54,12 +54,13 @@ void emitListView(WidgetWriter& list) {
     float spacing = 0.0f;
     float totalContentHeight = 0.0f;
 )");
-    list.eachChild(children, [&](const WidgetNode& child) {
-        list.block("    totalContentHeight += $height;\n", {{"height", list.heightOf(child).text()}});
+    list.inParts(children, [&](const WidgetNode& child) {
+        list.block("    totalContentHeight += $height;\n", {{"height", list.roomDown({&child}).sum.text()}});
     });
     emitScrolling(list);
     list.block("    float currentY = listStartY - scrollOffset_$n;\n");
-    list.eachChild(children, [&](const WidgetNode& child) {
+    const auto stepOf = [&](const WidgetNode& child) { return std::optional(list.heightOf(child)); };
+    list.eachChildAlong(children, "currentY", "winHeight", stepOf, [&](const WidgetNode& child) {
         list.block(R"(
     {
         float childX = listStartX + (winWidth - $width) / 2.0f;

@@ -7,8 +7,13 @@
 namespace pozhil {
 namespace {
 
-constexpr LayoutAxis AXIS = {"W",       "fixedWidthSum",       "அகலம்", "(forcedW > 0.0f ? forcedW : containerW)",
-                             "scrollX", &WidgetWriter::widthOf};
+constexpr LayoutAxis AXIS = {"W",
+                             "fixedWidthSum",
+                             "அகலம்",
+                             "(forcedW > 0.0f ? forcedW : containerW)",
+                             "scrollX",
+                             &WidgetWriter::widthOf,
+                             &WidgetWriter::roomAcross};
 
 void emitRectangle(WidgetWriter& row, const LayoutChildren& children, const Extent& contentWidth) {
     row.block(R"(
@@ -119,7 +124,11 @@ void emitRow(WidgetWriter& row) {
 )",
               {{"alignX", floatConstant(getAlignmentCoords(row.widget().alignment).first)},
                {"start", scrolls ? "startX - scrollX_" + row.number() : "startX"}});
-    row.eachChild(children.widgets, [&](const WidgetNode& child) {
+    const auto stepOf = [&](const WidgetNode& child) -> std::optional<Extent> {
+        const bool isPlain = !flexShare(child) && child.kind != language::widget::GAP;
+        return isPlain ? std::optional(row.widthOf(child) + children.spacing) : std::nullopt;
+    };
+    row.eachChildAlong(children.widgets, "currentX", "winWidth", stepOf, [&](const WidgetNode& child) {
         if (child.kind != "அசைவூட்டம்") {
             row.block("    {\n$child\n    }\n", {{"child", row.blocks([&] { emitChild(row, child); })}});
         }

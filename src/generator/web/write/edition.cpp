@@ -11,7 +11,11 @@ namespace {
 
 } // namespace
 
-void Edition::writeEach(WidgetWriter&, const EachNode&, const Filling&) {
+void Edition::writeEach(WidgetWriter&, const EachNode&, const Filling&, const Course*) {
+    refuse();
+}
+
+std::string Edition::elementScope(const EachNode&, const std::string&) {
     refuse();
 }
 

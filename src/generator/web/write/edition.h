@@ -31,6 +31,14 @@ struct Visibility {
     Filling condition;
 };
 
+/// How the elements of a list stand in a layout if all take the same room: one after the other, along a variable of the
+/// emitted block.
+struct Course {
+    std::string position; ///< float: where the next one stands; each moves it on
+    std::string step;     ///< float: by so much
+    std::string end;      ///< float: where the window ends
+};
+
 /// The message bar (அறிவிப்பு_பட்டை) as the emitted program keeps it: expressions of C++.
 struct MessageBar {
     std::string isShown; ///< bool; the others count only while it is true
@@ -110,7 +118,12 @@ public:
     // Widgets that come once for each element of a list; in editions that have such.
 
     /// A loop over the elements with \p body in it.
-    virtual void writeEach(WidgetWriter& layout, const EachNode& each, const Filling& body);
+    /// \param course passes over elements that stand out of the window; null if each must be gone through
+    virtual void writeEach(WidgetWriter& layout, const EachNode& each, const Filling& body, const Course* course);
+
+    /// The declaration by which what is drawn after it belongs to the element.
+    /// \param number tells the lists of a program apart
+    virtual std::string elementScope(const EachNode& each, const std::string& number);
 
     /// The declaration of a variable that belongs to the element (WidgetWriter::state).
     virtual Filling elementState(const std::string& type, const std::string& name, const Filling& first) const;

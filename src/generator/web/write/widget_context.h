@@ -5,8 +5,10 @@
 #include "generator/web/write/extent.h"
 #include "parser/syntax_tree.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace pozhil {
@@ -40,13 +42,18 @@ public:
     virtual Room roomDown(const std::vector<const WidgetNode*>& children) = 0;
 
     /// In how many lists within each other what is being written comes, once for each element.
-    int depthOfEach() const { return depthOfEach_; }
+    std::size_t depthOfEach() const { return elementScopes_.size(); }
+
+    /// The declaration by which it belongs to the element of the innermost list.
+    const std::string& elementScope() const { return elementScopes_.back(); }
 
     /// Everything written while it lives comes once for each element.
     class InEach {
     public:
-        explicit InEach(WidgetContext& context) : context_(context) { ++context_.depthOfEach_; }
-        ~InEach() { --context_.depthOfEach_; }
+        InEach(WidgetContext& context, std::string elementScope) : context_(context) {
+            context_.elementScopes_.push_back(std::move(elementScope));
+        }
+        ~InEach() { context_.elementScopes_.pop_back(); }
         InEach(const InEach&) = delete;
         InEach& operator=(const InEach&) = delete;
 
@@ -58,7 +65,7 @@ private:
     CodeWriter& out_;
     Edition& edition_;
     std::uint64_t numbers_ = 0;
-    int depthOfEach_ = 0;
+    std::vector<std::string> elementScopes_;
 };
 
 } // namespace pozhil

@@ -77,15 +77,48 @@ void WidgetWriter::child(const WidgetNode& widget, const std::string& x, const s
     context_.writeWidget(widget, x, y);
 }
 
-/// WebAssembly takes no function with as many locals as the children of a large layout would need.
 void WidgetWriter::eachChild(const std::vector<const WidgetNode*>& children, const WriteChild& write) {
+    inParts(children, [&](const WidgetNode& child) { writeChild(child, write); });
+}
+
+void WidgetWriter::eachChildAlong(const std::vector<const WidgetNode*>& children, const std::string& position,
+                                  const std::string& end, const StepOf& stepOf, const WriteChild& write) {
+    inParts(children, [&](const WidgetNode& child) {
+        const auto* each = dynamic_cast<const EachNode*>(&child);
+        const std::optional<Extent> step = each == nullptr ? std::nullopt : stepOfElement(*each, stepOf);
+        if (step) {
+            const Course course = {position, step->text(), end};
+            writeEach(*each, write, &course);
+        } else {
+            writeChild(child, write);
+        }
+    });
+}
+
+/// How far an element moves what the children stand along, if all do so by the same.
+std::optional<Extent> WidgetWriter::stepOfElement(const EachNode& each, const StepOf& stepOf) {
+    Extent whole;
+    for (const WidgetNode* child : childWidgets(each)) {
+        const bool isAlwaysThere =
+            dynamic_cast<const EachNode*>(child) == nullptr && edition().shownWhile(*child).empty();
+        const std::optional<Extent> step = isAlwaysThere ? stepOf(*child) : std::nullopt;
+        if (!step || !step->isConstant()) {
+            return std::nullopt;
+        }
+        whole += *step;
+    }
+    return whole;
+}
+
+/// WebAssembly takes no function with as many locals as the children of a large layout would need.
+void WidgetWriter::inParts(const std::vector<const WidgetNode*>& children, const WriteChild& write) {
     constexpr std::size_t MOST_IN_A_FUNCTION = 32;
     const bool isSplit = children.size() > MOST_IN_A_FUNCTION;
     for (std::size_t index = 0; index < children.size(); ++index) {
         if (isSplit && index % MOST_IN_A_FUNCTION == 0) {
             block(index == 0 ? "    [&] {\n" : "    }();\n    [&] {\n");
         }
-        writeChild(*children[index], write);
+        write(*children[index]);
     }
     if (isSplit) {
         block("    }();\n");
@@ -93,15 +126,20 @@ void WidgetWriter::eachChild(const std::vector<const WidgetNode*>& children, con
 }
 
 void WidgetWriter::writeChild(const WidgetNode& child, const WriteChild& write) {
-    const auto* each = dynamic_cast<const EachNode*>(&child);
-    if (each == nullptr) {
+    if (const auto* each = dynamic_cast<const EachNode*>(&child)) {
+        writeEach(*each, write, nullptr);
+    } else {
         whileShown(child, write);
-        return;
     }
-    edition().writeEach(*this, *each, blocks([this, each, &write] {
-        const WidgetContext::InEach inside(context_);
-        eachChild(childWidgets(*each), write);
-    }));
+}
+
+void WidgetWriter::writeEach(const EachNode& each, const WriteChild& write, const Course* course) {
+    std::string scope = edition().elementScope(each, partNumber());
+    edition().writeEach(*this, each, blocks([&] {
+        const WidgetContext::InEach inside(context_, scope);
+        eachChild(childWidgets(each), write);
+    }),
+                        course);
 }
 
 void WidgetWriter::whileShown(const WidgetNode& widget, const WriteChild& write) {
@@ -116,6 +154,10 @@ void WidgetWriter::whileShown(const WidgetNode& widget, const WriteChild& write)
 
 void WidgetWriter::slot(const WidgetNode& widget, const std::string& x, const std::string& y) {
     whileShown(widget, [&](const WidgetNode& shown) { child(shown, x, y); });
+}
+
+const std::string& WidgetWriter::elementScope() const {
+    return context_.elementScope();
 }
 
 bool WidgetWriter::isInOwnEach() const {

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -59,11 +60,24 @@ public:
     /// Writes what \p write writes for each of \p children, in functions of the emitted text where they are many. What
     /// isn't always there is asked whether it is; what is there for each element of a list comes in a loop over it.
     void eachChild(const std::vector<const WidgetNode*>& children, const WriteChild& write);
+
+    /// How far a child moves on what the layout places its children by; nothing if only the running page knows.
+    using StepOf = std::function<std::optional<Extent>(const WidgetNode&)>;
+    /// The same where children stand one after the other. Of lists whose elements all take the same room, those in the
+    /// window are gone through alone.
+    /// \param position, end as in Course
+    void eachChildAlong(const std::vector<const WidgetNode*>& children, const std::string& position,
+                        const std::string& end, const StepOf& stepOf, const WriteChild& write);
+
+    /// The same for \p children as they are, whether they are there or not, and lists as one.
+    void inParts(const std::vector<const WidgetNode*>& children, const WriteChild& write);
     /// Writes a widget that isn't a child of a layout, at the position that \p x and \p y tell, if it is there.
     void slot(const WidgetNode& widget, const std::string& x, const std::string& y);
 
     /// Whether what is being written comes once for each element of a list that is a child of this widget.
     bool isInOwnEach() const;
+    /// The declaration by which what is written after it belongs to the element.
+    const std::string& elementScope() const;
     /// A declaration, without a semicolon: the variable \p name of the block keeps its value from frame to frame. In a list
     /// each element has one of its own.
     Filling state(const std::string& type, const std::string& name, const Filling& first) const;
@@ -80,6 +94,8 @@ private:
     /// Whether the widget itself comes once for each element of a list.
     bool isInEach() const { return depthOfEach_ > 0; }
     void writeChild(const WidgetNode& child, const WriteChild& write);
+    std::optional<Extent> stepOfElement(const EachNode& each, const StepOf& stepOf);
+    void writeEach(const EachNode& each, const WriteChild& write, const Course* course);
     void whileShown(const WidgetNode& widget, const WriteChild& write);
 
     WidgetContext& context_;
@@ -87,7 +103,7 @@ private:
     std::string x_;
     std::string y_;
     std::uint64_t number_;
-    int depthOfEach_;
+    std::size_t depthOfEach_;
 };
 
 } // namespace pozhil
