@@ -6,8 +6,12 @@
 #include <chrono>
 #include <filesystem>
 #include <iostream>
+#include <optional>
+#include <system_error>
 #include <thread>
 #include <utility>
+
+namespace fs = std::filesystem;
 
 namespace pozhil {
 namespace {
@@ -107,14 +111,29 @@ void rebuild(const std::string& sourcePath, const FrontEndOptions& options, cons
     }
 }
 
+using TimeOfChange = std::optional<fs::file_time_type>;
+
+/// \throws std::filesystem::filesystem_error for a file that isn't there
+TimeOfChange timeOfChange(const fs::path& file) {
+    return fs::last_write_time(file);
+}
+
+/// Nothing for a file that isn't there.
+TimeOfChange timeOfChangeIfThere(const fs::path& file) {
+    std::error_code error;
+    const fs::file_time_type time = fs::last_write_time(file, error);
+    return error ? std::nullopt : TimeOfChange(time);
+}
+
 /// Calls \p react whenever a file changes, after it has told so. Never returns.
-[[noreturn]] void watchFile(const std::string& path, const char* changeNote, const std::function<void()>& react) {
+[[noreturn]] void watchFile(const std::string& path, TimeOfChange (*timeOf)(const fs::path&), const char* changeNote,
+                            const std::function<void()>& react) {
     constexpr std::chrono::milliseconds PAUSE{500};
-    const std::filesystem::path file = std::filesystem::u8path(path);
-    auto last = std::filesystem::last_write_time(file);
+    const fs::path file = fs::u8path(path);
+    TimeOfChange last = timeOf(file);
     while (true) {
-        const auto now = std::filesystem::last_write_time(file);
-        if (now != last) {
+        const TimeOfChange now = timeOf(file);
+        if (now && now != last) {
             last = now;
             std::cout << changeNote << std::endl;
             react();
@@ -126,11 +145,11 @@ void rebuild(const std::string& sourcePath, const FrontEndOptions& options, cons
 } // namespace
 
 void watchSource(const std::string& sourcePath, const FrontEndOptions& options, const WatchSteps& steps) {
-    watchFile(sourcePath, steps.changeNote, [&] { rebuild(sourcePath, options, steps); });
+    watchFile(sourcePath, timeOfChange, steps.changeNote, [&] { rebuild(sourcePath, options, steps); });
 }
 
 void watchSource(const std::string& sourcePath, const FrontEndOptions& options, const SecondWatchSteps& steps) {
-    watchFile(sourcePath, steps.changeNote, [&] { rebuild(sourcePath, options, steps); });
+    watchFile(sourcePath, timeOfChangeIfThere, steps.changeNote, [&] { rebuild(sourcePath, options, steps); });
 }
 
 } // namespace pozhil

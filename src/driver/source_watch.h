@@ -40,7 +40,8 @@ struct SecondWatchSteps {
 /// \throws std::filesystem::filesystem_error if the source file vanishes
 [[noreturn]] void watchSource(const std::string& sourcePath, const FrontEndOptions& options, const WatchSteps& steps);
 
-/// The same for a source of the second edition; after faults the next change is waited for.
+/// The same for a source of the second edition; after faults the next change is waited for, and a file that vanishes may
+/// come back.
 [[noreturn]] void watchSource(const std::string& sourcePath, const FrontEndOptions& options,
                               const SecondWatchSteps& steps);
 

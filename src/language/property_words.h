@@ -40,6 +40,8 @@ constexpr std::string_view UNDERLINE = "அடிக்குறிப்பு"
 constexpr std::string_view ID = "அடையாளம்";
 constexpr std::string_view PATH = "பாதை";
 constexpr std::string_view PAGE = "பக்கம்";
+/// What a page is called whose header gives no name.
+constexpr const char* UNNAMED_PAGE = "home";
 constexpr std::string_view DURATION = "காலம்";
 constexpr std::string_view ON_PRESS = "அழுத்தினால்";
 

@@ -4,6 +4,7 @@ import json
 import re
 import shutil
 import signal
+import time
 
 import pytest
 
@@ -150,6 +151,14 @@ def test_import_that_cannot_be_read_is_told_and_may_come_back(watched):
     module.rmdir()
     module.write_text(FUNCTION, encoding="utf-8")
     watched.is_built(application("நான்கு", before=IMPORT), 4)
+
+
+def test_source_that_vanishes_may_come_back(watched):
+    (watched.place.folder / SOURCE).unlink()
+    time.sleep(1.5)
+    assert watched.session.process.poll() is None
+    watched.is_built(application("மீண்டும்"), 3)
+    assert watched.session.stderr == b""
 
 
 def test_application_that_goes_is_told_and_comes_back(watched):

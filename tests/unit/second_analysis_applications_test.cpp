@@ -147,3 +147,14 @@ TEST(SecondApplications, ElementsAreCopiesThatNobodyAssigns) {
         EXPECT_THAT(meaningFaults(source), ElementsAre(HasSubstr("598 3"))) << handler;
     }
 }
+
+// Names of pages.
+
+TEST(SecondApplications, PagesHaveNamesOfTheirOwn) {
+    const auto page = [](const std::string& header) {
+        return "வலைதளம் அ(\n  தலைமை(" + header + ")\n  குமரி(உரை(\"அ\"))\n  வரையறை()\n)\n";
+    };
+    EXPECT_THAT(meaningFaults(page("பக்கம்: \"ஒன்று\"") + page("பக்கம்: \"இரண்டு\"") + page("")), IsEmpty());
+    EXPECT_THAT(meaningFaults(page("பக்கம்: \"ஒன்று\"") + page("பக்கம்: \"ஒன்று\"")), ElementsAre("599 6 'வலைதளம் அ('"));
+    EXPECT_THAT(meaningFaults(page("") + page("")), ElementsAre("599 6 'வலைதளம் அ('"));
+}

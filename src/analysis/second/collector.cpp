@@ -336,6 +336,10 @@ void Collector::visit(const WebAppNode& node) {
     const ScopedValue<bool> inside(isInApplication_, true);
     collectLogic(logicOf(node));
     const resolved::Place place = model_.locations.of(file_, &node);
+    const std::string name = pageNameOf(node);
+    if (const auto [first, isNew] = model_.pages.emplace(name, place); !isNew) {
+        model_.faults.add(fault::SECOND_PAGE, place, {name, std::to_string(model_.locations.lineOf(first->second))});
+    }
     Scope& frame = openScope(&node, "பக்கம்", place);
     frame.page = &node;
     frame.function->isPage = true;

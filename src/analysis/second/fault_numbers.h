@@ -14,6 +14,7 @@ constexpr int UNKNOWN_MEMBER = 555;
 constexpr int UNSET_VARIABLE = 556;
 constexpr int UNSET_OWN_VARIABLE = 557;
 constexpr int SECOND_DEFINITION = 562;
+constexpr int SECOND_PAGE = 599;
 constexpr int CLASHING_IMPORTS = 563;
 constexpr int DOUBLE_PARAMETER = 564;
 constexpr int SELF_OUTSIDE_METHOD = 566;

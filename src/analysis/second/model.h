@@ -125,6 +125,8 @@ struct Model {
     /// Of each file.
     std::vector<ApplicationFacts> applications;
     bool hasApplication = false;
+    /// By the names of pages, where they begin.
+    std::unordered_map<std::string, resolved::Place> pages;
     /// By the node of the function in its tree.
     std::unordered_map<const void*, Scope*> scopeOf;
     std::unordered_map<const resolved::Function*, Scope*> scopeOfFunction;

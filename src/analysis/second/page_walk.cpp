@@ -42,9 +42,9 @@ bool isConstant(const Expression& value) {
     return nodeCast<ColorExpression>(&value) != nullptr || nodeCast<PercentageLiteral>(&value) != nullptr;
 }
 
-const Expression* propertyOf(const EachNode& each, std::string_view name) {
-    const auto found = each.properties.find(std::string(name));
-    return found == each.properties.end() ? nullptr : found->second.get();
+const Expression* propertyOf(const WidgetNode& widget, std::string_view name) {
+    const auto found = widget.properties.find(std::string(name));
+    return found == widget.properties.end() ? nullptr : found->second.get();
 }
 
 bool endsInPercent(const std::string& text) {
@@ -135,6 +135,13 @@ void PageWalk::walkSize(const Expression* size) {
             onValue(*size);
         }
     }
+}
+
+std::string pageNameOf(const WebAppNode& application) {
+    const auto* const header = dynamic_cast<const WidgetNode*>(application.header.get());
+    const auto* const name =
+        header == nullptr ? nullptr : nodeCast<StringLiteral>(propertyOf(*header, language::property::PAGE));
+    return name == nullptr ? language::property::UNNAMED_PAGE : name->value;
 }
 
 const Expression* listOf(const EachNode& each) {

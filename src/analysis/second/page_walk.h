@@ -38,6 +38,9 @@ private:
     void walkSize(const Expression* size);
 };
 
+/// What the page is called: what its header says, else what pages without a name are.
+std::string pageNameOf(const WebAppNode& application);
+
 /// What an ஒவ்வொன்றும் goes through, and what it knows an element by; null if it doesn't say.
 const Expression* listOf(const EachNode& each);
 const Expression* keyOf(const EachNode& each);

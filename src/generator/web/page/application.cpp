@@ -37,7 +37,7 @@ std::string startPageOf(const std::vector<const WebAppNode*>& pages) {
             startPage = name->value;
         }
     }
-    return startPage.value_or("home");
+    return startPage.value_or(language::property::UNNAMED_PAGE);
 }
 
 /// A string, or a colour as the source writes it; nothing for any other value.
@@ -123,7 +123,7 @@ Application readApplication(std::vector<const WebAppNode*> pages) {
 
 std::string pageName(const WebAppNode& app) {
     const WidgetNode* header = headerOf(app);
-    return header == nullptr ? "home" : pageNameIn(*header);
+    return header == nullptr ? language::property::UNNAMED_PAGE : pageNameIn(*header);
 }
 
 } // namespace pozhil

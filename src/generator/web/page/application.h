@@ -1,5 +1,6 @@
 #pragma once
 
+#include "language/property_words.h"
 #include "parser/syntax_tree.h"
 
 #include <set>
@@ -14,7 +15,7 @@ struct Application {
     std::vector<const WebAppNode*> pages;
     /// Name of the page that is shown first: the last one that asks for it (ஆரம்ப_பக்கம்), else the first that has a
     /// name, else "home". Console programs have no pages and get "home" as well.
-    std::string startPage = "home";
+    std::string startPage = language::property::UNNAMED_PAGE;
     /// Name and size of the window, by the first application.
     std::string windowName;
     ScreenConfig screen;

@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "emit/emitted_block.h"
 #include "generator/web/write/widget_properties.h"
+#include "language/property_words.h"
 
 namespace pozhil {
 
@@ -13,7 +14,7 @@ std::string textOf(const Expression* value) {
 
 std::string pageNameIn(const WidgetNode& widget) {
     const auto* name = nodeCast<StringLiteral>(findProperty(widget, {"பக்கம்"}));
-    return name == nullptr ? "home" : name->value;
+    return name == nullptr ? language::property::UNNAMED_PAGE : name->value;
 }
 
 std::string pictureFile(const WidgetNode& picture) {
