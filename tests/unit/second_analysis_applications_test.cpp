@@ -122,6 +122,16 @@ TEST(SecondApplicationFaults, FunctionsOfPagesArePartOfApplicationsOnly) {
     EXPECT_THAT(meaningFaults("அச்சிடு(திரை_அகலம்)\n"), ElementsAre(HasSubstr("551 1 'திரை_அகலம்'")));
 }
 
+TEST(SecondApplicationFaults, PropertiesThatNothingReads) {
+    EXPECT_THAT(meaningFaults(application("உரை(\"அ\", மடி: மெய்)", "    விடு\n")), ElementsAre("596 3 'மடி: மெய்'"));
+}
+
+TEST(SecondApplicationFaults, PropertiesThatOtherWidgetsReadAreUnreadAllTheSame) {
+    EXPECT_THAT(meaningFaults(application("அளவி(மதிப்பு: 4)", "    விடு\n")), IsEmpty());
+    EXPECT_THAT(meaningFaults(application("மாற்றி(மதிப்பு: அ)", "    அ = மெய்\n")),
+                ElementsAre(HasSubstr("596 3 'மதிப்பு")));
+}
+
 // Widgets that come once for each element of a list.
 
 TEST(SecondApplications, ElementsAreParametersOfWhatTheirWidgetsShow) {

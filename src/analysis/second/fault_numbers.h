@@ -24,6 +24,9 @@ constexpr int PARAMETER_OF_FILE = 583;
 constexpr int STRUCTURE_AS_VALUE = 584;
 constexpr int ENUMERATION_AS_VALUE = 585;
 
+// Widgets.
+constexpr int UNREAD_PROPERTY = 596;
+
 // Statements, calls, places.
 constexpr int WRONG_COUNT = 558;
 constexpr int BREAK_OUTSIDE_LOOP = 559;

@@ -1,6 +1,7 @@
 #include "analysis/second/page_walk.h"
 #include "analysis/second/resolution.h"
 #include "analysis/second/suggestions.h"
+#include "analysis/second/unread_properties.h"
 
 #include <utility>
 #include <vector>
@@ -72,6 +73,7 @@ private:
 resolved::BlockPtr resolvePage(Resolution& resolution, const WebAppNode& page) {
     PageMaker maker(resolution);
     maker.walk(page);
+    tellUnreadProperties(resolution, page);
     resolution.model.program.pages.push_back({&page, resolution.scope.function});
     auto body = maker.take();
     body->place = resolution.placeOf(&page);
