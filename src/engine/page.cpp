@@ -120,6 +120,10 @@ double pageNumber(const Value& value, Place place) {
     return decimalOf(value);
 }
 
+void tellWrongState(const Value& value, const char* expected, Place place) {
+    guarded([&] { raise(WRONG_STATE, place, {expected, kindWord(value)}); });
+}
+
 void callHandler(const Value& handler, Place place) {
     callValue(handler, nullptr, 0, place);
 }

@@ -65,6 +65,10 @@ inline bool pageEqual(const Value& left, const Value& right) {
     return equal(left, right);
 }
 
+/// Tells that a widget can't show what the program holds for it. The page goes on, and so does the widget.
+/// \param expected what it shows, in words
+void tellWrongState(const Value& value, const char* expected, Place place);
+
 /// Calls a handler; anything but a function is a fault.
 void callHandler(const Value& handler, Place place);
 

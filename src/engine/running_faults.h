@@ -46,6 +46,8 @@ enum RunningFault : int {
     TIME_FIXED = 683,
     CANNOT_WAIT = 684,
 
+    WRONG_STATE = 690,
+
     FAULT_OF_OURS = 699
 };
 

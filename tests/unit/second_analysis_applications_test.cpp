@@ -126,10 +126,59 @@ TEST(SecondApplicationFaults, PropertiesThatNothingReads) {
     EXPECT_THAT(meaningFaults(application("உரை(\"அ\", மடி: மெய்)", "    விடு\n")), ElementsAre("596 3 'மடி: மெய்'"));
 }
 
-TEST(SecondApplicationFaults, PropertiesThatOtherWidgetsReadAreUnreadAllTheSame) {
-    EXPECT_THAT(meaningFaults(application("அளவி(மதிப்பு: 4)", "    விடு\n")), IsEmpty());
-    EXPECT_THAT(meaningFaults(application("மாற்றி(மதிப்பு: அ)", "    அ = மெய்\n")),
-                ElementsAre(HasSubstr("596 3 'மதிப்பு")));
+TEST(SecondApplicationFaults, ARadioInNoGroupChangesNothing) {
+    EXPECT_THAT(meaningFaults(application("வட்டத்தேர்வு(உரை: \"அ\", மாறியதால்: () => அச்சிடு(1))", "    விடு\n")),
+                ElementsAre("596 3 'மாறியதால்'"));
+    EXPECT_THAT(
+        meaningFaults(application("வட்டத்தேர்வு(உரை: \"அ\", மதிப்பு: ஆ, மாறியதால்: () => அச்சிடு(1))", "    ஆ = \"\"\n")),
+        IsEmpty());
+}
+
+// What controls hold.
+
+TEST(SecondApplications, AControlShowsAndAssignsThePlaceThatItIsBoundTo) {
+    const std::string text = resolvedText(application("மாற்றி(மதிப்பு: அ)", "    அ = மெய்\n"));
+    EXPECT_THAT(text, HasSubstr("பக்கம்(): {(do ::அ) (do "));
+    EXPECT_THAT(text, HasSubstr("மதிப்பு(புதிய மதிப்பு): {(set ::அ புதிய மதிப்பு)}"));
+}
+
+TEST(SecondApplications, ABoundVariableMayHoldAnything) {
+    EXPECT_EQ(certainKinds(application("மாற்றி(மதிப்பு: அ)", "    அ = மெய்\n    ஆ = மெய்\n")).find("அ Truth"),
+              std::string::npos);
+    EXPECT_THAT(certainKinds(application("உரை(அ)", "    அ = மெய்\n")), HasSubstr("அ Truth"));
+}
+
+TEST(SecondApplications, ElementsAndMembersAreBoundToo) {
+    const std::string text =
+        resolvedText(application("உரைபெட்டி(மதிப்பு: படிவம்[\"பெயர்\"])", "    படிவம் = {\"பெயர்\": \"\"}\n"));
+    EXPECT_THAT(text, HasSubstr("(set (element ::படிவம் \"பெயர்\") புதிய மதிப்பு)"));
+}
+
+TEST(SecondApplications, ARadioAssignsItsGroup) {
+    const std::string text =
+        resolvedText(application("வட்டத்தேர்வு(உரை: \"சிவப்பு\", மதிப்பு: 1, குழு_மதிப்பு: நிறம்_எண்)", "    நிறம்_எண் = 0\n"));
+    EXPECT_THAT(text, HasSubstr("(set ::நிறம்_எண் புதிய மதிப்பு)"));
+}
+
+TEST(SecondApplications, AFirstValueOfASliderIsNoPlaceToAssign) {
+    for (const char* value : {"40", "அ கூட்டு 1", "பெயர்.நீளம்"}) {
+        const std::string text = resolvedText(application(
+            std::string("நெடுவரிசை(உரைபெட்டி(அடையாளம்: \"பெயர்\"), அளவி(மதிப்பு: ") + value + "))", "    அ = 40\n"));
+        EXPECT_THAT(text, Not(HasSubstr("(set ::அ புதிய"))) << value;
+    }
+    EXPECT_THAT(resolvedText(application("அளவி(மதிப்பு: அ)", "    அ = 40\n")), HasSubstr("(set ::அ புதிய மதிப்பு)"));
+}
+
+TEST(SecondApplicationFaults, ControlsThatAreBoundToNoVariable) {
+    EXPECT_THAT(meaningFaults(application("மாற்றி(மதிப்பு: ஒப்புதம்)", "    ஒப்புதல் = மெய்\n")),
+                ElementsAre("551 3 'ஒப்புதம்' → ஒருவேளை 'ஒப்புதல்' என்று எழுத நினைத்தாயா?"));
+    EXPECT_THAT(meaningFaults(application("மாற்றி(மதிப்பு: சோதி)", "    செயல் சோதி():\n        திரும்பு மெய்\n")),
+                ElementsAre("573 3 'சோதி'"));
+    EXPECT_THAT(
+        meaningFaults(application("மாற்றி(மதிப்பு: ப[சோதி()])", "    ப = [மெய்]\n    செயல் சோதி():\n        திரும்பு 0\n")),
+        ElementsAre("573 3 'ப[சோதி()]'"));
+    EXPECT_THAT(meaningFaults(application("மாற்றி(மதிப்பு: மாறிலி_அ)", "    மாறிலி_அ = மெய்\n")),
+                ElementsAre("573 3 'மாறிலி_அ'"));
 }
 
 // Widgets that come once for each element of a list.

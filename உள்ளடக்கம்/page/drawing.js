@@ -60,20 +60,43 @@ var pozhilDrawing = (() => {
         }
     }
 
-    /// All that this frame has drawn, in order: shapes as { kind, x, y, width, height, radius }, texts and notes.
+    // --- what is disabled ---
+
+    // No widget is there.
+    const FAR_AWAY = -9999;
+    const FADED = 0.5;
+    let isDisabled = false;
+
+    /// What is drawn until this is taken back doesn't know where the pointer is, and shows that.
+    function disable(isNow) {
+        isDisabled = isNow;
+        pozhilTextCanvas.fade(isNow ? FADED : 1);
+        noteThat(isNow ? 'disabled' : 'enabled');
+        if (isSumming) {
+            add(isNow ? 1 : 2);
+        }
+    }
+
+    /// All that this frame has drawn, in order: shapes as { kind, x, y, width, height, radius }, texts and notes, each with
+    /// whether it is disabled.
     function marks() {
         const numbers = shapes();
         const all = [];
         let next = 0;
+        let disabled = false;
         const addShapesTo = end => {
             for (; next < end; next++) {
                 const [kind, x, y, width, height, radius] = numbers.subarray(NUMBERS * next, NUMBERS * (next + 1));
-                all.push({ kind: KINDS[kind], x, y, width, height, radius });
+                all.push({ kind: KINDS[kind], x, y, width, height, radius, disabled });
             }
         };
         for (const note of notes) {
             addShapesTo(note.shapes);
-            all.push(note);
+            if (note.kind === 'disabled' || note.kind === 'enabled') {
+                disabled = note.kind === 'disabled';
+            } else {
+                all.push({ ...note, disabled });
+            }
         }
         addShapesTo(numbers.length / NUMBERS);
         return all;
@@ -128,7 +151,7 @@ var pozhilDrawing = (() => {
                 if (isNoting && shapeCount() > 0) {
                     noteThat('ask');
                 }
-                return mouseX;
+                return isDisabled ? FAR_AWAY : mouseX;
             },
             set(x) { mouseX = x; },
         });
@@ -145,6 +168,8 @@ var pozhilDrawing = (() => {
         notes = [];
         HEAP32[shapesAt] = 0;
         hasShapes = false;
+        isDisabled = false;
+        pozhilTextCanvas.fade(1);
     });
 
     /// How far the first text that has moved since the frame before has moved, across or down; 0 if none has.
@@ -161,7 +186,7 @@ var pozhilDrawing = (() => {
     pozhilFrames.whenReady(watchPointer);
 
     return {
-        shift, shapes, marks,
+        shift, shapes, marks, disable,
         texts: () => texts,
         /// Whether the next frame is to be kept for `marks`, which costs time.
         watchMarks: isWanted => { isNoting = isWanted; },

@@ -250,7 +250,9 @@ var pozhilShown = (() => {
                 && readMark(marks, index + 1, openers).item;
             const { took, item } = isAsking ? { took: 1, item: null } : readMark(marks, index, openers);
             if (item) {
-                items.push({ texts: [], ...item, index });
+                const { disabled } = marks[index];
+                (item.children ?? []).forEach(child => { child.disabled ||= disabled; });
+                items.push({ texts: [], ...item, index, disabled: item.disabled || disabled });
             }
             if (item?.opens) {
                 openers.push(items.at(-1));

@@ -115,6 +115,17 @@ var pozhilTextCanvas = (() => {
         return top < -reach || top > height + reach;
     }
 
+    // --- what is disabled ---
+
+    /// How much of its strength a text keeps.
+    let strength = 1;
+
+    function fillFaded(...values) {
+        accessors.globalAlpha.set.call(context, askFor('globalAlpha') * strength);
+        told.globalAlpha = undefined;
+        browser.fillText.call(context, ...values);
+    }
+
     // --- the context of the program: one that others watch, on one that remembers, on the browser's ---
 
     const remembering = Object.create(browser);
@@ -160,7 +171,11 @@ var pozhilTextCanvas = (() => {
         fillText(text, left, top, ...most) {
             if (!isOutside(top)) {
                 NAMES_OF_TEXT.forEach(tell);
-                browser.fillText.call(this, text, left, top, ...most);
+                if (strength === 1) {
+                    browser.fillText.call(this, text, left, top, ...most);
+                } else {
+                    fillFaded(text, left, top, ...most);
+                }
             }
         },
         measureText(text) {
@@ -269,5 +284,10 @@ var pozhilTextCanvas = (() => {
         Object.setPrototypeOf(context, watched);
     });
 
-    return { watch };
+    /// From now on texts are written with a part of their strength, 0 to 1.
+    function fade(part) {
+        strength = part;
+    }
+
+    return { watch, fade };
 })();

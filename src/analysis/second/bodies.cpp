@@ -35,6 +35,20 @@ resolved::BlockPtr bodyOfValue(Resolution& resolution, const Expression* value) 
     return block;
 }
 
+/// A place gets the value of the only parameter; nothing if it isn't one, which is told where the page has it.
+resolved::BlockPtr bodyOfAssignment(Resolution& resolution, const Expression* place) {
+    auto block = makeNode<resolved::Block>(resolution.placeOf(place));
+    if (resolved::TargetPtr target = resolveBoundPlace(resolution, *place)) {
+        auto value = makeNode<resolved::VariableRead>(block->place);
+        value->variable = resolution.scope.function->parameters.front().variable;
+        auto assignment = makeNode<resolved::Assignment>(block->place);
+        assignment->target = std::move(target);
+        assignment->value = std::move(value);
+        block->statements.push_back(std::move(assignment));
+    }
+    return block;
+}
+
 /// The structure in whose method a function stands, also inside of inner functions; null outside.
 const resolved::Structure* structureAround(const Scope& scope) {
     const Scope* one = &scope;
@@ -50,6 +64,8 @@ void resolveFunction(Model& model, Scope& scope) {
         scope.function->body = resolvePage(resolution, *scope.page);
     } else if (scope.value != nullptr) {
         scope.function->body = bodyOfValue(resolution, scope.value);
+    } else if (scope.assigned != nullptr) {
+        scope.function->body = bodyOfAssignment(resolution, scope.assigned);
     } else if (scope.statements != nullptr) {
         scope.function->body = resolveStatements(resolution, *scope.statements);
     } else if (scope.body != nullptr) {

@@ -363,6 +363,35 @@ void Collector::leaveEach(const EachNode&) {
     scope_ = scope_->outer;
 }
 
+/// A change by the user is like a call of a function that assigns what is new.
+void Collector::onBinding(const std::string& property, const Expression& place, bool) {
+    collect(&place);
+    // No name of the program, so that it hides none.
+    static const Token NEWS{TokenType::IDENTIFIER, "புதிய மதிப்பு", 0};
+    Scope& scope = openScope(&property, "மதிப்பு", model_.locations.of(file_, &place));
+    scope.assigned = &place;
+    scope.isLambda = true;
+    addParameter(scope, &place, NEWS, false);
+    Scope* const before = std::exchange(scope_, &scope);
+    mentionPlace(&place);
+    scope_ = before;
+}
+
+void Collector::mentionPlace(const Expression* place) {
+    place = withoutBrackets(place);
+    if (const auto* name = nodeCast<VariableAccess>(place)) {
+        mention(name->name, Use::Write);
+    } else if (const auto* member = nodeCast<GetExpression>(place)) {
+        mentionPlace(member->object.get());
+    } else if (const auto* element = nodeCast<IndexExpression>(place)) {
+        mentionPlace(element->object.get());
+        mentionPlace(element->index.get());
+    } else if (const auto* operation = nodeCast<BinaryExpression>(place)) {
+        mentionPlace(operation->left.get());
+        mentionPlace(operation->right.get());
+    }
+}
+
 void Collector::onHandler(const WidgetNode& widget) {
     Scope& scope = openScope(&widget.eventStatements, "வினை", model_.locations.of(file_, &widget));
     scope.statements = &widget.eventStatements;

@@ -74,10 +74,13 @@ private:
     void onWidgetName(const std::string& name) override { model_.applications[file_].widgetNames.insert(name); }
     void enterEach(const EachNode& each) override;
     void leaveEach(const EachNode& each) override;
+    void onBinding(const std::string& property, const Expression& place, bool isOptional) override;
     void onHandler(const WidgetNode& widget) override;
     void tellDatabase(const void* node);
     void collectLogic(const BlockStatement* logic);
 
+    /// Names that stand in a place, which its function shares.
+    void mentionPlace(const Expression* place);
     void mention(std::string_view name, Use use) { scope_->mentions.push_back({name, use}); }
     void give(std::string_view name, GivenName::By by, resolved::Place place, const Expression* value = nullptr);
     void noteSelfAssignment(const GetExpression& target, const PlaceAssignment& assignment);

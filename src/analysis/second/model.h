@@ -55,6 +55,8 @@ struct Scope {
     const Expression* value = nullptr;
     /// The same as body, of what isn't written as a function.
     const StatementList* statements = nullptr;
+    /// The place that a call puts its only argument into, which no function of the text does.
+    const Expression* assigned = nullptr;
     /// It has no name, so it is always used as a value.
     bool isLambda = false;
     /// The page that is drawn in each call of the function; null for all other functions.

@@ -1,3 +1,5 @@
+#include "analysis/second/control_bindings.h"
+#include "analysis/second/fault_numbers.h"
 #include "analysis/second/page_walk.h"
 #include "analysis/second/resolution.h"
 #include "analysis/second/suggestions.h"
@@ -8,6 +10,9 @@
 
 namespace pozhil::second {
 namespace {
+
+constexpr const char* NO_PLACE_OF_CONTROL =
+    "விட்ஜெட் மாறும்போது புதிய மதிப்பை வைக்க ஒரு மாறி, உறுப்பு (ப[0], பட்டியல்[இடம்]) அல்லது பண்பு (ப.பெயர்) வேணும்; அதை எழுது மச்சி!";
 
 /// Makes a statement of every value that the widgets of a page take from the program.
 class PageMaker : public PageWalk {
@@ -25,6 +30,18 @@ protected:
         now().model.program.elements[&each] = now().scope.function;
         now().scope.function->body = take();
         parts_.pop_back();
+    }
+
+    void onBinding(const std::string& property, const Expression& place, bool isOptional) override {
+        onValue(place);
+        if (resolveBoundPlace(now(), place) == nullptr) {
+            if (!isOptional) {
+                now().model.faults.add(fault::NO_PLACE, now().placeOf(&place), {}, {}, NO_PLACE_OF_CONTROL);
+            }
+            return;
+        }
+        const resolved::Function* const function = now().model.scopeOf.at(&property)->function;
+        add(&property, functionValue(now(), function, now().placeOf(&place)));
     }
 
     void onHandler(const WidgetNode& widget) override {
@@ -69,6 +86,13 @@ private:
 };
 
 } // namespace
+
+/// What a user has typed into a field looks like a member, and is none.
+resolved::TargetPtr resolveBoundPlace(Resolution& resolution, const Expression& place) {
+    const auto* const member = nodeCast<GetExpression>(&place);
+    const bool isTyped = member != nullptr && resolveFieldPart(resolution, *member) != nullptr;
+    return isTyped || !isPlainPlace(place) ? nullptr : placeIfAny(resolution, &place);
+}
 
 resolved::BlockPtr resolvePage(Resolution& resolution, const WebAppNode& page) {
     PageMaker maker(resolution);

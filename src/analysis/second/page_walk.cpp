@@ -1,5 +1,6 @@
 #include "analysis/second/page_walk.h"
 
+#include "analysis/second/control_bindings.h"
 #include "language/property_words.h"
 #include "language/second/widgets.h"
 #include "language/widgets.h"
@@ -112,6 +113,10 @@ void PageWalk::walkProperty(const WidgetNode& widget, const std::string& name, c
         return;
     }
     if (value == nullptr || isConstant(*value)) {
+        return;
+    }
+    if (const std::optional<ControlBinding> binding = bindingOf(widget); binding && binding->property == &name) {
+        onBinding(name, *value, binding->isOptional);
         return;
     }
     switch (kindOf(widget, name)) {

@@ -22,6 +22,10 @@ protected:
     /// What comes until leaveEach() does so for each element of the list, whose value is told before.
     virtual void enterEach(const EachNode& each) = 0;
     virtual void leaveEach(const EachNode& each) = 0;
+    /// What the program holds of a control: it is shown, and assigned when the user changes it.
+    /// \param property the name of the property that says so, as the widget keeps it
+    /// \param isOptional whether what can't be assigned is shown all the same
+    virtual void onBinding(const std::string& property, const Expression& place, bool isOptional) = 0;
     /// Statements that a press carries out, as a function would.
     virtual void onHandler(const WidgetNode& widget) = 0;
     /// The name of a variable, as a text, that the widget shows or changes.

@@ -102,6 +102,9 @@ resolved::BlockPtr resolveStatements(Resolution& resolution, const StatementList
 /// Evaluates, in the order of the text, all that the widgets of a page take from the program.
 resolved::BlockPtr resolvePage(Resolution& resolution, const WebAppNode& page);
 
+/// The place that a control assigns, null if it is none that can be assigned.
+resolved::TargetPtr resolveBoundPlace(Resolution& resolution, const Expression& place);
+
 /// Gives every function of the program its body, every field its first value, every file its statements.
 void resolveBodies(Model& model);
 

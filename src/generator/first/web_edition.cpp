@@ -3,6 +3,7 @@
 #include "emit/code_writer.h"
 #include "generator/first/emission.h"
 #include "generator/web/write/literals.h"
+#include "generator/web/write/press_handler.h"
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
 #include "language/operators.h"
@@ -34,9 +35,10 @@ std::string variableSize(const std::string& name) {
     return "fn_get_double(" + globalVariable(name) + ")";
 }
 
-/// The variable by which the program knows the control; empty if it doesn't.
+/// The variable by which the program knows a box to tick; empty if it doesn't. It knows no other control so.
 std::string controlVariable(const WidgetWriter& control) {
-    return textOf(findProperty(control.widget(), {"அடையாளம்"}));
+    const bool isBox = control.widget().kind == language::widget::CHECKBOX;
+    return isBox ? textOf(findProperty(control.widget(), {"அடையாளம்"})) : "";
 }
 
 /// \p lines, outlived by the page whatever they throw. A call that stands in place of a function has run, and may have
@@ -132,7 +134,7 @@ std::optional<Visibility> WebEdition::visibility(const WidgetNode& widget) {
     return Visibility{name, "global_vars.find(\"" + name + "\") == global_vars.end() || (" + isTrue + ")"};
 }
 
-void WebEdition::writeTruthRead(WidgetWriter& control, const std::string& state) {
+void WebEdition::writeStateRead(WidgetWriter& control, const ControlState& state) {
     const std::string variable = controlVariable(control);
     if (!variable.empty()) {
         control.block(R"(
@@ -142,14 +144,31 @@ void WebEdition::writeTruthRead(WidgetWriter& control, const std::string& state)
         $state = std::any_cast<bool>(global_vars["$id"]);
     }
 )",
-                      {{"id", variable}, {"state", state}});
+                      {{"id", variable}, {"state", state.variable}});
     }
 }
 
-void WebEdition::writeTruthChange(WidgetWriter& control, const std::string& state) {
-    const std::string variable = controlVariable(control);
-    if (!variable.empty()) {
-        control.block("global_vars[\"$id\"] = std::any($state);\n", {{"id", variable}, {"state", state}});
+void WebEdition::writeChange(WidgetWriter& control, const ControlState& state) {
+    if (control.widget().kind == language::widget::CHECKBOX) {
+        const std::string variable = controlVariable(control);
+        if (!variable.empty()) {
+            control.block("global_vars[\"$id\"] = std::any($state);\n", {{"id", variable}, {"state", state.variable}});
+        }
+        return;
+    }
+    const bool isBar = state.kind == ControlState::Kind::Index;
+    if (const Expression* handler = findProperty(control.widget(), {isBar ? "அழுத்தினால்" : "மாறியதால்"})) {
+        writeHandlerCall(control, handler, isBar ? HandlerSite::Bar : HandlerSite::Control);
+    }
+}
+
+void WebEdition::writeChoices(WidgetWriter& dropdown, const Expression& choices) {
+    if (const auto* list = nodeCast<ListLiteral>(&choices)) {
+        for (const ExpressionPtr& element : list->elements) {
+            if (const auto* item = nodeCast<StringLiteral>(element.get())) {
+                dropdown.block("    items.push_back($item);\n", {{"item", literal(item->value)}});
+            }
+        }
     }
 }
 

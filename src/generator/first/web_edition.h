@@ -27,9 +27,15 @@ public:
 
     /// By the variable that காட்சி_பெயர் names. A dialog waits until it says so; anything else is there until it says no.
     std::optional<Visibility> visibility(const WidgetNode& widget) override;
-    /// By the variable that அடையாளம் names.
-    void writeTruthRead(WidgetWriter& control, const std::string& state) override;
-    void writeTruthChange(WidgetWriter& control, const std::string& state) override;
+    bool isBound(const WidgetNode&) override { return false; }
+    /// Of a box to tick, by the variable that அடையாளம் names.
+    void writeStateRead(WidgetWriter& control, const ControlState& state) override;
+    /// The same; all others have handlers.
+    void writeChange(WidgetWriter& control, const ControlState& state) override;
+    /// Those that are texts.
+    void writeChoices(WidgetWriter& dropdown, const Expression& choices) override;
+    void writeField(WidgetWriter&, const Filling&) override {}
+    void writeDisabling(WidgetWriter&) override {}
     void writeWindowSize(CodeWriter& out) override;
     void writeOpenAlerts(CodeWriter& out) override;
 

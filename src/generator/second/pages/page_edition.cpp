@@ -12,7 +12,6 @@
 #include "language/second/widgets.h"
 #include "language/widget_words.h"
 
-#include <algorithm>
 #include <map>
 #include <stdexcept>
 
@@ -47,6 +46,7 @@ protected:
     void onVariableName(const StringLiteral& name) override { found.emplace(name.value, &name); }
     void onStateName(const StringLiteral&) override {}
     void onWidgetName(const std::string&) override {}
+    void onBinding(const std::string&, const pozhil::Expression&, bool) override {}
     void onHandler(const WidgetNode&) override {}
 };
 
@@ -89,7 +89,7 @@ Filling PageEdition::shownText(const pozhil::Expression* value, const std::strin
 }
 
 Filling PageEdition::number(const pozhil::Expression& value) {
-    return "pageNumber(" + written(&value) + ", " + tables_.places.literal(valueOf(&value).evaluation->place) + ")";
+    return "pageNumber(" + written(&value) + ", " + placeOf(&value) + ")";
 }
 
 Filling PageEdition::truth(const pozhil::Expression& value) {
@@ -109,8 +109,7 @@ std::string PageEdition::inComment(const std::string& text) const {
 }
 
 std::string PageEdition::computedSize(const pozhil::Expression& size, const std::string&) {
-    return "(float)pageNumber(" + written(&size) + ", " + tables_.places.literal(valueOf(&size).evaluation->place) +
-           ")";
+    return "(float)pageNumber(" + written(&size) + ", " + placeOf(&size) + ")";
 }
 
 std::string PageEdition::sizeCondition(const pozhil::Expression& condition, const std::string&) {
@@ -223,34 +222,6 @@ std::string PageEdition::elementName(const std::string& name) const {
     return "page::elementName(" + name + ")";
 }
 
-const Variable* PageEdition::stateOf(const WidgetWriter& control) const {
-    const auto* const name = nodeCast<StringLiteral>(findProperty(control.widget(), {language::property::ID.data()}));
-    if (name == nullptr) {
-        return nullptr;
-    }
-    for (const File& file : program_.files) {
-        const auto found = std::find_if(file.variables.begin(), file.variables.end(),
-                                        [&](const Variable* one) { return one->name == name->value; });
-        if (found != file.variables.end()) {
-            return *found;
-        }
-    }
-    return nullptr;
-}
-
-void PageEdition::writeTruthRead(WidgetWriter& control, const std::string& state) {
-    if (const Variable* variable = stateOf(control)) {
-        control.block("page::exchange($variable, $state);\n",
-                      {{"variable", tables_.names.of(*variable)}, {"state", state}});
-    }
-}
-
-void PageEdition::writeTruthChange(WidgetWriter& control, const std::string& state) {
-    if (const Variable* variable = stateOf(control)) {
-        control.block("$variable = $state;\n", {{"variable", tables_.names.of(*variable)}, {"state", state}});
-    }
-}
-
 void PageEdition::writeWindowSize(CodeWriter& out) {
     out.block("page::width = winWidth;\npage::height = winHeight;\npage::runHandlers();\n");
 }
@@ -310,12 +281,16 @@ void PageEdition::writeHandlerStatements(WidgetWriter& widget, const pozhil::Sta
     writeCall(widget, &statements);
 }
 
-void PageEdition::writeCall(WidgetWriter& widget, const void* handler) {
-    const PageValue& value = valueOf(handler);
+std::string PageEdition::placeOf(const void* node) const {
+    return tables_.places.literal(valueOf(node).evaluation->place);
+}
+
+void PageEdition::writeCall(WidgetWriter& widget, const void* handler, const std::string& news) {
     const std::string text = written(handler);
-    const std::string call = isDeed(*value.evaluation->value)
-                                 ? text
-                                 : "callHandler(" + text + ", " + tables_.places.literal(value.evaluation->place) + ")";
+    const std::string call =
+        isDeed(*valueOf(handler).evaluation->value)
+            ? text
+            : "callHandler(" + text + ", " + (news.empty() ? "" : news + ", ") + placeOf(handler) + ")";
     widget.block("page::handle([=] { $call; });\n", {{"call", call}});
 }
 

@@ -46,8 +46,17 @@ public:
     std::string elementKey(const std::string& key) const override;
     std::string elementName(const std::string& name) const override;
 
-    void writeTruthRead(WidgetWriter& control, const std::string& state) override;
-    void writeTruthChange(WidgetWriter& control, const std::string& state) override;
+    // Controls, in page_controls.cpp.
+
+    bool isBound(const WidgetNode& control) override;
+    /// By the place that the control is bound to; of a box to tick also by the variable that அடையாளம் names.
+    void writeStateRead(WidgetWriter& control, const ControlState& state) override;
+    /// Assigns the place, then calls the handlers with what is new. In a bar, those of the bar and of its item come after.
+    void writeChange(WidgetWriter& control, const ControlState& state) override;
+    void writeChoices(WidgetWriter& dropdown, const pozhil::Expression& choices) override;
+    void writeField(WidgetWriter& field, const Filling& id) override;
+    void writeDisabling(WidgetWriter& widget) override;
+
     void writeWindowSize(CodeWriter& out) override;
     void writeOpenAlerts(CodeWriter& out) override;
     void writeDrawing(CodeWriter& out) override;
@@ -77,7 +86,16 @@ private:
     /// Variables that handlers of the element share; empty or a statement of one line.
     std::string sharedElements(const EachNode& each) const;
     std::string overElements(const char* gather, const EachNode& each, const Extent& ofOne);
-    void writeCall(WidgetWriter& widget, const void* handler);
+    /// \param news what is new, a Value of the emitted text that a function may take; empty if nothing is
+    void writeCall(WidgetWriter& widget, const void* handler, const std::string& news = "");
+    std::string placeOf(const void* node) const;
+    /// What the place holds that a control is bound to, as a Value that may be unset.
+    std::string heldValue(const pozhil::Expression& place);
+    /// What the user has made of a control, as a Value; empty if that can't be told.
+    std::string newsOf(const WidgetNode& control, const ControlState& state);
+    void writeChangeHandler(WidgetWriter& control, const char* property, const std::string& news);
+    void writeBarPress(WidgetWriter& bar, const std::string& index);
+    void writePress(WidgetWriter& bar, const WidgetNode& pressed);
     std::string visibilityCondition(const pozhil::Expression& name, const std::string& atFirst);
 
     const Program& program_;

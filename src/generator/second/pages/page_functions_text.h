@@ -8,4 +8,7 @@ namespace pozhil::second_page_text {
 /// What a page gives its program: window, message bar, fields, faults.
 extern const Block page_functions;
 
+/// How controls and the program know of each other: state that both hold, fields of the browser, what is disabled.
+extern const Block page_controls;
+
 } // namespace pozhil::second_page_text

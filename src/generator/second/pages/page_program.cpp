@@ -41,12 +41,15 @@ EmittedLines PageProgram::head() const {
                                            page::input_fields, page::media_elements, page::frame_helpers}) {
         lines.lines(section);
     }
-    lines.line("#include <cstring>");
+    for (const char* header : {"cstddef", "cstdio", "cstdlib", "cstring"}) {
+        lines.line("#include <" + std::string(header) + ">");
+    }
     lines.line("#include \"engine/program.h\"");
     lines.line("#include \"engine/page.h\"");
     lines.line("using namespace pozhil::engine;");
     lines.line("");
     lines.lines(second_page_text::page_functions.text());
+    lines.lines(second_page_text::page_controls.text());
     return lines;
 }
 

@@ -55,6 +55,7 @@ void WidgetFrame::writeWidget(const WidgetNode& widget, const std::string& x, co
     if (kind != nullptr && kind->block != nullptr) {
         // A function of its own: WebAssembly takes no function with as many locals as a large page would need.
         writer.block("pozhil_draw([&] { // $kind\n", {{"kind", widget.kind}});
+        edition().writeDisabling(writer);
         kind->block(writer);
         writer.block("});\n");
     }

@@ -32,6 +32,7 @@ void emitPress(WidgetWriter& bar, std::size_t itemCount) {
     int itemCount = $count;
     float itemW = winW / (float)(itemCount > 0 ? itemCount : 1);
     int currentIndex = (int)$current;
+    $read
     float mx = pozhil_mouse_x();
     float my = pozhil_mouse_y();
     bool isNavClicked = g_mouseClicked && (my >= navY);
@@ -48,7 +49,10 @@ void emitPress(WidgetWriter& bar, std::size_t itemCount) {
 )",
               {{"count", std::to_string(itemCount)},
                {"current", numberValue(bar, findProperty(bar.widget(), {"அடிப்பகுதிதேர்வு"}), 0.0F)},
-               {"handler", barHandler(bar)}});
+               {"read", bar.blocks([&] {
+                    bar.edition().writeStateRead(bar, {ControlState::Kind::Index, "currentIndex"});
+                })},
+               {"handler", changeOf(bar, {ControlState::Kind::Index, "clickedIdx"})}});
 }
 
 /// A picture that is loaded when the item is first drawn, paler while it isn't selected.

@@ -45,14 +45,15 @@ void emitState(WidgetWriter& box, const std::string& id) {
 )",
               {{"state", box.state("bool", "checked_" + box.number(),
                                    truthValue(box, findProperty(box.widget(), {"தேர்வுபெட்டிநிலை"})))}});
+    const ControlState state = {ControlState::Kind::Truth, "checked_" + box.number()};
     emitPressArea(box, {"cbX", "cbX + hitW", "cbY", "cbY + cb_h"}, box.blocks([&] {
         box.block("checked_$n = !checked_$n;\n");
-        box.edition().writeTruthChange(box, "checked_" + box.number());
+        box.edition().writeChange(box, state);
         if (!id.empty()) {
             box.block("g_inputErrors.erase($id);\n", {{"id", box.nameFrom(box.edition().literal(id))}});
         }
     }));
-    box.edition().writeTruthRead(box, "checked_" + box.number());
+    box.edition().writeStateRead(box, state);
 }
 
 void emitTick(WidgetWriter& box) {

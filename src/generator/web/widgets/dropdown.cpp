@@ -5,20 +5,33 @@
 #include "generator/web/write/widget_writer.h"
 #include "language/widget_words.h"
 
+#include <algorithm>
+
 namespace pozhil {
 namespace {
 
+bool isText(const ExpressionPtr& value) {
+    return nodeCast<StringLiteral>(value.get()) != nullptr;
+}
+
 void emitItems(WidgetWriter& dropdown) {
     dropdown.block("    std::vector<std::string> items;\n");
-    const auto* list = nodeCast<ListLiteral>(findProperty(dropdown.widget(), {"பட்டியல்"}));
-    if (list == nullptr) {
+    const Expression* choices = findProperty(dropdown.widget(), {"பட்டியல்"});
+    const auto* list = nodeCast<ListLiteral>(choices);
+    if (choices == nullptr) {
+        return;
+    }
+    if (list == nullptr || !std::all_of(list->elements.begin(), list->elements.end(), isText)) {
+        dropdown.edition().writeChoices(dropdown, *choices);
         return;
     }
     for (const ExpressionPtr& element : list->elements) {
-        if (const auto* item = nodeCast<StringLiteral>(element.get())) {
-            dropdown.block("    items.push_back($item);\n", {{"item", dropdown.edition().literal(item->value)}});
-        }
+        dropdown.block("    items.push_back($item);\n", {{"item", dropdown.edition().literal(textOf(element.get()))}});
     }
+}
+
+ControlState stateOf(const WidgetWriter& dropdown) {
+    return {ControlState::Kind::Choice, "selectedIndex_" + dropdown.number()};
 }
 
 void emitState(WidgetWriter& dropdown) {
@@ -35,6 +48,7 @@ void emitState(WidgetWriter& dropdown) {
                    {{"isOpen", dropdown.state("bool", "isOpen_" + dropdown.number(), "false")},
                     {"selectedIndex", dropdown.state("int", "selectedIndex_" + dropdown.number(), "-1")}});
     emitItems(dropdown);
+    dropdown.edition().writeStateRead(dropdown, stateOf(dropdown));
     dropdown.block(R"(
     std::string displayFilter = "தேர்ந்தெடு...";
     if (selectedIndex_$n >= 0 && selectedIndex_$n < (int)items.size()) displayFilter = items[selectedIndex_$n];
@@ -107,7 +121,7 @@ void emitMenu(WidgetWriter& dropdown) {
         });
     }
 )",
-                   {{"handler", changeHandler(dropdown)}});
+                   {{"handler", changeOf(dropdown, stateOf(dropdown))}});
 }
 
 /// கீழ்வரி: a box that opens a menu to choose from.

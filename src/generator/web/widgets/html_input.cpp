@@ -37,6 +37,7 @@ void emitHtmlInput(WidgetWriter& input) {
                  {"hint", input.edition().literal(textOf(findProperty(widget, {"குறிப்பு"})))},
                  {"background", cssColour(background)},
                  {"colour", cssColour(textColour)}});
+    input.edition().writeField(input, "inputId");
     input.block(input.isAtTop() ? "}\n" : "    $y += th;\n}\n");
 }
 

@@ -6,6 +6,8 @@
 #include "generator/web/write/widget_writer.h"
 #include "language/widget_words.h"
 
+#include <utility>
+
 namespace pozhil {
 namespace {
 
@@ -34,7 +36,7 @@ void emitSelection(WidgetWriter& radio, const Expression* value, const Expressio
 void emitPress(WidgetWriter& radio, bool hasGroup, const Filling& label) {
     radio.block("    float txtW = pozhil_plain_text_width($label);\n", {{"label", label}});
     const Filling press =
-        hasGroup ? changeHandler(radio)
+        hasGroup ? changeOf(radio, {ControlState::Kind::Group, ""})
                  : radio.blocks([&] { radio.block("demoState_$n = !demoState_$n;\nisSelected = demoState_$n;\n"); });
     emitPressArea(radio, {"rbX", "rbX + rbSize + 15.0f + txtW", "rbY", "rbY + rbSize"}, press);
 }
@@ -63,9 +65,13 @@ void emitRing(WidgetWriter& radio, const Filling& label) {
 /// வட்டத்தேர்வு: one of a group of which one is selected.
 void emitRadio(WidgetWriter& radio) {
     const WidgetNode& widget = radio.widget();
+    const Expression* value = findProperty(widget, {"மதிப்பு"});
     const Expression* group = findProperty(widget, {"குழு_மதிப்பு"});
+    if (group == nullptr && radio.edition().isBound(widget)) {
+        group = std::exchange(value, findProperty(widget, {"உரை"}));
+    }
     const Filling label = textArgument(radio, findProperty(widget, {"உரை"}));
-    emitSelection(radio, findProperty(widget, {"மதிப்பு"}), group);
+    emitSelection(radio, value, group);
     if (!isDisabled(widget)) {
         emitPress(radio, group != nullptr, label);
     }

@@ -107,6 +107,7 @@ void emitSearchBar(WidgetWriter& bar) {
 )",
               {{"id", bar.nameFrom("\"search_\" + std::to_string(" + bar.number() + ")")},
                {"hint", bar.edition().literal(hint.empty() ? "Search..." : hint)}});
+    bar.edition().writeField(bar, "sbId");
     emitClear(bar);
 }
 

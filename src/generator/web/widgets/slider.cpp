@@ -34,15 +34,21 @@ void emitButtonState(WidgetWriter& slider) {
 )");
 }
 
+ControlState stateOf(const WidgetWriter& slider) {
+    return {ControlState::Kind::Number, "currentVal_" + slider.number()};
+}
+
 /// The value is no number of the range until the first frame.
 void emitValue(WidgetWriter& slider) {
-    const Expression* value = findProperty(slider.widget(), {"மதிப்பு"});
+    const bool isBound = slider.edition().isBound(slider.widget());
+    const Expression* value = isBound ? nullptr : findProperty(slider.widget(), {"மதிப்பு"});
     slider.block(R"(
     $state;
     if (currentVal_$n == -99999.0f) currentVal_$n = $value;
 )",
                  {{"state", slider.state("float", "currentVal_" + slider.number(), "-99999.0f")},
                   {"value", value == nullptr ? "minVal" : numberValue(slider, value, 0.0F)}});
+    slider.edition().writeStateRead(slider, stateOf(slider));
 }
 
 /// The thumb follows the pointer while the button is down and the pointer near the track.
@@ -63,7 +69,7 @@ void emitDrag(WidgetWriter& slider) {
         }
     }
 )",
-                 {{"handler", changeHandler(slider)}});
+                 {{"handler", changeOf(slider, stateOf(slider))}});
 }
 
 void emitTrackAndThumb(WidgetWriter& slider) {

@@ -55,9 +55,11 @@ void emitSwitch(WidgetWriter& widget) {
 )",
                  {{"state", widget.state("bool", "isOn_" + widget.number(),
                                          truthValue(widget, findProperty(widget.widget(), {"ஆரம்ப_நிலை"})))}});
+    const ControlState state = {ControlState::Kind::Truth, "isOn_" + widget.number()};
+    widget.edition().writeStateRead(widget, state);
     if (!isDisabled(widget.widget())) {
         emitPressArea(widget, {"swX - 5", "swX + swW + 5", "swY - 5", "swY + swH + 5"}, widget.blocks([&] {
-            widget.block("isOn_$n = !isOn_$n;\n$handler\n", {{"handler", changeHandler(widget)}});
+            widget.block("isOn_$n = !isOn_$n;\n$handler\n", {{"handler", changeOf(widget, state)}});
         }));
     }
     emitTrack(widget);

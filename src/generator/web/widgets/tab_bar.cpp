@@ -9,6 +9,10 @@
 namespace pozhil {
 namespace {
 
+ControlState selectedTab() {
+    return {ControlState::Kind::Index, "curTabIdx"};
+}
+
 /// The tab that is selected before the first press, as a whole number of the emitted text.
 Filling initialIndex(WidgetWriter& bar) {
     const Expression* given = findProperty(bar.widget(), {"தத்தல்_தேர்வு"});
@@ -60,7 +64,7 @@ void emitPress(WidgetWriter& bar, std::size_t tabCount) {
     nvgFillColor(vg, nvgRGBA(255, 255, 255, 255));
     nvgFill(vg);
 )",
-              {{"count", std::to_string(tabCount)}, {"handler", barHandler(bar)}});
+              {{"count", std::to_string(tabCount)}, {"handler", changeOf(bar, selectedTab())}});
 }
 
 void emitTab(WidgetWriter& bar, const WidgetNode& tab, std::size_t index) {
@@ -83,6 +87,7 @@ void emitTab(WidgetWriter& bar, const WidgetNode& tab, std::size_t index) {
 void emitTabBar(WidgetWriter& bar) {
     const auto tabs = childrenOfKind(bar.widget(), language::widget::TAB_ITEM);
     emitBar(bar);
+    bar.edition().writeStateRead(bar, selectedTab());
     emitPress(bar, tabs.size());
     for (std::size_t i = 0; i < tabs.size(); ++i) {
         emitTab(bar, *tabs[i], i);

@@ -93,17 +93,19 @@ void emitPrefix(WidgetWriter& field) {
 
 /// The browser's field: made when it is first drawn, and placed over its box in each frame.
 void emitOverlay(WidgetWriter& field, const std::string& id) {
-    const Edition& edition = field.edition();
+    Edition& edition = field.edition();
+    const std::string name = field.nameFrom(edition.literal(id == NO_ID ? "text_" + field.number() : id));
     const bool hasManyLines = isTrue(findProperty(field.widget(), {"பலவரி"}));
     field.block(
         R"(
     pozhil_place_text_field($id, $hint, $manyLines, "$colour", tbX, tbY, tbW, tbH, prefixOffset, fSize);
-}
 )",
-        {{"id", field.nameFrom(edition.literal(id == NO_ID ? "text_" + field.number() : id))},
+        {{"id", field.isInEach() ? name + ".c_str()" : name},
          {"hint", edition.literal(textOf(findProperty(field.widget(), {"குறிப்பு"})))},
          {"manyLines", hasManyLines ? "true" : "false"},
          {"colour", cssColour(colourProperty(field.widget(), {"style_எழுத்து_நிறம்", "எழுத்து_நிறம்"}, "#333333"))}});
+    edition.writeField(field, name);
+    field.block("}\n");
 }
 
 /// உரைபெட்டி: a box with a field of the browser over it, of one line or several.

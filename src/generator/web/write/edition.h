@@ -39,6 +39,20 @@ struct Course {
     std::string end;      ///< float: where the window ends
 };
 
+/// What a control shows, as its block keeps it.
+struct ControlState {
+    enum class Kind {
+        Truth,  ///< a bool
+        Number, ///< a float
+        Index,  ///< an int: which item of a bar is selected
+        Choice, ///< an int: which of `items`, a std::vector<std::string>, is chosen; -1 for none
+        Group   ///< none: which of a group is selected is up to the program
+    };
+    Kind kind;
+    /// The name of its variable.
+    std::string variable;
+};
+
 /// The message bar (அறிவிப்பு_பட்டை) as the emitted program keeps it: expressions of C++.
 struct MessageBar {
     std::string isShown; ///< bool; the others count only while it is true
@@ -101,12 +115,25 @@ public:
     /// What decides whether \p widget is there; nothing for one that always is.
     virtual std::optional<Visibility> visibility(const WidgetNode& widget) = 0;
 
-    /// Lines by which the bool variable \p state of the emitted block becomes what the program says of the control, in
-    /// each frame; none if the program holds nothing of it.
-    virtual void writeTruthRead(WidgetWriter& control, const std::string& state) = 0;
+    /// Whether the program says what the control shows, and is told when the user changes it.
+    virtual bool isBound(const WidgetNode& control) = 0;
 
-    /// Lines by which the program learns that \p state has changed; none if it holds nothing of the control.
-    virtual void writeTruthChange(WidgetWriter& control, const std::string& state) = 0;
+    /// Lines by which \p state becomes what the program says of the control, in each frame; none if the program holds
+    /// nothing of it.
+    virtual void writeStateRead(WidgetWriter& control, const ControlState& state) = 0;
+
+    /// Lines by which the program learns that the user has changed the control, and which do what the source wants then.
+    virtual void writeChange(WidgetWriter& control, const ControlState& state) = 0;
+
+    /// Lines that add the choices of a list, which isn't written out as texts alone, to `items`.
+    virtual void writeChoices(WidgetWriter& dropdown, const Expression& choices) = 0;
+
+    /// Lines after a field of the browser has been put in its place, for what this edition makes of fields.
+    /// \param id what the field is called, a std::string or its letters
+    virtual void writeField(WidgetWriter& field, const Filling& id) = 0;
+
+    /// Lines at the head of a widget's block, by which it answers nothing while the program says so.
+    virtual void writeDisabling(WidgetWriter& widget) = 0;
 
     /// Lines by which the program knows the size of the window: the floats `winWidth` and `winHeight`.
     virtual void writeWindowSize(CodeWriter& out) = 0;

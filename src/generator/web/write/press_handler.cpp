@@ -14,23 +14,19 @@ bool isDrawnInPlace(const Expression* handler) {
 } // namespace
 
 Filling handlerCall(WidgetWriter& widget, const Expression* handler, HandlerSite site) {
-    return widget.blocks([&widget, handler, site] {
-        if (isDrawnInPlace(handler)) {
-            widget.slot(*asWidget(handler), "0.0f", "0.0f");
-        } else {
-            widget.edition().writeHandler(widget, *handler, site);
-        }
-    });
+    return widget.blocks([&widget, handler, site] { writeHandlerCall(widget, handler, site); });
 }
 
-Filling changeHandler(WidgetWriter& widget) {
-    const Expression* handler = findProperty(widget.widget(), {"மாறியதால்"});
-    return handler == nullptr ? Filling("") : handlerCall(widget, handler);
+void writeHandlerCall(WidgetWriter& widget, const Expression* handler, HandlerSite site) {
+    if (isDrawnInPlace(handler)) {
+        widget.slot(*asWidget(handler), "0.0f", "0.0f");
+    } else {
+        widget.edition().writeHandler(widget, *handler, site);
+    }
 }
 
-Filling barHandler(WidgetWriter& widget) {
-    const Expression* handler = findProperty(widget.widget(), {"அழுத்தினால்"});
-    return handler == nullptr ? Filling("") : handlerCall(widget, handler, HandlerSite::Bar);
+Filling changeOf(WidgetWriter& control, const ControlState& state) {
+    return control.blocks([&control, state] { control.edition().writeChange(control, state); });
 }
 
 bool isDisabled(const WidgetNode& widget) {

@@ -13,11 +13,11 @@ struct WidgetNode;
 /// is drawn in place for that frame.
 Filling handlerCall(WidgetWriter& widget, const Expression* handler, HandlerSite site = HandlerSite::Control);
 
-/// What a change of a control does: மாறியதால்.
-Filling changeHandler(WidgetWriter& widget);
+/// The same where the text ends.
+void writeHandlerCall(WidgetWriter& widget, const Expression* handler, HandlerSite site);
 
-/// What a press on an item of a bar does: அழுத்தினால்.
-Filling barHandler(WidgetWriter& widget);
+/// What a change of a control by the user does; for a hole alone in its line.
+Filling changeOf(WidgetWriter& control, const ControlState& state);
 
 /// Whether the widget is shown but answers nothing.
 bool isDisabled(const WidgetNode& widget);
