@@ -258,3 +258,64 @@ webTest('bars hold the number of their item, and do what their items do', bars, 
     assert.equal((await page.text('ஒன்று')).size, 15);
     await page.text('கீழே: 0');
 });
+
+const disabled = second(column(
+    button('மாற்று', '() => பூட்டு = இல்லை பூட்டு'),
+    'பொத்தான்(உரை: "சேமி", பொ_பாணி(அகலம்: 200, உயரம்: 40), முடக்கு: பூட்டு, அழுத்தினால்: () => எண் = எண் கூட்டு 1)',
+    'தேர்வுபெட்டி(மதிப்பு: ஒப்புதல், முடக்கு: பூட்டு)',
+    'மாற்றி(மதிப்பு: ஒப்புதல், முடக்கு: பூட்டு)',
+    'அளவி(மதிப்பு: அளவு_எண், முடக்கு: பூட்டு)',
+    'பெட்டி(அகலம்: 200, உயரம்: 40, பெட்டிபின்னணி: "#00FF00", முடக்கு: பூட்டு, அழுத்தினால்: () => எண் = எண் கூட்டு 10)(உரை("பெட்டி"))',
+    'உரைபொத்தான்(உரை: "இணைப்பு", முடக்கு: பூட்டு, அழுத்தினால்: () => எண் = எண் கூட்டு 100)',
+    'வட்டத்தேர்வு(உரை: "காலை", மதிப்பு: வேளை, முடக்கு: பூட்டு)',
+    'உரை(எண் இணை " " இணை ஒப்புதல் இணை " " இணை அளவு_எண் இணை " " இணை வேளை)',
+    'கீழ்வரி(பட்டியல்: ["மதுரை"], முடக்கு: பூட்டு)'), `
+        பூட்டு = மெய்
+        எண் = 0
+        ஒப்புதல் = பொய்
+        அளவு_எண் = 0
+        வேளை = "-"`);
+
+// 40, 40, 24, 28, 28, 40, 40 and 30 high, 10 between them
+const DISABLED = [[100, 70], [12, 112], [20, 148], [150, 186], [100, 230], [8, 280], [10, 320]];
+
+webTest('what is disabled is pale and answers no press, until it is enabled again', disabled, TALL, async page => {
+    const now = async () => (await drawn(page)).find(text => text.endsWith(' -') || text.endsWith(' காலை'));
+    const pressAll = async () => {
+        for (const place of DISABLED) {
+            await page.click(...place);
+        }
+    };
+    await page.leave();
+    const pale = await page.pixels([[20, 80], [20, 240]]);
+    await pressAll();
+    assert.equal(await page.cursor(), 'default');
+    assert.equal(await now(), '0 பொய் 0 -');
+    await pressFrom(page, 'தேர்ந்தெடு...');
+    assert.ok(!(await drawn(page)).includes('மதுரை'));
+
+    await pressFrom(page, 'மாற்று');
+    await page.leave();
+    const strong = await page.pixels([[20, 80], [20, 240]]);
+    assert.deepEqual(strong, [BLUE, [0, 255, 0]]);
+    // Half of it is the page behind.
+    pale.forEach((colour, place) => colour.forEach((part, index) => {
+        const half = (strong[place][index] + 245) / 2;
+        assert.ok(Math.abs(part - half) <= 40 && part !== strong[place][index], `${pale} ${strong}`);
+    }));
+    await pressAll();
+    // The box to tick and the switch hold the same.
+    assert.equal(await now(), '111 பொய் 75 காலை');
+});
+
+webTest('readers are told what is disabled, and can press none of it', disabled, TALL, async page => {
+    await page.frames(10);
+    const told = () => page.page.evaluate(() => [...document.querySelectorAll('.pozhil-widget')].map(element => [
+        element.getAttribute('role'), element.getAttribute('aria-disabled') === 'true', element.hasAttribute('tabindex')]));
+    assert.deepEqual(await told(), [['button', false, true], ['button', true, false], ['checkbox', true, false],
+                                    ['switch', true, false], ['slider', true, false], ['button', true, false],
+                                    ['button', true, false], ['radio', true, false], ['button', true, false]]);
+    await pressFrom(page, 'மாற்று');
+    await page.frames(10);
+    assert.ok((await told()).every(([, isDisabled, isReached]) => !isDisabled && isReached), JSON.stringify(await told()));
+});
