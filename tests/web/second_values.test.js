@@ -319,3 +319,27 @@ webTest('readers are told what is disabled, and can press none of it', disabled,
     await page.frames(10);
     assert.ok((await told()).every(([, isDisabled, isReached]) => !isDisabled && isReached), JSON.stringify(await told()));
 });
+
+const elements = second(column(
+    `ஒவ்வொன்றும்(பட்டியல்: பணிகள், உருப்படி: பணி)(
+        தேர்வுபெட்டி(மதிப்பு: பணிகள்[இடம்]["முடிந்தது"]),
+        உரைபெட்டி(மதிப்பு: பணிகள்[இடம்]["பெயர்"], மாறியதால்: (புதியது) => கடைசி = பணி["பெயர்"] இணை " → " இணை புதியது)
+    )`,
+    'உரை(பணிகள்[0]["முடிந்தது"] இணை " " இணை பணிகள்[1]["முடிந்தது"])',
+    'உரை(கடைசி)'), `
+        பணிகள் = [{"பெயர்": "எழுது", "முடிந்தது": பொய்}, {"பெயர்": "படி", "முடிந்தது": மெய்}]
+        கடைசி = "-"`);
+
+webTest('controls of the elements of a list change their elements', elements, TALL, async page => {
+    await page.text('பொய் மெய்');
+    await page.click(12, 12);
+    await page.text('மெய் மெய்');
+    await page.click(12, 12 + 24 + 10 + 60 + 10);
+    await page.text('மெய் பொய்');
+    const typed = () => page.page.evaluate(() => [...document.querySelectorAll('.pozhil-input')].map(({ value }) => value));
+    assert.deepEqual(await typed(), ['எழுது', 'படி']);
+    await page.page.locator('.pozhil-input').nth(1).fill('பாடு');
+    await page.frames(3);
+    await page.text('படி → பாடு');
+    assert.deepEqual(await typed(), ['எழுது', 'பாடு']);
+});

@@ -28,7 +28,6 @@ public:
     explicit UnreadProperties(const Resolution& resolution) : resolution_(resolution) {}
 
     void tell(const WidgetNode& widget) {
-        const resolved::Place place = resolution_.placeOf(&widget);
         for (const auto& [name, value] : widget.properties) {
             if (isUnread(widget, name)) {
                 resolution_.model.faults.add(fault::UNREAD_PROPERTY, resolution_.placeOf(&name, &widget, name),

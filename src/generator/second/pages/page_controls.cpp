@@ -125,11 +125,23 @@ void PageEdition::writeChange(WidgetWriter& control, const ControlState& state) 
             control.block("$variable = $state;\n",
                           {{"variable", tables_.names.of(*variable)}, {"state", state.variable}});
         }
-        writeChangeHandler(control, CHANGED, news);
+        writeUnboundChange(control, state, news);
     }
     if (state.kind == Kind::Index) {
         writeBarPress(control, state.variable);
     }
+}
+
+/// A slider changes as long as it is held, in each frame, but not all frames bring something new.
+void PageEdition::writeUnboundChange(WidgetWriter& control, const ControlState& state, const std::string& news) {
+    if (state.kind != Kind::Number || findProperty(control.widget(), {CHANGED}) == nullptr) {
+        writeChangeHandler(control, CHANGED, news);
+        return;
+    }
+    control.block("$told;\nif (told_$n != $state) {\n    told_$n = $state;\n    $work\n}\n",
+                  {{"told", control.state("float", "told_" + control.number(), "-99999.0f")},
+                   {"state", state.variable},
+                   {"work", control.blocks([&] { writeChangeHandler(control, CHANGED, news); })}});
 }
 
 void PageEdition::writeChangeHandler(WidgetWriter& control, const char* property, const std::string& news) {

@@ -93,6 +93,7 @@ private:
     std::string heldValue(const pozhil::Expression& place);
     /// What the user has made of a control, as a Value; empty if that can't be told.
     std::string newsOf(const WidgetNode& control, const ControlState& state);
+    void writeUnboundChange(WidgetWriter& control, const ControlState& state, const std::string& news);
     void writeChangeHandler(WidgetWriter& control, const char* property, const std::string& news);
     void writeBarPress(WidgetWriter& bar, const std::string& index);
     void writePress(WidgetWriter& bar, const WidgetNode& pressed);

@@ -100,7 +100,7 @@ void emitOverlay(WidgetWriter& field, const std::string& id) {
         R"(
     pozhil_place_text_field($id, $hint, $manyLines, "$colour", tbX, tbY, tbW, tbH, prefixOffset, fSize);
 )",
-        {{"id", field.isInEach() ? name + ".c_str()" : name},
+        {{"id", name},
          {"hint", edition.literal(textOf(findProperty(field.widget(), {"குறிப்பு"})))},
          {"manyLines", hasManyLines ? "true" : "false"},
          {"colour", cssColour(colourProperty(field.widget(), {"style_எழுத்து_நிறம்", "எழுத்து_நிறம்"}, "#333333"))}});
