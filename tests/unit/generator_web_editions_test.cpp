@@ -3,6 +3,7 @@
 
 #include "generator/web/page/runtime_text.h"
 #include "generator/web/page/web_emitter.h"
+#include "generator/web/write/press_handler.h"
 #include "generator/web/write/widget_writer.h"
 #include "language/widgets.h"
 #include "support/generating.h"
@@ -14,6 +15,7 @@
 
 using namespace pozhil;
 using namespace pozhil::test;
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -59,12 +61,22 @@ public:
         const Expression* shown = findProperty(widget, {"காட்சி_பெயர்"});
         return shown == nullptr ? std::nullopt : std::optional(Visibility{"name", "VISIBLE(" + nameOf(shown) + ")"});
     }
-    void writeTruthRead(WidgetWriter&, const std::string& state) override {
-        out_.block("READ($state);\n", {{"state", state}});
+    bool isBound(const WidgetNode&) override { return false; }
+    void writeStateRead(WidgetWriter&, const ControlState& state) override {
+        out_.block("READ($state);\n", {{"state", state.variable}});
     }
-    void writeTruthChange(WidgetWriter&, const std::string& state) override {
-        out_.block("CHANGE($state);\n", {{"state", state}});
+    void writeChange(WidgetWriter& control, const ControlState& state) override {
+        out_.block("CHANGE($state);\n", {{"state", state.variable}});
+        const bool isBar = state.kind == ControlState::Kind::Index;
+        if (const Expression* handler = findProperty(control.widget(), {isBar ? "அழுத்தினால்" : "மாறியதால்"})) {
+            writeHandlerCall(control, handler, isBar ? HandlerSite::Bar : HandlerSite::Control);
+        }
     }
+    void writeChoices(WidgetWriter&, const Expression& choices) override {
+        out_.block("CHOICES($name);\n", {{"name", nameOf(&choices)}});
+    }
+    void writeField(WidgetWriter&, const Filling& id) override { out_.block("FIELD($id);\n", {{"id", id}}); }
+    void writeDisabling(WidgetWriter&) override { out_.block("DISABLING;\n"); }
     void writeWindowSize(CodeWriter& out) override { out.block("WINDOW_SIZE;\n"); }
     void writeOpenAlerts(CodeWriter& out) override { out.block("OPEN_ALERTS;\n"); }
     void writeDrawing(CodeWriter& out) override { out.block("DRAWING;\n"); }
@@ -236,6 +248,33 @@ TEST(Checkbox, TellsTheEditionOfItsState) {
     EXPECT_THAT(page, HasSubstr("checked_2 = !checked_2;\n"));
     EXPECT_THAT(page, HasSubstr("CHANGE(checked_2);\n"));
     EXPECT_THAT(page, HasSubstr("READ(checked_2);\n"));
+}
+
+TEST(Controls, TellTheEditionOfTheirState) {
+    using namespace language::widget;
+    EXPECT_THAT(pageOf(widgetOf(SWITCH)), AllOf(HasSubstr("READ(isOn_2);\n"), HasSubstr("CHANGE(isOn_2);\n")));
+    EXPECT_THAT(pageOf(widgetOf(SLIDER)), AllOf(HasSubstr("READ(currentVal_2);"), HasSubstr("CHANGE(currentVal_2);")));
+    EXPECT_THAT(pageOf(widgetOf(TAB_BAR)), AllOf(HasSubstr("READ(curTabIdx);"), HasSubstr("CHANGE(curTabIdx);")));
+    EXPECT_THAT(pageOf(widgetOf(DROPDOWN)),
+                AllOf(HasSubstr("READ(selectedIndex_2);"), HasSubstr("CHANGE(selectedIndex_2);")));
+    EXPECT_THAT(pageOf(widgetOf(BOTTOM_NAVIGATION)),
+                AllOf(HasSubstr("READ(currentIndex);"), HasSubstr("CHANGE(clickedIdx);")));
+    EXPECT_THAT(pageWith(RADIO, "குழு_மதிப்பு"), HasSubstr("CHANGE();"));
+}
+
+TEST(Controls, LeaveChoicesThatAreNoTextsToTheEdition) {
+    EXPECT_THAT(pageWith(language::widget::DROPDOWN, "பட்டியல்"), HasSubstr("CHOICES(அ);\n"));
+}
+
+TEST(Controls, TellTheEditionOfTheirFields) {
+    using namespace language::widget;
+    EXPECT_THAT(pageOf(widgetOf(TEXT_FIELD)), HasSubstr("FIELD(\"text_2\");\n"));
+    EXPECT_THAT(pageOf(widgetOf(SEARCH_BAR)), HasSubstr("FIELD(sbId);\n"));
+    EXPECT_THAT(pageOf(widgetOf(PASSWORD_FIELD)), HasSubstr("FIELD(inputId);\n"));
+}
+
+TEST(Disabling, StandsAtTheHeadOfEachBlock) {
+    EXPECT_THAT(pageOf(widgetOf(language::widget::BUTTON)), HasSubstr("// பொத்தான்\n        DISABLING;\n"));
 }
 
 TEST(Visibility, IsAConditionAroundTheWidget) {

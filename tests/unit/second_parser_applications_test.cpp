@@ -178,14 +178,17 @@ TEST(Handlers, AreValuesOrStatements) {
     EXPECT_EQ(
         widget(
             "பொத்தான்(அழுத்தினால்(\n        எனில் அ:\n            f()\n        இல்லை:\n            g()\n    ), உரை: \"அ\")"),
-        "(Widget பொத்தான் (\"உரை\" (String \"அ\")) (Event (If அ (Block (Expression (Call f))) "
-        "(Block (Expression (Call g))))))");
+        "(Widget பொத்தான் (\"அழுத்தினால்\" (Function () (Block (If அ (Block (Expression (Call f))) "
+        "(Block (Expression (Call g))))))) (\"உரை\" (String \"அ\")))");
     EXPECT_EQ(widget("பொத்தான்(அழுத்தினால்(அ = 1\n ஆ = 2))"),
-              "(Widget பொத்தான் (Event (Expression (Assign அ = (Number 1))) (Expression (Assign ஆ = (Number 2)))))");
+              "(Widget பொத்தான் (\"அழுத்தினால்\" (Function () (Block (Expression (Assign அ = (Number 1))) "
+              "(Expression (Assign ஆ = (Number 2)))))))");
     EXPECT_EQ(widget("பொத்தான்(அழுத்தினால்(எனில் அ: f()\n இல்லை: g()))"),
-              "(Widget பொத்தான் (Event (If அ (Block (Expression (Call f))) (Block (Expression (Call g))))))");
+              "(Widget பொத்தான் (\"அழுத்தினால்\" (Function () (Block (If அ (Block (Expression (Call f))) "
+              "(Block (Expression (Call g))))))))");
     EXPECT_EQ(widget("பொத்தான்(அழுத்தினால்(எனில் அ:\n   f()\n g()))"),
-              "(Widget பொத்தான் (Event (If அ (Block (Expression (Call f))) null) (Expression (Call g))))");
+              "(Widget பொத்தான் (\"அழுத்தினால்\" (Function () (Block (If அ (Block (Expression (Call f))) null) "
+              "(Expression (Call g))))))");
     EXPECT_EQ(widget("மாற்றி(மாறியதால்(அ = 1; f()))"),
               "(Widget மாற்றி (\"மாறியதால்\" (Function () (Block (Expression (Assign அ = (Number 1))) "
               "(Expression (Call f))))))");

@@ -1,8 +1,7 @@
 // Controls of the second edition and the variables that they are bound to: either changes with the other.
 
-import { application, assert, webTest } from './harness/index.js';
-
-const second = (body, logic) => 'ஃ பொழில் 2\n' + application(body, { logic });
+import { second } from './harness/editions.js';
+import { assert, webTest } from './harness/index.js';
 
 /// A column, 10 pixels between its children.
 const column = (...children) => `        நெடுவரிசை(இடைவெளி: 10)(\n            ${children.join(',\n            ')}\n        )`;
@@ -118,7 +117,7 @@ const fields = second(column(
     'உரைபெட்டி(மதிப்பு: பெயர், குறிப்பு: "பெயர்", மாறியதால்: (புதியது) => சொல்("பெயர்", புதியது), உள்ளிட்டால்: () => சேர்()',
     'உரைபெட்டி(அடையாளம்: "அஞ்சல்", வகை: "மின்னஞ்சல்", குறிப்பு: "அஞ்சல்", உள்ளிட்டால்: (எழுதியது) => சொல்("உள்ளீடு", எழுதியது))',
     'உரைபெட்டி(மதிப்பு: கருத்து, குறிப்பு: "கருத்து", பலவரி: மெய், வகை: "எண்", மாறியதால்: (புதியது) => கருத்து = பெரியஎ(புதியது))',
-    'கடவுமறை(மதிப்பு: கடவு, குறிப்பு: "கடவு")',
+    'கிடைவரிசை(கடவுமறை(மதிப்பு: கடவு, குறிப்பு: "கடவு", அகலம்: 200, உயரம்: 40), உரை("கடவு அருகே"))',
     'தேடல்_பட்டை(மதிப்பு: தேடல், குறிப்பு: "தேடு")',
     'உரைபெட்டி(மதிப்பு: எண்_உரை, வகை: "தொலைபேசி", குறிப்பு: "எண்", முடக்கு: நீளம்(பெயர்) சமம் 0)',
     'உரை(பெயர் இணை "|" இணை கருத்து இணை "|" இணை கடவு இணை "|" இணை தேடல் இணை "|" இணை எண்_உரை)',
@@ -195,6 +194,8 @@ webTest('fields have the keyboards of their kinds, and hide what is secret', fie
         const { type, inputMode } = document.querySelector(selector);
         return [type, inputMode];
     }), [NAME, MAIL, NOTE, SECRET, SEARCH, PHONE_NUMBER]);
+    // In a row the next one stands beside a field that hides its text.
+    assert.equal((await page.text('கடவு அருகே')).x, 200);
     assert.deepEqual(kinds, [['text', ''], ['email', 'email'], ['textarea', 'decimal'], ['password', ''], ['text', ''],
                              ['tel', 'tel']]);
 });
@@ -266,7 +267,10 @@ const disabled = second(column(
     'மாற்றி(மதிப்பு: ஒப்புதல், முடக்கு: பூட்டு)',
     'அளவி(மதிப்பு: அளவு_எண், முடக்கு: பூட்டு)',
     'பெட்டி(அகலம்: 200, உயரம்: 40, பெட்டிபின்னணி: "#00FF00", முடக்கு: பூட்டு, அழுத்தினால்: () => எண் = எண் கூட்டு 10)(உரை("பெட்டி"))',
-    'உரைபொத்தான்(உரை: "இணைப்பு", முடக்கு: பூட்டு, அழுத்தினால்: () => எண் = எண் கூட்டு 100)',
+    `உரைபொத்தான்(உரை: "இணைப்பு", முடக்கு: பூட்டு, அழுத்தினால்(
+        எண் = எண் கூட்டு 90
+        எண் = எண் கூட்டு 10
+    ))`,
     'வட்டத்தேர்வு(உரை: "காலை", மதிப்பு: வேளை, முடக்கு: பூட்டு)',
     'உரை(எண் இணை " " இணை ஒப்புதல் இணை " " இணை அளவு_எண் இணை " " இணை வேளை)',
     'கீழ்வரி(பட்டியல்: ["மதுரை"], முடக்கு: பூட்டு)'), `

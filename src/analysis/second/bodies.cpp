@@ -66,8 +66,6 @@ void resolveFunction(Model& model, Scope& scope) {
         scope.function->body = bodyOfValue(resolution, scope.value);
     } else if (scope.assigned != nullptr) {
         scope.function->body = bodyOfAssignment(resolution, scope.assigned);
-    } else if (scope.statements != nullptr) {
-        scope.function->body = resolveStatements(resolution, *scope.statements);
     } else if (scope.body != nullptr) {
         scope.function->body = resolveBlock(resolution, scope.body);
     }

@@ -220,9 +220,6 @@ void Collector::collectBody(Scope& scope) {
     Scope* const before = std::exchange(scope_, &scope);
     collect(scope.body);
     collect(scope.value);
-    if (scope.statements != nullptr) {
-        collect(*scope.statements);
-    }
     scope_ = before;
 }
 
@@ -390,13 +387,6 @@ void Collector::mentionPlace(const Expression* place) {
         mentionPlace(operation->left.get());
         mentionPlace(operation->right.get());
     }
-}
-
-void Collector::onHandler(const WidgetNode& widget) {
-    Scope& scope = openScope(&widget.eventStatements, "வினை", model_.locations.of(file_, &widget));
-    scope.statements = &widget.eventStatements;
-    scope.isLambda = true;
-    collectBody(scope);
 }
 
 void Collector::onStateName(const StringLiteral& name) {

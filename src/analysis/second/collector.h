@@ -75,7 +75,6 @@ private:
     void enterEach(const EachNode& each) override;
     void leaveEach(const EachNode& each) override;
     void onBinding(const std::string& property, const Expression& place, bool isOptional) override;
-    void onHandler(const WidgetNode& widget) override;
     void tellDatabase(const void* node);
     void collectLogic(const BlockStatement* logic);
 

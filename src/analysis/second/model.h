@@ -53,8 +53,6 @@ struct Scope {
     /// What is carried out: a block, or for a short lambda the value that it gives.
     const BlockStatement* body = nullptr;
     const Expression* value = nullptr;
-    /// The same as body, of what isn't written as a function.
-    const StatementList* statements = nullptr;
     /// The place that a call puts its only argument into, which no function of the text does.
     const Expression* assigned = nullptr;
     /// It has no name, so it is always used as a value.

@@ -44,11 +44,6 @@ protected:
         add(&property, functionValue(now(), function, now().placeOf(&place)));
     }
 
-    void onHandler(const WidgetNode& widget) override {
-        const resolved::Function* const function = now().model.scopeOf.at(&widget.eventStatements)->function;
-        add(&widget.eventStatements, functionValue(now(), function, now().placeOf(&widget)));
-    }
-
     void onVariableName(const StringLiteral& name) override {
         const resolved::Place place = now().placeOf(&name);
         const Meaning meaning = now().meaningOf(name.value, Use::Read);

@@ -70,9 +70,6 @@ void PageWalk::walk(const WidgetNode& widget) {
     for (const auto& [name, value] : widget.properties) {
         walkProperty(widget, name, value.get());
     }
-    if (!widget.eventStatements.empty()) {
-        onHandler(widget);
-    }
     walkChildren(widget);
 }
 

@@ -26,8 +26,6 @@ protected:
     /// \param property the name of the property that says so, as the widget keeps it
     /// \param isOptional whether what can't be assigned is shown all the same
     virtual void onBinding(const std::string& property, const Expression& place, bool isOptional) = 0;
-    /// Statements that a press carries out, as a function would.
-    virtual void onHandler(const WidgetNode& widget) = 0;
     /// The name of a variable, as a text, that the widget shows or changes.
     virtual void onVariableName(const StringLiteral& name) = 0;
     /// The name of a variable that holds whether a control is on, as a text. The control may be the first to give it a value.

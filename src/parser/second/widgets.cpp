@@ -232,14 +232,10 @@ void WidgetGrammar::parseHandler(Draft& draft) {
     tokens_.advance();
     StatementList statements = parse_.blocks.parseBracketedOrValue(TokenType::RPAREN, property.value);
     consumeClosing(TokenType::RPAREN, opening);
-    if (property.value != nullptr) {
-        keepProperty(draft, std::move(property));
-    } else if (property.row->name == property::ON_PRESS) {
-        draft.node.eventStatements = std::move(statements);
-    } else {
+    if (property.value == nullptr) {
         property.value = asFunction(opening, std::move(statements));
-        keepProperty(draft, std::move(property));
     }
+    keepProperty(draft, std::move(property));
 }
 
 /// Statements in brackets as a function.

@@ -161,7 +161,7 @@ void PageEdition::writeBarPress(WidgetWriter& bar, const std::string& index) {
     std::size_t item = 0;
     for (const WidgetNode* child : childWidgets(bar.widget())) {
         const std::string number = std::to_string(item++);
-        if (findProperty(*child, {PRESSED}) != nullptr || !child->eventStatements.empty()) {
+        if (findProperty(*child, {PRESSED}) != nullptr) {
             bar.block("if ($index == $item) {\n    $press\n}\n",
                       {{"index", index}, {"item", number}, {"press", bar.blocks([&] { writePress(bar, *child); })}});
         }
@@ -171,8 +171,6 @@ void PageEdition::writeBarPress(WidgetWriter& bar, const std::string& index) {
 void PageEdition::writePress(WidgetWriter& bar, const WidgetNode& pressed) {
     if (const pozhil::Expression* handler = findProperty(pressed, {PRESSED})) {
         writeHandlerCall(bar, handler, HandlerSite::Bar);
-    } else if (!pressed.eventStatements.empty()) {
-        writeHandlerStatements(bar, pressed.eventStatements);
     }
 }
 

@@ -47,7 +47,6 @@ protected:
     void onStateName(const StringLiteral&) override {}
     void onWidgetName(const std::string&) override {}
     void onBinding(const std::string&, const pozhil::Expression&, bool) override {}
-    void onHandler(const WidgetNode&) override {}
 };
 
 /// What does its work by being evaluated.
@@ -277,8 +276,8 @@ void PageEdition::writeHandler(WidgetWriter& widget, const pozhil::Expression& h
     writeCall(widget, &handler);
 }
 
-void PageEdition::writeHandlerStatements(WidgetWriter& widget, const pozhil::StatementList& statements) {
-    writeCall(widget, &statements);
+void PageEdition::writeHandlerStatements(WidgetWriter&, const pozhil::StatementList&) {
+    throw std::logic_error("a page holds no statements");
 }
 
 std::string PageEdition::placeOf(const void* node) const {

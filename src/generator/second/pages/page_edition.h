@@ -37,6 +37,7 @@ public:
     /// By the variable that காட்சி_பெயர் names. A dialog waits until it says so; anything else is there until it says no.
     std::optional<Visibility> visibility(const WidgetNode& widget) override;
     std::string shownWhile(const WidgetNode& widget) override;
+    bool countsHiddenFields() const override { return true; }
 
     Extent sumOverElements(const EachNode& each, const Extent& ofOne) override;
     Extent largestOfElements(const EachNode& each, const Extent& ofOne) override;

@@ -32,6 +32,8 @@ public:
 
     Room roomOf(const std::vector<const WidgetNode*>& children, const MetricAxis& axis);
 
+    const Presence& presence() const { return presence_; }
+
 private:
     void addElements(Room& room, const EachNode& each, const MetricAxis& axis);
     Extent measureOnce(const Statement* statement, const MetricAxis& axis, MetricRule WidgetKind::*rule,

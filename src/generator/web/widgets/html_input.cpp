@@ -7,9 +7,10 @@
 namespace pozhil {
 namespace {
 
+constexpr float WIDTH = 320.0F;
+
 /// கடவுமறை: a field that looks like one of the browser's own.
 void emitHtmlInput(WidgetWriter& input) {
-    constexpr float WIDTH = 320.0F;
     constexpr float HEIGHT = 60.0F;
     const WidgetNode& widget = input.widget();
     // நிறம் is the background, unless there is a பின்னணி: then it is the text's colour.
@@ -41,8 +42,13 @@ void emitHtmlInput(WidgetWriter& input) {
     input.block(input.isAtTop() ? "}\n" : "    $y += th;\n}\n");
 }
 
+/// Its block moves on by its height itself.
+Extent hiddenFieldWidth(const Measure& measure) {
+    return measure.metrics.presence().countsHiddenFields() ? numberProperty(measure.widget, "அகலம்", WIDTH) : 0.0F;
+}
+
 } // namespace
 
-extern const WidgetKind HTML_INPUT = {language::widget::PASSWORD_FIELD, emitHtmlInput};
+extern const WidgetKind HTML_INPUT = {language::widget::PASSWORD_FIELD, emitHtmlInput, hiddenFieldWidth, nullptr};
 
 } // namespace pozhil

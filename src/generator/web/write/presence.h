@@ -18,6 +18,9 @@ public:
     /// A bool of the emitted text, asked anew in each frame; empty for a widget that always takes its room.
     virtual std::string shownWhile(const WidgetNode&) { return {}; }
 
+    /// Whether a field that hides what is typed takes room in a row. Where it doesn't, what comes next lies on it.
+    virtual bool countsHiddenFields() const { return false; }
+
     /// What all elements take together, and the most that one takes.
     /// \param ofOne what one takes; it may name the element
     virtual Extent sumOverElements(const EachNode& each, const Extent& ofOne);
