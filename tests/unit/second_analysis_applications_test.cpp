@@ -123,7 +123,7 @@ TEST(SecondApplicationFaults, FunctionsOfPagesArePartOfApplicationsOnly) {
 }
 
 TEST(SecondApplicationFaults, PropertiesThatNothingReads) {
-    EXPECT_THAT(meaningFaults(application("உரை(\"அ\", மடி: மெய்)", "    விடு\n")), ElementsAre("596 3 'மடி: மெய்'"));
+    EXPECT_THAT(meaningFaults(application("உரை(\"அ\", மடி: மெய்)", "    விடு\n")), ElementsAre("596 3 'மடி'"));
 }
 
 TEST(SecondApplicationFaults, ARadioInNoGroupChangesNothing) {
@@ -151,7 +151,7 @@ TEST(SecondApplications, ABoundVariableMayHoldAnything) {
 TEST(SecondApplications, ElementsAndMembersAreBoundToo) {
     const std::string text =
         resolvedText(application("உரைபெட்டி(மதிப்பு: படிவம்[\"பெயர்\"])", "    படிவம் = {\"பெயர்\": \"\"}\n"));
-    EXPECT_THAT(text, HasSubstr("(set (element ::படிவம் \"பெயர்\") புதிய மதிப்பு)"));
+    EXPECT_THAT(text, HasSubstr("(set ::படிவம்[\"பெயர்\"] புதிய மதிப்பு)"));
 }
 
 TEST(SecondApplications, ARadioAssignsItsGroup) {
@@ -167,6 +167,13 @@ TEST(SecondApplications, AFirstValueOfASliderIsNoPlaceToAssign) {
         EXPECT_THAT(text, Not(HasSubstr("(set ::அ புதிய"))) << value;
     }
     EXPECT_THAT(resolvedText(application("அளவி(மதிப்பு: அ)", "    அ = 40\n")), HasSubstr("(set ::அ புதிய மதிப்பு)"));
+}
+
+TEST(SecondApplications, ElementsOfAListAreBoundByTheirIndex) {
+    const std::string each = "நெடுவரிசை(ஒவ்வொன்றும்(பட்டியல்: ப, உருப்படி: எ)(மாற்றி(மதிப்பு: ";
+    EXPECT_THAT(resolvedText(application(each + "ப[இடம்])))", "    ப = [மெய்]\n")),
+                HasSubstr("மதிப்பு[இடம்](புதிய மதிப்பு): {(set ::ப[^இடம்] புதிய மதிப்பு)}"));
+    EXPECT_THAT(meaningFaults(application(each + "எ)))", "    ப = [மெய்]\n")), ElementsAre("573 3 'எ'"));
 }
 
 TEST(SecondApplicationFaults, ControlsThatAreBoundToNoVariable) {
