@@ -31,7 +31,7 @@ std::string nameOf(const Expression* value) {
 }
 
 /// An edition whose values are marks.
-class MarkEdition : public Edition {
+class MarkEdition : public EditionWriter {
 public:
     explicit MarkEdition(CodeWriter& out) : out_(out) {}
 

@@ -20,7 +20,7 @@ public:
           parser_(Lexer(source_, PATH).tokenize(), source_, PATH), program_(parser_.parse()),
           edition_(program_, parser_.functions(), parser_.structs(), parser_.abstractStructs(), PATH, source_) {}
 
-    Edition& edition() { return edition_; }
+    EditionWriter& edition() { return edition_; }
 
     const WidgetNode* root() const {
         const auto* app = dynamic_cast<const WebAppNode*>(program_.statements.at(0).get());

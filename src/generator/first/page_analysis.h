@@ -27,7 +27,8 @@ public:
 private:
     /// A text that nobody reads, and what writes it.
     struct Scratch {
-        explicit Scratch(Edition& edition, const Program& program) : web(out, edition, readApplication(program)) {}
+        explicit Scratch(EditionWriter& edition, const Program& program)
+            : web(out, edition, readApplication(program)) {}
 
         CodeWriter out;
         WebEmitter web;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "generator/web/write/edition.h"
+#include "generator/web/write/edition_writer.h"
 
 #include <string>
 
@@ -8,7 +8,7 @@ namespace pozhil {
 
 /// How pages reach the values of the first edition, which are all std::any, and its variables, which stand in
 /// global_vars by their names.
-class WebEdition : public Edition {
+class WebEdition : public EditionWriter {
 public:
     Filling text(const Expression* value, const std::string& otherwise) override;
     /// A variable is read by its name alone, whether the program has it or not; so is what stands after காட்சி_நிலை.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "generator/second/program_tables.h"
-#include "generator/web/write/edition.h"
+#include "generator/web/write/edition_writer.h"
 
 #include <string>
 
@@ -13,7 +13,7 @@ namespace pozhil::resolved::writer {
 
 /// How pages reach the values of the second edition, which the analysis has resolved: by their nodes in the tree. A fault in
 /// one of them is told, and the page goes on without what it belongs to.
-class PageEdition final : public Edition {
+class PageEdition final : public EditionWriter {
 public:
     /// \param program, tables, out outlive the edition; what widgets write goes to \p out
     PageEdition(const Program& program, ProgramTables& tables, CodeWriter& out)

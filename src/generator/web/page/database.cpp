@@ -18,7 +18,7 @@ std::string configured(const FirebaseConfigNode& config, const char* key) {
 
 /// An operation as an expression without a value: \p script stands after the path and the data, if there are any.
 template <class WriteData>
-void emitOperation(CodeWriter& out, Edition& edition, const Expression* path, WriteData writeData,
+void emitOperation(CodeWriter& out, EditionWriter& edition, const Expression* path, WriteData writeData,
                    const Block& script) {
     out << "[&]() -> " << edition.valueType()
         << " {\n#ifdef __EMSCRIPTEN__\n    std::string path_str = " << edition.text(path, "") << ";\n";
@@ -28,7 +28,7 @@ void emitOperation(CodeWriter& out, Edition& edition, const Expression* path, Wr
 }
 
 /// The data as JSON. A number that is changed stays one, while new values are all sent as texts.
-void emitEntries(CodeWriter& out, Edition& edition, const MapLiteral& data, bool keepsNumbers) {
+void emitEntries(CodeWriter& out, EditionWriter& edition, const MapLiteral& data, bool keepsNumbers) {
     out << "    std::string json_data = \"{\";\n";
     bool isFirst = true;
     for (const auto& [key, value] : data.entries) {
@@ -62,24 +62,24 @@ void emitDatabaseSetup(CodeWriter& out, const WebAppNode& app) {
     out.blockAtMargin(page_text::database_setup, {{"script", script}});
 }
 
-void emitInsert(CodeWriter& out, Edition& edition, const RTDBInsertExpression& insert) {
+void emitInsert(CodeWriter& out, EditionWriter& edition, const RTDBInsertExpression& insert) {
     static const MapLiteral NO_ENTRIES({});
     const auto* data = nodeCast<MapLiteral>(insert.data.get());
     const auto writeData = [&] { emitEntries(out, edition, data == nullptr ? NO_ENTRIES : *data, false); };
     emitOperation(out, edition, insert.path.get(), writeData, page_text::database_insert);
 }
 
-void emitUpdate(CodeWriter& out, Edition& edition, const RTDBUpdateExpression& update) {
+void emitUpdate(CodeWriter& out, EditionWriter& edition, const RTDBUpdateExpression& update) {
     const auto writeData = [&] { emitEntries(out, edition, *update.data, true); };
     emitOperation(out, edition, update.path.get(), writeData, page_text::database_update);
 }
 
-void emitDelete(CodeWriter& out, Edition& edition, const RTDBDeleteExpression& remove) {
+void emitDelete(CodeWriter& out, EditionWriter& edition, const RTDBDeleteExpression& remove) {
     const auto writeNoData = [] {};
     emitOperation(out, edition, remove.path.get(), writeNoData, page_text::database_delete);
 }
 
-void emitRead(CodeWriter& out, Edition& edition, const RTDBReadStatement& read) {
+void emitRead(CodeWriter& out, EditionWriter& edition, const RTDBReadStatement& read) {
     const Filling body = std::function<void()>([&] {
         const CodeWriter::Indented deeper(out, 2);
         edition.writeBody(read.body);

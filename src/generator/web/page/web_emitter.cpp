@@ -10,7 +10,7 @@
 
 namespace pozhil {
 
-WebEmitter::WebEmitter(CodeWriter& out, Edition& edition, Application application)
+WebEmitter::WebEmitter(CodeWriter& out, EditionWriter& edition, Application application)
     : out_(out), edition_(edition), application_(std::move(application)), widgets_(out, edition) {}
 
 void WebEmitter::writeDatabaseSetup() {

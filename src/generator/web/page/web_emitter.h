@@ -3,7 +3,7 @@
 #include "emit/code_writer.h"
 #include "generator/web/page/application.h"
 #include "generator/web/page/widget_frame.h"
-#include "generator/web/write/edition.h"
+#include "generator/web/write/edition_writer.h"
 #include "parser/syntax_tree.h"
 
 #include <string>
@@ -16,7 +16,7 @@ namespace pozhil {
 class WebEmitter {
 public:
     /// \param out, edition, and the trees of the application outlive the emitter; the edition writes to the same text
-    WebEmitter(CodeWriter& out, Edition& edition, Application application);
+    WebEmitter(CodeWriter& out, EditionWriter& edition, Application application);
 
     /// The applications of the program, one page each, in order. A console program has none.
     const std::vector<const WebAppNode*>& applications() const { return application_.pages; }
@@ -44,7 +44,7 @@ private:
     void writeMain();
 
     CodeWriter& out_;
-    Edition& edition_;
+    EditionWriter& edition_;
     const Application application_;
     WidgetFrame widgets_;
 };

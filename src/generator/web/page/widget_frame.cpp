@@ -40,7 +40,7 @@ if ($condition) {
 
 } // namespace
 
-WidgetFrame::WidgetFrame(CodeWriter& out, Edition& edition)
+WidgetFrame::WidgetFrame(CodeWriter& out, EditionWriter& edition)
     : WidgetContext(out, edition), metrics_(findWidgetKind, edition) {}
 
 void WidgetFrame::writeWidget(const WidgetNode& widget, const std::string& x, const std::string& y) {

@@ -9,7 +9,7 @@ namespace pozhil {
 /// the widget, the variable that shows and hides it, a function of its own.
 class WidgetFrame final : public WidgetContext {
 public:
-    WidgetFrame(CodeWriter& out, Edition& edition);
+    WidgetFrame(CodeWriter& out, EditionWriter& edition);
 
     void writeWidget(const WidgetNode& widget, const std::string& x, const std::string& y) override;
     Extent widthOf(const WidgetNode& widget) override { return metrics_.calculateWidgetWidth(&widget); }

@@ -45,7 +45,7 @@ void emitBoxSize(WidgetWriter& box, std::initializer_list<const char*> names, co
                  const char* variable, const char* base) {
     const Expression* own = findProperty(box.widget(), names);
     const Expression* size = own == nullptr ? styleProperty(box.widget(), {styleName}) : own;
-    Edition& edition = box.edition();
+    EditionWriter& edition = box.edition();
     std::string text = processPercentage(edition, size, base);
     const auto* choice = nodeCast<TernaryExpression>(size);
     if (choice != nullptr && !text.empty()) {

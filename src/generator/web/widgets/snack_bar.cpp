@@ -10,7 +10,7 @@ namespace {
 /// What the bar says, as a std::string of the emitted program.
 Filling messageOf(WidgetWriter& bar) {
     constexpr const char* NO_MESSAGE = "std::string(u8\"இப்போது இல்லை நீ பிறகு சேர்த்துக்கலாம் \")";
-    Edition& edition = bar.edition();
+    EditionWriter& edition = bar.edition();
     const Expression* message = findProperty(bar.widget(), {"செய்தி"});
     if (const WidgetNode* content = asWidget(message)) {
         return edition.text(findProperty(*content, {"உரை"}), "std::string(u8\"[விட்ஜெட்]\")");

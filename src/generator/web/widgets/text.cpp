@@ -39,7 +39,7 @@ void emitTextAnimation(WidgetWriter& text) {
 /// உரை: a line of text, which gets smaller until it fits.
 void emitText(WidgetWriter& text) {
     const TextStyle& style = text.widget().style;
-    const Edition& edition = text.edition();
+    const EditionWriter& edition = text.edition();
     text.block(R"(
 {
     std::string textContent = $value;

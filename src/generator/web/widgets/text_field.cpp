@@ -93,7 +93,7 @@ void emitPrefix(WidgetWriter& field) {
 
 /// The browser's field: made when it is first drawn, and placed over its box in each frame.
 void emitOverlay(WidgetWriter& field, const std::string& id) {
-    Edition& edition = field.edition();
+    EditionWriter& edition = field.edition();
     const std::string name = field.nameFrom(edition.literal(id == NO_ID ? "text_" + field.number() : id));
     const bool hasManyLines = isTrue(findProperty(field.widget(), {"பலவரி"}));
     field.block(

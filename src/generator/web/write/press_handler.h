@@ -1,7 +1,7 @@
 #pragma once
 
 #include "emit/emitted_block.h"
-#include "generator/web/write/edition.h"
+#include "generator/web/write/edition_writer.h"
 
 namespace pozhil {
 

@@ -18,7 +18,7 @@ bool endsInPercent(const std::string& text) {
     return !text.empty() && text.back() == '%';
 }
 
-std::string choice(Edition& edition, const TernaryExpression& ternary, const std::string& base) {
+std::string choice(EditionWriter& edition, const TernaryExpression& ternary, const std::string& base) {
     const std::string condition = ternary.condition == nullptr ? "" : edition.sizeCondition(*ternary.condition, base);
     const std::string thenSize = processPercentage(edition, ternary.thenBranch.get(), base);
     const std::string elseSize = processPercentage(edition, ternary.elseBranch.get(), base);
@@ -28,7 +28,7 @@ std::string choice(Edition& edition, const TernaryExpression& ternary, const std
 
 } // namespace
 
-std::string processPercentage(Edition& edition, const Expression* expression, const std::string& base) {
+std::string processPercentage(EditionWriter& edition, const Expression* expression, const std::string& base) {
     if (const auto* percentage = nodeCast<PercentageLiteral>(expression)) {
         return percentOf(percentage->value, base);
     }

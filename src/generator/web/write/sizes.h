@@ -8,14 +8,14 @@
 
 namespace pozhil {
 
-class Edition;
+class EditionWriter;
 class WidgetWriter;
 
 /// The text of a size that the running page computes: pixels, percentages of \p base, choices between them, and what
 /// \p edition computes. Empty for an expression that is none of these; the widget then keeps the size it has.
 ///
 /// \param base text of the size that a percentage is taken of
-std::string processPercentage(Edition& edition, const Expression* expression, const std::string& base);
+std::string processPercentage(EditionWriter& edition, const Expression* expression, const std::string& base);
 
 /// Assigns the first of the properties \p names to the emitted variable, if it is a size.
 void emitGivenSize(WidgetWriter& widget, std::initializer_list<const char*> names, const char* variable,

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "emit/code_writer.h"
-#include "generator/web/write/edition.h"
+#include "generator/web/write/edition_writer.h"
 #include "generator/web/write/extent.h"
 #include "parser/syntax_tree.h"
 
@@ -18,14 +18,14 @@ namespace pozhil {
 class WidgetContext {
 public:
     /// \param out, edition outlive the context; the edition writes to the same text
-    WidgetContext(CodeWriter& out, Edition& edition) : out_(out), edition_(edition) {}
+    WidgetContext(CodeWriter& out, EditionWriter& edition) : out_(out), edition_(edition) {}
     virtual ~WidgetContext() = default;
 
     WidgetContext(const WidgetContext&) = delete;
     WidgetContext& operator=(const WidgetContext&) = delete;
 
     CodeWriter& out() { return out_; }
-    Edition& edition() { return edition_; }
+    EditionWriter& edition() { return edition_; }
 
     /// The next number in order of emission; it tells static locals of the emitted text apart.
     std::uint64_t nextNumber() { return ++numbers_; }
@@ -63,7 +63,7 @@ public:
 
 private:
     CodeWriter& out_;
-    Edition& edition_;
+    EditionWriter& edition_;
     std::uint64_t numbers_ = 0;
     std::vector<std::string> elementScopes_;
 };

@@ -53,7 +53,7 @@ Room WidgetWriter::roomDown(const std::vector<const WidgetNode*>& children) cons
     return context_.roomDown(children);
 }
 
-Edition& WidgetWriter::edition() const {
+EditionWriter& WidgetWriter::edition() const {
     return context_.edition();
 }
 

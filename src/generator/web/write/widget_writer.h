@@ -1,7 +1,7 @@
 #pragma once
 
 #include "emit/emitted_block.h"
-#include "generator/web/write/edition.h"
+#include "generator/web/write/edition_writer.h"
 #include "generator/web/write/extent.h"
 #include "generator/web/write/widget_properties.h"
 #include "parser/syntax_tree.h"
@@ -48,7 +48,7 @@ public:
     void block(const Block& block, const Holes& holes = {});
 
     /// What the language of the program writes in the holes of the block.
-    Edition& edition() const;
+    EditionWriter& edition() const;
     /// The bodies of user's statements; for a hole that stands alone in its line.
     Filling statements(const StatementList& statements);
     /// Blocks and widgets that \p write writes, one level deeper; for a hole that stands alone in its line.

@@ -71,7 +71,7 @@ struct MessageBar {
 /// variables and functions is known to the edition alone, which writes all that has to do with them.
 ///
 /// What an edition returns goes into a hole of a block, once for each time that the hole stands there.
-class Edition : public Presence {
+class EditionWriter : public Presence {
 public:
     // Values.
 
