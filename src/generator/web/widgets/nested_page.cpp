@@ -13,7 +13,8 @@ void emitNestedPage(WidgetWriter& page) {
         page.eachChild(childWidgets(page.widget()),
                        [&](const WidgetNode& child) { page.child(child, "0.0f", "0.0f"); });
     });
-    page.block(R"(
+    page.block(
+        R"(
 // --- Page: $name ---
 if (g_currentPage == $literal) {
     nvgBeginPath(vg);
@@ -23,7 +24,7 @@ if (g_currentPage == $literal) {
     $children
 }
 )",
-               {{"name", page.edition().inComment(name)}, {"literal", page.edition().literal(name)}, {"children", children}});
+        {{"name", page.edition().inComment(name)}, {"literal", page.edition().literal(name)}, {"children", children}});
 }
 
 } // namespace
