@@ -55,11 +55,6 @@ Value pageInput(const std::string& text);
 /// The value of a property that takes a number; anything else is a fault.
 double pageNumber(const Value& value, Place place);
 
-/// The value of a condition; anything but a truth value is a fault.
-inline bool pageTruth(const Value& value, Place place) {
-    return truth(value, place);
-}
-
 /// Whether the values are equal, as சமம் finds.
 inline bool pageEqual(const Value& left, const Value& right) {
     return equal(left, right);

@@ -1,5 +1,6 @@
 """Runs a process in a group of its own, so that nothing it started outlives its test."""
 
+import contextlib
 import os
 import resource
 import signal
@@ -97,14 +98,21 @@ def end_group(process):
 def _groups_below(parent):
     """The groups that are led by what `parent` has started, such as the toolchain of a compiler."""
     groups = []
-    for children in Path(f"/proc/{parent}/task").glob("*/children"):
-        try:
-            below = [int(child) for child in children.read_text().split()]
-        except (FileNotFoundError, ProcessLookupError):
-            continue
-        for child in below:
-            groups += [child, *_groups_below(child)]
+    for child in _children_of(parent):
+        groups += [child, *_groups_below(child)]
     return groups
+
+
+def _children_of(parent):
+    """None of a process, or of a thread of one, that ends meanwhile."""
+    children = []
+    try:
+        for thread in os.listdir(f"/proc/{parent}/task"):
+            with contextlib.suppress(FileNotFoundError, ProcessLookupError):
+                children += Path(f"/proc/{parent}/task/{thread}/children").read_text().split()
+    except (FileNotFoundError, ProcessLookupError):
+        pass
+    return [int(child) for child in children]
 
 
 class Session:

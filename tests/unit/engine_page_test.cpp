@@ -195,15 +195,10 @@ TEST_F(Page, ShowsValuesAsPrinted) {
 TEST_F(Page, PropertiesTakeTheirKindsOnly) {
     EXPECT_EQ(pageNumber(5, HERE), 5.0);
     EXPECT_EQ(pageNumber(2.5, HERE), 2.5);
-    EXPECT_TRUE(pageTruth(true, HERE));
-    EXPECT_FALSE(pageTruth(false, HERE));
     for (const Value& wrong : {Value(), Value(true), text("5"), list({5})}) {
         EXPECT_EQ(faultOf([&] { pageNumber(wrong, HERE); }), NUMBER_EXPECTED);
     }
     EXPECT_EQ(messageOf([] { pageNumber(text("5"), HERE); }), "இங்கே எண் வேண்டும்; கிடைத்தது உரை.");
-    for (const Value& wrong : {Value(), Value(1), text("மெய்")}) {
-        EXPECT_EQ(faultOf([&] { pageTruth(wrong, HERE); }), NO_TRUTH);
-    }
 }
 
 TEST_F(Page, ComparesAsTheLanguageDoes) {

@@ -164,4 +164,51 @@ webTest('what is no list, and no truth value, is told, and the rest of the page 
     await page.frames(5);
     assert.equal((await page.texts()).filter(({ text }) => text === 'உண்டு அ').length, 2);
     await page.text('அடி');
+    // Of a condition that faults only its own widget is missing.
+    const { x, y } = await page.text('நிலை');
+    await page.click(x, y + 4);
+    await page.frames(5);
+    const shown = (await page.texts()).map(({ text }) => text);
+    assert.ok(shown.includes('அடி') && shown.includes('எண்') && !shown.includes('மறைவது'), shown.join());
+});
+
+const remembering = second(`
+        நெடுவரிசை(
+            ஒவ்வொன்றும்(பட்டியல்: [1, 2], உருப்படி: குழு)(
+                ஒவ்வொன்றும்(பட்டியல்: ["அ", "ஆ"], உருப்படி: எது)(
+                    தேர்வுபெட்டி(அகலம்: 24, உயரம்: 24)
+                )
+            ),
+            ஒவ்வொன்றும்(பட்டியல்: [1, 2], உருப்படி: குழு)(
+                அளவி(அகலம்: 200, உயரம்: 30, மாறியதால்: (புதியது) => கேட்டவை.சேர்(புதியது))
+            ),
+            தேர்வுபெட்டி(அகலம்: 24, உயரம்: 24, அடையாளம்: "ஏற்பு"),
+            ஒவ்வொன்றும்(பட்டியல்: [1], உருப்படி: குழு)(
+                தேர்வுபெட்டி(அகலம்: 24, உயரம்: 24, அடையாளம்: "விருப்பம்")
+            ),
+            கீழ்வரி(பட்டியல்: ["அ"], அடையாளம்: "ஏற்பு"),
+            உரை("" இணை நீளம்(கேட்டவை) இணை " " இணை ஏற்பு இணை " " இணை விருப்பம்)
+        )`, `
+        கேட்டவை = []`);
+
+webTest('what widgets of elements remember is their own, and told once', remembering, async page => {
+    const ticked = async () => Promise.all([0, 24, 48, 72].map(y => isTicked(page, y)));
+    await page.click(12, 36);
+    assert.deepEqual(await ticked(), [false, true, false, false]);
+    await page.click(12, 60);
+    assert.deepEqual(await ticked(), [false, true, true, false]);
+
+    await page.text('0 பொய் பொய்');
+    // The first slider, held without being moved: one change.
+    await page.moveTo(100, 110);
+    await page.page.mouse.down();
+    await page.frames(8);
+    await page.page.mouse.up();
+    await page.frames(2);
+    await page.text('1 பொய் பொய்');
+    // Boxes of the program hold their variables, in a list too.
+    await page.click(12, 168);
+    await page.text('1 மெய் பொய்');
+    await page.click(12, 192);
+    await page.text('1 மெய் மெய்');
 });

@@ -41,7 +41,9 @@ var pozhilFaults = (() => {
         told++;
         const open = document.getElementById('pozhil-program-fault');
         if (open) {
-            open.querySelector('.pozhil-more').textContent = `மேலும் ${told - 1} பிழைகள்; அனைத்தும் உலாவியின் பணியகத்தில் உள்ளன.`;
+            open.querySelector('.pozhil-more').textContent = told === 2
+                ? 'மேலும் ஒரு பிழை; அதுவும் உலாவியின் பணியகத்தில் உள்ளது.'
+                : `மேலும் ${told - 1} பிழைகள்; அனைத்தும் உலாவியின் பணியகத்தில் உள்ளன.`;
             return;
         }
         const shown = card();

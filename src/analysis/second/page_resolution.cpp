@@ -47,7 +47,10 @@ protected:
     void onVariableName(const StringLiteral& name) override {
         const resolved::Place place = now().placeOf(&name);
         const Meaning meaning = now().meaningOf(name.value, Use::Read);
-        if (meaning.variable == nullptr) {
+        // What the elements of a list hold isn't known outside of it, where the names of all that is shown are kept.
+        const bool isOfElement =
+            meaning.variable != nullptr && meaning.variable->owner != nullptr && meaning.variable->owner->isPage;
+        if (meaning.variable == nullptr || isOfElement) {
             tellUnknownName(now(), name.value, place);
             return;
         }
@@ -56,7 +59,14 @@ protected:
         add(&name, std::move(read));
     }
 
-    void onStateName(const StringLiteral&) override {}
+    /// By the text of the name, since the name itself is a value too.
+    void onStateName(const StringLiteral& name) override {
+        const auto& variables = now().model.fileScopes[now().scope.file]->variables;
+        auto read = makeNode<resolved::VariableRead>(now().placeOf(&name));
+        read->variable = variables.at(name.value);
+        add(&name.value, std::move(read));
+    }
+
     void onWidgetName(const std::string&) override {}
 
 private:

@@ -132,7 +132,7 @@ struct Program {
     std::vector<std::unique_ptr<Variable>> variables;
     /// In the order of the text; none in a console program. The trees outlive the program.
     std::vector<Page> pages;
-    /// The values of pages, by their nodes in the tree; what assigns the place of a control by the name of its property.
+    /// The values of pages, by their nodes in the tree, the states of boxes to tick by the texts of their names; what assigns the place of a control by the name of its property.
     std::unordered_map<const void*, PageValue> pageValues;
     /// By the node of an ஒவ்வொன்றும், the function whose parameters are the element and its index.
     std::unordered_map<const EachNode*, const Function*> elements;

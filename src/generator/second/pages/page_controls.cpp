@@ -56,19 +56,13 @@ const char* showingFunction(Kind kind) {
 
 } // namespace
 
+/// A box to tick holds its state in the variable that it is called by.
 const Variable* PageEdition::stateOf(const WidgetWriter& control) const {
     const auto* const name = nodeCast<StringLiteral>(findProperty(control.widget(), {language::property::ID.data()}));
-    if (name == nullptr) {
-        return nullptr;
-    }
-    for (const File& file : program_.files) {
-        const auto found = std::find_if(file.variables.begin(), file.variables.end(),
-                                        [&](const Variable* one) { return one->name == name->value; });
-        if (found != file.variables.end()) {
-            return *found;
-        }
-    }
-    return nullptr;
+    const auto found = name == nullptr ? program_.pageValues.end() : program_.pageValues.find(&name->value);
+    return found == program_.pageValues.end()
+               ? nullptr
+               : dynamic_cast<const VariableRead&>(*found->second.evaluation->value).variable;
 }
 
 bool PageEdition::isBound(const WidgetNode& control) {
@@ -122,7 +116,7 @@ void PageEdition::writeChange(WidgetWriter& control, const ControlState& state) 
                                                                    })}});
     } else {
         if (const Variable* variable = stateOf(control)) {
-            control.block("$variable = $state;\n",
+            control.block("$variable = Value($state);\n",
                           {{"variable", tables_.names.of(*variable)}, {"state", state.variable}});
         }
         writeUnboundChange(control, state, news);

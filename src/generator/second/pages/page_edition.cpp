@@ -124,7 +124,8 @@ std::string PageEdition::visibilityCondition(const pozhil::Expression& name, con
     if (typeOf(*read.variable) == Type::Truth) {
         return variable;
     }
-    return "page::shows(" + variable + ", " + atFirst + ", " + tables_.places.literal(read.place) + ")";
+    return "page::isShown([&] { return page::shows(" + variable + ", " + atFirst + ", " +
+           tables_.places.literal(read.place) + "); })";
 }
 
 std::optional<Visibility> PageEdition::visibility(const WidgetNode& widget) {
@@ -137,7 +138,7 @@ std::optional<Visibility> PageEdition::visibility(const WidgetNode& widget) {
 
 std::string PageEdition::shownWhile(const WidgetNode& widget) {
     const pozhil::Expression* const condition = findProperty(widget, {language::second::SHOWN.data()});
-    return condition == nullptr ? "" : sizeCondition(*condition, "");
+    return condition == nullptr ? "" : "page::isShown([&] { return " + sizeCondition(*condition, "") + "; })";
 }
 
 // Lists.
@@ -169,29 +170,40 @@ std::string PageEdition::sharedElements(const EachNode& each) const {
     return declarations;
 }
 
+/// A fault counts as nothing, so that only what has it is missing.
+std::string PageEdition::measured(const std::string& size) {
+    return "page::measured([&] { return page::" + size + "; })";
+}
+
 std::string PageEdition::overElements(const char* gather, const EachNode& each, const Extent& ofOne) {
-    return std::string("page::") + gather + "(" + listArguments(each) + ", " + elementParameters(each) +
-           " -> float { " + sharedElements(each) + "return " + ofOne.text() + "; })";
+    return measured(std::string(gather) + "(" + listArguments(each) + ", " + elementParameters(each) + " -> float { " +
+                    sharedElements(each) + "return " + ofOne.text() + "; })");
 }
 
 Extent PageEdition::sumOverElements(const EachNode& each, const Extent& ofOne) {
     if (!ofOne.isConstant()) {
         return Extent::computed(overElements("sum", each, ofOne));
     }
-    return Extent::computed("page::count(" + listArguments(each) + ")") * ofOne;
+    return Extent::computed(measured("count(" + listArguments(each) + ")")) * ofOne;
 }
 
 Extent PageEdition::largestOfElements(const EachNode& each, const Extent& ofOne) {
-    return ofOne.isConstant() ? onlyWhile("page::count(" + listArguments(each) + ") > 0.0f", ofOne)
+    return ofOne.isConstant() ? onlyWhile(measured("count(" + listArguments(each) + ")") + " > 0.0f", ofOne)
                               : Extent::computed(overElements("largest", each, ofOne));
 }
 
-void PageEdition::writeEach(WidgetWriter& layout, const EachNode& each, const Filling& body, const Course* course) {
+void PageEdition::writeEach(WidgetWriter& layout, const EachNode& each, const std::string& number, const Filling& body,
+                            const Course* course) {
     const std::string list = listArguments(each);
+    const pozhil::Expression* const key = second::keyOf(each);
+    const std::string index = tables_.names.of(*functionOf(each).parameters.back().variable);
     layout.block(R"(
-    page::$loop, $parameters {
-        $shared
-        $body
+    guarded([&] {
+        page::$loop, $parameters {
+            $shared
+            const auto key_$number = [&] { return pageText($key); };
+            $body
+        });
     });
 )",
                  {{"loop", course == nullptr ? "each(" + list
@@ -199,13 +211,13 @@ void PageEdition::writeEach(WidgetWriter& layout, const EachNode& each, const Fi
                                                    ", " + course->end},
                   {"parameters", elementParameters(each)},
                   {"shared", sharedElements(each)},
+                  {"number", number},
+                  {"key", key == nullptr ? index : written(key)},
                   {"body", body}});
 }
 
-std::string PageEdition::elementScope(const EachNode& each, const std::string& number) {
-    const pozhil::Expression* const key = second::keyOf(each);
-    const std::string index = tables_.names.of(*functionOf(each).parameters.back().variable);
-    return "const page::Element element(" + number + ", pageText(" + (key == nullptr ? index : written(key)) + "))";
+std::string PageEdition::elementScope(const std::string& number) const {
+    return "const page::Element element_" + number + "(" + number + ", key_" + number + "())";
 }
 
 Filling PageEdition::elementState(const std::string& type, const std::string& name, const Filling& first) const {

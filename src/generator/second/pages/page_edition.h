@@ -41,8 +41,9 @@ public:
 
     Extent sumOverElements(const EachNode& each, const Extent& ofOne) override;
     Extent largestOfElements(const EachNode& each, const Extent& ofOne) override;
-    void writeEach(WidgetWriter& layout, const EachNode& each, const Filling& body, const Course* course) override;
-    std::string elementScope(const EachNode& each, const std::string& number) override;
+    void writeEach(WidgetWriter& layout, const EachNode& each, const std::string& number, const Filling& body,
+                   const Course* course) override;
+    std::string elementScope(const std::string& number) const override;
     Filling elementState(const std::string& type, const std::string& name, const Filling& first) const override;
     std::string elementKey(const std::string& key) const override;
     std::string elementName(const std::string& name) const override;
@@ -86,6 +87,7 @@ private:
     std::string elementParameters(const EachNode& each) const;
     /// Variables that handlers of the element share; empty or a statement of one line.
     std::string sharedElements(const EachNode& each) const;
+    static std::string measured(const std::string& size);
     std::string overElements(const char* gather, const EachNode& each, const Extent& ofOne);
     /// \param news what is new, a Value of the emitted text that a function may take; empty if nothing is
     void writeCall(WidgetWriter& widget, const void* handler, const std::string& news = "");

@@ -122,23 +122,32 @@ void emitScrollLimits(WidgetWriter& layout, const LayoutAxis& axis, const char* 
                  {{"content", content}, {"visible", visible}, {"offset", axis.offset}});
 }
 
+namespace {
+
+/// A condition: what stands at \p begin and is so large can be seen in a window that ends at \p end. Empty for what has no
+/// size before the page runs.
+std::string nearWindow(const char* begin, const Extent& size, const char* end) {
+    if (size.isNothing()) {
+        return "";
+    }
+    // Shadows reach out of their widgets, and sizes are known only roughly.
+    return std::string(begin) + " < " + end + " + 100.0f && " + begin + " + " + size.text() + " > -100.0f";
+}
+
+} // namespace
+
 void emitVisibleChild(WidgetWriter& layout, const WidgetNode& child, const char* x, const char* y) {
     if (!layout.isInOwnEach()) {
         layout.child(child, x, y);
         return;
     }
-    // Shadows reach out of their widgets, and sizes are known only roughly.
-    layout.block(R"(
-    if ($left < winWidth + 100.0f && $left + $width > -100.0f && $top < winHeight + 100.0f && $top + $height > -100.0f) {
-        $element;
-        $child
-    }
-)",
-                 {{"left", x},
-                  {"top", y},
-                  {"width", layout.widthOf(child).text()},
-                  {"height", layout.heightOf(child).text()},
-                  {"element", layout.elementScope()},
+    const std::string across = nearWindow(x, layout.widthOf(child), "winWidth");
+    const std::string down = nearWindow(y, layout.heightOf(child), "winHeight");
+    layout.block("    if ($condition) {\n        $scopes\n        $child\n    }\n",
+                 {{"condition", across.empty() && down.empty()   ? "true"
+                                : across.empty() || down.empty() ? across + down
+                                                                 : across + " && " + down},
+                  {"scopes", layout.elementScopes() + "\n"},
                   {"child", layout.blocks([&] { layout.child(child, x, y); })}});
 }
 

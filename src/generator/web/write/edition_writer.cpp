@@ -1,34 +1,25 @@
 #include "generator/web/write/edition_writer.h"
 
-#include <stdexcept>
-
 namespace pozhil {
-namespace {
 
-[[noreturn]] void refuse() {
-    throw std::logic_error("an edition without lists of widgets is asked for their elements");
+void EditionWriter::writeEach(WidgetWriter&, const EachNode&, const std::string&, const Filling&, const Course*) {
+    refuseElements();
 }
 
-} // namespace
-
-void EditionWriter::writeEach(WidgetWriter&, const EachNode&, const Filling&, const Course*) {
-    refuse();
-}
-
-std::string EditionWriter::elementScope(const EachNode&, const std::string&) {
-    refuse();
+std::string EditionWriter::elementScope(const std::string&) const {
+    refuseElements();
 }
 
 Filling EditionWriter::elementState(const std::string&, const std::string&, const Filling&) const {
-    refuse();
+    refuseElements();
 }
 
 std::string EditionWriter::elementKey(const std::string&) const {
-    refuse();
+    refuseElements();
 }
 
 std::string EditionWriter::elementName(const std::string&) const {
-    refuse();
+    refuseElements();
 }
 
 } // namespace pozhil

@@ -145,12 +145,13 @@ public:
     // Widgets that come once for each element of a list; in editions that have such.
 
     /// A loop over the elements with \p body in it.
-    /// \param course passes over elements that stand out of the window; null if each must be gone through
-    virtual void writeEach(WidgetWriter& layout, const EachNode& each, const Filling& body, const Course* course);
-
-    /// The declaration by which what is drawn after it belongs to the element.
     /// \param number tells the lists of a program apart
-    virtual std::string elementScope(const EachNode& each, const std::string& number);
+    /// \param course passes over elements that stand out of the window; null if each must be gone through
+    virtual void writeEach(WidgetWriter& layout, const EachNode& each, const std::string& number, const Filling& body,
+                           const Course* course);
+
+    /// The declaration, in such a body, by which what is drawn after it belongs to the element.
+    virtual std::string elementScope(const std::string& number) const;
 
     /// The declaration of a variable that belongs to the element (WidgetWriter::state).
     virtual Filling elementState(const std::string& type, const std::string& name, const Filling& first) const;

@@ -3,20 +3,17 @@
 #include <stdexcept>
 
 namespace pozhil {
-namespace {
 
-[[noreturn]] void refuse() {
+void Presence::refuseElements() {
     throw std::logic_error("an edition without lists of widgets is asked for their elements");
 }
 
-} // namespace
-
 Extent Presence::sumOverElements(const EachNode&, const Extent&) {
-    refuse();
+    refuseElements();
 }
 
 Extent Presence::largestOfElements(const EachNode&, const Extent&) {
-    refuse();
+    refuseElements();
 }
 
 } // namespace pozhil

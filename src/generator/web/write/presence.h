@@ -25,6 +25,11 @@ public:
     /// \param ofOne what one takes; it may name the element
     virtual Extent sumOverElements(const EachNode& each, const Extent& ofOne);
     virtual Extent largestOfElements(const EachNode& each, const Extent& ofOne);
+
+protected:
+    /// What an edition without lists of widgets answers who asks for their elements.
+    /// \throws std::logic_error
+    [[noreturn]] static void refuseElements();
 };
 
 } // namespace pozhil

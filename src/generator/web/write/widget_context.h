@@ -44,8 +44,14 @@ public:
     /// In how many lists within each other what is being written comes, once for each element.
     std::size_t depthOfEach() const { return elementScopes_.size(); }
 
-    /// The declaration by which it belongs to the element of the innermost list.
-    const std::string& elementScope() const { return elementScopes_.back(); }
+    /// The declarations by which it belongs to the elements of these lists, from the one at \p depth inwards.
+    std::string elementScopes(std::size_t depth) const {
+        std::string scopes;
+        for (; depth < elementScopes_.size(); ++depth) {
+            scopes += elementScopes_[depth] + "; ";
+        }
+        return scopes;
+    }
 
     /// Everything written while it lives comes once for each element.
     class InEach {

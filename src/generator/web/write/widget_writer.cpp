@@ -134,9 +134,9 @@ void WidgetWriter::writeChild(const WidgetNode& child, const WriteChild& write) 
 }
 
 void WidgetWriter::writeEach(const EachNode& each, const WriteChild& write, const Course* course) {
-    std::string scope = edition().elementScope(each, partNumber());
-    edition().writeEach(*this, each, blocks([&] {
-        const WidgetContext::InEach inside(context_, scope);
+    const std::string number = partNumber();
+    edition().writeEach(*this, each, number, blocks([&] {
+        const WidgetContext::InEach inside(context_, edition().elementScope(number));
         eachChild(childWidgets(each), write);
     }),
                         course);
@@ -156,8 +156,8 @@ void WidgetWriter::slot(const WidgetNode& widget, const std::string& x, const st
     whileShown(widget, [&](const WidgetNode& shown) { child(shown, x, y); });
 }
 
-const std::string& WidgetWriter::elementScope() const {
-    return context_.elementScope();
+std::string WidgetWriter::elementScopes() const {
+    return context_.elementScopes(depthOfEach_);
 }
 
 bool WidgetWriter::isInOwnEach() const {

@@ -76,8 +76,8 @@ public:
 
     /// Whether what is being written comes once for each element of a list that is a child of this widget.
     bool isInOwnEach() const;
-    /// The declaration by which what is written after it belongs to the element.
-    const std::string& elementScope() const;
+    /// The declarations, each with a semicolon, by which what is written after them belongs to the element.
+    std::string elementScopes() const;
     /// A declaration, without a semicolon: the variable \p name of the block keeps its value from frame to frame. In a list
     /// each element has one of its own.
     Filling state(const std::string& type, const std::string& name, const Filling& first) const;
