@@ -1,5 +1,6 @@
 // Pages where nothing happens draw nothing; what moves, and what anybody does, is drawn at once.
 
+import { second } from './harness/editions.js';
 import { PHONE, application, assert, near, webTest } from './harness/index.js';
 
 const counting = application(`
@@ -187,4 +188,18 @@ webTest('a page rests soon on a slow machine too', counting, { open: false }, as
     await page.visit(page.address);
     await page.ready();
     assert.ok(await rests(page));
+});
+
+webTest('an application of the second edition rests too', second(`
+        நெடுவரிசை(
+            ஒவ்வொன்றும்(பட்டியல்: எண்கள், உருப்படி: எண்)(
+                கிடைவரிசை(தேர்வுபெட்டி(அகலம்: 24, உயரம்: 24), உரை("வரி " இணை எண், தெரிய: எண் பெரிது 1))
+            ),
+            உரைபெட்டி(மதிப்பு: பெயர்),
+            பொத்தான்(உரை: "கூட்டு", முடக்கு: எண்ணிக்கை பெரிது 3, அழுத்தினால்: () => எண்ணிக்கை = எண்ணிக்கை கூட்டு 1)
+        )`, `
+        எண்ணிக்கை = 0
+        பெயர் = ""
+        எண்கள் = [1, 2, 3]`), async page => {
+    assert.ok(await rests(page), 'rests');
 });

@@ -28,14 +28,13 @@
 
     window.addEventListener('popstate', goToAddress);
 
+    // After a frame nobody asks the program, which would wake a page that is about to rest.
     pozhilFrames.before(() => {
         if (firstPage === null) {
             firstPage = page = shownPage();
             goToAddress();
+            return;
         }
-    });
-
-    pozhilFrames.after(() => {
         const now = shownPage();
         if (now !== page && hasPage(now)) {
             history.pushState(null, '', '#' + encodeURIComponent(now));
