@@ -1,6 +1,6 @@
 // Applications of the second edition: the published ones look in it as they do in the first, and what only it does.
 
-import { expectLikeLook, second } from './harness/editions.js';
+import { expectLikeLook, faultCard, second } from './harness/editions.js';
 import { assert, webTest } from './harness/index.js';
 
 expectLikeLook('இரு_பக்கங்கள்');
@@ -46,24 +46,22 @@ const failing = second(`
         செயல் கணக்கிடு(எண்):
             விடை = 8 வகு எண்`);
 
-const card = page => page.page.evaluate(() => document.getElementById('pozhil-program-fault')?.innerText ?? '');
-
 webTest('a fault of a handler stands in a card with its line and the way there, and the page goes on', failing,
         async page => {
     await page.click(100, 20);
-    const told = await card(page);
+    const told = await faultCard(page);
     for (const part of ['பொழி-', 'வரி 16', 'விடை = 8 வகு எண்', "'கணக்கிடு' அழைக்கப்பட்ட இடம்:", 'வரி 7']) {
         assert.ok(told.includes(part), `${part} in ${told}`);
     }
     assert.ok(page.console.some(line => line.includes('பொழி-')), page.console.join('\n'));
     await page.text('விடை: 1');
     await page.page.click('.pozhil-close');
-    assert.equal(await card(page), '');
+    assert.equal(await faultCard(page), '');
     await page.click(100, 60);
     await page.text('விடை: 2');
     // The same fault is told anew.
     await page.click(100, 20);
-    assert.ok((await card(page)).includes('வரி 16'));
+    assert.ok((await faultCard(page)).includes('வரி 16'));
 });
 
 webTest('a fault of a text leaves that text out, and is told once', second(`
@@ -75,7 +73,7 @@ webTest('a fault of a text leaves that text out, and is told once', second(`
         பட்டியல் = [1, 2]`), async page => {
     await page.frames(5);
     assert.deepEqual((await page.texts()).map(({ text }) => text), ['முன்', 'பின்']);
-    assert.ok((await card(page)).includes('வரி 8'), await card(page));
+    assert.ok((await faultCard(page)).includes('வரி 8'), await faultCard(page));
     assert.equal(page.console.filter(line => line.includes('வரி 8')).length, 1);
 });
 
@@ -131,7 +129,7 @@ const deep = second(`
 webTest('calls without end are told, and the page goes on', deep, async page => {
     await page.click(100, 20);
     await page.frames(5);
-    assert.match(await card(page), /பொழி-6\d\d/);
+    assert.match(await faultCard(page), /பொழி-6\d\d/);
     await page.click(100, 60);
     await page.text('எண் 1');
 });

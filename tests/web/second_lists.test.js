@@ -1,6 +1,6 @@
 // Widgets that come once for each element of a list, and widgets that are there only while a condition holds.
 
-import { second } from './harness/editions.js';
+import { faultCard, second } from './harness/editions.js';
 import { assert, webTest } from './harness/index.js';
 
 const tasks = second(`
@@ -151,13 +151,11 @@ const wrong = second(`
         எவை = []
         நிலை = மெய்`);
 
-const card = page => page.page.evaluate(() => document.getElementById('pozhil-program-fault')?.innerText ?? '');
-
 webTest('what is no list, and no truth value, is told, and the rest of the page goes on', wrong, async page => {
     await page.text('மறைவது');
     await page.click(50, 20);
     await page.frames(5);
-    assert.match(await card(page), /பொழி-6\d\d[^]*வரி 9/);
+    assert.match(await faultCard(page), /பொழி-6\d\d[^]*வரி 9/);
     await page.text('அடி');
     // Two elements of one key are drawn, and share what the page remembers of them.
     await page.click(50, 60);

@@ -1,13 +1,12 @@
 // Controls of the second edition and the variables that they are bound to: either changes with the other.
 
-import { second } from './harness/editions.js';
+import { faultCard, second } from './harness/editions.js';
 import { assert, webTest } from './harness/index.js';
 
 /// A column, 10 pixels between its children.
 const column = (...children) => `        நெடுவரிசை(இடைவெளி: 10)(\n            ${children.join(',\n            ')}\n        )`;
 const button = (name, handler) => `பொத்தான்(உரை: "${name}", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்: ${handler})`;
 
-const card = page => page.page.evaluate(() => document.getElementById('pozhil-program-fault')?.innerText ?? '');
 const drawn = async page => (await page.texts()).map(({ text }) => text);
 const pressFrom = async (page, name) => {
     const { x, y, size } = await page.text(name);
@@ -105,7 +104,7 @@ webTest('a value of the wrong kind is told, and all widgets stay', controls, TAL
     assert.equal((await drawn(page)).length, before);
     const told = page.console.filter(line => line.includes('பொழி-690'));
     assert.equal(told.length, 2, page.console.join('\n'));
-    assert.ok((await card(page)).includes('பொழி-690'), await card(page));
+    assert.ok((await faultCard(page)).includes('பொழி-690'), await faultCard(page));
     // The user mends it.
     await page.page.click('.pozhil-close');
     await page.frames(3);

@@ -9,6 +9,10 @@ export const MARKER = 'ஃ பொழில் 2\n';
 /// An application of one page in the second edition.
 export const second = (body, logic, header) => MARKER + application(body, { logic, header });
 
+/// What the card says that tells a fault of the running program; empty if there is none.
+export const faultCard = page =>
+    page.page.evaluate(() => document.getElementById('pozhil-program-fault')?.innerText ?? '');
+
 const DESKTOP = { width: 1280, height: 800 };
 
 /// What a page shows when it has come to rest: its texts, and a picture of it.
