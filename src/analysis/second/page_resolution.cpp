@@ -48,9 +48,7 @@ protected:
         const resolved::Place place = now().placeOf(&name);
         const Meaning meaning = now().meaningOf(name.value, Use::Read);
         // What the elements of a list hold isn't known outside of it, where the names of all that is shown are kept.
-        const bool isOfElement =
-            meaning.variable != nullptr && meaning.variable->owner != nullptr && meaning.variable->owner->isPage;
-        if (meaning.variable == nullptr || isOfElement) {
+        if (meaning.variable == nullptr || isOfElement(*meaning.variable)) {
             tellUnknownName(now(), name.value, place);
             return;
         }

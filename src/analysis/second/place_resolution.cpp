@@ -66,7 +66,7 @@ bool changesConstant(const Expression* expression) {
 bool changesElement(const Resolution& resolution, const Expression* expression) {
     const auto* const root = rootOf(expression);
     const auto* const variable = root == nullptr ? nullptr : resolution.meaningOf(root->name, Use::Write).variable;
-    return variable != nullptr && variable->owner != nullptr && variable->owner->isPage;
+    return variable != nullptr && isOfElement(*variable);
 }
 
 } // namespace

@@ -115,6 +115,11 @@ struct Page {
     const Function* frame = nullptr;
 };
 
+/// Whether the variable is an element of a list that a page shows, or the index of one.
+inline bool isOfElement(const Variable& variable) {
+    return variable.owner != nullptr && variable.owner->isPage;
+}
+
 /// A value of a page, as a statement of its frame.
 struct PageValue {
     const Evaluation* evaluation = nullptr;
