@@ -37,6 +37,8 @@ constexpr std::string_view FONT = "எழுத்துரு";
 constexpr std::string_view UNDERLINE = "அடிக்குறிப்பு";
 
 // What a widget is known by and what it does.
+/// Names the variable that shows and hides the widget.
+constexpr std::string_view VISIBILITY = "காட்சி_பெயர்";
 constexpr std::string_view ID = "அடையாளம்";
 constexpr std::string_view PATH = "பாதை";
 constexpr std::string_view PAGE = "பக்கம்";

@@ -13,7 +13,7 @@ constexpr WidgetProperty COMMON_PROPERTIES[] = {
     {property::WIDTH, "", ValueKind::Size, {"அகலம்", "width"}},
     {property::HEIGHT, "", ValueKind::Size, {"உயரம்", "height"}},
     {property::ID, "", ValueKind::Variable, {"பெயர்: `நகர்த்து` உருட்டும் இடம்; உள்ளீட்டின் மதிப்பு", "a name, to scroll to and to read inputs by"}},
-    {"காட்சி_பெயர்", "", ValueKind::Variable, {"ஒரு மாறியின் பெயர் (உரையாக): அது `பொய்` எனில் மறையும்", "the name of a variable, as a text; hidden while it is `பொய்`"}},
+    {property::VISIBILITY, "", ValueKind::Variable, {"ஒரு மாறியின் பெயர் (உரையாக): அது `பொய்` எனில் மறையும்", "the name of a variable, as a text; hidden while it is `பொய்`"}},
 };
 // clang-format on
 

@@ -15,7 +15,6 @@ using language::ValueKind;
 constexpr std::string_view STYLE_PREFIX = "style_";
 /// Properties of every widget.
 constexpr std::string_view NAMES[] = {"அடையாளம்", "ID", "id"};
-constexpr std::string_view VISIBILITY = "காட்சி_பெயர்";
 
 bool isName(std::string_view property) {
     return std::find(std::begin(NAMES), std::end(NAMES), property) != std::end(NAMES);
@@ -105,7 +104,7 @@ void PageWalk::walkProperty(const WidgetNode& widget, const std::string& name, c
             onStateName(*text);
         }
     }
-    if (text != nullptr && name == VISIBILITY) {
+    if (text != nullptr && name == language::property::VISIBILITY) {
         onVariableName(*text);
         return;
     }

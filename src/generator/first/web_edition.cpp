@@ -7,6 +7,7 @@
 #include "generator/web/write/sizes.h"
 #include "generator/web/write/widget_writer.h"
 #include "language/operators.h"
+#include "language/property_words.h"
 #include "language/widget_words.h"
 
 #include <functional>
@@ -122,7 +123,7 @@ std::string WebEdition::sizeCondition(const Expression& condition, const std::st
 }
 
 std::optional<Visibility> WebEdition::visibility(const WidgetNode& widget) {
-    const std::string name = textOf(findProperty(widget, {"காட்சி_பெயர்"}));
+    const std::string name = textOf(findProperty(widget, {language::property::VISIBILITY.data()}));
     if (name.empty()) {
         return std::nullopt;
     }

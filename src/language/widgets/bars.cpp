@@ -11,7 +11,7 @@ using Children = WidgetChildren;
 
 // clang-format off
 constexpr WidgetProperty DIALOG_PROPERTIES[] = {
-    {"காட்சி_பெயர்", "", ValueKind::Variable, {"மாறியின் பெயர், உரையாக", "name of the variable, as a text"}},
+    {property::VISIBILITY, "", ValueKind::Variable, {"மாறியின் பெயர், உரையாக", "name of the variable, as a text"}},
     {property::WIDTH, property::DIALOG_STYLE, ValueKind::Size, {"அகலம்", "width"}},
     {property::HEIGHT, property::DIALOG_STYLE, ValueKind::Size, {"உயரம்", "height"}},
     {property::BACKGROUND, property::DIALOG_STYLE, ValueKind::Colour, {"பின்னணியின் நிறம்", "colour of the background"}},

@@ -18,8 +18,6 @@
 namespace pozhil::resolved::writer {
 namespace {
 
-constexpr const char* VISIBILITY = "காட்சி_பெயர்";
-
 bool isDialog(const WidgetNode& widget) {
     return widget.kind == language::widget::DIALOG;
 }
@@ -129,7 +127,7 @@ std::string PageEdition::visibilityCondition(const pozhil::Expression& name, con
 }
 
 std::optional<Visibility> PageEdition::visibility(const WidgetNode& widget) {
-    const auto* const name = nodeCast<StringLiteral>(findProperty(widget, {VISIBILITY}));
+    const auto* const name = nodeCast<StringLiteral>(findProperty(widget, {language::property::VISIBILITY.data()}));
     if (name == nullptr) {
         return std::nullopt;
     }

@@ -2,6 +2,7 @@
 
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_properties.h"
+#include "language/property_words.h"
 #include "language/widget_words.h"
 
 #include <algorithm>
@@ -99,7 +100,7 @@ private:
             return;
         }
         const bool isDialog = widget.kind == language::widget::DIALOG;
-        const std::string variable = textOf(findProperty(widget, {"காட்சி_பெயர்"}));
+        const std::string variable = textOf(findProperty(widget, {language::property::VISIBILITY.data()}));
         if (!variable.empty()) {
             (isDialog ? variables.onceShown : variables.unlessHidden).push_back(variable);
         }
