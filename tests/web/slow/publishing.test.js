@@ -1,7 +1,8 @@
-// What publishing leaves out of files, nobody sees.
+// Published pages are those that the compiler serves; what publishing leaves out of files, nobody sees.
 
-import { application, assert, webTest } from './harness/index.js';
-import * as examples from './harness/examples.js';
+import { application, assert, webTest } from '../harness/index.js';
+import * as examples from '../harness/examples.js';
+import { DESKTOP, PHONE, expectInside, takeOrder } from '../harness/tours.js';
 
 const MEASURED = 'assets/font/Coiny-Regular.ttf';
 const DRAWN = 'assets/font/Tamil-Regular.ttf';
@@ -51,4 +52,14 @@ webTest('no browser draws with a font that is only measured', source, { files, v
     const [measured, whole] = await page.page.evaluate(paths => Promise.all(paths.map(
         path => new FontFace('any', FS.readFile(path)).load().then(() => 'drawn', () => 'refused'))), [MEASURED, DRAWN]);
     assert.deepEqual([measured, whole], ['refused', 'drawn']);
+});
+
+webTest('published dashboard, phone', examples.source('கடை_நிலவரம்'), { files, viewport: PHONE, published: true },
+        takeOrder);
+
+webTest('published dashboard, desktop', examples.source('கடை_நிலவரம்'), { files, viewport: DESKTOP, published: true },
+        async page => {
+    await page.waitForText('கடை நிலவரம்');
+    await expectInside(page, DESKTOP);
+    assert.deepEqual(page.errors, []);
 });
