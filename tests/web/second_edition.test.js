@@ -1,9 +1,10 @@
 // Applications of the second edition: the published ones look in it as they do in the first, and what only it does.
 
 import { expectLikeLook, faultCard, second } from './harness/editions.js';
+import * as examples from './harness/examples.js';
 import { assert, webTest } from './harness/index.js';
 
-expectLikeLook('இரு_பக்கங்கள்');
+expectLikeLook('இரு_பக்கங்கள்', examples.source('இரு_பக்கங்கள்'));
 
 const counting = second(`
         நெடுவரிசை(

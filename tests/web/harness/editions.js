@@ -1,6 +1,6 @@
 // Applications that look alike in both editions.
 
-import { files, source } from './examples.js';
+import { files } from './examples.js';
 import { application, assert, buildPage, webTest } from './index.js';
 
 /// The line by which a source is of the second edition.
@@ -21,11 +21,11 @@ async function look(page) {
     return { texts: await page.texts(), picture: (await page.page.screenshot()).toString('base64') };
 }
 
-/// A test that the published application of this name looks in the second edition as it does in the first.
-export function expectLikeLook(name) {
-    webTest(`${name} looks in both editions alike`, source(name), { files: files(), viewport: DESKTOP }, async page => {
+/// A test that the application looks in the second edition as it does in the first.
+export function expectLikeLook(name, source) {
+    webTest(`${name} looks in both editions alike`, source, { files: files(), viewport: DESKTOP }, async page => {
         const first = await look(page);
-        const built = await buildPage(MARKER + source(name), { files: files() });
+        const built = await buildPage(MARKER + source, { files: files() });
         await page.openBuilt(built);
         const second = await look(page);
         assert.deepEqual(second.texts, first.texts);

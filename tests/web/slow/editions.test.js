@@ -8,7 +8,7 @@ import { PHONE, leafThroughGallery, useGallery } from '../harness/tours.js';
 
 for (const name of ['முகப்புப்_பக்கம்', 'பணிப்_பட்டியல்', 'பதிவுப்_படிவம்', 'ஓவியக்கூடம்', 'கடை_நிலவரம்', 'வளைவுகள்',
                     'காட்சியகம்']) {
-    expectLikeLook(name);
+    expectLikeLook(name, examples.source(name));
 }
 
 // The gallery as the second edition would write it does what the first edition's does.
