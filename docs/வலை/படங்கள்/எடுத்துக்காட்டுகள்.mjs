@@ -1,7 +1,8 @@
-// Takes pictures of the larger examples from running pages: node எடுத்துக்காட்டுகள்.mjs [compiler]
+// Takes pictures of the larger examples from running pages: node எடுத்துக்காட்டுகள்.mjs [compiler] [example...]
 //
-// காட்சியகம், ஓவியக்கூடம் and கடை_நிலவரம் scaled down, in a window of a desktop and in one of a phone; and
-// வளைவுகள் with several moments of its balls laid over each other.
+// All of them, or those that are named: காட்சியகம், ஓவியக்கூடம், கடை_நிலவரம் and the examples of the second edition
+// scaled down, in a window of a desktop and in one of a phone; and வளைவுகள் with several moments of its balls laid over
+// each other.
 
 import { readFileSync, writeFileSync } from 'node:fs';
 import path from 'node:path';
@@ -36,6 +37,15 @@ const PICTURES = {
     ],
 };
 
+const SECOND = 'இரண்டாம்_பதிப்பு/';
+for (const name of ['பணிப்_பட்டியல்', 'பதிவுப்_படிவம்', 'கணிப்பான்', 'கடை', 'கடை_நிலவரம்', 'காட்சியகம்']) {
+    PICTURES[SECOND + name] = [
+        { name: `${name}_2`, size: DESKTOP, presses: [] },
+        { name: `${name}_2_கைபேசி`, size: PHONE, presses: [] },
+    ];
+}
+
+const CURVES = 'வளைவுகள்';
 // The balls of வளைவுகள் run for 240 frames.
 const MOMENTS = 5;
 const FRAMES_BETWEEN = 60;
@@ -110,15 +120,20 @@ async function takeCurves(browser) {
         await pause(500);
         images.push((await tab.screenshot()).toString('base64'));
     }
-    save('வளைவுகள்', await layOver(tab, images, 0.6, 17));
+    save(CURVES, await layOver(tab, images, 0.6, 17));
     await tab.close();
 }
 
-for (const [example, pictures] of Object.entries(PICTURES)) {
+const named = process.argv.slice(3);
+const isWanted = example => named.length === 0 || named.includes(example);
+
+for (const [example, pictures] of Object.entries(PICTURES).filter(([name]) => isWanted(name))) {
     await withApplication(source(example), async browser => {
         for (const picture of pictures) {
             await takePicture(browser, picture);
         }
     });
 }
-await withApplication(source('வளைவுகள்'), takeCurves);
+if (isWanted(CURVES)) {
+    await withApplication(source(CURVES), takeCurves);
+}

@@ -15,10 +15,27 @@ export const faultCard = page =>
 
 const DESKTOP = { width: 1280, height: 800 };
 
-/// What a page shows when it has come to rest: its texts, and a picture of it.
+const screenshot = async page => (await page.page.screenshot()).toString('base64');
+
+/// A picture of the page when nothing moves any more; nothing for a page that moves for ever.
+async function pictureAtRest(page) {
+    let picture = await screenshot(page);
+    for (let patience = 8; patience > 0; patience--) {
+        const earlier = picture;
+        await page.frames(30);
+        picture = await screenshot(page);
+        if (picture === earlier) {
+            return picture;
+        }
+    }
+    return null;
+}
+
+/// What a page shows: its texts, and a picture of it.
 async function look(page) {
-    await page.frames(30);
-    return { texts: await page.texts(), picture: (await page.page.screenshot()).toString('base64') };
+    await page.frames(10);
+    const picture = await pictureAtRest(page);
+    return { texts: await page.texts(), picture };
 }
 
 /// A test that the application looks in the second edition as it does in the first.
