@@ -232,7 +232,7 @@ std::string PageEdition::elementName(const std::string& name) const {
 }
 
 void PageEdition::writeWindowSize(CodeWriter& out) {
-    out.block("page::width = winWidth;\npage::height = winHeight;\npage::runHandlers();\n");
+    out.block("page::width = winWidth;\npage::height = winHeight;\npage::findTopmost();\npage::runHandlers();\n");
 }
 
 void PageEdition::writeOpenAlerts(CodeWriter& out) {

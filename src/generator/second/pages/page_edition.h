@@ -1,5 +1,6 @@
 #pragma once
 
+#include "generator/second/pages/page_layering.h"
 #include "generator/second/program_tables.h"
 #include "generator/web/write/edition_writer.h"
 
@@ -59,6 +60,8 @@ public:
     void writeField(WidgetWriter& field, const Filling& id) override;
     void writeDisabling(WidgetWriter& widget) override;
 
+    const Layering& layering() const override { return layering_; }
+
     void writeWindowSize(CodeWriter& out) override;
     void writeOpenAlerts(CodeWriter& out) override;
     void writeDrawing(CodeWriter& out) override;
@@ -105,6 +108,7 @@ private:
     const Program& program_;
     ProgramTables& tables_;
     CodeWriter& out_;
+    PageLayering layering_;
     WebEmitter* emitter_ = nullptr;
 };
 

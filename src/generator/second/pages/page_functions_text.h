@@ -11,4 +11,7 @@ extern const Block page_functions;
 /// How controls and the program know of each other: state that both hold, fields of the browser, what is disabled.
 extern const Block page_controls;
 
+/// What lies over what: whom a press reaches.
+extern const Block page_layers;
+
 } // namespace pozhil::second_page_text

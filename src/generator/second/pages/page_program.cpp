@@ -49,6 +49,7 @@ EmittedLines PageProgram::head() const {
     lines.line("using namespace pozhil::engine;");
     lines.line("");
     lines.lines(second_page_text::page_functions.text());
+    lines.lines(second_page_text::page_layers.text());
     lines.lines(second_page_text::page_controls.text());
     return lines;
 }

@@ -46,15 +46,17 @@ void WebEmitter::writeFrameHead() {
 
 void WebEmitter::writeFrameTail() {
     const MessageBar bar = edition_.messageBar();
-    out_.block(page_text::frame_tail, {{"isShown", bar.isShown},
-                                       {"since", bar.since},
-                                       {"top", bar.top},
-                                       {"moved", bar.moved},
-                                       {"hidden", bar.hidden},
-                                       {"message", bar.message},
-                                       {"red", bar.red},
-                                       {"green", bar.green},
-                                       {"blue", bar.blue}});
+    out_.block(page_text::frame_tail,
+               {{"isShown", bar.isShown},
+                {"since", bar.since},
+                {"top", bar.top},
+                {"moved", bar.moved},
+                {"hidden", bar.hidden},
+                {"message", bar.message},
+                {"shield", edition_.layering().shields({"barX", "barX + barW", "currentY", "currentY + barH"})},
+                {"red", bar.red},
+                {"green", bar.green},
+                {"blue", bar.blue}});
 }
 
 void WebEmitter::writeMain() {

@@ -35,7 +35,7 @@ void emitPress(WidgetWriter& bar, std::size_t itemCount) {
     $read
     float mx = pozhil_mouse_x();
     float my = pozhil_mouse_y();
-    bool isNavClicked = g_mouseClicked && (my >= navY);
+    bool isNavClicked = ${isTopmost}g_mouseClicked && (my >= navY);
     if (isNavClicked) {
         int clickedIdx = (int)(mx / itemW);
         nvgBeginPath(vg);
@@ -47,7 +47,8 @@ void emitPress(WidgetWriter& bar, std::size_t itemCount) {
         }
     }
 )",
-              {{"count", std::to_string(itemCount)},
+              {{"isTopmost", bar.edition().layering().takesPress(bar.key(), {"0.0f", "winW", "navY", "winH"})},
+               {"count", std::to_string(itemCount)},
                {"current", numberValue(bar, findProperty(bar.widget(), {"அடிப்பகுதிதேர்வு"}), 0.0F)},
                {"read", bar.blocks([&] {
                     bar.edition().writeStateRead(bar, {ControlState::Kind::Index, "currentIndex"});

@@ -19,6 +19,8 @@ std::string assignRgb(const std::string& prefix, const Colour& colour) {
            prefix + "b = " + std::to_string(bytes.blue) + ";";
 }
 
+constexpr PressArea AREA = {"btnX", "btnX + btnW", "btnY", "btnY + btnH"};
+
 std::optional<Colour> hoverColour(const WidgetNode& button) {
     return colourOf(findProperty(button, {"style_மேம்படுத்தப்பட்ட_நிறம்"}));
 }
@@ -93,8 +95,9 @@ void emitHover(WidgetWriter& button) {
     button.block(R"(
     float mx = pozhil_mouse_x();
     float my = pozhil_mouse_y();
-    bool isHover = mx >= btnX && mx <= btnX + btnW && my >= btnY && my <= btnY + btnH && (!g_block_background_clicks || g_inside_overlay);
-)");
+    bool isHover = ${isTopmost}mx >= btnX && mx <= btnX + btnW && my >= btnY && my <= btnY + btnH && (!g_block_background_clicks || g_inside_overlay);
+)",
+                 {{"isTopmost", button.edition().layering().takesPress(button.key(), AREA)}});
     emitAnimationProgress(button, "isHover");
     emitAnimationTargets(button, {"btnX", "btnY", "btnW", "btnH", "radius"});
     const bool isAnimated = button.widget().animation != nullptr;

@@ -82,9 +82,11 @@ void emitCard(WidgetWriter& card) {
     emitRectangle(card);
     emitBody(card);
     card.block(R"(
+    $shield
     nvgSave(vg);
     nvgIntersectScissor(vg, cardX, cardY, cardW, cardH);
-)");
+)",
+               {{"shield", card.edition().layering().shields({"cardX", "cardX + cardW", "cardY", "cardY + cardH"})}});
     emitClipRectangle(card, "cardX", "cardY", "cardW", "cardH");
     emitChildren(card);
     emitClipEnd(card);

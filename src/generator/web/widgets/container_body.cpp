@@ -58,6 +58,43 @@ void emitBoxSize(WidgetWriter& box, std::initializer_list<const char*> names, co
     }
 }
 
+// What lies over what.
+
+constexpr PressArea AREA = {"boxX", "boxX + boxW", "boxY", "boxY + boxH"};
+
+bool isPressed(const WidgetNode& box) {
+    return findProperty(box, {"அழுத்தினால்"}) != nullptr && dynamic_cast<const ContainerNode*>(&box) != nullptr;
+}
+
+bool showsHover(const WidgetNode& box) {
+    return hoverColourIn(box) || (box.animation != nullptr && startsOnHover(*box.animation));
+}
+
+const Expression* backgroundImageOf(const WidgetNode& box) {
+    const Expression* own = findProperty(box, {"பின்னணிபடம்"});
+    return own == nullptr ? styleProperty(box, {"பின்னணிபடம்"}) : own;
+}
+
+std::string topmostTest(const WidgetWriter& box) {
+    const Layering& layers = box.edition().layering();
+    if (isPressed(box.widget())) {
+        return layers.takesPress(box.key(), AREA);
+    }
+    return showsHover(box.widget()) ? layers.takesHover(box.key(), AREA) : "";
+}
+
+/// What nobody sees lets presses through.
+std::string shield(const WidgetWriter& box) {
+    const bool isSeen = colourIn(box.widget()).alpha > 0.0F || backgroundImageOf(box.widget()) != nullptr;
+    const bool isReached = isPressed(box.widget()) || showsHover(box.widget());
+    return isSeen && !isReached ? box.edition().layering().shields(AREA) : "";
+}
+
+std::string holder(const WidgetWriter& box) {
+    const bool takesPresses = isPressed(box.widget());
+    return takesPresses || showsHover(box.widget()) ? box.edition().layering().holds(box.key(), takesPresses) : "";
+}
+
 void emitRectangle(WidgetWriter& box) {
     const WidgetNode& widget = box.widget();
     box.block(R"(
@@ -74,9 +111,14 @@ void emitRectangle(WidgetWriter& box) {
     float shadow = $shadow;
     float mx = pozhil_mouse_x();
     float my = pozhil_mouse_y();
-    bool isBoxHover = mx >= boxX && mx <= boxX + boxW && my >= boxY && my <= boxY + boxH && (!g_block_background_clicks || g_inside_overlay);
+    bool isBoxHover = ${isTopmost}mx >= boxX && mx <= boxX + boxW && my >= boxY && my <= boxY + boxH && (!g_block_background_clicks || g_inside_overlay);
+    $shield
+    $holder
 )",
-              {{"radius", floatConstant(numberIn(widget, {"style_வளைவு", "வளைவு"}, "வளைவு"))},
+              {{"isTopmost", topmostTest(box)},
+               {"shield", shield(box)},
+               {"holder", holder(box)},
+               {"radius", floatConstant(numberIn(widget, {"style_வளைவு", "வளைவு"}, "வளைவு"))},
                {"shadow", floatConstant(numberIn(widget, {"நிழல்"}, "நிழல்"))}});
     if (findProperty(widget, {"அழுத்தினால்"}) != nullptr) {
         box.block("    if (isBoxHover) pozhil_pointer_cursor();\n");
@@ -156,8 +198,7 @@ void emitShadow(WidgetWriter& box) {
 
 /// The picture is kept by its path, which may change while the page runs.
 void emitFill(WidgetWriter& box) {
-    const Expression* own = findProperty(box.widget(), {"பின்னணிபடம்"});
-    const Expression* image = own == nullptr ? styleProperty(box.widget(), {"பின்னணிபடம்"}) : own;
+    const Expression* image = backgroundImageOf(box.widget());
     box.block(R"(
     nvgBeginPath(vg);
     nvgRoundedRect(vg, boxX, boxY, boxW, boxH, radius);
@@ -184,17 +225,18 @@ void emitFill(WidgetWriter& box) {
 }
 
 void emitPress(WidgetWriter& box) {
-    const Expression* handler = findProperty(box.widget(), {"அழுத்தினால்"});
-    if (handler == nullptr || dynamic_cast<const ContainerNode*>(&box.widget()) == nullptr) {
+    if (!isPressed(box.widget())) {
         return;
     }
-    box.block(R"(
-    bool isBoxClicked = g_mouseClicked && mx >= boxX && mx <= boxX + boxW && my >= boxY && my <= boxY + boxH;
+    const Expression* handler = findProperty(box.widget(), {"அழுத்தினால்"});
+    box.block(
+        R"(
+    bool isBoxClicked = ${isTopmost}g_mouseClicked && mx >= boxX && mx <= boxX + boxW && my >= boxY && my <= boxY + boxH;
     if (isBoxClicked) {
         $handler
     }
 )",
-              {{"handler", handlerCall(box, handler)}});
+        {{"isTopmost", box.edition().layering().takesPress(box.key(), AREA)}, {"handler", handlerCall(box, handler)}});
 }
 
 } // namespace

@@ -15,8 +15,10 @@ void emitRectangle(WidgetWriter& dialog) {
     dialog.block(R"(
 g_overlays.push_back([=]() mutable {
     nvgResetScissor(vg);
+    $shield
     float alertW = 400.0f; float alertH = 280.0f;
-)");
+)",
+                 {{"shield", dialog.edition().layering().shieldsPage()}});
     emitGivenSize(dialog, {"style_அகலம்", "அகலம்"}, "alertW", "winWidth");
     emitGivenSize(dialog, {"style_உயரம்", "உயரம்"}, "alertH", "winHeight");
     dialog.block(R"(

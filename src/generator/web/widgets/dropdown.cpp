@@ -86,9 +86,12 @@ void emitBox(WidgetWriter& dropdown) {
 /// The menu stands above the shapes of the page. Its closure has copies of where the pointer is and whether the box was
 /// clicked, but its assignments reach the static locals.
 void emitMenu(WidgetWriter& dropdown) {
+    const Layering& layers = dropdown.edition().layering();
     dropdown.block(R"(
     if (isOpen_$n) {
+        $declared
         g_overlays.push_back([=]() mutable {
+            $begun
             float itemH = 40.0f;
             float menuH = itemH * items.size();
             float menuY = ddY + ddH + 4;
@@ -101,7 +104,7 @@ void emitMenu(WidgetWriter& dropdown) {
             nvgStroke(vg);
             for (int i = 0; i < (int)items.size(); i++) {
                 float curY = menuY + i * itemH;
-                bool isItemHover = mx >= ddX && mx <= ddX + ddW && my >= curY && my < curY + itemH;
+                bool isItemHover = ${isOnTop}mx >= ddX && mx <= ddX + ddW && my >= curY && my < curY + itemH;
                 if (isItemHover) {
                     nvgBeginPath(vg);
                     nvgRect(vg, ddX, curY, ddW, itemH);
@@ -117,11 +120,14 @@ void emitMenu(WidgetWriter& dropdown) {
                 drawFixedText(ddX + 15, curY + itemH/2 - 8, items[i].c_str(), i == selectedIndex_$n ? "#2196F3" : "#333333", 16.0, "left");
             }
             bool isMenuHover = mx >= ddX && mx <= ddX + ddW && my >= menuY && my <= menuY + menuH;
-            if (g_mouseClicked && !isClicked && !isMenuHover) isOpen_$n = false;
+            if (${isOnTop}g_mouseClicked && !isClicked && !isMenuHover) isOpen_$n = false;
         });
     }
 )",
-                   {{"handler", changeOf(dropdown, stateOf(dropdown))}});
+                   {{"declared", layers.declaredMenu(dropdown.key())},
+                    {"begun", layers.begunMenu()},
+                    {"isOnTop", layers.isMenuOnTop()},
+                    {"handler", changeOf(dropdown, stateOf(dropdown))}});
 }
 
 /// கீழ்வரி: a box that opens a menu to choose from.

@@ -30,8 +30,10 @@ void emitHtmlInput(WidgetWriter& input) {
     nvgFillColor(vg, $fill);
     nvgFill(vg);
     pozhil_place_html_input(inputId.c_str(), $hint, "$background", "$colour", tx, ty, tw, th, winHeight);
+    $owned
 )",
-                {{"id", input.nameFrom("\"input_" + input.number() + "\"")},
+                {{"owned", input.edition().layering().owns(input.key(), {"tx", "tx + tw", "ty", "ty + th"})},
+                 {"id", input.nameFrom("\"input_" + input.number() + "\"")},
                  {"width", numberConstant(widget, {"style_அகலம்", "அகலம்"}, WIDTH)},
                  {"height", numberConstant(widget, {"style_உயரம்", "உயரம்"}, HEIGHT)},
                  {"fill", floatColour(background)},

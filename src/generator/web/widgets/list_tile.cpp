@@ -9,9 +9,13 @@
 namespace pozhil {
 namespace {
 
+constexpr PressArea AREA = {"ltX", "ltX + ltW", "ltY", "ltY + ltH"};
+
 void emitBody(WidgetWriter& tile) {
     constexpr float RADIUS = 8.0F;
     const WidgetNode& widget = tile.widget();
+    const Layering& layers = tile.edition().layering();
+    const bool isPressed = takesPresses(widget);
     const ByteColour colour = byteColour(colourProperty(widget, {"பின்னணி"}, "#FFFFFF"));
     tile.block(R"(
 {
@@ -26,7 +30,7 @@ void emitBody(WidgetWriter& tile) {
     ltW = responsiveW(ltW, winWidth, 0.0f);
     float mx = pozhil_mouse_x();
     float my = pozhil_mouse_y();
-    bool isHover = mx >= ltX && mx <= ltX + ltW && my >= ltY && my <= ltY + ltH && (!g_block_background_clicks || g_inside_overlay);
+    bool isHover = ${isTopmost}mx >= ltX && mx <= ltX + ltW && my >= ltY && my <= ltY + ltH && (!g_block_background_clicks || g_inside_overlay);
     int r = $red, g = $green, b = $blue;
     if (isHover) {
         pozhil_pointer_cursor();
@@ -39,9 +43,12 @@ void emitBody(WidgetWriter& tile) {
     nvgRoundedRect(vg, ltX, ltY, ltW, ltH, radius);
     nvgFillColor(vg, nvgRGBA(r, g, b, $alpha));
     nvgFill(vg);
+    $holder
     float currentContentX = ltX + 16.0f;
 )",
-               {{"radius", numberConstant(widget, {"வளைவு"}, RADIUS)},
+               {{"isTopmost", isPressed ? layers.takesPress(tile.key(), AREA) : layers.takesHover(tile.key(), AREA)},
+                {"holder", layers.holds(tile.key(), isPressed)},
+                {"radius", numberConstant(widget, {"வளைவு"}, RADIUS)},
                 {"red", std::to_string(colour.red)},
                 {"green", std::to_string(colour.green)},
                 {"blue", std::to_string(colour.blue)},

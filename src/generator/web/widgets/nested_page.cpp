@@ -21,10 +21,14 @@ if (g_currentPage == $literal) {
     nvgRect(vg, 0, 0, winWidth, winHeight);
     nvgFillColor(vg, nvgRGBA(245, 245, 245, 255));
     nvgFill(vg);
+    $shield
     $children
 }
 )",
-        {{"name", page.edition().inComment(name)}, {"literal", page.edition().literal(name)}, {"children", children}});
+        {{"name", page.edition().inComment(name)},
+         {"literal", page.edition().literal(name)},
+         {"shield", page.edition().layering().shieldsPage()},
+         {"children", children}});
 }
 
 } // namespace

@@ -71,14 +71,16 @@ void emitClear(WidgetWriter& bar) {
         $icon
         float mx = pozhil_mouse_x();
         float my = pozhil_mouse_y();
-        if (g_mouseClicked && std::hypot(mx - clearX, my - iconY) <= 15.0f) {
+        if (${isTopmost}g_mouseClicked && std::hypot(mx - clearX, my - iconY) <= 15.0f) {
             g_inputValues[sbId] = "";
             pozhil_clear_field(sbId.c_str());
         }
     }
 }
 )",
-              {{"icon", bar.blocks([&] {
+              {{"isTopmost", bar.edition().layering().takesPress(
+                                 bar.key(), {"clearX - 15.0f", "clearX + 15.0f", "iconY - 15.0f", "iconY + 15.0f"})},
+               {"icon", bar.blocks([&] {
                     if (!path.empty()) {
                         emitIconImage(bar, "cIcon", path, "clearX");
                         return;
@@ -104,8 +106,10 @@ void emitSearchBar(WidgetWriter& bar) {
     bar.block(R"(
     std::string sbId = $id;
     pozhil_place_search_field(sbId.c_str(), $hint, sbX, sbY, sbW, sbH, fSize);
+    $owned
 )",
-              {{"id", bar.nameFrom("\"search_\" + std::to_string(" + bar.number() + ")")},
+              {{"owned", bar.edition().layering().owns(bar.key(), {"sbX", "sbX + sbW", "sbY", "sbY + sbH"})},
+               {"id", bar.nameFrom("\"search_\" + std::to_string(" + bar.number() + ")")},
                {"hint", bar.edition().literal(hint.empty() ? "Search..." : hint)}});
     bar.edition().writeField(bar, "sbId");
     emitClear(bar);

@@ -53,13 +53,15 @@ void emitValue(WidgetWriter& slider) {
 
 /// The thumb follows the pointer while the button is down and the pointer near the track.
 void emitDrag(WidgetWriter& slider) {
+    constexpr PressArea AREA = {"slX - 10", "slX + slW + 10", "slY - 10", "slY + slH + 10"};
+    const Layering& layers = slider.edition().layering();
     slider.block(R"(
     float mx = pozhil_mouse_x();
     float my = pozhil_mouse_y();
-    bool isHover = mx >= slX - 10 && mx <= slX + slW + 10 && my >= slY - 10 && my <= slY + slH + 10;
+    bool isHover = ${isTopmost}mx >= slX - 10 && mx <= slX + slW + 10 && my >= slY - 10 && my <= slY + slH + 10;
     if (isHover) {
         pozhil_pointer_cursor();
-        if (isMouseDown) {
+        if (${isHeld}isMouseDown) {
             isDragging = true;
             float normalized = (mx - slX) / slW;
             if (normalized < 0.0f) normalized = 0.0f;
@@ -69,7 +71,9 @@ void emitDrag(WidgetWriter& slider) {
         }
     }
 )",
-                 {{"handler", changeOf(slider, stateOf(slider))}});
+                 {{"isTopmost", layers.takesPress(slider.key(), AREA)},
+                  {"isHeld", layers.isHeld(slider.key())},
+                  {"handler", changeOf(slider, stateOf(slider))}});
 }
 
 void emitTrackAndThumb(WidgetWriter& slider) {

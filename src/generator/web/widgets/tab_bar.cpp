@@ -48,7 +48,7 @@ void emitPress(WidgetWriter& bar, std::size_t tabCount) {
     float tabW = tbW / (float)(tabCount > 0 ? tabCount : 1);
     float mx = pozhil_mouse_x();
     float my = pozhil_mouse_y();
-    if (g_mouseClicked && mx >= tbX && mx <= tbX + tbW && my >= tbY && my <= tbY + tbH) {
+    if (${isTopmost}g_mouseClicked && mx >= tbX && mx <= tbX + tbW && my >= tbY && my <= tbY + tbH) {
         int clickedTab = (int)((mx - tbX) / tabW);
         nvgBeginPath(vg);
         nvgCircle(vg, tbX + clickedTab * tabW + tabW / 2, tbY + tbH / 2, 20);
@@ -64,7 +64,9 @@ void emitPress(WidgetWriter& bar, std::size_t tabCount) {
     nvgFillColor(vg, nvgRGBA(255, 255, 255, 255));
     nvgFill(vg);
 )",
-              {{"count", std::to_string(tabCount)}, {"handler", changeOf(bar, selectedTab())}});
+              {{"isTopmost", bar.edition().layering().takesPress(bar.key(), {"tbX", "tbX + tbW", "tbY", "tbY + tbH"})},
+               {"count", std::to_string(tabCount)},
+               {"handler", changeOf(bar, selectedTab())}});
 }
 
 void emitTab(WidgetWriter& bar, const WidgetNode& tab, std::size_t index) {

@@ -28,7 +28,8 @@ void emitPress(WidgetWriter& button) {
 void emitTextButton(WidgetWriter& button) {
     constexpr float USUAL_SIZE = 16.0F;
     const WidgetNode& widget = button.widget();
-    button.block(R"(
+    button.block(
+        R"(
 {
     const char* txt = u8$text; float fs = $size; float bX = $x; float bY = $y;
     nvgFontSize(vg, fs); nvgFontFace(vg, "sans");
@@ -38,10 +39,11 @@ void emitTextButton(WidgetWriter& button) {
     float bH = 40.0f;
     float mx = pozhil_mouse_x();
     float my = pozhil_mouse_y();
-    bool isHov = mx >= bX && mx <= bX + bW && my >= bY && my <= bY + bH;
+    bool isHov = ${isTopmost}mx >= bX && mx <= bX + bW && my >= bY && my <= bY + bH;
 )",
-                 {{"text", button.edition().literal(labelText(widget))},
-                  {"size", numberConstant(widget, {"style_அளவு"}, USUAL_SIZE)}});
+        {{"isTopmost", button.edition().layering().takesPress(button.key(), {"bX", "bX + bW", "bY", "bY + bH"})},
+         {"text", button.edition().literal(labelText(widget))},
+         {"size", numberConstant(widget, {"style_அளவு"}, USUAL_SIZE)}});
     emitPress(button);
     button.block(
         R"(

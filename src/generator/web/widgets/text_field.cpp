@@ -99,8 +99,10 @@ void emitOverlay(WidgetWriter& field, const std::string& id) {
     field.block(
         R"(
     pozhil_place_text_field($id, $hint, $manyLines, "$colour", tbX, tbY, tbW, tbH, prefixOffset, fSize);
+    $owned
 )",
-        {{"id", name},
+        {{"owned", edition.layering().owns(field.key(), {"tbX", "tbX + tbW", "tbY", "tbY + tbH"})},
+         {"id", name},
          {"hint", edition.literal(textOf(findProperty(field.widget(), {"குறிப்பு"})))},
          {"manyLines", hasManyLines ? "true" : "false"},
          {"colour", cssColour(colourProperty(field.widget(), {"style_எழுத்து_நிறம்", "எழுத்து_நிறம்"}, "#333333"))}});

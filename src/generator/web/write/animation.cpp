@@ -46,7 +46,7 @@ void emitAnimationProgress(WidgetWriter& widget, const char* isHover) {
     float t = getCurveValue($curve, progress);
 )",
                  {{"condition", widget.edition().literal(animation->condition)},
-                  {"key", widget.animationKey()},
+                  {"key", widget.key()},
                   {"isHover", isHover},
                   {"duration", floatConstant(animation->duration)},
                   {"curve", widget.edition().literal(animation->curve)}});

@@ -2,6 +2,11 @@
 
 namespace pozhil {
 
+const Layering& EditionWriter::layering() const {
+    static const Layering NONE;
+    return NONE;
+}
+
 void EditionWriter::writeEach(WidgetWriter&, const EachNode&, const std::string&, const Filling&, const Course*) {
     refuseElements();
 }

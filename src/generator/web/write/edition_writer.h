@@ -3,6 +3,7 @@
 #include "diagnostics/fault.h"
 #include "emit/emitted_block.h"
 #include "generator/web/write/colours.h"
+#include "generator/web/write/layering.h"
 #include "generator/web/write/presence.h"
 #include "parser/tree/node.h"
 
@@ -141,6 +142,9 @@ public:
     /// The function pozhil_open_alerts of the emitted program: a std::set<std::string> of the names by which widgets are
     /// there that mask the page.
     virtual void writeOpenAlerts(CodeWriter& out) = 0;
+
+    /// What lies over what.
+    virtual const Layering& layering() const;
 
     // Widgets that come once for each element of a list; in editions that have such.
 

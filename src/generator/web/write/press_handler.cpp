@@ -38,7 +38,7 @@ void emitPressArea(WidgetWriter& widget, const PressArea& area, const Filling& p
         R"(
     float mx = pozhil_mouse_x();
     float my = pozhil_mouse_y();
-    bool isHover = mx >= $left && mx <= $right && my >= $top && my <= $bottom;
+    bool isHover = ${isTopmost}mx >= $left && mx <= $right && my >= $top && my <= $bottom;
     if (isHover) {
         pozhil_pointer_cursor();
         if (g_mouseClicked) {
@@ -46,7 +46,16 @@ void emitPressArea(WidgetWriter& widget, const PressArea& area, const Filling& p
         }
     }
 )",
-        {{"left", area.left}, {"right", area.right}, {"top", area.top}, {"bottom", area.bottom}, {"press", press}});
+        {{"isTopmost", widget.edition().layering().takesPress(widget.key(), area)},
+         {"left", area.left},
+         {"right", area.right},
+         {"top", area.top},
+         {"bottom", area.bottom},
+         {"press", press}});
+}
+
+bool takesPresses(const WidgetNode& widget) {
+    return findProperty(widget, {"அழுத்தினால்"}) != nullptr || !widget.eventStatements.empty();
 }
 
 Filling pressHandler(WidgetWriter& widget) {

@@ -2,6 +2,7 @@
 
 #include "emit/emitted_block.h"
 #include "generator/web/write/edition_writer.h"
+#include "generator/web/write/layering.h"
 
 namespace pozhil {
 
@@ -22,16 +23,11 @@ Filling changeOf(WidgetWriter& control, const ControlState& state);
 /// Whether the widget is shown but answers nothing.
 bool isDisabled(const WidgetNode& widget);
 
-/// Texts of the emitted program for the edges of a rectangle.
-struct PressArea {
-    const char* left;
-    const char* right;
-    const char* top;
-    const char* bottom;
-};
-
 /// The test for the pointer in the rectangle, and what a click there does: lines for a hole alone in its line.
 void emitPressArea(WidgetWriter& widget, const PressArea& area, const Filling& press);
+
+/// Whether a press does anything.
+bool takesPresses(const WidgetNode& widget);
 
 /// What a press does: அழுத்தினால், else the statements that the source wrote in its place.
 Filling pressHandler(WidgetWriter& widget);

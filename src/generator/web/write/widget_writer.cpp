@@ -173,7 +173,7 @@ std::string WidgetWriter::nameFrom(const std::string& name) const {
     return isInEach() ? edition().elementName(name) : name;
 }
 
-std::string WidgetWriter::animationKey() const {
+std::string WidgetWriter::key() const {
     const std::string key = number() + "ULL";
     return isInEach() ? edition().elementKey(key) : key;
 }

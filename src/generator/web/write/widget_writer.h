@@ -84,8 +84,9 @@ public:
     /// A std::string of the emitted text by which the page knows what it makes for the widget. In a list each element has
     /// one of its own.
     std::string nameFrom(const std::string& name) const;
-    /// An unsigned number of the emitted text by which the widget's animation is known.
-    std::string animationKey() const;
+    /// An unsigned number of the emitted text by which the running page knows the widget. In a list each element
+    /// has one of its own.
+    std::string key() const;
 
     /// A fault in the source that is told without its place, to be thrown.
     Fault faultWithoutPlace(const std::string& code, std::int32_t line, const std::string& details) const;
