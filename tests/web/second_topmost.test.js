@@ -87,3 +87,134 @@ webTest('the pointer is over the topmost widget alone', overlapping, async page 
     assert.equal(await page.cursor(), 'default');
     assert.deepEqual(await colours(310, 78), [RED, RED, RED, BLUE]);
 });
+
+// --- what moves ---
+
+const moving = second(`
+        நெடுவரிசை(
+            ஒவ்வொன்றும்(பட்டியல்: எண்கள், உருப்படி: எண், சாவி: எண்)(
+                பொத்தான்(உரை: "எண் " இணை எண், பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்: () => நீக்கி_சொல்(எண்))
+            ),
+            பொத்தான்(உரை: "முடிவு", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்: () => சொல்("முடிவு")),
+            உரை(சொன்னவை)
+        )`, `
+        எண்கள் = [1, 2, 3, 4]
+        செயல் நீக்கி_சொல்(எண்):
+            சொல்(எண்)
+            நீக்கு(எண்கள், எண்)
+${TELLING}`);
+
+webTest('what was seen under the pointer is pressed, whatever the list has become since', moving, async page => {
+    await page.moveTo(100, 60);
+    // Each press is over before the frame comes that shows what the one before it has done.
+    const presses = count => page.page.evaluate(async wanted => {
+        for (let press = 0; press < wanted; press++) {
+            window.dispatchEvent(new MouseEvent('mousedown'));
+            const drawn = window.recorded.frames;
+            while (window.recorded.frames === drawn) {
+                await new Promise(requestAnimationFrame);
+            }
+            window.dispatchEvent(new MouseEvent('mouseup'));
+        }
+    }, count);
+    await expectPresses(page, () => presses(1), '2');
+    await expectPresses(page, () => page.click(100, 60), '3');
+    // The handler of the first press has removed the button before the second press comes, which so meets nothing.
+    await expectPresses(page, () => presses(2), '4');
+    await expectPresses(page, () => page.click(100, 60), 'முடிவு');
+});
+
+// --- menus and dialogs ---
+
+const under = second(stack(
+    button('கீழ்', at(0, 44)), `அளவி(${at(0, 100)}, அகலம்: 200, மதிப்பு: அளவு)`, button('அருகே', at(300, 0)),
+    `கீழ்வரி(${at(0, 0)}, அகலம்: 200, பட்டியல்: ["அ", "ஆ", "இ"], மாறியதால்: (புதியது) => சொல்(புதியது))`,
+    'உரை("அளவு " இணை அளவு, நகர்வு_Y: 330)', told), `
+        அளவு = 10
+${TELLING}`);
+
+async function checkMenu(page, press) {
+    const presses = (x, y, ...names) => expectPresses(page, () => press(x, y), ...names);
+    const isOpen = async () => (await page.texts()).some(({ text }) => text === 'இ');
+    await presses(60, 60, 'கீழ்');
+    await presses(60, 20);
+    assert.ok(await isOpen());
+    await presses(60, 60, 'அ');
+    assert.ok(!await isOpen());
+    // The slider lies under the second choice.
+    await presses(150, 20);
+    await presses(150, 110, 'ஆ');
+    await page.text('அளவு 10');
+    await presses(60, 20);
+    await presses(350, 20);
+    assert.ok(!await isOpen());
+    await presses(350, 20, 'அருகே');
+    await presses(60, 20);
+    await presses(60, 20);
+    assert.ok(!await isOpen());
+    await presses(60, 20);
+    assert.ok(await isOpen());
+}
+
+webTest('an open menu shields the page, and a press beside it only closes it', under, async page => {
+    await checkMenu(page, (x, y) => page.click(x, y));
+    await page.moveTo(60, 60);
+    assert.deepEqual(await page.pixel(190, 50), [240, 240, 240]);
+    await page.moveTo(350, 20);
+    assert.deepEqual(await page.pixel(303, 3), RED);
+    await page.moveTo(60, 60);
+    await page.page.mouse.down();
+    // As long as the button is down, what comes to lie under the pointer isn't dragged.
+    await page.moveTo(150, 110);
+    await page.page.mouse.up();
+    await page.text('அளவு 10');
+});
+
+webTest('an open menu shields the page from fingers', under, { ...PHONE, viewport: { width: 500, height: 800 } },
+        async page => {
+    await checkMenu(page, (x, y) => page.tap(x, y));
+});
+
+const dialogs = second(stack(
+    button('பக்கம்', at(0, 0)), button('திற', at(150, 0), 120, 40, 'திற'),
+    'எச்சரிக்கை(காட்சி_பெயர்: "ஒன்று", எச்சரிக்கை_பாணி(அகலம்: 300, உயரம்: 200))(பெட்டி(அகலம்: 300, உயரம்: 200, அழுத்தினால்: () => சொல்("ஒன்று")))',
+    `எச்சரிக்கை(காட்சி_பெயர்: "இரண்டு", எச்சரிக்கை_பாணி(அகலம்: 200, உயரம்: 100))(
+                பெட்டி(அகலம்: 200, உயரம்: 100, அழுத்தினால்: மூடு)(${button('உள்', 'சீரமைப்பு: மையம்', 60)}))`, told), `
+        ஒன்று = பொய்
+        இரண்டு = பொய்
+        செயல் திற():
+            ஒன்று = மெய்
+            இரண்டு = மெய்
+        செயல் மூடு():
+            சொல்("மூடு")
+            இரண்டு = பொய்
+${TELLING}`);
+
+webTest('the last of the open dialogs takes all presses', dialogs, async page => {
+    const presses = (x, y, ...names) => expectPresses(page, () => page.click(x, y), ...names);
+    await presses(60, 20, 'பக்கம்');
+    await presses(210, 20);
+    await presses(60, 20);
+    await presses(120, 200);
+    await presses(250, 200, 'உள்');
+    await presses(170, 170, 'மூடு');
+    await presses(250, 200, 'ஒன்று');
+    await presses(60, 20);
+});
+
+const covered = second(stack(
+    button('சொல்', at(0, 0), 120, 40, 'அறிவிப்பு_பட்டை(செய்தி: "வணக்கம்", பின்னணி: "#008800")'),
+    button('மேலே', at(200, 50)), button('கீழே', at(0, 350)),
+    `அடிப்பகுதி(${at(0, 0)}, அழுத்தினால்: () => சொல்("பட்டை"), அடி_உருப்படி(உரை("அ"), அழுத்தினால்: () => சொல்("அ")), அடி_உருப்படி(உரை("ஆ")))`,
+    'உரை(சொன்னவை, நகர்வு_Y: 300)'), TELLING);
+
+webTest('bars and messages shield what is under them', covered, async page => {
+    const presses = (x, y, ...names) => expectPresses(page, () => page.click(x, y), ...names);
+    await presses(60, 370, 'பட்டை', 'அ');
+    await presses(400, 370, 'பட்டை');
+    await presses(250, 70, 'மேலே');
+    await page.click(60, 20);
+    await page.frames(20);
+    assert.deepEqual(await page.pixel(130, 60), [0, 136, 0]);
+    await presses(250, 70);
+});
