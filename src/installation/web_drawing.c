@@ -5,6 +5,7 @@
 /* What is drawn is noted down on the way, for the page: by the shapes of a frame it tells those who can't see them what
  * stands where. What nobody can see is noted down alone. */
 #define nvgBeginFrame pozhilBeginFrame
+#define nvgBeginPath pozhilBeginPath
 #define nvgRect pozhilRect
 #define nvgRoundedRect pozhilRoundedRect
 #define nvgCircle pozhilCircle
@@ -17,6 +18,7 @@
 #define nvgStroke pozhilStroke
 #include "nanovg.c"
 #undef nvgBeginFrame
+#undef nvgBeginPath
 #undef nvgRect
 #undef nvgRoundedRect
 #undef nvgCircle
@@ -29,6 +31,8 @@
 #undef nvgStroke
 
 #include "web_drawing_window.h"
+
+#include "web_drawing_covers.h"
 
 #include <emscripten.h>
 
@@ -75,29 +79,39 @@ static void note(struct Shape shape) {
 
 void nvgBeginFrame(NVGcontext* context, float width, float height, float ratio) {
     shapes.count = 0;
+    covers.count = 0;
     screen_ratio = ratio;
     window.width = width;
     window.height = height;
     pozhilBeginFrame(context, width, height, ratio);
 }
 
+void nvgBeginPath(NVGcontext* context) {
+    beginPath();
+    pozhilBeginPath(context);
+}
+
 void nvgRect(NVGcontext* context, float x, float y, float width, float height) {
     note((struct Shape){RECT, x, y, width, height, 0});
+    addToPath(x, y, width, height, 0);
     pozhilRect(context, x, y, width, height);
 }
 
 void nvgRoundedRect(NVGcontext* context, float x, float y, float width, float height, float radius) {
     note((struct Shape){ROUNDED_RECT, x, y, width, height, radius});
+    addToPath(x, y, width, height, radius);
     pozhilRoundedRect(context, x, y, width, height, radius);
 }
 
 void nvgCircle(NVGcontext* context, float x, float y, float radius) {
     note((struct Shape){CIRCLE, x, y, radius, 0, 0});
+    addToPath(x - radius, y - radius, 2 * radius, 2 * radius, radius);
     pozhilCircle(context, x, y, radius);
 }
 
 void nvgMoveTo(NVGcontext* context, float x, float y) {
     note((struct Shape){LINE, x, y, 0, 0, 0});
+    addLineToPath();
     pozhilMoveTo(context, x, y);
 }
 
@@ -117,6 +131,7 @@ void nvgFillPaint(NVGcontext* context, NVGpaint paint) {
 
 void nvgFill(NVGcontext* context) {
     if (isPathInWindow(context, fillReach(context))) {
+        noteCover(context);
         pozhilFill(context);
     }
 }

@@ -2,6 +2,7 @@
 
 import { second } from './harness/editions.js';
 import { PHONE, assert, webTest } from './harness/index.js';
+import { png } from './harness/pictures.js';
 
 const RED = [255, 0, 0];
 const GREEN = [0, 255, 0];
@@ -217,4 +218,86 @@ webTest('bars and messages shield what is under them', covered, async page => {
     await page.frames(20);
     assert.deepEqual(await page.pixel(130, 60), [0, 136, 0]);
     await presses(250, 70);
+});
+
+// --- what is seen ---
+
+/// How many pixels of the area have the colour of the text in it.
+const inked = (page, x, y, width, height, colour) => page.page.evaluate(async ([left, top, across, down, wanted]) => {
+    const canvas = document.getElementById('textCanvas');
+    const scale = devicePixelRatio;
+    const { data } = canvas.getContext('2d').getImageData(left * scale, top * scale, across * scale, down * scale);
+    let count = 0;
+    for (let at = 0; at < data.length; at += 4) {
+        count += data[at + 3] > 128 && (!wanted || wanted.every((part, index) => Math.abs(data[at + index] - part) < 40));
+    }
+    return count;
+}, [x, y, width, height, colour]);
+
+const SQUARE = png(8, RED);
+
+const layered = second(stack(
+    `உரை("கீழ்க்கீழ்க்கீழ்", ${at(10, 10)}, உரைபாணி(அளவு: 40))`, box(`${at(0, 0)}, அகலம்: 60, உயரம்: 100, பின்னணி: "#00FF00"`),
+    `உரை("மேல்", ${at(10, 10)}, உரைபாணி(அளவு: 40, நிறம்: "#0000FF"))`,
+    `உரை("படத்தின்கீழ்", ${at(10, 110)}, உரைபாணி(அளவு: 40))`, `படம்(${at(0, 100)}, பாதை: "red.png", அகலம்: 60, உயரம்: 60)`,
+    `உரை("கண்ணாடி", ${at(200, 110)}, உரைபாணி(அளவு: 40))`, box(`${at(195, 100)}, அகலம்: 60, உயரம்: 100, பின்னணி: "#00FF0080"`),
+    `உரை("மறைந்தும் தெரியும்", ${at(10, 210)}, உரைபாணி(அளவு: 40))`, box(`${at(0, 200)}, அகலம்: 60, உயரம்: 60, பின்னணி: "#00000000"`),
+    `உரைபெட்டி(${at(10, 300)}, அடையாளம்: "பெயர்", அகலம்: 200)`, box(`${at(0, 290)}, அகலம்: 60, உயரம்: 70, பின்னணி: "#00FF00"`)));
+
+webTest('a text is seen where nothing is drawn over it later', layered, { files: { 'red.png': SQUARE } }, async page => {
+    await page.frames(10);
+    const black = [0, 0, 0];
+    assert.equal(await inked(page, 0, 0, 60, 100, black), 0);
+    assert.ok(await inked(page, 60, 0, 200, 100, black) > 50);
+    assert.ok(await inked(page, 0, 0, 60, 100, BLUE) > 50);
+    assert.equal(await inked(page, 0, 100, 60, 60), 0);
+    assert.ok(await inked(page, 60, 100, 100, 60) > 50);
+    // A box that one sees through leaves half of the text.
+    assert.equal(await inked(page, 195, 100, 60, 90), 0);
+    assert.ok(await inked(page, 255, 100, 100, 90) > 50);
+    assert.ok(await inked(page, 0, 200, 60, 60) > 50);
+});
+
+webTest('a field is seen and reached where nothing is drawn over it later', layered, { files: { 'red.png': SQUARE } },
+        async page => {
+    const at = (x, y) => page.page.evaluate(([left, top]) => document.elementFromPoint(left, top).id, [x, y]);
+    await page.frames(3);
+    assert.notEqual(await at(40, 325), 'பெயர்');
+    assert.equal(await at(100, 325), 'பெயர்');
+    await page.click(40, 325);
+    assert.notEqual(await page.page.evaluate(() => document.activeElement.id), 'பெயர்');
+    await page.click(100, 325);
+    assert.equal(await page.page.evaluate(() => document.activeElement.id), 'பெயர்');
+});
+
+const scrolled = second(`
+        நெடுவரிசை(
+            பெட்டி(அகலம்: 300, உயரம்: 160, பின்னணி: "#00FF00"),
+            பட்டியல்_காட்சி(
+                ${Array.from({ length: 30 }, (_, index) => `உரை("வரி ${index}", உரைபாணி(அளவு: 40, அடிக்குறிப்பு: மெய்)), உரைபெட்டி(அடையாளம்: "உ${index}", அகலம்: 200)`).join(', ')}
+            )
+        )`);
+
+webTest('texts and fields are cut with what scrolls them', scrolled, async page => {
+    const fieldAt = y => page.page.evaluate(top => document.elementFromPoint(250, top).id, y);
+    const places = async () => {
+        const { y } = await page.text('வரி 0');
+        const { y: top, height } = await page.element('#உ0');
+        return [y, top, top + height];
+    };
+    assert.equal(await inked(page, 0, 0, 500, 155), 0);
+    const [before, field] = await places();
+    assert.ok(before >= 160);
+    assert.equal(await fieldAt(field + 5), 'உ0');
+
+    await page.moveTo(480, 300);
+    await page.wheel(0, 75);
+    const [y, top, bottom] = await places();
+    assert.ok(y < 130 && top < 155 && bottom > 165, JSON.stringify([y, top, bottom]));
+    assert.equal(await inked(page, 0, 0, 500, 155), 0);
+    assert.notEqual(await fieldAt(top + 5), 'உ0');
+    assert.equal(await fieldAt(bottom - 3), 'உ0');
+    // What is out of sight can't be reached either.
+    await page.wheel(0, 75);
+    assert.notEqual(await fieldAt((await places())[1] + 5), 'உ0');
 });

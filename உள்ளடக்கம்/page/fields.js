@@ -1,6 +1,6 @@
 // Fields are elements of the browser over the canvas. They keep to the page: none shows through a dialog, and none that the
 // keyboard reaches pulls the page out of its window; nor does what a search finds.
-(() => {
+var pozhilFields = (() => {
     // What lies higher isn't dimmed with the texts.
     const TEXT_LAYER = 1000;
     // Beside the left edge of a field.
@@ -25,6 +25,18 @@
     });
     pozhilTextCanvas.watch('quadraticCurveTo', (...curve) => { corners.push(curve); });
 
+    /// Of this frame: what can be seen but not reached, since a menu is open.
+    const shielded = new Set();
+
+    /// The fields that have been drawn so far can't be reached in this frame.
+    function shield() {
+        fields().forEach(field => {
+            if (field.dataset.touched === '1') {
+                shielded.add(field);
+            }
+        });
+    }
+
     function overlaps(field, dialog) {
         const { left, right, top, bottom } = field.getBoundingClientRect();
         const across = dialog.map(([x]) => x);
@@ -38,13 +50,15 @@
         fields().forEach(field => {
             const dialogs = under.get(field) ?? [];
             const isUnder = dialogs.length > 0;
-            if (field.inert !== isUnder) {
-                field.inert = isUnder;
+            const isInert = isUnder || shielded.has(field);
+            if (field.inert !== isInert) {
+                field.inert = isInert;
             }
             field.classList.toggle('pozhil-under', isUnder && (
                 Number(field.style.zIndex) > TEXT_LAYER || dialogs.some(dialog => overlaps(field, dialog))));
         });
         under.clear();
+        shielded.clear();
     }
 
     pozhilFrames.after(cover);
@@ -106,4 +120,6 @@
             pointer = null;
         }
     });
+
+    return { shield };
 })();

@@ -7,6 +7,7 @@ var pozhilPointer = (() => {
     const FRAMES_FOR_WHEEL = 3;
 
     let isTapping = false;
+    let target = null;
     let framesWithWheel = 0;
 
     function moveTo(x, y) {
@@ -29,10 +30,19 @@ var pozhilPointer = (() => {
     }
 
     /// Presses where the pointer is, for one frame; after it the pointer leaves.
-    function tap() {
+    /// @param area what is meant by that, { x, y, width, height }, if it isn't just what lies on top there
+    function tap(area = null) {
+        target = area;
         hold(true);
         window.mouseClicked = 1;
         isTapping = true;
+    }
+
+    /// The area of the press that the next frame gets, null if there is none.
+    function takeTarget() {
+        const area = target;
+        target = null;
+        return area;
     }
 
     function turnWheel(x, y) {
@@ -63,5 +73,5 @@ var pozhilPointer = (() => {
         }
     }, true);
 
-    return { moveTo, leave, hold, tap, turnWheel };
+    return { moveTo, leave, hold, tap, takeTarget, turnWheel };
 })();

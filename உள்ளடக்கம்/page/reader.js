@@ -358,7 +358,7 @@
         if (waiting?.element.isConnected) {
             const { x, y, width, height } = itemOf.get(waiting.element);
             pozhilPointer.moveTo(x + width * waiting.ratio, y + height / 2);
-            pozhilPointer.tap();
+            pozhilPointer.tap({ x, y, width, height });
             pozhilFrames.wake();
         }
         waiting = null;

@@ -126,6 +126,59 @@ var pozhilTextCanvas = (() => {
         browser.fillText.call(context, ...values);
     }
 
+    // --- what is over and under texts ---
+
+    /// Who decides whether and how a text is written.
+    let writeThrough = draw => draw();
+    let lastArea = null;
+
+    const PARTS_TO_THE_LEFT = { center: 0.5, right: 1, end: 1 };
+
+    /// Where a text stands: x and y of its corner, its width and the size of its font.
+    function areaOf(text, left, y) {
+        const { textAlign, textBaseline } = wanted;
+        Object.assign(wanted, { textAlign: 'start', textBaseline: 'alphabetic' });
+        const { width } = remembering.measureText.call(context, text);
+        Object.assign(wanted, { textAlign, textBaseline });
+        const x = left - width * (PARTS_TO_THE_LEFT[textAlign] ?? 0);
+        lastArea = { x, y, width, size: sizeOf(wanted.font) };
+        return lastArea;
+    }
+
+    /// From now on `write(draw, areaOf)` writes texts: `draw` writes one, `areaOf` tells where it stands, as { x, y, width,
+    /// size }.
+    function through(write) {
+        writeThrough = write;
+    }
+
+    /// What `draw` draws is cut to the area.
+    function within({ left, right, top, bottom }, draw) {
+        NAMES.forEach(tell);
+        browser.save.call(context);
+        cutTo(left, top, right - left, bottom - top);
+        draw();
+        browser.restore.call(context);
+    }
+
+    function cutTo(...rectangle) {
+        const cut = new Path2D();
+        cut.rect(...rectangle);
+        browser.clip.call(context, cut);
+    }
+
+    /// Takes back what is written where the shape lies, as far as it lies between left, right, top and bottom.
+    function erase({ x, y, width, height, radius, strength: part, left, right, top, bottom }) {
+        const shape = new Path2D();
+        shape.roundRect(x, y, width, height, Math.max(0, radius));
+        browser.save.call(context);
+        cutTo(left, top, right - left, bottom - top);
+        accessors.globalCompositeOperation.set.call(context, 'destination-out');
+        accessors.globalAlpha.set.call(context, part);
+        accessors.fillStyle.set.call(context, '#000');
+        browser.fill.call(context, shape);
+        browser.restore.call(context);
+    }
+
     // --- the context of the program: one that others watch, on one that remembers, on the browser's ---
 
     const remembering = Object.create(browser);
@@ -170,12 +223,14 @@ var pozhilTextCanvas = (() => {
         },
         fillText(text, left, top, ...most) {
             if (!isOutside(top)) {
-                NAMES_OF_TEXT.forEach(tell);
-                if (strength === 1) {
-                    browser.fillText.call(this, text, left, top, ...most);
-                } else {
-                    fillFaded(text, left, top, ...most);
-                }
+                writeThrough(() => {
+                    NAMES_OF_TEXT.forEach(tell);
+                    if (strength === 1) {
+                        browser.fillText.call(this, text, left, top, ...most);
+                    } else {
+                        fillFaded(text, left, top, ...most);
+                    }
+                }, () => areaOf(text, left, top));
             }
         },
         measureText(text) {
@@ -208,12 +263,19 @@ var pozhilTextCanvas = (() => {
             browser.scale.call(this, x, y);
         },
     });
-    for (const method of ['fillRect', 'fill', 'stroke']) {
+    for (const method of ['fillRect', 'fill']) {
         remembering[method] = function (...values) {
             NAMES.forEach(tell);
             browser[method].apply(this, values);
         };
     }
+    // Of the lines under texts.
+    remembering.stroke = function (...values) {
+        writeThrough(() => {
+            NAMES.forEach(tell);
+            browser.stroke.apply(this, values);
+        }, () => lastArea);
+    };
 
     // What neither asks what is set nor changes it.
     const FREE = ['constructor', 'canvas', 'clearRect', 'beginPath', 'moveTo', 'lineTo', 'quadraticCurveTo', 'closePath',
@@ -289,5 +351,5 @@ var pozhilTextCanvas = (() => {
         strength = part;
     }
 
-    return { watch, fade };
+    return { watch, fade, through, within, erase };
 })();

@@ -28,8 +28,8 @@ std::string PageLayering::isMenuOnTop() const {
     return "isMenuOnTop && ";
 }
 
-std::string PageLayering::owns(const std::string& key, const PressArea& area) const {
-    return "page::takesPress(" + key + ", " + areaText(area) + ");\n";
+std::string PageLayering::hasField(const std::string& key, const PressArea& area, const std::string& id) const {
+    return "page::hasField(" + key + ", " + areaText(area) + ", " + id + ");\n";
 }
 
 std::string PageLayering::shields(const PressArea& area) const {
@@ -50,7 +50,12 @@ std::string PageLayering::declaredMenu(const std::string& key) const {
 
 /// While a menu is open it takes all presses, also those that only close it.
 std::string PageLayering::begunMenu() const {
-    return "const bool isMenuOnTop = page::takesPress(menuKey, " + areaText(WINDOW) + ");\n";
+    return "const bool isMenuOnTop = page::takesAllPresses(menuKey, " + areaText(WINDOW) + ");\n";
+}
+
+std::string PageLayering::cutsTo(const CutArea& area, bool alsoTexts) const {
+    return std::string("const page::Cut cut(") + area.x + ", " + area.y + ", " + area.width + ", " + area.height +
+           ", " + (alsoTexts ? "true" : "false") + ");\n";
 }
 
 } // namespace pozhil::resolved::writer

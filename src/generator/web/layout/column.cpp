@@ -45,7 +45,7 @@ void emitScrolling(WidgetWriter& column, const Extent& contentHeight) {
 )",
         {{"contentH", contentHeight.text()}, {"state", column.state("float", "scrollY_" + column.number(), "0.0f")}});
     emitScrollLimits(column, AXIS, "contentH", "colH");
-    emitClip(column, "colX", "colY", "colW", "colH");
+    emitScrollClip(column, {"colX", "colY", "colW", "colH"});
     emitScrollToId(column, "scrollY", "colY", SCROLL_Y);
 }
 

@@ -151,21 +151,47 @@ void emitVisibleChild(WidgetWriter& layout, const WidgetNode& child, const char*
                   {"child", layout.blocks([&] { layout.child(child, x, y); })}});
 }
 
-void emitClip(WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height) {
+namespace {
+
+void emitScissor(WidgetWriter& layout, const CutArea& area) {
     layout.block(R"(
     nvgSave(vg);
-    nvgScissor(vg, $left, $top, $width, $height);
+    $scissor(vg, $left, $top, $width, $height);
 )",
-                 {{"left", x}, {"top", y}, {"width", width}, {"height", height}});
-    emitClipRectangle(layout, x, y, width, height);
+                 {{"scissor", layout.edition().layering().scissor()},
+                  {"left", area.x},
+                  {"top", area.y},
+                  {"width", area.width},
+                  {"height", area.height}});
 }
 
-void emitClipRectangle(WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height) {
+void emitRectangle(WidgetWriter& layout, const CutArea& area, bool alsoTexts) {
     layout.block(R"(
     float oldClipX = g_currentClipX, oldClipY = g_currentClipY, oldClipW = g_currentClipW, oldClipH = g_currentClipH;
     g_currentClipX = $left; g_currentClipY = $top; g_currentClipW = $width; g_currentClipH = $height;
+    $cut
 )",
-                 {{"left", x}, {"top", y}, {"width", width}, {"height", height}});
+                 {{"left", area.x},
+                  {"top", area.y},
+                  {"width", area.width},
+                  {"height", area.height},
+                  {"cut", layout.edition().layering().cutsTo(area, alsoTexts)}});
+}
+
+} // namespace
+
+void emitScrollClip(WidgetWriter& layout, const CutArea& area) {
+    emitScissor(layout, area);
+    emitRectangle(layout, area, true);
+}
+
+void emitClip(WidgetWriter& layout, const CutArea& area) {
+    emitScissor(layout, area);
+    emitRectangle(layout, area, false);
+}
+
+void emitClipRectangle(WidgetWriter& layout, const CutArea& area) {
+    emitRectangle(layout, area, false);
 }
 
 void emitClipEnd(WidgetWriter& layout) {

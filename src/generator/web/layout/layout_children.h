@@ -1,6 +1,7 @@
 #pragma once
 
 #include "generator/web/write/extent.h"
+#include "generator/web/write/layering.h"
 #include "parser/syntax_tree.h"
 
 #include <initializer_list>
@@ -36,9 +37,11 @@ void emitLayoutSize(WidgetWriter& layout, std::initializer_list<const char*> nam
                     const char* forced, const char* window);
 
 /// The clip rectangle of a scrolling layout; written before its children, and taken back after them.
-void emitClip(WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height);
+void emitScrollClip(WidgetWriter& layout, const CutArea& area);
+/// The same for what doesn't scroll: its texts may stand out of it.
+void emitClip(WidgetWriter& layout, const CutArea& area);
 /// What the widgets inside know of the clip rectangle, for a layout that sets the clip itself.
-void emitClipRectangle(WidgetWriter& layout, const char* x, const char* y, const char* width, const char* height);
+void emitClipRectangle(WidgetWriter& layout, const CutArea& area);
 void emitClipEnd(WidgetWriter& layout);
 
 /// Writes a child that stands where the texts \p x and \p y of the emitted program tell. Of the elements of a list, of which

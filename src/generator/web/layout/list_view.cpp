@@ -7,7 +7,7 @@ namespace pozhil {
 namespace {
 
 void emitScrolling(WidgetWriter& list) {
-    emitClip(list, "listStartX", "listStartY", "winWidth", "winHeight");
+    emitScrollClip(list, {"listStartX", "listStartY", "winWidth", "winHeight"});
     list.block(R"(
     $state;
     float mouseX = pozhil_mouse_x();

@@ -45,7 +45,7 @@ void emitScrolling(WidgetWriter& row, const Extent& contentWidth) {
 )",
               {{"contentW", contentWidth.text()}, {"state", row.state("float", "scrollX_" + row.number(), "0.0f")}});
     emitScrollLimits(row, AXIS, "contentW", "rowW");
-    emitClip(row, "rowX", "rowY", "rowW", "rowH");
+    emitScrollClip(row, {"rowX", "rowY", "rowW", "rowH"});
     emitScrollToId(row, "scrollX", "rowX", SCROLL_X);
 }
 

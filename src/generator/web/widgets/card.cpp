@@ -87,7 +87,7 @@ void emitCard(WidgetWriter& card) {
     nvgIntersectScissor(vg, cardX, cardY, cardW, cardH);
 )",
                {{"shield", card.edition().layering().shields({"cardX", "cardX + cardW", "cardY", "cardY + cardH"})}});
-    emitClipRectangle(card, "cardX", "cardY", "cardW", "cardH");
+    emitClipRectangle(card, {"cardX", "cardY", "cardW", "cardH"});
     emitChildren(card);
     emitClipEnd(card);
     card.block("}\n");

@@ -77,7 +77,7 @@ void emitContainer(WidgetWriter& box) {
     nvgBeginPath(vg);
     nvgIntersectScissor(vg, boxX, boxY, boxW, boxH);
 )");
-    emitClipRectangle(box, "boxX", "boxY", "boxW", "boxH");
+    emitClipRectangle(box, {"boxX", "boxY", "boxW", "boxH"});
     box.block("    float oldForcedW_container = forcedW; float oldForcedH_container = forcedH;\n");
     box.eachChild(childWidgets(box.widget()), [&](const WidgetNode& child) {
         if (child.kind != language::widget::BOX_STYLE) {

@@ -58,7 +58,7 @@ void emitBody(WidgetWriter& dialog) {
 void emitDialog(WidgetWriter& dialog) {
     emitRectangle(dialog);
     emitBody(dialog);
-    emitClip(dialog, "alertX", "alertY", "alertW", "alertH");
+    emitClip(dialog, {"alertX", "alertY", "alertW", "alertH"});
     dialog.eachChild(childWidgets(dialog.widget()), [&](const WidgetNode& child) {
         dialog.block(R"(
     {

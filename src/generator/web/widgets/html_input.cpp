@@ -18,7 +18,8 @@ void emitHtmlInput(WidgetWriter& input) {
     const Colour background = colourProperty(widget, {"பின்னணி", "நிறம்"}, "#FFFFFF");
     const Colour textColour = hasBackground ? colourProperty(widget, {"எழுத்து_நிறம்", "நிறம்"}, "#000000")
                                             : colourProperty(widget, {"எழுத்து_நிறம்"}, "#000000");
-    input.block(R"(
+    input.block(
+        R"(
 {
     std::string inputId = $id;
     float tx = std::floor($x); float ty = std::floor($y);
@@ -30,16 +31,16 @@ void emitHtmlInput(WidgetWriter& input) {
     nvgFillColor(vg, $fill);
     nvgFill(vg);
     pozhil_place_html_input(inputId.c_str(), $hint, "$background", "$colour", tx, ty, tw, th, winHeight);
-    $owned
+    $field
 )",
-                {{"owned", input.edition().layering().owns(input.key(), {"tx", "tx + tw", "ty", "ty + th"})},
-                 {"id", input.nameFrom("\"input_" + input.number() + "\"")},
-                 {"width", numberConstant(widget, {"style_அகலம்", "அகலம்"}, WIDTH)},
-                 {"height", numberConstant(widget, {"style_உயரம்", "உயரம்"}, HEIGHT)},
-                 {"fill", floatColour(background)},
-                 {"hint", input.edition().literal(textOf(findProperty(widget, {"குறிப்பு"})))},
-                 {"background", cssColour(background)},
-                 {"colour", cssColour(textColour)}});
+        {{"field", input.edition().layering().hasField(input.key(), {"tx", "tx + tw", "ty", "ty + th"}, "inputId")},
+         {"id", input.nameFrom("\"input_" + input.number() + "\"")},
+         {"width", numberConstant(widget, {"style_அகலம்", "அகலம்"}, WIDTH)},
+         {"height", numberConstant(widget, {"style_உயரம்", "உயரம்"}, HEIGHT)},
+         {"fill", floatColour(background)},
+         {"hint", input.edition().literal(textOf(findProperty(widget, {"குறிப்பு"})))},
+         {"background", cssColour(background)},
+         {"colour", cssColour(textColour)}});
     input.edition().writeField(input, "inputId");
     input.block(input.isAtTop() ? "}\n" : "    $y += th;\n}\n");
 }

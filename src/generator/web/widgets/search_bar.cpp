@@ -103,14 +103,15 @@ void emitSearchBar(WidgetWriter& bar) {
     emitBox(bar);
     emitLens(bar);
     const std::string hint = textOf(findProperty(bar.widget(), {"தேடல்_குறிப்பு", "குறிப்பு"}));
-    bar.block(R"(
+    bar.block(
+        R"(
     std::string sbId = $id;
     pozhil_place_search_field(sbId.c_str(), $hint, sbX, sbY, sbW, sbH, fSize);
-    $owned
+    $field
 )",
-              {{"owned", bar.edition().layering().owns(bar.key(), {"sbX", "sbX + sbW", "sbY", "sbY + sbH"})},
-               {"id", bar.nameFrom("\"search_\" + std::to_string(" + bar.number() + ")")},
-               {"hint", bar.edition().literal(hint.empty() ? "Search..." : hint)}});
+        {{"field", bar.edition().layering().hasField(bar.key(), {"sbX", "sbX + sbW", "sbY", "sbY + sbH"}, "sbId")},
+         {"id", bar.nameFrom("\"search_\" + std::to_string(" + bar.number() + ")")},
+         {"hint", bar.edition().literal(hint.empty() ? "Search..." : hint)}});
     bar.edition().writeField(bar, "sbId");
     emitClear(bar);
 }

@@ -99,9 +99,9 @@ void emitOverlay(WidgetWriter& field, const std::string& id) {
     field.block(
         R"(
     pozhil_place_text_field($id, $hint, $manyLines, "$colour", tbX, tbY, tbW, tbH, prefixOffset, fSize);
-    $owned
+    $field
 )",
-        {{"owned", edition.layering().owns(field.key(), {"tbX", "tbX + tbW", "tbY", "tbY + tbH"})},
+        {{"field", edition.layering().hasField(field.key(), {"tbX", "tbX + tbW", "tbY", "tbY + tbH"}, name)},
          {"id", name},
          {"hint", edition.literal(textOf(findProperty(field.widget(), {"குறிப்பு"})))},
          {"manyLines", hasManyLines ? "true" : "false"},

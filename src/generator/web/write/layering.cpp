@@ -18,7 +18,7 @@ std::string Layering::isMenuOnTop() const {
     return "";
 }
 
-std::string Layering::owns(const std::string&, const PressArea&) const {
+std::string Layering::hasField(const std::string&, const PressArea&, const std::string&) const {
     return "";
 }
 
@@ -40,6 +40,14 @@ std::string Layering::declaredMenu(const std::string&) const {
 
 std::string Layering::begunMenu() const {
     return "";
+}
+
+std::string Layering::cutsTo(const CutArea&, bool) const {
+    return "";
+}
+
+std::string Layering::scissor() const {
+    return "nvgScissor";
 }
 
 } // namespace pozhil
