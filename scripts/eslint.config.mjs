@@ -28,7 +28,7 @@ const COMMON = readonly(['URL', 'console', 'fetch', 'performance', 'setInterval'
 const NODE = readonly(['AbortController', 'Buffer', 'process', 'setImmediate']);
 // Functions that a test hands to its page run there.
 const PAGE = readonly(['CanvasRenderingContext2D', 'Event', 'FS', 'FontFace', 'HTMLElement', 'Image', 'Module',
-    'MutationObserver', 'Node', 'OffscreenCanvas', 'Touch', 'TouchEvent', 'WheelEvent', 'atob', 'createImageBitmap',
+    'MutationObserver', 'Node', 'OffscreenCanvas', 'Path2D', 'Touch', 'TouchEvent', 'WheelEvent', 'atob', 'createImageBitmap',
     'devicePixelRatio', 'document', 'firebase', 'getComputedStyle', 'getSelection', 'innerHeight', 'innerWidth',
     'location', 'navigator', 'requestAnimationFrame', 'sessionStorage', 'structuredClone', 'visualViewport', 'window']);
 // What scripts of a page use beside: of the browser, of what em++ makes, and of each other.

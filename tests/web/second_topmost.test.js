@@ -5,7 +5,6 @@ import { PHONE, assert, webTest } from './harness/index.js';
 import { png } from './harness/pictures.js';
 
 const RED = [255, 0, 0];
-const GREEN = [0, 255, 0];
 const BLUE = [0, 0, 255];
 
 /// One over the other, each at its own place.
@@ -110,12 +109,12 @@ webTest('what was seen under the pointer is pressed, whatever the list has becom
     // Each press is over before the frame comes that shows what the one before it has done.
     const presses = count => page.page.evaluate(async wanted => {
         for (let press = 0; press < wanted; press++) {
-            window.dispatchEvent(new MouseEvent('mousedown'));
+            window.dispatchEvent(new window.MouseEvent('mousedown'));
             const drawn = window.recorded.frames;
             while (window.recorded.frames === drawn) {
                 await new Promise(requestAnimationFrame);
             }
-            window.dispatchEvent(new MouseEvent('mouseup'));
+            window.dispatchEvent(new window.MouseEvent('mouseup'));
         }
     }, count);
     await expectPresses(page, () => presses(1), '2');
@@ -300,4 +299,54 @@ webTest('texts and fields are cut with what scrolls them', scrolled, async page 
     // What is out of sight can't be reached either.
     await page.wheel(0, 75);
     assert.notEqual(await fieldAt((await places())[1] + 5), 'உ0');
+});
+
+const menuOverFields = second(stack(
+    `உரைபெட்டி(${at(0, 50)}, அடையாளம்: "கீழே", அகலம்: 200)`, `உரைபெட்டி(${at(250, 200)}, அடையாளம்: "அருகே", அகலம்: 200)`,
+    `கீழ்வரி(${at(0, 0)}, அகலம்: 200, பட்டியல்: ["அ", "ஆ", "இ"], மாறியதால்: (புதியது) => சொல்(புதியது))`, told), TELLING);
+
+webTest('fields can be reached neither under nor beside an open menu', menuOverFields, async page => {
+    const focused = () => page.page.evaluate(() => document.activeElement.id);
+    await page.click(100, 75);
+    assert.equal(await focused(), 'கீழே');
+    await page.click(100, 20);
+    await expectPresses(page, () => page.click(100, 75), 'அ');
+    assert.notEqual(await focused(), 'கீழே');
+    await page.click(100, 20);
+    assert.ok((await page.texts()).some(({ text }) => text === 'இ'));
+    await page.click(350, 225);
+    assert.ok((await page.texts()).every(({ text }) => text !== 'இ'));
+    assert.notEqual(await focused(), 'அருகே');
+    await page.click(350, 225);
+    assert.equal(await focused(), 'அருகே');
+});
+
+// --- without a pointer ---
+
+const read = second(stack(
+    box(`${at(0, 0)}, அகலம்: 200, உயரம்: 100, பின்னணி: "#00FF00", அழுத்தினால்: () => சொல்("பெட்டி")`,
+        'உரை("பெரியது", சீரமைப்பு: கீழ்_இடது)', button('உள்', 'சீரமைப்பு: மையம்', 60, 30)),
+    button('பாதி', at(250, 0)), box(`${at(290, 0)}, அகலம்: 150, உயரம்: 40, பின்னணி: "#00FF00"`),
+    button('மறைந்தது', at(250, 100)), box(`${at(240, 90)}, அகலம்: 200, உயரம்: 60, பின்னணி: "#00FF00"`), told), TELLING);
+
+webTest('whoever goes without a pointer presses the widget, not what lies over its middle', read, async page => {
+    const presses = (name, ...names) => expectPresses(page, async () => {
+        await page.frames(30);
+        await page.page.getByRole('button', { name }).press('Enter');
+        await page.frames(6);
+    }, ...names);
+    await presses('பெரியது', 'பெட்டி');
+    await presses('உள்', 'உள்');
+    await presses('பாதி', 'பாதி');
+    // What nobody sees can't be pressed either.
+    await presses('மறைந்தது');
+});
+
+webTest('a page with layers comes to rest', read, async page => {
+    await page.moveTo(100, 50);
+    await page.page.waitForTimeout(3000);
+    const count = () => page.page.evaluate(() => window.recorded.frames);
+    const before = await count();
+    await page.page.waitForTimeout(500);
+    assert.equal(await count(), before);
 });

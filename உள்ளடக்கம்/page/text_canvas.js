@@ -130,23 +130,35 @@ var pozhilTextCanvas = (() => {
 
     /// Who decides whether and how a text is written.
     let writeThrough = draw => draw();
-    let lastArea = null;
+    let lastLine = null;
 
     const PARTS_TO_THE_LEFT = { center: 0.5, right: 1, end: 1 };
+    // Edges of letters are soft.
+    const EDGE = 1;
 
-    /// Where a text stands: x and y of its corner, its width and the size of its font.
-    function areaOf(text, left, y) {
-        const { textAlign, textBaseline } = wanted;
-        Object.assign(wanted, { textAlign: 'start', textBaseline: 'alphabetic' });
-        const { width } = remembering.measureText.call(context, text);
-        Object.assign(wanted, { textAlign, textBaseline });
-        const x = left - width * (PARTS_TO_THE_LEFT[textAlign] ?? 0);
-        lastArea = { x, y, width, size: sizeOf(wanted.font) };
-        return lastArea;
+    /// What the browser measures of a text from its upper left corner on.
+    function measureFromCorner(text) {
+        return pozhilWidths.of(`${wanted.font} from the corner`, text, () => {
+            const { textAlign, textBaseline } = wanted;
+            Object.assign(wanted, { textAlign: 'left', textBaseline: 'top' });
+            NAMES.forEach(tell);
+            Object.assign(wanted, { textAlign, textBaseline });
+            return browser.measureText.call(context, text);
+        });
     }
 
-    /// From now on `write(draw, areaOf)` writes texts: `draw` writes one, `areaOf` tells where it stands, as { x, y, width,
-    /// size }.
+    /// Where a text leaves its marks.
+    function areaOf(text, x, y) {
+        const { width, actualBoundingBoxLeft, actualBoundingBoxRight, actualBoundingBoxAscent, actualBoundingBoxDescent }
+            = measureFromCorner(text);
+        const begin = x - width * (PARTS_TO_THE_LEFT[wanted.textAlign] ?? 0);
+        lastLine = { left: begin, right: begin + width, top: y, bottom: y + sizeOf(wanted.font) };
+        return { left: begin - actualBoundingBoxLeft - EDGE, right: begin + actualBoundingBoxRight + EDGE,
+                 top: y - actualBoundingBoxAscent - EDGE, bottom: y + actualBoundingBoxDescent + EDGE };
+    }
+
+    /// From now on `write(draw, areaOf)` writes texts: `draw` writes one, `areaOf` tells where it is seen,
+    /// as { left, right, top, bottom }.
     function through(write) {
         writeThrough = write;
     }
@@ -274,7 +286,7 @@ var pozhilTextCanvas = (() => {
         writeThrough(() => {
             NAMES.forEach(tell);
             browser.stroke.apply(this, values);
-        }, () => lastArea);
+        }, () => lastLine);
     };
 
     // What neither asks what is set nor changes it.

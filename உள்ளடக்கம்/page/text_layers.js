@@ -2,9 +2,6 @@
 // either shows only where it would if all were drawn on one canvas: within what the program cuts it to, and not under what is
 // drawn later.
 var pozhilTextLayers = (() => {
-    // Marks above and below letters reach out of their line, by so many sizes of the font.
-    const ABOVE = 0.5;
-    const BELOW = 2;
     // What is fainter hides no field.
     const OPAQUE = 0.5;
 
@@ -14,7 +11,8 @@ var pozhilTextLayers = (() => {
     // --- what texts are cut to: left, right, top and bottom, where the program keeps it ---
 
     let clipAt = 0;
-    const clip = () => HEAPF32.subarray(clipAt, clipAt + 4);
+    const clip = () => ({ left: HEAPF32[clipAt], right: HEAPF32[clipAt + 1], top: HEAPF32[clipAt + 2],
+                          bottom: HEAPF32[clipAt + 3] });
 
     // --- where texts have been written in this frame, by the rows of the window ---
 
@@ -59,17 +57,17 @@ var pozhilTextLayers = (() => {
     /// Hides what lies under the shapes that have been drawn since.
     function cover() {
         const count = HEAP32[coversAt];
-        for (; done < count; done++) {
-            if (isDimmed || rows.length > 0 || fields.length > 0) {
-                const shape = coverAt(done);
-                if (isDimmed || isWrittenIn(shape)) {
-                    pozhilTextCanvas.erase(shape);
-                }
-                if (shape.strength >= OPAQUE) {
-                    fields.filter(({ area }) => overlap(area, shape)).forEach(({ covers }) => covers.push(shape));
-                }
+        const isBlank = !isDimmed && rows.length === 0 && fields.length === 0;
+        for (; done < count && !isBlank; done++) {
+            const shape = coverAt(done);
+            if (isDimmed || isWrittenIn(shape)) {
+                pozhilTextCanvas.erase(shape);
+            }
+            if (shape.strength >= OPAQUE) {
+                fields.filter(({ area }) => overlap(area, shape)).forEach(({ covers }) => covers.push(shape));
             }
         }
+        done = count;
     }
 
     // --- texts ---
@@ -80,17 +78,16 @@ var pozhilTextLayers = (() => {
             return;
         }
         cover();
-        const [left, right, top, bottom] = clip();
-        const { x, y, width, size } = areaOf();
-        const area = { left: x, right: x + width, top: y - ABOVE * size, bottom: y + BELOW * size };
-        if (!overlap(area, { left, right, top, bottom })) {
+        const cut = clip();
+        const area = areaOf();
+        if (!overlap(area, cut)) {
             return;
         }
         add(area);
-        if (area.left >= left && area.right <= right && area.top >= top && area.bottom <= bottom) {
+        if (area.left >= cut.left && area.right <= cut.right && area.top >= cut.top && area.bottom <= cut.bottom) {
             draw();
         } else {
-            pozhilTextCanvas.within({ left, right, top, bottom }, draw);
+            pozhilTextCanvas.within(cut, draw);
         }
     }
 
@@ -104,17 +101,15 @@ var pozhilTextLayers = (() => {
 
     // --- fields ---
 
-    /// Those of this frame: { element, area, clip, covers }.
+    /// Those of this frame: { element, area, cut, covers }.
     let fields = [];
 
     /// The field has been placed; so far, nothing lies over it.
     function addField(id) {
         cover();
         const element = document.getElementById(id);
-        const { left: x, top: y, right, bottom } = element.getBoundingClientRect();
-        const [clipLeft, clipRight, clipTop, clipBottom] = clip();
-        fields.push({ element, area: { left: x, right, top: y, bottom }, covers: [],
-                      clip: { left: clipLeft, right: clipRight, top: clipTop, bottom: clipBottom } });
+        const { left, top, right, bottom } = element.getBoundingClientRect();
+        fields.push({ element, area: { left, right, top, bottom }, cut: clip(), covers: [] });
     }
 
     const inner = (one, other) => ({ left: Math.max(one.left, other.left), right: Math.min(one.right, other.right),
@@ -136,7 +131,7 @@ var pozhilTextLayers = (() => {
     }
 
     /// What of the field can be seen, as CSS says it; empty if that is all.
-    function shownPart({ area, clip: cut, covers }) {
+    function shownPart({ area, cut, covers }) {
         const seen = inner(area, cut);
         if (covers.length === 0 && ['left', 'right', 'top', 'bottom'].every(side => seen[side] === area[side])) {
             return '';
