@@ -16,6 +16,7 @@
 using namespace pozhil;
 using namespace pozhil::test;
 using testing::AllOf;
+using testing::AnyOf;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -29,6 +30,29 @@ std::string nameOf(const Expression* value) {
     const auto* variable = nodeCast<VariableAccess>(value);
     return variable == nullptr ? "?" : variable->name;
 }
+
+/// What lies over what, as marks.
+class MarkLayering : public Layering {
+public:
+    std::string takesPress(const std::string&, const PressArea&) const override { return "TAKES_PRESS && "; }
+    std::string takesHover(const std::string&, const PressArea&) const override { return "TAKES_HOVER && "; }
+    std::string isHeld(const std::string&) const override { return "IS_HELD && "; }
+    std::string isMenuOnTop() const override { return "IS_MENU_ON_TOP && "; }
+    std::string hasField(const std::string&, const PressArea&, const std::string& id) const override {
+        return "HAS_FIELD(" + id + ");\n";
+    }
+    std::string shields(const PressArea& area) const override { return std::string("SHIELDS(") + area.left + ");\n"; }
+    std::string shieldsPage() const override { return "SHIELDS_PAGE;\n"; }
+    std::string holds(const std::string&, bool takesPresses) const override {
+        return takesPresses ? "HOLDS_PRESSES;\n" : "HOLDS;\n";
+    }
+    std::string declaredMenu(const std::string&) const override { return "MENU;\n"; }
+    std::string begunMenu() const override { return "MENU_BEGINS;\n"; }
+    std::string cutsTo(const CutArea& area, bool alsoTexts) const override {
+        return std::string("CUTS") + (alsoTexts ? "_TEXTS" : "") + "(" + area.x + ");\n";
+    }
+    std::string scissor() const override { return "SCISSOR"; }
+};
 
 /// An edition whose values are marks.
 class MarkEdition : public EditionWriter {
@@ -77,6 +101,7 @@ public:
     }
     void writeField(WidgetWriter&, const Filling& id) override { out_.block("FIELD($id);\n", {{"id", id}}); }
     void writeDisabling(WidgetWriter&) override { out_.block("DISABLING;\n"); }
+    const Layering& layering() const override { return layering_; }
     void writeWindowSize(CodeWriter& out) override { out.block("WINDOW_SIZE;\n"); }
     void writeOpenAlerts(CodeWriter& out) override { out.block("OPEN_ALERTS;\n"); }
     void writeDrawing(CodeWriter& out) override { out.block("DRAWING;\n"); }
@@ -102,6 +127,7 @@ public:
 
 private:
     CodeWriter& out_;
+    MarkLayering layering_;
 };
 
 std::unique_ptr<WidgetNode> widgetOf(std::string_view word, StatementList children = {}) {
@@ -192,6 +218,24 @@ TEST_P(EveryWidget, LeavesLiteralsToTheEdition) {
     EXPECT_THAT(page, Not(HasSubstr("\"" + SOURCE_TEXT)));
 }
 
+/// How often \p piece stands in \p text.
+std::size_t countOf(const std::string& text, const std::string& piece) {
+    std::size_t count = 0;
+    for (std::size_t at = text.find(piece); at != std::string::npos; at = text.find(piece, at + 1)) {
+        ++count;
+    }
+    return count;
+}
+
+TEST_P(EveryWidget, AsksForThePressOnlyWhereItLiesOnTop) {
+    const std::string press = "g_mouseClicked";
+    const std::string page = pageOf(fullWidget(GetParam(), variableOf));
+    const std::size_t ofFrame = countOf(pageOf(widgetOf(language::widget::GAP)), press);
+    if (countOf(page, press) > ofFrame) {
+        EXPECT_THAT(page, AnyOf(HasSubstr("TAKES_PRESS && mx"), HasSubstr("TAKES_PRESS && " + press)));
+    }
+}
+
 std::vector<std::string_view> drawnWords() {
     std::vector<std::string_view> words;
     for (const language::Widget& widget : language::widgets()) {
@@ -275,6 +319,34 @@ TEST(Controls, TellTheEditionOfTheirFields) {
 
 TEST(Disabling, StandsAtTheHeadOfEachBlock) {
     EXPECT_THAT(pageOf(widgetOf(language::widget::BUTTON)), HasSubstr("// பொத்தான்\n        DISABLING;\n"));
+}
+
+TEST(Layers, AreToldToTheEdition) {
+    using namespace language::widget;
+    EXPECT_THAT(pageOf(widgetOf(CONTAINER)), AllOf(HasSubstr("SHIELDS(boxX);\n"), HasSubstr("CUTS(boxX);\n")));
+    EXPECT_THAT(pageWith(CONTAINER, "அழுத்தினால்"),
+                AllOf(HasSubstr("isBoxHover = TAKES_PRESS && mx"), HasSubstr("HOLDS_PRESSES;\n"),
+                      Not(HasSubstr("SHIELDS(boxX)"))));
+    EXPECT_THAT(pageOf(widgetOf(CARD)), AllOf(HasSubstr("SHIELDS(cardX);\n"), HasSubstr("CUTS(cardX);\n")));
+    EXPECT_THAT(pageOf(widgetOf(LIST_TILE)), AllOf(HasSubstr("TAKES_HOVER && mx"), HasSubstr("HOLDS;\n")));
+    EXPECT_THAT(pageWith(LIST_TILE, "அழுத்தினால்"), AllOf(HasSubstr("TAKES_PRESS && mx"), HasSubstr("HOLDS_PRESSES;\n")));
+    EXPECT_THAT(pageOf(widgetOf(SLIDER)), HasSubstr("if (IS_HELD && isMouseDown) {"));
+    EXPECT_THAT(pageOf(widgetOf(DROPDOWN)), AllOf(HasSubstr("MENU;\n"), HasSubstr("MENU_BEGINS;\n"),
+                                                  HasSubstr("isItemHover = IS_MENU_ON_TOP && mx"),
+                                                  HasSubstr("if (IS_MENU_ON_TOP && g_mouseClicked && !isClicked")));
+    EXPECT_THAT(pageOf(widgetOf(DIALOG)),
+                AllOf(HasSubstr("SHIELDS_PAGE;\n"), HasSubstr("SCISSOR(vg, alertX"), HasSubstr("CUTS(alertX);\n")));
+    EXPECT_THAT(pageOf(widgetOf(TEXT_FIELD)), HasSubstr("HAS_FIELD(\"text_2\");\n"));
+    EXPECT_THAT(pageOf(widgetOf(LIST_VIEW)),
+                AllOf(HasSubstr("SCISSOR(vg, listStartX"), HasSubstr("CUTS_TEXTS(listStartX);")));
+    EXPECT_THAT(pageOf(widgetOf(GAP)), HasSubstr("SHIELDS(barX);\n"));
+    EXPECT_THAT(pageOf(widgetOf(IMAGE)), Not(HasSubstr("SHIELDS(img")));
+}
+
+TEST(Layers, AreMissingFromWhatNobodySees) {
+    auto box = widgetOf(language::widget::CONTAINER);
+    box->properties["பின்னணி"] = text("#00000000");
+    EXPECT_THAT(pageOf(std::move(box)), Not(HasSubstr("SHIELDS(boxX)")));
 }
 
 TEST(Visibility, IsAConditionAroundTheWidget) {
