@@ -7,7 +7,9 @@
 #include "engine/operations.h"
 #include "report/box.h"
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 #include <type_traits>
 
 namespace pozhil::engine {
@@ -48,6 +50,9 @@ bool startPage(const ProgramInfo& program);
 
 /// How a value is shown, as அச்சிடு does.
 std::string pageText(const Value& value);
+
+/// Where the letter, as readers count them, ends that begins at byte \p begin of a text.
+std::size_t letterEnd(std::string_view text, std::size_t begin);
 
 /// What a user has typed, as a value of the program.
 Value pageInput(const std::string& text);

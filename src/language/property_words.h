@@ -35,6 +35,8 @@ constexpr std::string_view WEIGHT = "தடிமன்";
 constexpr std::string_view TEXT_ALIGNMENT = "உரைசீரமைப்பு";
 constexpr std::string_view FONT = "எழுத்துரு";
 constexpr std::string_view UNDERLINE = "அடிக்குறிப்பு";
+/// Whether a text wraps at the room there is.
+constexpr std::string_view WRAP = "மடி";
 
 // What a widget is known by and what it does.
 /// Names the variable that shows and hides the widget.

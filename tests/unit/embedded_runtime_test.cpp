@@ -66,7 +66,8 @@ INSTANTIATE_TEST_SUITE_P(Pages, EmbeddedRuntime,
                                          Section{"web/runtime/web_boilerplate", page_runtime::web_boilerplate},
                                          Section{"web/runtime/input_fields", page_runtime::input_fields},
                                          Section{"web/runtime/media_elements", page_runtime::media_elements},
-                                         Section{"web/runtime/frame_helpers", page_runtime::frame_helpers}),
+                                         Section{"web/runtime/frame_helpers", page_runtime::frame_helpers},
+                                         Section{"web/runtime/wrapping", page_runtime::wrapping}),
                          name_of);
 
 } // namespace

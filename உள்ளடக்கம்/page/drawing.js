@@ -12,6 +12,9 @@ var pozhilDrawing = (() => {
     let notes = [];
     let isNoting = false;
 
+    /// The text whose lines are being written; null for a text of one line.
+    let lines = null;
+
     const number = new Float64Array(1);
     const partsOfNumber = new Int32Array(number.buffer);
 
@@ -102,6 +105,31 @@ var pozhilDrawing = (() => {
         return all;
     }
 
+    // --- texts of several lines ---
+
+    /// What is written until `endLines` are the lines of one text.
+    ///
+    /// \param key another for each text and each way it is broken into lines
+    /// \param at where the program holds the text, for whoever wants to know all of it
+    function beginLines(key, x, y, width, lineHeight, align, at) {
+        lines = { key, x, y, width, lineHeight, lineAlign: align, isNoted: false, read: () => UTF8ToString(at) };
+    }
+
+    function endLines() {
+        lines = null;
+    }
+
+    /// A text stands for all its lines.
+    function noteText(details) {
+        if (lines === null) {
+            noteThat('text', details);
+        } else if (!lines.isNoted) {
+            lines.isNoted = true;
+            const { x, y, width, lineHeight, lineAlign } = lines;
+            noteThat('text', { ...details, text: lines.read(), x, y, width, lineHeight, lineAlign, align: 'left' });
+        }
+    }
+
     // --- texts and paints ---
 
     // A dialog dims the page; a message clears its place of texts.
@@ -112,10 +140,10 @@ var pozhilDrawing = (() => {
         }
     });
     pozhilTextCanvas.watch('fillText', function (text, left, top) {
-        texts.push(text, left, top);
+        texts.push(lines === null ? text : `${lines.key} ${text}`, left, top);
         if (isNoting) {
             const { font, textAlign: align, fillStyle: colour } = this;
-            noteThat('text', { text, x: left, y: top, font, size: parseFloat(font.match(SIZE_IN_FONT)[1]), align, colour });
+            noteText({ text, x: left, y: top, font, size: parseFloat(font.match(SIZE_IN_FONT)[1]), align, colour });
         }
         if (isSumming) {
             addText(text + this.font + this.fillStyle + this.textAlign);
@@ -169,6 +197,8 @@ var pozhilDrawing = (() => {
         HEAP32[shapesAt] = 0;
         hasShapes = false;
         isDisabled = false;
+        // A fault may have come between.
+        lines = null;
         pozhilTextCanvas.fade(1);
     });
 
@@ -186,7 +216,7 @@ var pozhilDrawing = (() => {
     pozhilFrames.whenReady(watchPointer);
 
     return {
-        shift, shapes, marks, disable,
+        shift, shapes, marks, disable, beginLines, endLines,
         texts: () => texts,
         /// Whether the next frame is to be kept for `marks`, which costs time.
         watchMarks: isWanted => { isNoting = isWanted; },

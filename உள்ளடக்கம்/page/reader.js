@@ -126,7 +126,11 @@
         const known = element.pozhilStyle ??= {};
         if (known[name] !== value) {
             known[name] = value;
-            element.style[name] = value;
+            if (name.startsWith('--')) {
+                element.style.setProperty(name, value);
+            } else {
+                element.style[name] = value;
+            }
         }
     }
 
@@ -140,8 +144,13 @@
         }
         setStyle(element, 'font', text.font);
         setStyle(element, 'left', text.x - left + 'px');
-        setStyle(element, 'top', text.y - top - text.size * (LINE_HEIGHT - 1) / 2 + 'px');
+        setStyle(element, 'top', text.y - top - ((text.lineHeight ?? LINE_HEIGHT * text.size) - text.size) / 2 + 'px');
         setStyle(element, 'transform', ALIGNMENTS[text.align] ?? '');
+        const isBlock = text.lineHeight !== undefined;
+        element.classList.toggle('pozhil-lines', isBlock);
+        setStyle(element, 'width', isBlock ? Math.ceil(text.width) + 'px' : '');
+        setStyle(element, 'textAlign', isBlock ? text.lineAlign : '');
+        setStyle(element, '--line-height', isBlock ? String(text.lineHeight / text.size) : '');
     }
 
     function makeText() {

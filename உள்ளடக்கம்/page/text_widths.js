@@ -7,10 +7,17 @@ var pozhilWidths = (() => {
     let known = new Map();
     let count = 0;
     let surroundings = '';
+    /// How often fonts or screen have changed.
+    let changes = 0;
 
     function forget() {
         known = new Map();
         count = 0;
+    }
+
+    function change() {
+        changes++;
+        forget();
     }
 
     /// What `measure()` tells of a text in a font.
@@ -33,21 +40,23 @@ var pozhilWidths = (() => {
         const { size, status } = document.fonts;
         const now = `${window.devicePixelRatio} ${size} ${status}`;
         // Of fonts on their way the browser doesn't tell at once that they are there.
-        if (now !== surroundings || status === 'loading' || count > MOST) {
+        if (now !== surroundings) {
             surroundings = now;
+            change();
+        } else if (status === 'loading' || count > MOST) {
             forget();
         }
     });
     for (const happening of ['loading', 'loadingdone', 'loadingerror']) {
-        document.fonts.addEventListener(happening, forget);
+        document.fonts.addEventListener(happening, change);
     }
     for (const method of ['add', 'delete', 'clear']) {
-        const change = document.fonts[method];
+        const changeFaces = document.fonts[method];
         document.fonts[method] = function (...faces) {
-            forget();
-            return change.apply(this, faces);
+            change();
+            return changeFaces.apply(this, faces);
         };
     }
 
-    return { of };
+    return { of, changes: () => changes };
 })();

@@ -26,6 +26,8 @@ constexpr std::string_view CARDS[] = {widget::CARD};
 
 constexpr std::string_view FIELD_KINDS[] = {"உரை", "மின்னஞ்சல்", "எண்", "தொலைபேசி"};
 
+constexpr std::string_view TEXT_SCALES[] = {"மாறும்", STEADY_TEXTS};
+
 /// A property that widgets have in this edition besides those of their own tables.
 struct Added {
     Rows<std::string_view> widgets;
@@ -40,7 +42,8 @@ constexpr Added ADDED[] = {
     {PRESSED, {"முடக்கு", "", ValueKind::Truth, {"மெய் எனில் செயல்படாது", "inert while it is true"}}},
     {FIELDS, {"உள்ளிட்டால்", "", ValueKind::Handler, {"Enter அழுத்தும்போது", "on Enter"}}},
     {TEXT_FIELDS, {"வகை", "", ValueKind::Text, {"விசைப்பலகையின் வகை", "which keyboard"}, FIELD_KINDS}},
-    {TEXTS, {"மடி", "", ValueKind::Truth, {"இடத்துக்கு ஏற்ப வரி மடியும்", "wraps at the room there is"}}},
+    {TEXTS, {property::WRAP, "", ValueKind::Truth, {"இடத்துக்கு ஏற்ப வரி மடியும்", "wraps at the room there is"}}},
+    {TEXTS, {property::WIDTH, "", ValueKind::Size, {"மடியும் உரையின் அகலம்", "width of a text that wraps"}}},
     {DIVIDERS, {property::WEIGHT, "", ValueKind::Number, {"கோட்டின் தடிமன்", "thickness of the line"}}},
     {LIST_TILES, {"பின்னணி_விட்ஜெட்", "", ValueKind::Widget, {"பின்னால் நிற்கும் விட்ஜெட்", "a widget at the end"}}},
     {CARDS, {"எலிவேஷன்", "", ValueKind::Number, {"நிழலின் பரப்பு", "blur of the shadow"}}},
@@ -72,6 +75,7 @@ constexpr WidgetProperty HEADER_PROPERTIES[] = {
     {property::BACKGROUND_VIDEO, "", ValueKind::Path, {"காணொளி", "a video"}},
     {"இணைய_தலைப்பு", "", ValueKind::Text, {"உலாவித் தாவலின் தலைப்பு", "title of the browser's tab"}},
     {"சின்னம்", "", ValueKind::Path, {"தாவலின் சின்னக் கோப்பு", "icon of the tab"}},
+    {TEXT_SCALE, "", ValueKind::Text, {"`\"நிலையான\"`: குறுகிய சாளரத்திலும் எழுத்துகள் சிறுக்காது", "`\"நிலையான\"`: texts don't shrink in narrow windows"}, TEXT_SCALES},
 };
 
 constexpr WidgetProperty DATABASE_PROPERTIES[] = {

@@ -21,6 +21,10 @@ constexpr std::string_view EACH_INDEX = "இடம்";
 /// The property that says whether a widget is there.
 constexpr std::string_view SHOWN = "தெரிய";
 
+/// The property of a page's header that says whether texts shrink with the window, and its value by which they don't.
+constexpr std::string_view TEXT_SCALE = "எழுத்தளவு";
+constexpr std::string_view STEADY_TEXTS = "நிலையான";
+
 /// The key that may stand before a style block.
 constexpr std::string_view STYLE_KEY = "பாணி";
 

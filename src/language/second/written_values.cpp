@@ -33,6 +33,7 @@ constexpr Written WRITTEN[] = {
     {widget::ROW, property::WIDTH, Number::Whole},
     {widget::ROW, property::HEIGHT, Number::Whole},
     {widget::PADDING, property::SIZE, Number::Whole},
+    {widget::TEXT, property::WRAP},
     {widget::TEXT_FIELD, property::WIDTH},
     {widget::TEXT_FIELD, property::HEIGHT},
     {widget::PASSWORD_FIELD, property::WIDTH},

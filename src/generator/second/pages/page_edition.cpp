@@ -71,7 +71,7 @@ std::string PageEdition::written(const void* node) {
     return ExpressionWriter(tables_, scope).write(*value.evaluation->value, Wanted::Value);
 }
 
-Filling PageEdition::text(const pozhil::Expression* value, const std::string& otherwise) {
+std::string PageEdition::shownBy(const pozhil::Expression* value, const std::string& otherwise) {
     if (value == nullptr) {
         return otherwise;
     }
@@ -79,6 +79,10 @@ Filling PageEdition::text(const pozhil::Expression* value, const std::string& ot
         return "std::string(" + textLiteral(literal->value) + ")";
     }
     return "pageText(" + written(value) + ")";
+}
+
+Filling PageEdition::text(const pozhil::Expression* value, const std::string& otherwise) {
+    return shownBy(value, otherwise);
 }
 
 Filling PageEdition::shownText(const pozhil::Expression* value, const std::string& otherwise) {
@@ -232,7 +236,8 @@ std::string PageEdition::elementName(const std::string& name) const {
 }
 
 void PageEdition::writeWindowSize(CodeWriter& out) {
-    out.block("page::width = winWidth;\npage::height = winHeight;\npage::findTopmost();\npage::runHandlers();\n");
+    out.block("page::width = winWidth;\npage::height = winHeight;\npage::beginFrame(winWidth);\npage::findTopmost();\n"
+              "page::runHandlers();\n");
 }
 
 void PageEdition::writeOpenAlerts(CodeWriter& out) {

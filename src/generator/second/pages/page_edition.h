@@ -49,6 +49,14 @@ public:
     std::string elementKey(const std::string& key) const override;
     std::string elementName(const std::string& name) const override;
 
+    // Texts that wrap, and how texts follow the window, in page_wrapping.cpp.
+
+    bool wraps(const WidgetNode& widget) const override;
+    std::string wrappedText(const WidgetNode& text, const std::string& shown) override;
+    Extent wrappedSize(const WidgetNode& text, const char* side) override;
+    std::string leastTextScale() const override { return "page::leastTextScale"; }
+    void writePageSettings(WidgetWriter& page) override;
+
     // Controls, in page_controls.cpp.
 
     bool isBound(const WidgetNode& control) override;
@@ -84,6 +92,8 @@ private:
     const Variable* stateOf(const WidgetWriter& control) const;
     const PageValue& valueOf(const void* node) const;
     std::string written(const void* node);
+    /// What the value shows, a std::string of the emitted text.
+    std::string shownBy(const pozhil::Expression* value, const std::string& otherwise);
     const Function& functionOf(const EachNode& each) const;
     /// What a loop goes through, and where that stands, as two arguments.
     std::string listArguments(const EachNode& each);

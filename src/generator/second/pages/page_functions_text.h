@@ -14,4 +14,7 @@ extern const Block page_controls;
 /// What lies over what: whom a press reaches.
 extern const Block page_layers;
 
+/// Texts that wrap: where their lines end, remembered from frame to frame, and how they are drawn.
+extern const Block page_wrapping;
+
 } // namespace pozhil::second_page_text

@@ -37,11 +37,12 @@ EmittedLines PageProgram::head() const {
     lines.lines(page::input_state);
     lines.lines(page::canvas_keys);
     lines.lines(page::bridgeWith("", ""));
-    for (const std::string_view section : {page::animation_engine, page::scrolling, page::web_boilerplate,
-                                           page::input_fields, page::media_elements, page::frame_helpers}) {
+    for (const std::string_view section :
+         {page::animation_engine, page::scrolling, page::web_boilerplate, page::input_fields, page::media_elements,
+          page::frame_helpers, page::wrapping}) {
         lines.lines(section);
     }
-    for (const char* header : {"cstddef", "cstdio", "cstdlib", "cstring"}) {
+    for (const char* header : {"cctype", "cstddef", "cstdio", "cstdlib", "cstring"}) {
         lines.line("#include <" + std::string(header) + ">");
     }
     lines.line("#include \"engine/program.h\"");
@@ -51,6 +52,7 @@ EmittedLines PageProgram::head() const {
     lines.lines(second_page_text::page_functions.text());
     lines.lines(second_page_text::page_layers.text());
     lines.lines(second_page_text::page_controls.text());
+    lines.lines(second_page_text::page_wrapping.text());
     return lines;
 }
 

@@ -63,11 +63,11 @@ void emitScrollBar(WidgetWriter& column) {
 )");
 }
 
-/// The child's width across the column. A text is measured, so that centring goes by what is seen.
+/// The child's width across the column. A text of one line is measured, so that centring goes by what is seen.
 void emitChildWidth(WidgetWriter& column, const WidgetNode& child) {
     column.block("    float childW = $width;\n", {{"width", column.widthOf(child).text()}});
     const Expression* text = findProperty(child, {"உரை"});
-    if (child.kind == language::widget::TEXT && text != nullptr) {
+    if (child.kind == language::widget::TEXT && text != nullptr && !column.edition().wraps(child)) {
         column.block(R"(
     pozhil_draw([&] {
     std::string _uTxt = $text;
@@ -157,8 +157,13 @@ void emitColumn(WidgetWriter& column) {
     column.block(column.isAtTop() ? "}\n" : "    $y = currentY;\n}\n");
 }
 
+/// A column is never wider than the window.
+OfferedRoom columnRoom(const Measure& measure, const WidgetNode& child) {
+    return {"responsiveW(" + roomOfLayout(measure, child).width + ", winWidth, 0.0f)"};
+}
+
 } // namespace
 
-extern const WidgetKind COLUMN = {language::widget::COLUMN, emitColumn, largestChild, lineOfChildren};
+extern const WidgetKind COLUMN = {language::widget::COLUMN, emitColumn, largestChild, lineOfChildren, columnRoom};
 
 } // namespace pozhil

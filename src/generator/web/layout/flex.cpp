@@ -18,8 +18,8 @@ void emitFlexSpacer(WidgetWriter&) {}
 
 } // namespace
 
-extern const WidgetKind EXPANDED = {language::widget::EXPANDED, emitFlexWrapper, firstChild, firstChild};
-extern const WidgetKind FLEXIBLE = {language::widget::FLEXIBLE, emitFlexWrapper, firstChild, firstChild};
+extern const WidgetKind EXPANDED = {language::widget::EXPANDED, emitFlexWrapper, firstChild, firstChild, sameRoom};
+extern const WidgetKind FLEXIBLE = {language::widget::FLEXIBLE, emitFlexWrapper, firstChild, firstChild, sameRoom};
 extern const WidgetKind FREE_SPACE = {language::widget::SPACER, emitFlexSpacer, fixed<0>, plainSized<0>};
 
 } // namespace pozhil

@@ -57,7 +57,11 @@ void emitCell(WidgetWriter& grid, const WidgetNode& child) {
 
 Extent widthOf(const WidgetWriter& grid) {
     const std::optional<float> given = constantOf(findProperty(grid.widget(), {"width", "அகலம்"}));
-    return given ? Extent(*given) : grid.widthOf(grid.widget());
+    if (given) {
+        return *given;
+    }
+    return grid.holdsWrappedText(grid.widget()) ? Extent::computed(roomOfOwnWidth(OfferedRoom().width).width)
+                                                : grid.widthOf(grid.widget());
 }
 
 /// கட்டம்_காட்சி: children in rows of so many, fewer on a narrow window.
@@ -121,6 +125,9 @@ Extent gridWidth(const Measure& measure) {
             fixedSize(findProperty(measure.widget, {measure.axis.styleName, measure.axis.name, "width"}))) {
         return *given;
     }
+    if (measure.metrics.rooms().holdsWrappedText(measure.widget)) {
+        return Extent::computed(roomOfOwnWidth(OfferedRoom().width).width);
+    }
     return gridSize(measure, static_cast<float>(gridColumns(measure.widget)), EMPTY_CELL, std::nullopt);
 }
 
@@ -135,8 +142,16 @@ Extent gridHeight(const Measure& measure) {
     return gridSize(measure, gridRows(measure), EMPTY_CELL, numberOf(findProperty(measure.widget, {"v_gap"})));
 }
 
+/// Texts that wrap share out what the grid gets, where the source doesn't say how wide it is.
+OfferedRoom gridRoom(const Measure& measure, const WidgetNode&) {
+    const std::optional<float> given = constantOf(findProperty(measure.widget, {"width", measure.axis.name}));
+    const std::string whole = given ? floatConstant(*given) : roomOfOwnWidth(OfferedRoom().width).width;
+    return {"pozhil_grid_cell(" + whole + ", " + std::to_string(columnsOf(measure.widget)) + ", " +
+            gapOf(measure.widget, "அகலம்", {"h_gap", "கி_இவெ"}) + ", winWidth)"};
+}
+
 } // namespace
 
-extern const WidgetKind GRID_VIEW = {language::widget::GRID_VIEW, emitGridView, gridWidth, gridHeight};
+extern const WidgetKind GRID_VIEW = {language::widget::GRID_VIEW, emitGridView, gridWidth, gridHeight, gridRoom};
 
 } // namespace pozhil

@@ -11,19 +11,6 @@ namespace pozhil {
 
 namespace {
 
-/// Shares of the free space, all children together.
-Extent sharesOf(const std::vector<const WidgetNode*>& children, Presence& presence) {
-    Extent shares;
-    for (const WidgetNode* child : children) {
-        if (const auto* each = dynamic_cast<const EachNode*>(child)) {
-            shares += presence.sumOverElements(*each, sharesOf(childWidgets(*each), presence));
-        } else if (const std::optional<float> share = flexShare(*child)) {
-            shares += onlyWhile(presence.shownWhile(*child), *share);
-        }
-    }
-    return shares;
-}
-
 /// Whether no child of an element takes a share of the free space or of the layout.
 bool isOfFixedSizes(const EachNode& each) {
     const auto children = childWidgets(each);
@@ -42,6 +29,18 @@ LayoutChildren::LayoutChildren(WidgetWriter& layout)
     down = layout.roomDown(widgets);
     gaps = gapsBetween(down.number) * spacing;
     totalFlex = sharesOf(widgets, layout.edition());
+}
+
+Extent sharesOf(const std::vector<const WidgetNode*>& children, Presence& presence) {
+    Extent shares;
+    for (const WidgetNode* child : children) {
+        if (const auto* each = dynamic_cast<const EachNode*>(child)) {
+            shares += presence.sumOverElements(*each, sharesOf(childWidgets(*each), presence));
+        } else if (const std::optional<float> share = flexShare(*child)) {
+            shares += onlyWhile(presence.shownWhile(*child), *share);
+        }
+    }
+    return shares;
 }
 
 std::optional<float> flexShare(const WidgetNode& child) {

@@ -10,6 +10,7 @@
 
 namespace pozhil {
 
+class Presence;
 class WidgetWriter;
 
 /// What a column or a row knows of its children before the page runs.
@@ -28,6 +29,9 @@ struct LayoutChildren {
 
 /// How many shares of the free space a child takes; nothing for a child with a size of its own.
 std::optional<float> flexShare(const WidgetNode& child);
+
+/// Shares of the free space, all children together.
+Extent sharesOf(const std::vector<const WidgetNode*>& children, Presence& presence);
 
 /// Whether the layout scrolls.
 bool hasScrollBar(const WidgetNode& layout);

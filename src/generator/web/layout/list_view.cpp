@@ -81,6 +81,6 @@ void emitListView(WidgetWriter& list) {
 
 } // namespace
 
-extern const WidgetKind LIST_VIEW = {language::widget::LIST_VIEW, emitListView};
+extern const WidgetKind LIST_VIEW = {language::widget::LIST_VIEW, emitListView, nullptr, nullptr, roomOfWindow};
 
 } // namespace pozhil

@@ -6,9 +6,14 @@
 namespace pozhil {
 namespace {
 
+/// How far its children stand from its edges.
+float insetOf(const WidgetNode& padding) {
+    return numberOf(findProperty(padding, {"அளவு"})).value_or(0.0F);
+}
+
 /// உள்_இவெ: space around its children.
 void emitPadding(WidgetWriter& padding) {
-    const float inset = numberOf(findProperty(padding.widget(), {"அளவு"})).value_or(0.0F);
+    const float inset = insetOf(padding.widget());
     // A parent that places it by variables of the same names is read before they are hidden.
     const bool isInChild = padding.x() == "childX" || padding.y() == "childY";
     padding.block(isInChild ? "{\n    float outerX = $x; float outerY = $y;\n" : "{\n");
@@ -32,9 +37,16 @@ Extent paddingSize(const Measure& measure) {
     return firstChild(measure) + (padding == nullptr ? BOTH_SIDES : 2 * padding->padding);
 }
 
+/// A width that is imposed goes on to its children as it is.
+OfferedRoom paddingRoom(const Measure& measure, const WidgetNode& child) {
+    OfferedRoom room = sameRoom(measure, child);
+    room.width += " - " + floatConstant(2 * insetOf(measure.widget));
+    return room;
+}
+
 } // namespace
 
-extern const WidgetKind PADDING = {language::widget::PADDING, emitPadding, paddingSize, paddingSize};
+extern const WidgetKind PADDING = {language::widget::PADDING, emitPadding, paddingSize, paddingSize, paddingRoom};
 extern const WidgetKind PADDING_RECORD = {language::widget::PADDING_MISSPELT, nullptr, paddingSize, paddingSize};
 
 } // namespace pozhil

@@ -4,6 +4,9 @@
 #include "generator/web/write/widget_writer.h"
 #include "language/widget_words.h"
 
+#include <algorithm>
+#include <functional>
+
 namespace pozhil {
 namespace {
 
@@ -139,8 +142,45 @@ void emitRow(WidgetWriter& row) {
     row.block("}\n");
 }
 
+/// What children take that are \p wanted, each with the gap after it.
+Extent takenBy(const Measure& measure, const std::function<bool(const WidgetNode&)>& wanted) {
+    std::vector<const WidgetNode*> children = childWidgets(measure.widget);
+    children.erase(std::remove_if(children.begin(), children.end(), [&](const auto* one) { return !wanted(*one); }),
+                   children.end());
+    const Room room = measure.roomOf(children);
+    return room.sum + room.number * numberProperty(measure.widget, "இடைவெளி", 0.0F);
+}
+
+/// Shares of the free space go by what all others take. Children that wrap without a share take in equal parts what those
+/// leave that don't wrap.
+OfferedRoom rowRoom(const Measure& measure, const WidgetNode& child) {
+    const std::string whole = roomOfLayout(measure, child).width;
+    const std::optional<float> share = flexShare(child);
+    Rooms& rooms = measure.metrics.rooms();
+    if (!share) {
+        const auto wraps = [&](const WidgetNode& one) { return rooms.holdsWrappedText(one) && !flexShare(one); };
+        const auto children = childWidgets(measure.widget);
+        const auto number =
+            std::count_if(children.begin(), children.end(), [&](const auto* one) { return wraps(*one); });
+        const float gaps = static_cast<float>(number - 1) * numberProperty(measure.widget, "இடைவெளி", 0.0F);
+        const Extent taken =
+            takenBy(measure, [&](const WidgetNode& one) { return !rooms.holdsWrappedText(one) && !flexShare(one); });
+        return {"pozhil_share_of_room(" + whole + ", " + (taken + gaps).text() + ", " +
+                floatConstant(static_cast<float>(number)) + ")"};
+    }
+    const Extent taken = takenBy(measure, [](const WidgetNode& one) { return !flexShare(one); });
+    const Extent shares = sharesOf(childWidgets(measure.widget), measure.metrics.presence());
+    OfferedRoom room;
+    room.width = "pozhil_share_of_room(" + whole + ", " + taken.text() + ", " + shares.text() + ")";
+    if (child.kind == language::widget::FLEXIBLE) {
+        room.width += " * " + floatConstant(*share);
+    }
+    room.imposed = room.width;
+    return room;
+}
+
 } // namespace
 
-extern const WidgetKind ROW = {language::widget::ROW, emitRow, lineOfChildren, largestChild};
+extern const WidgetKind ROW = {language::widget::ROW, emitRow, lineOfChildren, largestChild, rowRoom};
 
 } // namespace pozhil

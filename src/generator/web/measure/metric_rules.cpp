@@ -1,5 +1,6 @@
 #include "generator/web/measure/metric_rules.h"
 
+#include "emit/emitted_block.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_properties.h"
 
@@ -36,6 +37,26 @@ Extent firstChild(const Measure& measure) {
 Extent lineOfChildren(const Measure& measure) {
     const Room room = measure.roomOf(childWidgets(measure.widget));
     return room.sum + gapsBetween(room.number) * numberProperty(measure.widget, "இடைவெளி", 0.0F);
+}
+
+OfferedRoom roomOfOwnWidth(const std::string& given) {
+    return {"pozhil_own_width(" + given + ")"};
+}
+
+OfferedRoom roomOfLayout(const Measure& measure, const WidgetNode&) {
+    const std::optional<float> given =
+        numberOf(findProperty(measure.widget, {measure.axis.styleName, measure.axis.name}));
+    return given ? OfferedRoom{floatConstant(*given)} : roomOfOwnWidth(OfferedRoom().width);
+}
+
+OfferedRoom sameRoom(const Measure&, const WidgetNode&) {
+    OfferedRoom room;
+    room.imposed = "pozhil_imposed_width";
+    return room;
+}
+
+OfferedRoom roomOfWindow(const Measure&, const WidgetNode&) {
+    return {"winWidth"};
 }
 
 float labelWidth(const WidgetNode& widget, float size) {

@@ -57,6 +57,19 @@ Extent firstChild(const Measure& measure);
 /// Children in a line, with gaps between them.
 Extent lineOfChildren(const Measure& measure);
 
+/// The room that a widget offers which is as wide as \p given, a float of the emitted text, unless its parent imposes another
+/// width.
+OfferedRoom roomOfOwnWidth(const std::string& given);
+
+/// The room that a layout offers which takes all it gets, unless the source gives its width as a number.
+OfferedRoom roomOfLayout(const Measure& measure, const WidgetNode& child);
+
+/// The room of a widget that only stands around its child.
+OfferedRoom sameRoom(const Measure& measure, const WidgetNode& child);
+
+/// The room of what is as wide as the window.
+OfferedRoom roomOfWindow(const Measure& measure, const WidgetNode& child);
+
 /// How wide a button's label of the given size in pixels is, by a rough width per code point.
 float labelWidth(const WidgetNode& widget, float size);
 

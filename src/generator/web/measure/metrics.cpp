@@ -13,7 +13,20 @@ Extent measureWith(MetricRule rule, const Measure& measure) {
     return rule == nullptr ? Extent() : rule(measure);
 }
 
+/// A size as it is in the room that \p offered tells, where another is around.
+Extent inRoom(const OfferedRoom* offered, const Extent& size) {
+    if (offered == nullptr || size.isConstant()) {
+        return size;
+    }
+    return Extent::computed("pozhil_in_room(" + offered->width + ", " + offered->imposed + ", [&] { return " +
+                            size.text() + "; })");
+}
+
 } // namespace
+
+Measure WidgetMetrics::measureAcross(const WidgetNode& widget) {
+    return {*this, widget, WIDTH};
+}
 
 Extent WidgetMetrics::calculateWidgetWidth(const Statement* statement) {
     return measureOnce(statement, WIDTH, &WidgetKind::width, widths_);
@@ -65,7 +78,8 @@ Extent WidgetMetrics::measureOnce(const Statement* statement, const MetricAxis& 
         return found->second;
     }
     const WidgetKind* kind = findKind_(widget->kind);
-    Extent size = kind == nullptr ? Extent() : measureWith(kind->*rule, {*this, *widget, axis});
+    Extent size =
+        kind == nullptr ? Extent() : inRoom(offeredTo(*widget), measureWith(kind->*rule, {*this, *widget, axis}));
     known.emplace(statement, size);
     return size;
 }

@@ -2,18 +2,31 @@
 
 #include "generator/web/write/extent.h"
 
+#include <string>
 #include <string_view>
 
 namespace pozhil {
 
 class WidgetWriter;
 struct Measure;
+struct WidgetNode;
 
 /// Writes the block of one widget.
 using WidgetBlock = void (*)(WidgetWriter&);
 
 /// The size of a widget along an axis, while it is there (metric_rules.h).
 using MetricRule = Extent (*)(const Measure& measure);
+
+/// The width that a widget offers to one of those in it, as floats of the emitted text. They hold where the widget itself
+/// is drawn or measured: there `pozhil_room_width` and `pozhil_imposed_width` are what it was offered.
+struct OfferedRoom {
+    std::string width = "pozhil_room_width";
+    /// What is imposed on it; -1 leaves it free.
+    std::string imposed = "-1.0f";
+};
+
+/// What a widget offers to \p child, which may be one of the elements of a list in it.
+using RoomRule = OfferedRoom (*)(const Measure& measure, const WidgetNode& child);
 
 /// A kind of widget: the row that its file ends in.
 struct WidgetKind {
@@ -24,6 +37,8 @@ struct WidgetKind {
     /// Null for a widget that takes no room in its parent.
     MetricRule width = nullptr;
     MetricRule height = nullptr;
+    /// Null for a widget that offers all its room, and imposes nothing.
+    RoomRule room = nullptr;
 };
 
 /// Finds the row of a word; null for a word that is no widget.

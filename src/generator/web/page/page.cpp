@@ -119,8 +119,9 @@ void emitTitle(WidgetWriter& page) {
 }
 
 /// The root of a page stands at the texts "0.0f", by which layouts know that they are one.
-void emitRoot(WidgetWriter& page, const Statement* root) {
+void emitRoot(WidgetContext& context, WidgetWriter& page, const Statement* root) {
     if (const WidgetNode* widget = asWidget(root)) {
+        context.beginPage(*widget);
         page.slot(*widget, "0.0f", "0.0f");
     }
 }
@@ -138,6 +139,7 @@ if (g_currentPage == $name) {
     bool bgSet = false;
 )",
                {{"name", page.edition().literal(pageName(app))}});
+    page.edition().writePageSettings(page);
     emitBackgroundColour(page);
     emitBackgroundImage(page);
     emitBackgroundVideo(page);
@@ -148,7 +150,7 @@ if (g_currentPage == $name) {
     nvgFill(vg);
 )");
     emitTitle(page);
-    page.block("$body\n}\n", {{"body", page.blocks([&] { emitRoot(page, app.uiBody.get()); })}});
+    page.block("$body\n}\n", {{"body", page.blocks([&] { emitRoot(context, page, app.uiBody.get()); })}});
 }
 
 } // namespace pozhil

@@ -5,8 +5,8 @@
 /// Fixed texts of web programs, each the file of its name in text/, embedded by the build.
 namespace pozhil::page_text {
 
-/// Sizes that follow the window, and the head of the frame function, up to the widgets. Holes: openAlerts,
-/// drawing and windowSize, lines of the edition.
+/// Sizes that follow the window, and the head of the frame function, up to the widgets. Holes: leastTextScale, a float;
+/// openAlerts, drawing and windowSize, lines of the edition.
 extern const Block frame_head;
 /// The end of the frame function: overlays, the message bar, input fields that are no longer drawn. Holes: those of
 /// MessageBar.

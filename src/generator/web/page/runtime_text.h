@@ -26,6 +26,8 @@ extern const std::string_view input_fields;
 extern const std::string_view media_elements;
 /// To be fenced off like canvas_keys.
 extern const std::string_view frame_helpers;
+/// For editions whose texts wrap.
+extern const std::string_view wrapping;
 
 /// navigation, with the page that is shown first.
 /// \param page its name as a literal of C++

@@ -39,7 +39,10 @@ void WebEmitter::writeFrameHead() {
         const CodeWriter::Indented inFrame(out_);
         edition_.writeWindowSize(out_);
     });
-    out_.block(page_text::frame_head, {{"openAlerts", openAlerts}, {"drawing", drawing}, {"windowSize", windowSize}});
+    out_.block(page_text::frame_head, {{"leastTextScale", edition_.leastTextScale()},
+                                       {"openAlerts", openAlerts},
+                                       {"drawing", drawing},
+                                       {"windowSize", windowSize}});
     out_ << "    float forcedW = -1.0f; float forcedH = -1.0f; float maxW = -1.0f; float maxH = -1.0f;\n"
          << "    pozhil_draw([&] {\n";
 }

@@ -51,6 +51,11 @@ void WidgetFrame::writeWidget(const WidgetNode& widget, const std::string& x, co
     if (visibility) {
         emitVisibilityCheck(writer, *visibility);
     }
+    const OfferedRoom* const room = metrics_.offeredTo(widget);
+    if (room != nullptr) {
+        writer.block("{\nconst PozhilRoom room($width, $imposed);\n",
+                     {{"width", room->width}, {"imposed", room->imposed}});
+    }
     const WidgetKind* kind = findWidgetKind(widget.kind);
     if (kind != nullptr && kind->block != nullptr) {
         // A function of its own: WebAssembly takes no function with as many locals as a large page would need.
@@ -58,6 +63,9 @@ void WidgetFrame::writeWidget(const WidgetNode& widget, const std::string& x, co
         edition().writeDisabling(writer);
         kind->block(writer);
         writer.block("});\n");
+    }
+    if (room != nullptr) {
+        writer.block("}\n");
     }
     if (visibility) {
         writer.block("} // End Visibility Check for $name\n", {{"name", edition().inComment(visibility->name)}});

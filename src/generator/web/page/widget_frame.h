@@ -17,6 +17,9 @@ public:
     Room roomAcross(const std::vector<const WidgetNode*>& children) override { return metrics_.roomAcross(children); }
     Room roomDown(const std::vector<const WidgetNode*>& children) override { return metrics_.roomDown(children); }
 
+    void beginPage(const WidgetNode& root) override { metrics_.rooms().learn(root); }
+    bool holdsWrappedText(const WidgetNode& widget) const override { return metrics_.rooms().holdsWrappedText(widget); }
+
     /// A widget as a statement of its own, outside any page: a text is drawn once, a column passes over to its children.
     void writeWidgetStatement(const WidgetNode& widget);
 

@@ -19,4 +19,5 @@
 #include "input_fields.h"
 #include "media_elements.h"
 #include "frame_helpers.h"
+#include "wrapping.h"
 // clang-format on

@@ -112,8 +112,16 @@ Extent cardHeight(const Measure& measure) {
     return cardSize(measure, USUAL);
 }
 
+/// A card imposes its size on its children, which stand 15 pixels from its edges.
+OfferedRoom cardRoom(const Measure& measure, const WidgetNode&) {
+    const std::string given = measure.metrics.presence().sizeText(
+        findProperty(measure.widget, {measure.axis.styleName, measure.axis.name}), "pozhil_own_width(winWidth)");
+    const std::string whole = roomOfOwnWidth(given.empty() ? "350.0f" : given).width;
+    return {whole + " - 30.0f", whole};
+}
+
 } // namespace
 
-extern const WidgetKind CARD = {language::widget::CARD, emitCard, cardWidth, cardHeight};
+extern const WidgetKind CARD = {language::widget::CARD, emitCard, cardWidth, cardHeight, cardRoom};
 
 } // namespace pozhil

@@ -27,6 +27,10 @@ void emitBoxAndLabelSize(WidgetWriter& box) {
         box.block("    float _txtW = 0.0f;\n");
         return;
     }
+    if (box.edition().wraps(*label)) {
+        box.block("    float _txtW = $width;\n", {{"width", box.widthOf(*label).text()}});
+        return;
+    }
     constexpr float USUAL_TEXT_SIZE = 15.0F;
     box.block(R"(
     std::string _cbTxt = $text;
@@ -125,9 +129,9 @@ void emitCheckbox(WidgetWriter& box) {
 }
 
 constexpr float CHECK_BOX = 24.0F;
+constexpr float GAP = 12.0F;
 
 Extent checkBoxWidth(const Measure& measure) {
-    constexpr float GAP = 12.0F;
     if (const std::optional<float> given = givenSize(measure)) {
         return *given;
     }
@@ -139,8 +143,14 @@ Extent checkBoxHeight(const Measure& measure) {
     return given ? Extent(*given) : larger(CHECK_BOX, firstChild(measure));
 }
 
+OfferedRoom checkBoxRoom(const Measure& measure, const WidgetNode&) {
+    const float box = givenSize(measure).value_or(CHECK_BOX);
+    return {roomOfOwnWidth(OfferedRoom().width).width + " - " + floatConstant(box + GAP)};
+}
+
 } // namespace
 
-extern const WidgetKind CHECKBOX = {language::widget::CHECKBOX, emitCheckbox, checkBoxWidth, checkBoxHeight};
+extern const WidgetKind CHECKBOX = {language::widget::CHECKBOX, emitCheckbox, checkBoxWidth, checkBoxHeight,
+                                    checkBoxRoom};
 
 } // namespace pozhil

@@ -30,11 +30,11 @@ std::pair<float, float> alignmentOf(const WidgetNode& child) {
     return {alignment->x, isMiddleRight ? 1.0F : alignment->y};
 }
 
-/// A text is measured as it will be drawn, since its width by the count of its letters is only a rough one.
+/// A text of one line is measured as it will be drawn, since its width by the count of its letters is only a rough one.
 void emitChildSize(WidgetWriter& box, const WidgetNode& child) {
     box.block("        float childW = $width; float childH = $height;\n",
               {{"width", box.widthOf(child).text()}, {"height", box.heightOf(child).text()}});
-    if (child.kind == language::widget::TEXT) {
+    if (child.kind == language::widget::TEXT && !box.edition().wraps(child)) {
         box.block(R"block(
         if (std::string(u8"உரை") == "$kind") {
             pozhil_draw([&] { childW = pozhil_text_width($text.c_str(), $size, $weight); });
@@ -102,8 +102,18 @@ Extent boxSize(const Measure& measure) {
     return givenSize(measure).value_or(USUAL);
 }
 
+OfferedRoom boxRoom(const Measure& measure, const WidgetNode&) {
+    const WidgetNode* const style = childOfKind(measure.widget, language::widget::BOX_STYLE);
+    const Expression* size = findProperty(measure.widget, {measure.axis.styleName, measure.axis.name});
+    if (size == nullptr && style != nullptr) {
+        size = findProperty(*style, {measure.axis.name});
+    }
+    const std::string given = measure.metrics.presence().sizeText(size, "pozhil_own_width(winWidth)");
+    return roomOfOwnWidth(given.empty() ? "100.0f" : given);
+}
+
 } // namespace
 
-extern const WidgetKind CONTAINER = {language::widget::CONTAINER, emitContainer, boxSize, boxSize};
+extern const WidgetKind CONTAINER = {language::widget::CONTAINER, emitContainer, boxSize, boxSize, boxRoom};
 
 } // namespace pozhil

@@ -74,8 +74,15 @@ void emitDialog(WidgetWriter& dialog) {
     dialog.block("});\n");
 }
 
+OfferedRoom dialogRoom(const Measure& measure, const WidgetNode&) {
+    const std::string given = measure.metrics.presence().sizeText(
+        findProperty(measure.widget, {measure.axis.styleName, measure.axis.name}), "winWidth");
+    const std::string whole = "responsiveW(" + (given.empty() ? "400.0f" : given) + ", winWidth, 40.0f)";
+    return {whole, whole};
+}
+
 } // namespace
 
-extern const WidgetKind DIALOG = {language::widget::DIALOG, emitDialog, sized<400>, sized<280>};
+extern const WidgetKind DIALOG = {language::widget::DIALOG, emitDialog, sized<400>, sized<280>, dialogRoom};
 
 } // namespace pozhil

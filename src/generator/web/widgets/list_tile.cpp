@@ -141,8 +141,24 @@ Extent tileHeight(const Measure& measure) {
     return plainSize(measure).value_or(hasSubtitle ? TWO_LINES : ONE_LINE);
 }
 
+/// What stands before and after the lines takes of their room.
+OfferedRoom tileRoom(const Measure& measure, const WidgetNode& child) {
+    constexpr float EDGES = 32.0F;
+    constexpr float GAP = 12.0F;
+    const std::string given =
+        measure.metrics.presence().sizeText(findProperty(measure.widget, {measure.axis.name}), "winWidth");
+    Extent taken = EDGES;
+    for (const char* name : {"முன்னணி", "பின்னணி_விட்ஜெட்"}) {
+        const WidgetNode* const neighbour = asWidget(findProperty(measure.widget, {name}));
+        if (neighbour != nullptr && neighbour != &child && !measure.metrics.rooms().holdsWrappedText(*neighbour)) {
+            taken += measure.roomOf({neighbour}).sum + GAP;
+        }
+    }
+    return {"responsiveW(" + (given.empty() ? "200.0f" : given) + ", winWidth, 0.0f) - " + taken.text()};
+}
+
 } // namespace
 
-extern const WidgetKind LIST_TILE = {language::widget::LIST_TILE, emitListTile, plainSized<200>, tileHeight};
+extern const WidgetKind LIST_TILE = {language::widget::LIST_TILE, emitListTile, plainSized<200>, tileHeight, tileRoom};
 
 } // namespace pozhil

@@ -33,6 +33,6 @@ if (g_currentPage == $literal) {
 
 } // namespace
 
-extern const WidgetKind NESTED_PAGE = {language::widget::PAGE, emitNestedPage};
+extern const WidgetKind NESTED_PAGE = {language::widget::PAGE, emitNestedPage, nullptr, nullptr, roomOfWindow};
 
 } // namespace pozhil

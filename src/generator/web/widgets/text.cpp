@@ -36,7 +36,29 @@ void emitTextAnimation(WidgetWriter& text) {
     }
 }
 
-/// உரை: a line of text, which gets smaller until it fits.
+/// How the canvas calls an alignment.
+const char* canvasAlignment(const std::string& align) {
+    const bool isCentre = align == "மையம்" || align == "center";
+    return isCentre ? "center" : align == "வலது" || align == "right" ? "right" : "left";
+}
+
+/// A text in as many lines as the room makes of it.
+void emitWrappedLines(WidgetWriter& text) {
+    const TextStyle& style = text.widget().style;
+    const EditionWriter& edition = text.edition();
+    text.block(R"(
+    $wrapped.draw(textContent, $x, $y, $align, "$colour", $weight, $underline, $font, animAlpha, animOffsetY);
+}
+)",
+               {{"wrapped", text.edition().wrappedText(text.widget(), "textContent")},
+                {"align", edition.literal(canvasAlignment(style.align))},
+                {"colour", cssColour(styleColour(style.color.empty() ? "#000000" : style.color))},
+                {"weight", edition.literal(weightOf(style))},
+                {"underline", style.underline ? "true" : "false"},
+                {"font", edition.literal(style.font)}});
+}
+
+/// உரை: a line of text, which gets smaller until it fits, or lines where it wraps.
 void emitText(WidgetWriter& text) {
     const TextStyle& style = text.widget().style;
     const EditionWriter& edition = text.edition();
@@ -48,6 +70,10 @@ void emitText(WidgetWriter& text) {
 )",
                {{"value", textValue(text, findProperty(text.widget(), {"உரை"}), "std::string(\"\")")}});
     emitTextAnimation(text);
+    if (edition.wraps(text.widget())) {
+        emitWrappedLines(text);
+        return;
+    }
     text.block(R"(
     float textX = $x; float textY = $y; float drawX = textX;
     float responsiveSize = responsiveTextSize($size, winWidth);
@@ -76,6 +102,9 @@ void emitText(WidgetWriter& text) {
 Extent textWidth(const Measure& measure) {
     constexpr std::size_t UNKNOWN_LENGTH = 10;
     constexpr float PER_CODE_POINT = 0.65F;
+    if (measure.metrics.presence().wraps(measure.widget)) {
+        return measure.metrics.presence().wrappedSize(measure.widget, "width");
+    }
     const float styleSize = measure.widget.style.size;
     const float size = styleSize > 0 ? styleSize : numberProperty(measure.widget, "style_அளவு", USUAL_TEXT_SIZE);
     std::size_t count = UNKNOWN_LENGTH;
@@ -90,6 +119,9 @@ Extent textWidth(const Measure& measure) {
 
 Extent textHeight(const Measure& measure) {
     constexpr float USUAL_HEIGHT = 20.0F;
+    if (measure.metrics.presence().wraps(measure.widget)) {
+        return measure.metrics.presence().wrappedSize(measure.widget, "height");
+    }
     return measure.widget.style.size > 0 ? measure.widget.style.size : USUAL_HEIGHT;
 }
 

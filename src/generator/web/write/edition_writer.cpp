@@ -1,10 +1,16 @@
 #include "generator/web/write/edition_writer.h"
 
+#include "generator/web/write/sizes.h"
+
 namespace pozhil {
 
 const Layering& EditionWriter::layering() const {
     static const Layering NONE;
     return NONE;
+}
+
+std::string EditionWriter::sizeText(const Expression* size, const std::string& base) {
+    return processPercentage(*this, size, base);
 }
 
 void EditionWriter::writeEach(WidgetWriter&, const EachNode&, const std::string&, const Filling&, const Course*) {

@@ -111,6 +111,8 @@ public:
     /// A bool that decides between two sizes, empty for an expression that can't.
     virtual std::string sizeCondition(const Expression& condition, const std::string& base) = 0;
 
+    std::string sizeText(const Expression* size, const std::string& base) override;
+
     // State of the program that widgets show and change.
 
     /// What decides whether \p widget is there; nothing for one that always is.
@@ -138,6 +140,12 @@ public:
 
     /// Lines by which the program knows the size of the window: the floats `winWidth` and `winHeight`.
     virtual void writeWindowSize(CodeWriter& out) = 0;
+
+    /// A float of the emitted text: texts never shrink with the window to a smaller part of their size.
+    virtual std::string leastTextScale() const { return "0.65f"; }
+
+    /// Lines at the head of a page, for what this edition makes of its header.
+    virtual void writePageSettings(WidgetWriter&) {}
 
     /// The function pozhil_open_alerts of the emitted program: a std::set<std::string> of the names by which widgets are
     /// there that mask the page.

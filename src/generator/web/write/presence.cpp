@@ -8,6 +8,18 @@ void Presence::refuseElements() {
     throw std::logic_error("an edition without lists of widgets is asked for their elements");
 }
 
+void Presence::refuseWrapping() {
+    throw std::logic_error("an edition whose texts are of one line is asked where they wrap");
+}
+
+std::string Presence::wrappedText(const WidgetNode&, const std::string&) {
+    refuseWrapping();
+}
+
+Extent Presence::wrappedSize(const WidgetNode&, const char*) {
+    refuseWrapping();
+}
+
 Extent Presence::sumOverElements(const EachNode&, const Extent&) {
     refuseElements();
 }

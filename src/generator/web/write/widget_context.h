@@ -41,6 +41,12 @@ public:
     virtual Room roomAcross(const std::vector<const WidgetNode*>& children) = 0;
     virtual Room roomDown(const std::vector<const WidgetNode*>& children) = 0;
 
+    /// Learns what stands on a page before its widgets are written.
+    virtual void beginPage(const WidgetNode& root) = 0;
+
+    /// Whether the widget is a text that wraps, or holds one.
+    virtual bool holdsWrappedText(const WidgetNode& widget) const = 0;
+
     /// In how many lists within each other what is being written comes, once for each element.
     std::size_t depthOfEach() const { return elementScopes_.size(); }
 

@@ -53,6 +53,10 @@ Room WidgetWriter::roomDown(const std::vector<const WidgetNode*>& children) cons
     return context_.roomDown(children);
 }
 
+bool WidgetWriter::holdsWrappedText(const WidgetNode& widget) const {
+    return context_.holdsWrappedText(widget);
+}
+
 EditionWriter& WidgetWriter::edition() const {
     return context_.edition();
 }

@@ -44,6 +44,9 @@ public:
     Room roomAcross(const std::vector<const WidgetNode*>& children) const;
     Room roomDown(const std::vector<const WidgetNode*>& children) const;
 
+    /// Whether the widget is a text that wraps, or holds one.
+    bool holdsWrappedText(const WidgetNode& widget) const;
+
     /// Writes a block of the emitted text. Besides \p holes it may have `$x`, `$y` (the position) and `$n` (the number).
     void block(const Block& block, const Holes& holes = {});
 
