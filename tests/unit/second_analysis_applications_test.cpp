@@ -123,7 +123,12 @@ TEST(SecondApplicationFaults, FunctionsOfPagesArePartOfApplicationsOnly) {
 }
 
 TEST(SecondApplicationFaults, PropertiesThatNothingReads) {
-    EXPECT_THAT(meaningFaults(application("உரை(\"அ\", மடி: மெய்)", "    விடு\n")), ElementsAre("596 3 'மடி'"));
+    EXPECT_THAT(meaningFaults(application("பொத்தான்(உரை(\"அ\", மடி: மெய்))", "    விடு\n")), ElementsAre("596 3 'மடி'"))
+        << "labels are of one line";
+    EXPECT_THAT(meaningFaults(application("உரை(\"அ\", அகலம்: 80)", "    விடு\n")), ElementsAre("596 3 'அகலம்'"));
+    EXPECT_THAT(meaningFaults(application("உரை(\"அ\", அகலம்: 80, மடி: பொய்)", "    விடு\n")),
+                ElementsAre("596 3 'அகலம்'"));
+    EXPECT_THAT(meaningFaults(application("உரை(\"அ\", அகலம்: 80, மடி: மெய்)", "    விடு\n")), IsEmpty());
 }
 
 TEST(SecondApplicationFaults, ARadioInNoGroupChangesNothing) {

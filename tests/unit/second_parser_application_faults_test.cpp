@@ -101,6 +101,8 @@ TEST(Values, ThatThePageIsBuiltWithMustBeWritten) {
     EXPECT_THAT(widgetFaults("பெட்டி(வளைவு: அ எனில் 1 இல்லைஎனில் 2)"), ElementsAre(HasSubstr("632 3 ")));
     EXPECT_THAT(widgetFaults("பெட்டி(வளைவு: 1.5, நிழல்: (3))"), IsEmpty());
     EXPECT_THAT(secondFaults("வலைதளம் (தலைமை(பக்கம்: அ) குமரி(உரை(\"அ\")) வரையறை())\n"), ElementsAre("632 1 'அ'"));
+    EXPECT_THAT(widgetFaults("உரை(\"அ\", மடி: அ)"), ElementsAre("632 3 'அ'"));
+    EXPECT_THAT(widgetFaults("உரை(\"அ\", மடி: \"மெய்\")"), ElementsAre("631 3 '\"மெய்\"'"));
     EXPECT_THAT(widgetFaults("உரைபெட்டி(குறிப்பு: அ, பலவரி: ஆ)"), ElementsAre("632 3 'அ'", "632 3 'ஆ'"));
     EXPECT_THAT(
         widgetFaults(
@@ -114,6 +116,16 @@ TEST(Parts, OfOtherWidgetsAreTold) {
                 ElementsAre("629 3 'அழுத்தினால்'", "629 3 'பொ_பாணி'"));
     EXPECT_THAT(widgetFaults("பொத்தான்(பாணி(வளைவு: 1))"), ElementsAre("629 3 'பாணி'"));
     EXPECT_THAT(widgetFaults("உரை(குறிப்பு(1))"), IsEmpty()) << "the call of a function in a text";
+}
+
+TEST(Words, MustBeThoseOfTheHeader) {
+    const auto faults = [](const std::string& value) {
+        return secondFaults("வலைதளம் (தலைமை(எழுத்தளவு: " + value + ") குமரி(உரை(\"அ\")) வரையறை())\n");
+    };
+    EXPECT_THAT(faults("\"நிலையான\""), IsEmpty());
+    EXPECT_THAT(faults("\"மாறும்\""), IsEmpty());
+    EXPECT_THAT(faults("\"நிலயான\""), ElementsAre("635 1 '\"நிலயான\"' → 'நிலயான' என்பது 'நிலையான' என்று இருக்க வேண்டுமோ?"));
+    EXPECT_THAT(faults("16"), ElementsAre("631 1 '16'"));
 }
 
 TEST(Words, MustBeThoseOfTheProperty) {

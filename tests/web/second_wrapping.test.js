@@ -165,7 +165,7 @@ const aligned = second(`
             உரை("0"),
             உரை("${VERSE}", மடி: மெய், உரைபாணி(சீரமைப்பு: "மையம்")),
             உரை("1"),
-            உரை("${VERSE}", மடி: மெய், உரைபாணி(சீரமைப்பு: "வலது", தடிமன்: "700", நிறம்: "#FF0000")),
+            உரை("${VERSE}", மடி: மெய், உரைபாணி(சீரமைப்பு: "வலது", தடிமன்: 700, நிறம்: "#FF0000")),
             உரை("2"),
             உரை("க", மடி: மெய், உரைபாணி(சீரமைப்பு: "வலது")),
             உரை("3"),
@@ -218,10 +218,42 @@ webTest('elements of a list are as high as their lines', listed, DESKTOP, async 
     }
 });
 
+const cells = second(`
+        நெடுவரிசை(
+            உரை("0"),
+            கட்டம்_காட்சி(குறுக்கு_எண்ணிக்கை: 2)(
+                உரை("${VERSE}", மடி: மெய்),
+                உரை("க", மடி: மெய்),
+                உரை("ங")
+            ),
+            உரை("1"),
+            தேர்வுபெட்டி(அகலம்: 24, உயரம்: 24)(உரை("${VERSE}", மடி: மெய்)),
+            உரை("2"),
+            பட்டியல்_உருப்படி(தலைப்பு: உரை("${VERSE}", மடி: மெய்), அகலம்: 260)
+        )`, '');
+
+webTest('texts wrap in cells, beside boxes to tick and in tiles', cells, DESKTOP, async page => {
+    for (const [width, columns] of [[1280, 2], [390, 1]]) {
+        await page.resize(width, 844);
+        const wraps = room => linesOf(page, VERSE, room, 16 * scaleOf(width));
+        const shown = (await drawnBetween(page, '0', '1'));
+        const verse = await wraps((width - 10 * (columns - 1)) / columns);
+        assert.deepEqual(shown.map(({ text }) => text), [...verse, 'க', 'ங']);
+        // A row of cells is as high as the highest of them.
+        const [cell, below] = shown.slice(-2);
+        near(below.y - shown[0].y, verse.length * LINE_HEIGHT * 16 * scaleOf(width) + 10
+            + (columns === 1 ? LINE_HEIGHT * 16 * scaleOf(width) + 10 : 0), 0.05);
+        near(cell.x, columns === 1 ? 0 : (width + 10) / 2);
+        assert.deepEqual((await drawnBetween(page, '1', '2')).map(({ text }) => text), await wraps(width - 36));
+        const texts = (await page.texts()).map(({ text }) => text);
+        assert.deepEqual(texts.slice(texts.indexOf('2') + 1), await wraps(228));
+    }
+});
+
 const asked = second(`
         நெடுவரிசை(
             பொத்தான்(உரை: "திற", பொ_பாணி(அகலம்: 100, உயரம்: 30), அழுத்தினால்: () => திறந்தது = மெய்),
-            உரையாடல்(காட்சி_பெயர்: "திறந்தது", எச்சரிக்கை_பாணி(அகலம்: 240, உயரம்: 300))(
+            எச்சரிக்கை(காட்சி_பெயர்: "திறந்தது", எச்சரிக்கை_பாணி(அகலம்: 240, உயரம்: 300))(
                 உள்_இவெ(அளவு: 20)(நெடுவரிசை(உரை("${VERSE}", மடி: மெய்), உரை("அடி")))
             )
         )`, `
