@@ -31,20 +31,22 @@ TEST(WrappedTexts, AreAsLargeAsTheirLinesInTheRoomThatIsOffered) {
     EXPECT_THAT(pages, HasSubstr("const PozhilRoom room(responsiveW(200.0f, winWidth, 0.0f), -1.0f);"));
     EXPECT_THAT(pages, HasSubstr("pozhil_in_room(responsiveW(200.0f, winWidth, 0.0f), -1.0f, [&] { return "
                                  "(page::measured([&] { return page::wrapped(std::string("));
-    EXPECT_THAT(pages, HasSubstr("pozhil_room_width, responsiveTextSize(16.0f, winWidth), \"400\", \"\").height; })"));
+    EXPECT_THAT(
+        pages,
+        HasSubstr("pozhil_room_width, false, responsiveTextSize(16.0f, winWidth), \"normal\", \"\").height; })"));
 }
 
 TEST(WrappedTexts, HaveAWidthOfTheirOwnIfTheSourceGivesOne) {
-    EXPECT_THAT(pagesOf("உரை(\"ஆ\", மடி: மெய், அகலம்: 80)"), HasSubstr(", 80.0f, responsiveTextSize("));
+    EXPECT_THAT(pagesOf("உரை(\"ஆ\", மடி: மெய், அகலம்: 80)"), HasSubstr(", 80.0f, true, responsiveTextSize("));
     EXPECT_THAT(pagesOf("உரை(\"ஆ\", மடி: மெய், அகலம்: 50%)"), HasSubstr(", (pozhil_room_width * 0.5"));
 }
 
 TEST(WrappedTexts, AreOfferedWhatIsLeftInARow) {
     const std::string box = "பெட்டி(அகலம்: 40, உயரம்: 40)";
     EXPECT_THAT(pagesOf("கிடைவரிசை(இடைவெளி: 5)(" + box + ", விரிவாக்கம்(" + WRAPPED + "), வெற்றிடம்())"),
-                HasSubstr("pozhil_share_of_room(pozhil_own_width(pozhil_room_width), 45.0f, 2.0f)"));
+                HasSubstr("pozhil_share_of_room(pozhil_room_width, 45.0f, 2.0f)"));
     EXPECT_THAT(pagesOf("கிடைவரிசை(இடைவெளி: 5)(" + box + ", " + WRAPPED + ", " + WRAPPED + ")"),
-                HasSubstr("pozhil_share_of_room(pozhil_own_width(pozhil_room_width), 50.0f, 2.0f)"));
+                HasSubstr("pozhil_share_of_room(pozhil_room_width, 50.0f, 2.0f)"));
 }
 
 TEST(WrappedTexts, AloneMakeWidgetsTellTheirRoom) {

@@ -19,9 +19,9 @@ bool PageEdition::wraps(const WidgetNode& widget) const {
 std::string PageEdition::wrappedText(const WidgetNode& text, const std::string& shown) {
     const std::string room = "pozhil_room_width";
     const std::string given = sizeText(findProperty(text, {property::WIDTH.data()}), room);
-    return "page::wrapped(" + shown + ", " + (given.empty() ? room : given) + ", responsiveTextSize(" +
-           floatConstant(fontSizeOf(text.style)) + ", winWidth), " + textLiteral(weightOf(text.style)) + ", " +
-           textLiteral(text.style.font) + ")";
+    return "page::wrapped(" + shown + ", " + (given.empty() ? room + ", false" : given + ", true") +
+           ", responsiveTextSize(" + floatConstant(fontSizeOf(text.style)) + ", winWidth), " +
+           textLiteral(weightOf(text.style)) + ", " + textLiteral(text.style.font) + ")";
 }
 
 Extent PageEdition::wrappedSize(const WidgetNode& text, const char* side) {

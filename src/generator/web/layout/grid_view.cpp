@@ -60,8 +60,7 @@ Extent widthOf(const WidgetWriter& grid) {
     if (given) {
         return *given;
     }
-    return grid.holdsWrappedText(grid.widget()) ? Extent::computed(roomOfOwnWidth(OfferedRoom().width).width)
-                                                : grid.widthOf(grid.widget());
+    return grid.holdsWrappedText(grid.widget()) ? Extent::computed(OfferedRoom().width) : grid.widthOf(grid.widget());
 }
 
 /// கட்டம்_காட்சி: children in rows of so many, fewer on a narrow window.
@@ -126,7 +125,7 @@ Extent gridWidth(const Measure& measure) {
         return *given;
     }
     if (measure.metrics.rooms().holdsWrappedText(measure.widget)) {
-        return Extent::computed(roomOfOwnWidth(OfferedRoom().width).width);
+        return Extent::computed(OfferedRoom().width);
     }
     return gridSize(measure, static_cast<float>(gridColumns(measure.widget)), EMPTY_CELL, std::nullopt);
 }
@@ -145,7 +144,7 @@ Extent gridHeight(const Measure& measure) {
 /// Texts that wrap share out what the grid gets, where the source doesn't say how wide it is.
 OfferedRoom gridRoom(const Measure& measure, const WidgetNode&) {
     const std::optional<float> given = constantOf(findProperty(measure.widget, {"width", measure.axis.name}));
-    const std::string whole = given ? floatConstant(*given) : roomOfOwnWidth(OfferedRoom().width).width;
+    const std::string whole = given ? floatConstant(*given) : OfferedRoom().width;
     return {"pozhil_grid_cell(" + whole + ", " + std::to_string(columnsOf(measure.widget)) + ", " +
             gapOf(measure.widget, "அகலம்", {"h_gap", "கி_இவெ"}) + ", winWidth)"};
 }

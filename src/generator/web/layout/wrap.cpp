@@ -49,12 +49,8 @@ Extent wrapHeight(const Measure& measure) {
     return largestChild(measure) * LINES + (LINES - 1.0F) * numberProperty(measure.widget, "இடைவெளி", USUAL_GAP);
 }
 
-OfferedRoom wrapRoom(const Measure&, const WidgetNode&) {
-    return roomOfOwnWidth(OfferedRoom().width);
-}
-
 } // namespace
 
-extern const WidgetKind WRAP = {language::widget::WRAP, emitWrap, fixed<0>, wrapHeight, wrapRoom};
+extern const WidgetKind WRAP = {language::widget::WRAP, emitWrap, fixed<0>, wrapHeight};
 
 } // namespace pozhil

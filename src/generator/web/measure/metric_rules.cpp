@@ -1,6 +1,5 @@
 #include "generator/web/measure/metric_rules.h"
 
-#include "emit/emitted_block.h"
 #include "generator/web/write/literals.h"
 #include "generator/web/write/widget_properties.h"
 
@@ -46,7 +45,7 @@ OfferedRoom roomOfOwnWidth(const std::string& given) {
 OfferedRoom roomOfLayout(const Measure& measure, const WidgetNode&) {
     const std::optional<float> given =
         numberOf(findProperty(measure.widget, {measure.axis.styleName, measure.axis.name}));
-    return given ? OfferedRoom{floatConstant(*given)} : roomOfOwnWidth(OfferedRoom().width);
+    return given ? OfferedRoom{Extent(*given).text()} : OfferedRoom();
 }
 
 OfferedRoom sameRoom(const Measure&, const WidgetNode&) {

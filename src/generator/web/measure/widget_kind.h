@@ -21,7 +21,7 @@ using MetricRule = Extent (*)(const Measure& measure);
 /// is drawn or measured: there `pozhil_room_width` and `pozhil_imposed_width` are what it was offered.
 struct OfferedRoom {
     std::string width = "pozhil_room_width";
-    /// What is imposed on it; -1 leaves it free.
+    /// What is imposed on it, which a padding between may make larger than its room; -1 leaves it free.
     std::string imposed = "-1.0f";
 };
 

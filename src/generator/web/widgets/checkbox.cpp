@@ -145,7 +145,7 @@ Extent checkBoxHeight(const Measure& measure) {
 
 OfferedRoom checkBoxRoom(const Measure& measure, const WidgetNode&) {
     const float box = givenSize(measure).value_or(CHECK_BOX);
-    return {roomOfOwnWidth(OfferedRoom().width).width + " - " + floatConstant(box + GAP)};
+    return {OfferedRoom().width + " - " + floatConstant(box + GAP)};
 }
 
 } // namespace
