@@ -295,29 +295,35 @@ const endless = second(`
             நீண்டது = நீண்டது இணை "${VERSE} "`);
 
 webTest('a hundred thousand letters are measured once, and lines out of sight aren\'t written', endless, DESKTOP, async page => {
-    await page.frames(3);
-    const counted = await page.page.evaluate(() => {
-        const counts = { measured: 0, drawn: 0 };
+    await page.page.evaluate(() => {
+        window.counts = { calls: 0, letters: 0 };
         const { measureText } = CanvasRenderingContext2D.prototype;
         CanvasRenderingContext2D.prototype.measureText = function (text) {
-            counts.measured += this === window.pozhilLineContext ? 1 : 0;
+            if (this === window.pozhilLineContext) {
+                window.counts.calls++;
+                window.counts.letters += text.length;
+            }
             return measureText.call(this, text);
         };
-        window.counts = counts;
-        return counts.measured;
     });
-    assert.equal(counted, 0);
+    const counts = () => page.page.evaluate(() => window.counts);
     const begin = Date.now();
     await page.frames(20);
     const time = (Date.now() - begin) / 20;
-    assert.equal(await page.page.evaluate(() => window.counts.measured), 0);
+    assert.deepEqual(await counts(), { calls: 0, letters: 0 });
     assert.ok(time < 150, `a frame takes ${time} ms`);
     const drawn = await page.texts();
     assert.ok(drawn.length < 100, String(drawn.length));
-    // Another width is measured in time that is in line with the length.
-    await page.wheel(0, 30_000);
-    const [, , last] = await page.texts();
-    assert.ok(last.text.length > 10);
+    // Letters of another size are measured anew, in line with their number.
+    await page.resize(1000, 800);
+    const { calls, letters } = await counts();
+    assert.ok(calls > 1000 && letters < 40 * 1000 * VERSE.length, `${calls} ${letters}`);
+    // All lines are there.
+    const { y } = await page.text('எண்ணிக்கை 0');
+    await page.wheel(0, 10_000);
+    const [, first, last] = await page.texts();
+    assert.ok(first.y < -9000 && last.y > -100 && last.y < 800, JSON.stringify([first.y, last.y]));
+    near((await page.text('எண்ணிக்கை 0')).y, y - 10_000, 1);
 });
 
 const fontWide = second(`
