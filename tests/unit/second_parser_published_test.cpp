@@ -82,6 +82,12 @@ std::string difference(const std::string& first, const std::string& second) {
     return "\n1: " + first.substr(shown, SHOWN) + "\n2: " + second.substr(shown, SHOWN);
 }
 
+/// Whether it says itself that it is of the second edition, so that there is nothing to compare it with.
+bool isOfSecondEdition(const PublishedProgram& published) {
+    const std::string marker = "ஃ பொழில் 2\n";
+    return published.text.compare(0, marker.size(), marker) == 0;
+}
+
 /// How many programs were compared, and where they differ.
 struct Comparison {
     int programs = 0;
@@ -91,7 +97,7 @@ struct Comparison {
 Comparison compared(const fs::path& directory) {
     Comparison found;
     for (const PublishedProgram& published : publishedPrograms(directory)) {
-        if (!isApplication(published)) {
+        if (!isApplication(published) || isOfSecondEdition(published)) {
             continue;
         }
         std::string first;
