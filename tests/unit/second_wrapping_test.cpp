@@ -49,6 +49,13 @@ TEST(WrappedTexts, AreOfferedWhatIsLeftInARow) {
                 HasSubstr("pozhil_share_of_room(pozhil_room_width, 50.0f, 2.0f)"));
 }
 
+TEST(WrappedTexts, ShareARowAlsoAsElements) {
+    EXPECT_THAT(pagesOf("கிடைவரிசை(ஒவ்வொன்றும்(பட்டியல்: அ, உருப்படி: ஈ)(விரிவாக்கம்(உரை(ஈ, மடி: மெய்))), பெட்டி(அகலம்: 40))"),
+                HasSubstr("pozhil_share_of_room(pozhil_room_width, 40.0f, ((page::measured([&] { return page::count("));
+    EXPECT_THAT(pagesOf("கிடைவரிசை(ஒவ்வொன்றும்(பட்டியல்: அ, உருப்படி: ஈ)(உரை(ஈ, மடி: மெய்)), பெட்டி(அகலம்: 40))"),
+                HasSubstr("pozhil_share_of_room(pozhil_room_width, 40.0f, 1.0f)"));
+}
+
 TEST(WrappedTexts, AloneMakeWidgetsTellTheirRoom) {
     EXPECT_THAT(
         pagesOf("நெடுவரிசை(பெட்டி(உரை(\"அ\", மடி: பொய்)), உரை(\"ஆ\"))"),

@@ -142,41 +142,53 @@ void emitRow(WidgetWriter& row) {
     row.block("}\n");
 }
 
-/// What children take that are \p wanted, each with the gap after it.
-Extent takenBy(const Measure& measure, const std::function<bool(const WidgetNode&)>& wanted) {
-    std::vector<const WidgetNode*> children = childWidgets(measure.widget);
-    children.erase(std::remove_if(children.begin(), children.end(), [&](const auto* one) { return !wanted(*one); }),
-                   children.end());
-    const Room room = measure.roomOf(children);
-    return room.sum + room.number * numberProperty(measure.widget, "இடைவெளி", 0.0F);
+/// Whether the child, or an element of the list that it is, takes a share of the free space.
+bool takesShare(const WidgetNode& child) {
+    if (dynamic_cast<const EachNode*>(&child) == nullptr) {
+        return flexShare(child).has_value();
+    }
+    const auto elements = childWidgets(child);
+    return std::any_of(elements.begin(), elements.end(), [](const auto* one) { return takesShare(*one); });
 }
 
-/// Shares of the free space go by what all others take. Children that wrap without a share take in equal parts what those
-/// leave that don't wrap.
-OfferedRoom rowRoom(const Measure& measure, const WidgetNode& child) {
-    const std::string whole = roomOfLayout(measure, child).width;
-    const std::optional<float> share = flexShare(child);
-    Rooms& rooms = measure.metrics.rooms();
-    if (!share) {
-        const auto wraps = [&](const WidgetNode& one) { return rooms.holdsWrappedText(one) && !flexShare(one); };
-        const auto children = childWidgets(measure.widget);
-        const auto number =
-            std::count_if(children.begin(), children.end(), [&](const auto* one) { return wraps(*one); });
-        const float gaps = static_cast<float>(number - 1) * numberProperty(measure.widget, "இடைவெளி", 0.0F);
-        const Extent taken =
-            takenBy(measure, [&](const WidgetNode& one) { return !rooms.holdsWrappedText(one) && !flexShare(one); });
-        return {"pozhil_share_of_room(" + whole + ", " + (taken + gaps).text() + ", " +
-                floatConstant(static_cast<float>(number)) + ")"};
-    }
-    const Extent taken = takenBy(measure, [](const WidgetNode& one) { return !flexShare(one); });
-    const Extent shares = sharesOf(childWidgets(measure.widget), measure.metrics.presence());
+/// The children of a row that are \p wanted.
+std::vector<const WidgetNode*> childrenThat(const Measure& row, const std::function<bool(const WidgetNode&)>& wanted) {
+    std::vector<const WidgetNode*> children = childWidgets(row.widget);
+    children.erase(std::remove_if(children.begin(), children.end(), [&](const auto* one) { return !wanted(*one); }),
+                   children.end());
+    return children;
+}
+
+std::string shareOfRoom(const Measure& row, const WidgetNode& child, const Extent& taken, const Extent& shares) {
+    return "pozhil_share_of_room(" + roomOfLayout(row, child).width + ", " + taken.text() + ", " + shares.text() + ")";
+}
+
+/// The part of a child of the free space, which is imposed on it.
+OfferedRoom roomOfShare(const Measure& row, const WidgetNode& child, float gap) {
+    const Room others = row.roomOf(childrenThat(row, [](const WidgetNode& one) { return !takesShare(one); }));
+    const Extent shares = sharesOf(childWidgets(row.widget), row.metrics.presence());
     OfferedRoom room;
-    room.width = "pozhil_share_of_room(" + whole + ", " + taken.text() + ", " + shares.text() + ")";
+    room.width = shareOfRoom(row, child, others.sum + others.number * gap, shares);
     if (child.kind == language::widget::FLEXIBLE) {
-        room.width += " * " + floatConstant(*share);
+        room.width += " * " + floatConstant(*flexShare(child));
     }
     room.imposed = room.width;
     return room;
+}
+
+/// Children that wrap without a share take in equal parts what those leave that don't wrap.
+OfferedRoom rowRoom(const Measure& row, const WidgetNode& child) {
+    const float gap = numberProperty(row.widget, "இடைவெளி", 0.0F);
+    if (flexShare(child)) {
+        return roomOfShare(row, child, gap);
+    }
+    Rooms& rooms = row.metrics.rooms();
+    const auto wrapping =
+        childrenThat(row, [&](const WidgetNode& one) { return rooms.holdsWrappedText(one) && !takesShare(one); });
+    const Room others = row.roomOf(
+        childrenThat(row, [&](const WidgetNode& one) { return !rooms.holdsWrappedText(one) && !takesShare(one); }));
+    const float parts = std::max(1.0F, static_cast<float>(wrapping.size()));
+    return {shareOfRoom(row, child, others.sum + others.number * gap + (parts - 1.0F) * gap, parts)};
 }
 
 } // namespace
