@@ -1,13 +1,14 @@
 # What programs of the second edition are compiled and linked with: the headers of the engine, and an archive of its
 # code, that of its reports and that of utf8proc, so that building a program takes nothing but g++.
 
-# The headers that programs see are those that program.h names, and page.h with the report's; the others are the engine's
-# own.
+# The headers that programs see are those that program.h names, those of pages, and the report's; the others are the
+# engine's own.
 set(engine_directory ${PROJECT_SOURCE_DIR}/src/engine)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${engine_directory}/program.h)
 file(STRINGS ${engine_directory}/program.h engine_headers REGEX "^#include \"engine/")
 list(TRANSFORM engine_headers REPLACE "^#include \"engine/(.*)\"$" "${engine_directory}/\\1")
-list(APPEND engine_headers ${engine_directory}/program.h ${engine_directory}/page.h)
+list(APPEND engine_headers ${engine_directory}/program.h ${engine_directory}/page.h
+     ${engine_directory}/kept_state.h)
 set(report_headers ${PROJECT_SOURCE_DIR}/src/report/box.h)
 
 file(GLOB engine_sources CONFIGURE_DEPENDS ${engine_directory}/*.cpp ${PROJECT_SOURCE_DIR}/src/report/*.cpp)

@@ -452,6 +452,10 @@ def test_second_edition_is_called_as_the_first_with_its_engine(second_place, pub
     assert publish("வெளியிடு", SOURCE).status == OK
     second, first = ([re.sub(r"/\.pozhil-[^/]*/", "/", word) for word in call] for call in tools.calls("em++"))
     engine = str(second_place.compiler.parent / t.CACHE_DIRECTORY / t.ENGINE_ARCHIVE)
+    # What only newer builds of a page need is left out of its text, not of what is written to it.
+    leaving_out = "-DPOZHIL_PUBLISHED"
+    assert second.count(leaving_out) == 1
+    second.remove(leaving_out)
     assert second == first[:3] + [engine] + first[3:]
 
 

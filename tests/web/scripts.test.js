@@ -39,6 +39,59 @@ test('a page reloads for a later version alone', async () => {
     }
 });
 
+/// A page with the script that keeps state, in a tab that stores `stored`. `program` is its Module, missing what it lacks.
+function stateOf(stored, program) {
+    const page = { stored, taken: [], warnings: [], frames: [] };
+    const context = vm.createContext({
+        location: { pathname: '/' },
+        sessionStorage: {
+            getItem: () => page.stored,
+            removeItem: () => { page.stored = null; },
+            setItem: (key, value) => { page.stored = value; },
+        },
+        console: { warn: line => { page.warnings.push(line); } },
+        pozhilFrames: { before: work => { page.frames.push(work); } },
+        Module: { ...program, ccall: (name, type, types, given) => (
+            name === 'pozhil_take_state' ? page.taken.push(...given) : 'நிலை') },
+    });
+    context.globalThis = context;
+    vm.runInContext(text('driver/web/text/kept_state.js', {}), context);
+    page.draw = () => page.frames.forEach(work => work());
+    page.keep = () => context.pozhilState.keep();
+    return page;
+}
+const KEEPING = { _pozhil_take_state: () => {}, _pozhil_kept_state: () => {} };
+
+test('what was kept is given back once, before the first frame, and is nobody else\'s', () => {
+    const page = stateOf('பழையது', KEEPING);
+    assert.equal(page.stored, null);
+    page.draw();
+    page.draw();
+    assert.deepEqual(page.taken, ['பழையது']);
+    page.keep();
+    assert.equal(page.stored, 'நிலை');
+});
+
+test('the program learns what it begins with, if nothing was kept too', () => {
+    const page = stateOf(null, KEEPING);
+    page.draw();
+    assert.deepEqual(page.taken, ['']);
+});
+
+test('a page that is replaced before its first frame hands on what was kept', () => {
+    const page = stateOf('பழையது', KEEPING);
+    page.keep();
+    assert.equal(page.stored, 'பழையது');
+});
+
+test('a program that keeps nothing is asked nothing', () => {
+    const page = stateOf('பழையது', {});
+    page.draw();
+    page.keep();
+    assert.deepEqual(page.taken, []);
+    assert.equal(page.stored, null);
+});
+
 test('a page outlives its server', async () => {
     assert.equal((await reloads(() => { throw new Error('gone'); })).count, 0);
 });

@@ -106,6 +106,7 @@ std::string fillTemplate(std::string page, const PageValues& values) {
     if (values.version) {
         insertBeforeEndOfBody(page, servedScript(driver_text::reload, {{"version", std::to_string(*values.version)}}));
         insertBeforeEndOfBody(page, servedScript(driver_text::build_fault, {}));
+        insertBeforeEndOfBody(page, servedScript(driver_text::kept_state, {}));
     }
     return page;
 }

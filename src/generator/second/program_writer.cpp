@@ -226,6 +226,7 @@ void ProgramWriter::writeProgram() {
         ending_.open("int main() {");
         ending_.line("return run(" + programInfo() + ");");
     } else {
+        ending_.append(PageProgram(program_, tables_).keptState());
         ending_.open("static void init_globals() {");
         ending_.line("static const ProgramInfo program = " + programInfo() + ";");
         ending_.line("tellFaultsBy(page::tellFault);");

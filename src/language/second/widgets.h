@@ -25,6 +25,9 @@ constexpr std::string_view SHOWN = "தெரிய";
 constexpr std::string_view TEXT_SCALE = "எழுத்தளவு";
 constexpr std::string_view STEADY_TEXTS = "நிலையான";
 
+/// The property of a header that says whether variables keep their values when a newer build is loaded.
+constexpr std::string_view STATE_KEPT = "நிலை_காப்பு";
+
 /// The key that may stand before a style block.
 constexpr std::string_view STYLE_KEY = "பாணி";
 

@@ -27,8 +27,11 @@ namespace {
 namespace fs = std::filesystem;
 
 /// What makes the program smallest over the wire. It only runs in pages.
-const std::vector<std::string>& optimisation() {
-    static const std::vector<std::string> arguments = {"-Oz", "-s", "ENVIRONMENT=web"};
+std::vector<std::string> optimisationOf(const WebText& text) {
+    std::vector<std::string> arguments = {"-Oz", "-s", "ENVIRONMENT=web"};
+    if (text.edition == Edition::Second) {
+        arguments.emplace_back("-DPOZHIL_PUBLISHED"); // leaves out what only newer builds need
+    }
     return arguments;
 }
 
@@ -72,7 +75,7 @@ BuildResult compileProgram(const WebText& text, std::vector<std::string> packing
         return BuildResult::Failed;
     }
     const WebCompiler compiler(platform::executableDirectory(), source, folder);
-    WebCall call = {text.linking, std::move(packing), {}, optimisation()};
+    WebCall call = {text.linking, std::move(packing), {}, optimisationOf(text)};
     platform::CommandResult compiled = platform::captureCommand(compiler.command(call));
     if (compiled.status == 0) {
         return BuildResult::Done;

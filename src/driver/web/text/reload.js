@@ -4,6 +4,7 @@ setInterval(() => {
         .then(response => response.text())
         .then(text => {
             if (parseInt(text) > currentVersion) {
+                globalThis.pozhilState?.keep();
                 location.reload();
             }
         })

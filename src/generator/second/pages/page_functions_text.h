@@ -17,4 +17,7 @@ extern const Block page_layers;
 /// Texts that wrap: where their lines end, remembered from frame to frame, and how they are drawn.
 extern const Block page_wrapping;
 
+/// What takes the program's variables over a reload. Holes: the rows of the variables, and how many they are.
+extern const Block kept_state;
+
 } // namespace pozhil::second_page_text

@@ -6,7 +6,10 @@
 #include "generator/second/pages/page_functions_text.h"
 #include "generator/web/page/runtime_text.h"
 #include "generator/web/page/web_emitter.h"
+#include "generator/web/write/widget_properties.h"
+#include "language/second/widgets.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +26,17 @@ Application applicationOf(const Program& program) {
         pages.push_back(page.tree);
     }
     return readApplication(std::move(pages));
+}
+
+bool wantsStateKept(const Program& program) {
+    return std::none_of(program.pages.begin(), program.pages.end(), [](const Page& page) {
+        const WidgetNode* const header = asWidget(page.tree->header.get());
+        const auto* const wish =
+            header == nullptr
+                ? nullptr
+                : nodeCast<BooleanLiteral>(pozhil::findProperty(*header, {language::second::STATE_KEPT.data()}));
+        return wish != nullptr && wish->value == "பொய்";
+    });
 }
 
 } // namespace
@@ -45,14 +59,34 @@ EmittedLines PageProgram::head() const {
     for (const char* header : {"cctype", "cstddef", "cstdio", "cstdlib", "cstring"}) {
         lines.line("#include <" + std::string(header) + ">");
     }
-    lines.line("#include \"engine/program.h\"");
-    lines.line("#include \"engine/page.h\"");
+    for (const char* header : {"program", "page", "kept_state"}) {
+        lines.line("#include \"engine/" + std::string(header) + ".h\"");
+    }
     lines.line("using namespace pozhil::engine;");
     lines.line("");
     lines.lines(second_page_text::page_functions.text());
     lines.lines(second_page_text::page_layers.text());
     lines.lines(second_page_text::page_controls.text());
     lines.lines(second_page_text::page_wrapping.text());
+    return lines;
+}
+
+EmittedLines PageProgram::keptState() const {
+    EmittedLines lines;
+    std::string rows;
+    std::size_t count = 0;
+    for (std::size_t file = 0; file < program_.files.size(); ++file) {
+        for (const Variable* variable : program_.files[file].variables) {
+            rows += (count == 0 ? "{" : "\n    {") + std::to_string(file) + ", " + textLiteral(variable->name) + ", &" +
+                    tables_.names.of(*variable) + "},";
+            ++count;
+        }
+    }
+    if (count > 0 && wantsStateKept(program_)) {
+        CodeWriter out;
+        out.block(second_page_text::kept_state, {{"variables", rows}, {"count", std::to_string(count)}});
+        lines.lines(out.text());
+    }
     return lines;
 }
 

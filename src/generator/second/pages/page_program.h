@@ -21,6 +21,9 @@ public:
     /// All up to the program: the runtime of pages, the engine, and what pages give their programs.
     EmittedLines head() const;
 
+    /// What keeps the program's variables while the page is reloaded; empty if its author doesn't want that.
+    EmittedLines keptState() const;
+
     /// The frame function and main, which calls init_globals first.
     EmittedLines pages();
 
