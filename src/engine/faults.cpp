@@ -44,13 +44,18 @@ void noteWay(Fault::Details& details) {
     }
 }
 
+std::unique_ptr<Fault::Details> detailsOf(int number, Place place) {
+    auto details = std::make_unique<Fault::Details>();
+    details->number = number;
+    details->place = place == nullptr && Frame::innermost != nullptr ? Frame::innermost->calledAt() : place;
+    return details;
+}
+
 } // namespace
 
 void raise(int number, Place place, std::initializer_list<std::string_view> values, std::string_view suggestion,
            std::string_view remedy) {
-    auto details = std::make_unique<Fault::Details>();
-    details->number = number;
-    details->place = place == nullptr && Frame::innermost != nullptr ? Frame::innermost->calledAt() : place;
+    auto details = detailsOf(number, place);
     details->values.assign(values.begin(), values.end());
     details->suggestion = suggestion;
     details->remedy = remedy;
@@ -59,6 +64,12 @@ void raise(int number, Place place, std::initializer_list<std::string_view> valu
         noteWay(*details);
     }
     throw Fault(details.release());
+}
+
+Fault faultWithWay(int number, Place place) {
+    auto details = detailsOf(number, place);
+    noteWay(*details);
+    return Fault(details.release());
 }
 
 Fault::Fault(Details* theDetails) : details(theDetails) {}

@@ -9,6 +9,7 @@
 #include "engine/program_start.h"
 #include "engine/raise.h"
 #include "engine/running_faults.h"
+#include "engine/stop.h"
 #include "engine/text.h"
 #include "engine/value_faults.h"
 
@@ -25,10 +26,11 @@ void writeFault(const ReportedFault& fault) {
 
 FaultTeller tellFault = writeFault;
 
-void tell(const Fault& fault) {
+void tell(const Fault& fault, bool isStop = false) {
     useLastMemory();
     ReportedFault told;
     told.number = fault.details->number;
+    told.isStop = isStop;
     told.text = faultText(fault);
     told.box = report::plainFaultBox(told.text);
     tellFault(told);
@@ -72,12 +74,16 @@ struct Task {
 void carryOut(void* argument) {
     Task& task = *static_cast<Task*>(argument);
     const OwnWay way;
+    const TimedWork timed;
     try {
         callWithFaults(task.work, task.argument);
         task.wentWell = true;
     } catch (const Fault& fault) {
         flushOutput(); // comes before what is told
         tell(fault);
+    } catch (const Stop& stop) {
+        flushOutput();
+        tell(stop.fault, true);
     }
     flushOutput();
 }

@@ -18,6 +18,8 @@ namespace pozhil::engine {
 struct ReportedFault {
     /// Of the catalogue, such as 642.
     int number = 0;
+    /// Whether the work was stopped since it took too long.
+    bool isStop = false;
     /// Code, category, message, remedy, place and way of calls, each on its own.
     report::FaultText text;
     /// All of it as a console shows it, without colours.

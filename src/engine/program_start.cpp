@@ -8,6 +8,7 @@
 #include "engine/raise.h"
 #include "engine/running_faults.h"
 #include "engine/running_program.h"
+#include "engine/stop.h"
 
 #include <exception>
 #include <new>
@@ -41,6 +42,8 @@ void callWithFaults(void (*function)(void* argument), void* argument) {
     try {
         function(argument);
     } catch (const Fault&) {
+        throw;
+    } catch (const Stop&) {
         throw;
     } catch (const std::bad_alloc&) {
         raiseOutOfMemory();

@@ -15,4 +15,7 @@ namespace pozhil::engine {
 [[noreturn]] void raise(int number, Place place, std::initializer_list<std::string_view> values = {},
                         std::string_view suggestion = {}, std::string_view remedy = {});
 
+/// The fault of this number with the way of calls, for whoever throws something else than a fault.
+Fault faultWithWay(int number, Place place);
+
 } // namespace pozhil::engine

@@ -45,6 +45,7 @@ enum RunningFault : int {
     NOT_A_TIME = 682,
     TIME_FIXED = 683,
     CANNOT_WAIT = 684,
+    ENDLESS_WORK = 685,
 
     WRONG_STATE = 690,
 

@@ -30,6 +30,11 @@ std::string inputLine(Place place);
 /// \param seconds not negative
 void passTime(Decimal seconds, Place place);
 
+// clocks.cpp
+
+/// A time in seconds, above 0, that only tells how long something took. To ask for it doesn't keep a page from resting.
+Decimal workClock();
+
 // reserve.cpp
 
 /// Bytes that are put by for telling that memory is wanting.

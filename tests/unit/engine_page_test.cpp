@@ -1,6 +1,7 @@
 #include "engine/list.h"
 #include "engine/page.h"
 #include "engine/running_faults.h"
+#include "engine/stopping.h"
 #include "engine/value_faults.h"
 #include "engine_run_support.h"
 
@@ -167,6 +168,76 @@ TEST_F(Page, EndlessCallsAreTold) {
     EXPECT_TRUE(guarded([] { EXPECT_EQ(depthReached(10'000, "1:0-3"), 10'000); }));
     ASSERT_EQ(told.size(), 1U);
     EXPECT_EQ(told.front().number, TOO_DEEP);
+}
+
+/// Takes steps for ever, and catches whatever the language can catch.
+void goOnForEver(Place place) {
+    const Frame frame("முடிவிலி", "1:0-4");
+    for (;;) {
+        try {
+            const Attempt attempt;
+            step(place);
+        } catch (const Fault& fault) {
+            noted = fault.message();
+        }
+    }
+}
+
+class Patience : public Page {
+protected:
+    Patience() { setPatience(0.05); }
+    ~Patience() override { setPatience(5); }
+};
+
+TEST_F(Patience, WorkThatNeverEndsIsStopped) {
+    noted = Value();
+    EXPECT_FALSE(guarded([] { goOnForEver(HERE); }));
+    EXPECT_TRUE(noted.is(Tag::Nothing)) << "nothing catches it";
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told.front().number, ENDLESS_WORK);
+    EXPECT_TRUE(told.front().isStop);
+    EXPECT_EQ(told.front().text.excerpt.line, 3);
+    ASSERT_EQ(told.front().text.way.size(), 1U) << "although somebody attempts it";
+    EXPECT_EQ(told.front().text.way[0].function, "முடிவிலி");
+    EXPECT_EQ(Attempt::running, 0);
+    EXPECT_FALSE(guarded([] { inner("2:0-5"); }));
+    EXPECT_FALSE(told.back().isStop);
+}
+
+TEST_F(Patience, EachPieceOfWorkHasItsOwnTime) {
+    const auto workFor = [](double seconds) {
+        const double end = secondsSince1970(HERE) + seconds;
+        while (secondsSince1970(HERE) < end) {
+            step(HERE);
+        }
+    };
+    setPatience(0.5);
+    for (int piece = 0; piece < 3; ++piece) {
+        EXPECT_TRUE(guarded([&] { workFor(0.2); }));
+    }
+    EXPECT_TRUE(guarded([&] {
+        workFor(0.2);
+        EXPECT_TRUE(guarded([&] { workFor(0.2); }));
+        EXPECT_FALSE(guarded([] { goOnForEver(HERE); }));
+        workFor(0.2);
+    })) << "what it waits for isn't its own work";
+    EXPECT_EQ(told.size(), 1U);
+}
+
+TEST_F(Patience, FewStepsThatTakeLongAreWorkAsWell) {
+    EXPECT_FALSE(guarded([] {
+        for (int turn = 0; turn < 100000; ++turn) {
+            step(HERE);
+        }
+        for (;;) {
+            const double end = secondsSince1970(HERE) + 0.0001;
+            while (secondsSince1970(HERE) < end) {
+            }
+            step(HERE);
+        }
+    }));
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told.front().number, ENDLESS_WORK);
 }
 
 TEST_F(Page, HandlersGetTheNewValueIfTheyWantIt) {

@@ -33,6 +33,22 @@ TEST(SecondWriterStatements, StepsAreCheckedUnlessTheyStandThere) {
                 HasSubstr("Counting count1{0LL, 9LL, checkedStep(0LL, "));
 }
 
+TEST(SecondWriterStatements, OnlyPagesCountWhatTheyDo) {
+    const std::string work = "செயல் f():\n    சுற்று மெய்:\n        ஒவ்வொன்றாக எ இல் [1]:\n            அச்சிடு(எ)\n"
+                             "    ஒவ்வொன்றாக எ இல் வரம்பு(3):\n        அச்சிடு(எ)\n"
+                             "    ஒவ்வொன்றாக எ இல் வரம்பு(0, 9, 2):\n        அச்சிடு(எ)\n";
+    const auto steps = [&](const std::string& source) {
+        const std::string body = WrittenProgram(source).body("f_f");
+        std::size_t count = 0;
+        for (std::size_t at = body.find("step("); at != std::string::npos; at = body.find("step(", at + 1)) {
+            ++count;
+        }
+        return count;
+    };
+    EXPECT_EQ(steps(work + "f()\n"), 0U);
+    EXPECT_EQ(steps(work + "வலைதளம் தளம்(\n    தலைமை()\n    குமரி(உரை(\"அ\"))\n    வரையறை()\n)\n"), 5U);
+}
+
 TEST(SecondWriterStatements, BranchesOfOneConditionStayOneChain) {
     EXPECT_THAT(
         WrittenProgram("அ = 1\nஎனில் அ சமம் 1:\n    அச்சிடு(1)\nஇல்லைஎனில் அ சமம் 2:\n    அச்சிடு(2)\nஇல்லை:\n    அச்சிடு(3)\n")

@@ -119,3 +119,106 @@ webTest('a published page has nothing that keeps variables', COUNTING('முத
         typeof pozhilState, typeof Module._pozhil_take_state, typeof Module._pozhil_kept_state]),
                      ['undefined', 'undefined', 'undefined']);
 });
+
+const ENDLESS = page(['"எண் " இணை எண்ணிக்கை', '"உரை " இணை உரை_தரு()'], `
+        எண்ணிக்கை = 0
+        வழி = 0
+        செயல் உரை_தரு():
+            சுற்று வழி சமம் 4:
+                விடு
+            திரும்பு வழி
+        செயல் கிளை(ஆழம்):
+            எனில் ஆழம் சமம் 0:
+                திரும்பு 1
+            திரும்பு கிளை(ஆழம் கழி 1) கூட்டு கிளை(ஆழம் கழி 1)
+        செயல் மாற்று():
+            எண்ணிக்கை = எண்ணிக்கை கூட்டு 1
+            வழி = எண்ணிக்கை
+            எனில் வழி சமம் 1:
+                சுற்று மெய்:
+                    முயற்சி:
+                        சுற்று மெய்:
+                            விடு
+                    பிடி(பிழை):
+                        எண்ணிக்கை = 100
+            எனில் வழி சமம் 2:
+                அச்சிடு(கிளை(60))
+            எனில் வழி சமம் 3:
+                சுற்று மெய்:
+                    ஒவ்வொன்றாக எ இல் வரம்பு(3):
+                        ஒவ்வொன்றாக ஒ இல் [1, 2]:
+                            விடு`);
+
+webTest('work that never ends is stopped after five seconds with a fault, and the page goes on', ENDLESS, async tab => {
+    const fault = tab.page.locator('#pozhil-program-fault');
+    const lines = ENDLESS.split('\n');
+    const lineOf = text => lines.findIndex(line => line.includes(text)) + 1;
+    const told = async () => {
+        await fault.waitFor({ timeout: 60_000 });
+        const text = await fault.innerText();
+        await fault.locator('.pozhil-close').click();
+        return text;
+    };
+    // A loop that catches everything, calls without loops, and short loops in one that has no end.
+    for (const [count, place] of [[1, 'சுற்று மெய்:'], [2, 'கிளை(ஆழம் கழி 1) கூட்டு'], [3, null]]) {
+        const before = Date.now();
+        await pressButton(tab);
+        const text = await told();
+        assert.ok(Date.now() - before > 4500, `${Date.now() - before} ms`);
+        assert.match(text, /பொழி-685/);
+        if (place !== null && count === 2) {
+            assert.match(text, new RegExp(`வரி ${lineOf(place)}`));
+            assert.match(text, /'கிளை' அழைக்கப்பட்ட இடம்/);
+        }
+        assert.match(text, /'மாற்று' அழைக்கப்பட்ட இடம்|வரி/);
+        await tab.waitForText(`எண் ${count}`);
+    }
+    // A text that never ends is stopped in each frame, in no time after the first.
+    await pressButton(tab);
+    const text = await told();
+    assert.match(text, new RegExp(`வரி ${lineOf('சுற்று வழி சமம் 4:')}`));
+    const before = Date.now();
+    for (let press = 5; press < 8; press++) {
+        await pressButton(tab);
+        await tab.waitForText(`எண் ${press}`);
+    }
+    assert.ok(Date.now() - before < 4000, `${Date.now() - before} ms`);
+    await tab.waitForText('உரை 7');
+    assert.deepEqual(tab.errors, []);
+});
+
+const LONG = page(['"தொகை " இணை தொகை'], `
+        தொகை = 0
+        செயல் மாற்று():
+            தொடக்கம் = நேரம்.வினாடிகள்()
+            சுற்று நேரம்.வினாடிகள்() கழி தொடக்கம் சிறிது 3:
+                தொகை = 1`);
+
+webTest('work of less than five seconds is not stopped', LONG, async tab => {
+    await pressButton(tab);
+    await tab.waitForText('தொகை 1');
+    await pressButton(tab);
+    await tab.frames(3);
+    assert.equal(await tab.page.locator('#pozhil-program-fault').count(), 0);
+});
+
+const COUNTED = page(['"தொகை " இணை தொகை_தரு()'], `
+        செயல் தொகை_தரு():
+            தொகை = 0
+            ஒவ்வொன்றாக எ இல் வரம்பு(30000):
+                தொகை = தொகை கூட்டு எ
+            திரும்பு தொகை
+        செயல் மாற்று():
+            விடு`);
+
+webTest('a page that works on much in each frame comes to rest all the same', COUNTED, async tab => {
+    await tab.waitForText('தொகை 449985000');
+    const drawn = () => tab.page.evaluate(() => window.recorded.frames);
+    let before = -1;
+    const end = Date.now() + 30_000;
+    while (await drawn() !== before && Date.now() < end) {
+        before = await drawn();
+        await tab.page.waitForTimeout(500);
+    }
+    assert.equal(await drawn(), before);
+});

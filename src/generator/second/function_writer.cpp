@@ -94,6 +94,9 @@ void FunctionWriter::define(const Function& function, EmittedLines& lines) {
     lines.line(lineComment(tables_.places.description(function.place)));
     lines.open(head(function) + " {");
     lines.line("Frame frame(" + textLiteral(shownName(function)) + ", at);");
+    if (tables_.isStoppable) {
+        lines.line("step(at);");
+    }
     declareVariables(function, lines);
     CallScope scope{&function, 0, lastUses(function)};
     const LocalFacts facts(&function, *function.body);

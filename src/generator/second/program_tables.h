@@ -32,10 +32,13 @@ private:
 
 /// What everything that is written of a program shares.
 struct ProgramTables {
-    explicit ProgramTables(const Program& program) : names(program), places(program) {}
+    explicit ProgramTables(const Program& program)
+        : names(program), places(program), isStoppable(!program.pages.empty()) {}
 
     Names names;
     SourcePlaces places;
+    /// Whether what the program does is counted, so that what never ends can be stopped.
+    bool isStoppable;
     Members members{};
     Numbered<std::string> texts{};
     /// Functions that come with the language and are used as values.

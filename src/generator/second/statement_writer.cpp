@@ -99,10 +99,17 @@ void StatementWriter::visit(const If& statement) {
     lines_.close();
 }
 
+void StatementWriter::writeTurn(const Block& body, const Place& place) {
+    if (tables_.isStoppable) {
+        lines_.line("step(" + tables_.places.literal(place) + ");");
+    }
+    write(body);
+}
+
 /// சுற்று a: ...  ->  while (a) { ... }
 void StatementWriter::visit(const While& loop) {
     lines_.open("while (" + expressions_.condition(*loop.condition) + ") {");
-    write(*loop.body);
+    writeTurn(*loop.body, loop.condition->place);
     lines_.close();
 }
 
@@ -113,7 +120,7 @@ void StatementWriter::visit(const CountingLoop& loop) {
     } else {
         countBySteps(loop);
     }
-    write(*loop.body);
+    writeTurn(*loop.body, loop.place);
     lines_.close();
 }
 
@@ -174,7 +181,7 @@ void StatementWriter::visit(const EachLoop& loop) {
     if (!isDirect) {
         takeOver(*loop.variable, holder, Type::Value);
     }
-    write(*loop.body);
+    writeTurn(*loop.body, loop.iterable->place);
     lines_.close();
 }
 

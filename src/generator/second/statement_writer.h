@@ -44,6 +44,8 @@ private:
     void comment(const Place& place);
     void countByOne(const CountingLoop& loop);
     void countBySteps(const CountingLoop& loop);
+    /// The body of a loop, whose turns count in the program of a page.
+    void writeTurn(const Block& body, const Place& place);
     /// v_எ = holder, at the beginning of a loop's body.
     void takeOver(const Variable& variable, const std::string& holder, Type type);
 
