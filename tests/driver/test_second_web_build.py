@@ -134,6 +134,19 @@ def test_applications_of_one_folder_do_not_meet(web_place, tools, other, marker)
             second.wait_until(lambda: len(tools.calls("em++")) == 2)
 
 
+def test_where_the_port_is_taken_nothing_is_said_to_be_served(web_place, tools):
+    """Nor is the browser sent to what somebody else serves there."""
+    web_place.write("ஆ.பொழில்", application())
+    with web_place.session(SOURCE) as first:
+        first.wait_for_output(t.WEB_OPENING)
+        with web_place.session("ஆ.பொழில்") as second:
+            second.wait_for_errors(t.WEB_PORT_TAKEN)
+            # It goes on; whatever else it told would come before what it tells of a change.
+            web_place.write("ஆ.பொழில்", application('உரை("மாறியது")'))
+            second.wait_for_output(t.WEB_CHANGE_NOTE)
+            assert second.stdout.decode().startswith(BEFORE_BUILD + t.WEB_CHANGE_NOTE)
+
+
 # Pages of several declarations and files.
 
 

@@ -14,6 +14,14 @@ namespace {
 
 constexpr int BACKLOG = 10;
 constexpr std::size_t REQUEST_BYTES = 4096;
+constexpr const char* FAREWELL = "\n👋 சேவையகம் நிறுத்தப்பட்டது \n";
+
+void serveForEver(LocalServer* server) {
+    constexpr std::chrono::hours LONG{1};
+    while (server != nullptr) {
+        server->serve(LONG);
+    }
+}
 
 } // namespace
 
@@ -146,21 +154,27 @@ std::string startFailureText(platform::ListenStep step, const std::string& place
     return "🚨 சர்வர் கவனிப்பதில் பிழை!\n";
 }
 
-void startLocalServer(int port, const ServerSettings& settings) {
-    constexpr std::chrono::hours LONG{1};
+std::unique_ptr<LocalServer> openLocalServer(int port, const ServerSettings& settings) {
     try {
-        LocalServer server(port, {}, settings);
-        while (true) {
-            server.serve(LONG);
-        }
+        return std::make_unique<LocalServer>(port, ServerLimits(), settings);
     } catch (const platform::ListenFailure& failure) {
         std::cerr << startFailureText(failure.failedStep, placeOf(port, settings)) << std::flush;
+        return nullptr;
     }
 }
 
+void startLocalServer(int port, const ServerSettings& settings) {
+    serveForEver(openLocalServer(port, settings).get());
+}
+
 void runLocalServer(int port, const ServerSettings& settings) {
-    platform::endOnInterrupt("\n👋 சேவையகம் நிறுத்தப்பட்டது \n");
+    platform::endOnInterrupt(FAREWELL);
     startLocalServer(port, settings);
+}
+
+void runOpenServer(std::unique_ptr<LocalServer> server) {
+    platform::endOnInterrupt(FAREWELL);
+    serveForEver(server.get());
 }
 
 } // namespace pozhil

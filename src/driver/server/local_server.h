@@ -6,6 +6,7 @@
 #include <chrono>
 #include <cstddef>
 #include <list>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -85,10 +86,17 @@ std::string placeOf(int port, const ServerSettings& settings);
 /// \param place as above
 std::string startFailureText(platform::ListenStep step, const std::string& place);
 
+/// The server of a port; null if that can't be opened, which is told on standard error.
+std::unique_ptr<LocalServer> openLocalServer(int port, const ServerSettings& settings = {});
+
 /// Serves for ever. If the port can't be opened, tells so on standard error and returns.
 void startLocalServer(int port, const ServerSettings& settings = {});
 
 /// The server's thread: from now on an interrupt says goodbye and ends the process with status 0; then serves.
 void runLocalServer(int port = LOCAL_SERVER_PORT, const ServerSettings& settings = {});
+
+/// The same for a server that is open already, or couldn't be opened.
+/// \param server may be null
+void runOpenServer(std::unique_ptr<LocalServer> server);
 
 } // namespace pozhil

@@ -5,6 +5,7 @@
 #include "platform/browser.h"
 
 #include <thread>
+#include <utility>
 
 namespace pozhil {
 
@@ -14,14 +15,27 @@ WebSession::WebSession(const std::filesystem::path& appDirectory, const std::fil
 
 void WebSession::open(const WebText& text) {
     printWebPacking();
-    if (build_.run(text)) {
+    const bool isBuilt = build_.run(text);
+    if (text.edition == Edition::First) {
+        tellFirst(isBuilt, text);
+        std::thread(runLocalServer, LOCAL_SERVER_PORT, server_).detach();
+        return;
+    }
+    auto server = openLocalServer(LOCAL_SERVER_PORT, server_);
+    if (server != nullptr || !isBuilt) {
+        tellFirst(isBuilt, text);
+    }
+    std::thread(runOpenServer, std::move(server)).detach();
+}
+
+void WebSession::tellFirst(bool isBuilt, const WebText& text) const {
+    if (isBuilt) {
         printWebSuccess(placeOf(LOCAL_SERVER_PORT, server_), addressOf(server_));
         platform::openInBrowser(addressOf(server_));
     } else {
         printWebFailure(text.edition);
     }
     text.reportHints();
-    std::thread(runLocalServer, LOCAL_SERVER_PORT, server_).detach();
 }
 
 void WebSession::update(const WebText& text) {

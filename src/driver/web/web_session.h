@@ -25,6 +25,9 @@ public:
     void update(const WebText& text);
 
 private:
+    /// Tells what became of the first version, and opens a good one in the browser.
+    void tellFirst(bool isBuilt, const WebText& text) const;
+
     ServerSettings server_;
     WebBuild build_;
 };
