@@ -15,46 +15,33 @@ const counting = application(`
         செயல் கூட்டு_செய்():
             எண்ணிக்கை = எண்ணிக்கை கூட்டு 1` });
 
-const drawn = page => page.page.evaluate(() => window.recorded.frames);
-
-/// Waits until the page rests; false if it doesn't in this time.
-async function rests(page, limit = 60_000) {
-    const end = Date.now() + limit;
-    while (Date.now() < end) {
-        const before = await drawn(page);
-        await page.page.waitForTimeout(400);
-        if (await drawn(page) === before) {
-            return true;
-        }
-    }
-    return false;
-}
+const drawn = page => page.drawnFrames();
 
 const shown = page => page.page.evaluate(() => window.recorded.texts.map(({ text }) => text));
 
 for (const [screen, context] of [['desktop', {}], ['phone', { ...PHONE, deviceScaleFactor: 1 }]]) {
     webTest(`a page at rest draws nothing, and what is done is seen at once (${screen})`, counting, context,
             async page => {
-        assert.ok(await rests(page), 'rests');
+        assert.ok(await page.rests(), 'rests');
         const before = await drawn(page);
         await page.page.waitForTimeout(1000);
         assert.equal(await drawn(page), before);
 
         await page.page.mouse.move(100, 50);
         await page.page.waitForFunction(() => document.body.style.cursor === 'pointer', undefined, { timeout: 3000 });
-        assert.ok(await rests(page), 'rests under the pointer');
+        assert.ok(await page.rests(), 'rests under the pointer');
         await page.page.mouse.down();
         await page.page.waitForFunction(() => window.recorded.texts[0].text === '1', undefined, { timeout: 3000 });
         await page.page.mouse.up();
-        assert.ok(await rests(page), 'rests after a press');
+        assert.ok(await page.rests(), 'rests after a press');
         const { y } = await page.page.evaluate(() => window.recorded.texts.at(-1));
         await page.page.mouse.wheel(0, 50);
         await page.page.waitForFunction(top => window.recorded.texts.at(-1).y === top - 50, y, { timeout: 3000 });
-        assert.ok(await rests(page), 'rests after a scroll');
+        assert.ok(await page.rests(), 'rests after a scroll');
         await page.page.setViewportSize({ width: 450, height: 500 });
         await page.page.waitForFunction(() => document.getElementById('canvas').width === 450, undefined,
                                         { timeout: 3000 });
-        assert.ok(await rests(page), 'rests in a new window');
+        assert.ok(await page.rests(), 'rests in a new window');
         assert.deepEqual(await shown(page), ['1', 'கூட்டு', 'கீழே']);
     });
 }
@@ -70,7 +57,7 @@ webTest('a page at rest asks the browser for no frames', counting, async page =>
         };
     });
     await page.page.mouse.move(100, 50);
-    assert.ok(await rests(page));
+    assert.ok(await page.rests());
     const before = await asked();
     assert.ok(before > 0);
     await page.page.waitForTimeout(1000);
@@ -78,26 +65,26 @@ webTest('a page at rest asks the browser for no frames', counting, async page =>
     await page.page.mouse.move(100, 55);
     await page.page.waitForFunction(count => window.asked > count, before, { polling: 50, timeout: 3000 });
     await page.page.evaluate(() => { window.pozhilFrames.wake(); window.pozhilFrames.wake(); });
-    assert.ok(await rests(page), 'one loop only');
+    assert.ok(await page.rests(), 'one loop only');
 });
 
 webTest('scripts of the page wake it', counting, async page => {
-    assert.ok(await rests(page));
+    assert.ok(await page.rests());
     let before = await drawn(page);
     await page.page.evaluate(() => Module['நகர்த்து']('இல்லாதது'));
     await page.page.waitForFunction(count => window.recorded.frames > count, before, { timeout: 3000 });
-    assert.ok(await rests(page));
+    assert.ok(await page.rests());
     before = await drawn(page);
     await page.page.evaluate(() => Module.ccall('set_input_value', null, ['string', 'string'], ['பெயர்', 'அ']));
     await page.page.waitForFunction(count => window.recorded.frames > count, before, { timeout: 3000 });
-    assert.ok(await rests(page));
+    assert.ok(await page.rests());
     before = await drawn(page);
     await page.page.evaluate(() => Module.cwrap('clear_input_error', null, ['string'])('பெயர்'));
     await page.page.waitForFunction(count => window.recorded.frames > count, before, { timeout: 3000 });
 });
 
 webTest('a font that arrives late is drawn', counting, async page => {
-    assert.ok(await rests(page));
+    assert.ok(await page.rests());
     const before = await drawn(page);
     await page.page.evaluate(() => document.fonts.add(new FontFace('எழுத்து', 'local("Noto Sans Tamil")')));
     await page.page.waitForFunction(count => window.recorded.frames > count, before, { timeout: 3000 });
@@ -115,7 +102,7 @@ for (const [what, widget] of [
         செயல் எண்ணு():
             எத்தனை = எத்தனை கூட்டு 1
             திரும்பு எத்தனை` }), async page => {
-        assert.ok(!(await rests(page, 4000)));
+        assert.ok(!(await page.rests(4000)));
     });
 }
 
@@ -124,10 +111,10 @@ webTest('an animation goes to its end before the page rests', application(`
             பெட்டி(அகலம்: 100, உயரம்: 60, பெட்டி_பாணி(பெட்டிபின்னணி: "#FF0000"),
                 அசைவூட்டம்(நிலைமை: "hover", காலம்: 1500, வகை: "சாதாரண", இலக்கு(அகலம்: 300)))
         )`), async page => {
-    assert.ok(await rests(page));
+    assert.ok(await page.rests());
     await page.page.mouse.move(50, 30);
     await page.page.waitForTimeout(300);
-    assert.ok(await rests(page), 'rests at the end');
+    assert.ok(await page.rests(), 'rests at the end');
     const box = await page.area([255, 0, 0]);
     near(box.width, 300, 1);
 });
@@ -135,12 +122,12 @@ webTest('an animation goes to its end before the page rests', application(`
 webTest('a snack bar comes and goes on a page that rested', application(`
         பொத்தான்(உரை: "சொல்", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்: அறிவிப்பு_பட்டை(செய்தி: "வணக்கம்"))`),
         async page => {
-    assert.ok(await rests(page));
+    assert.ok(await page.rests());
     await page.page.mouse.click(100, 20, { delay: 100 });
     await page.waitForText('வணக்கம்');
     await page.page.waitForFunction(() => window.recorded.texts.every(({ text }) => text !== 'வணக்கம்'), undefined,
                                     { timeout: 10_000 });
-    assert.ok(await rests(page));
+    assert.ok(await page.rests());
 });
 
 /// Runs in the page before its own scripts: a machine that draws so few frames a second.
@@ -169,7 +156,7 @@ webTest('a counter that shows the same number for seconds goes on, on a slow mac
     await page.visit(page.address);
     await page.waitForText('0');
     assert.deepEqual(await changesUntil(page, '3'), ['0', '1', '2', '3']);
-    assert.ok(await rests(page));
+    assert.ok(await page.rests());
 });
 
 webTest('what a program counts in silence comes out, however long it takes', application(`
@@ -187,7 +174,7 @@ webTest('a page rests soon on a slow machine too', counting, { open: false }, as
     await page.page.addInitScript(slowDown, 5);
     await page.visit(page.address);
     await page.ready();
-    assert.ok(await rests(page));
+    assert.ok(await page.rests());
 });
 
 webTest('an application of the second edition rests too', second(`
@@ -201,5 +188,5 @@ webTest('an application of the second edition rests too', second(`
         எண்ணிக்கை = 0
         பெயர் = ""
         எண்கள் = [1, 2, 3]`), async page => {
-    assert.ok(await rests(page), 'rests');
+    assert.ok(await page.rests(), 'rests');
 });

@@ -213,12 +213,5 @@ const COUNTED = page(['"தொகை " இணை தொகை_தரு()'], `
 
 webTest('a page that works on much in each frame comes to rest all the same', COUNTED, async tab => {
     await tab.waitForText('தொகை 449985000');
-    const drawn = () => tab.page.evaluate(() => window.recorded.frames);
-    let before = -1;
-    const end = Date.now() + 30_000;
-    while (await drawn() !== before && Date.now() < end) {
-        before = await drawn();
-        await tab.page.waitForTimeout(500);
-    }
-    assert.equal(await drawn(), before);
+    assert.ok(await tab.rests());
 });

@@ -378,3 +378,7 @@ for (const [header, least] of [['எழுத்தளவு: "நிலைய�
         }
     });
 }
+
+webTest('a page whose texts wrap comes to rest', second(body), DESKTOP, async page => {
+    assert.ok(await page.rests());
+});

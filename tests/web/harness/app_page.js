@@ -33,9 +33,27 @@ export class AppPage {
                                         { timeout: 60_000 });
     }
 
+    /// How many frames the page has drawn so far.
+    drawnFrames() {
+        return this.page.evaluate(() => window.recorded.frames);
+    }
+
+    /// Waits until the page rests; false if it doesn't within so many milliseconds.
+    async rests(limit = 60_000) {
+        const end = Date.now() + limit;
+        while (Date.now() < end) {
+            const before = await this.drawnFrames();
+            await this.page.waitForTimeout(400);
+            if (await this.drawnFrames() === before) {
+                return true;
+            }
+        }
+        return false;
+    }
+
     /// Waits until so many more frames have been drawn: one shows the state of now, the next what it led to.
     async frames(count = 2) {
-        const end = await this.page.evaluate(() => window.recorded.frames) + count;
+        const end = await this.drawnFrames() + count;
         await this.page.waitForFunction(last => {
             // A page where nothing happens draws none.
             window.pozhilFrames.wake();
