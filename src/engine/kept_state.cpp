@@ -119,13 +119,12 @@ std::string keptState(std::vector<std::string>& tooLarge) {
             continue;
         }
         const Held held = heldBy(*one.variable);
-        if (held.writing == Writing::TooLarge) {
-            tooLarge.emplace_back(one.variable->name());
-        }
         // What is as it began may begin otherwise in a newer build.
         const bool isChanged =
             held.writing == Writing::Done && !held.form.empty() && numberOf(held.form) != *one.beginning;
-        if (isChanged) {
+        if (held.writing == Writing::TooLarge || (isChanged && kept.size() + held.form.size() > MOST_KEPT)) {
+            tooLarge.emplace_back(one.variable->name());
+        } else if (isChanged) {
             writeStateText(kept, one.variable->key());
             writeStateText(kept, std::to_string(*one.beginning));
             kept += held.form;

@@ -46,7 +46,7 @@ private:
     };
 };
 
-/// Of a value that is kept: how many bytes it may take.
+/// How many bytes all that is kept may take: it comes back by way of the page's stack.
 constexpr std::size_t MOST_KEPT = 1'000'000;
 
 /// Notes what the variables of the running program begin with, and that they are those of keptState() and takeState().
@@ -55,7 +55,7 @@ void keepState(const StateVariable* variables, int count);
 
 /// What those variables hold that have another value than they began with. Objects, functions and times aren't kept, and no
 /// variable that holds one somewhere.
-/// \param tooLarge the names of those are added that would take more than MOST_KEPT
+/// \param tooLarge the names of those are added for which there is no room
 std::string keptState(std::vector<std::string>& tooLarge);
 
 /// Gives each variable its kept value that began then as it begins now, and whose kind fits it. A text that keptState() never

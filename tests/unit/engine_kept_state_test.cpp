@@ -17,6 +17,7 @@
 namespace {
 
 using namespace pozhil::engine;
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -200,6 +201,17 @@ TEST_F(KeptState, NamesWhatIsTooLarge) {
     EXPECT_THAT(tooLarge, ElementsAre("மதிப்பு"));
     EXPECT_THAT(text, HasSubstr("முழு"));
     EXPECT_THAT(text, Not(HasSubstr("aaa")));
+}
+
+TEST_F(KeptState, KeepsNoMoreOfAllThanHasRoom) {
+    begin();
+    value = makeText(std::string(MOST_KEPT / 5 * 2, 'a'));
+    other = makeText(std::string(MOST_KEPT / 5 * 2, 'b'));
+    imported = makeText(std::string(MOST_KEPT / 5 * 2, 'c'));
+    whole = 7;
+    const std::string text = kept();
+    EXPECT_THAT(tooLarge, ElementsAre("மதிப்பு")) << "the imported one";
+    EXPECT_THAT(text, AllOf(HasSubstr("aaa"), HasSubstr("bbb"), Not(HasSubstr("ccc")), HasSubstr("முழு")));
 }
 
 TEST_F(KeptState, TakesNothingOfATextThatIsDamaged) {
