@@ -1,6 +1,6 @@
 // What lies over what in the second edition: a press, the pointer and what is seen belong to what was drawn last there.
 
-import { second } from './harness/editions.js';
+import { faultCard, second } from './harness/editions.js';
 import { PHONE, assert, webTest } from './harness/index.js';
 import { png } from './harness/pictures.js';
 
@@ -342,11 +342,17 @@ webTest('whoever goes without a pointer presses the widget, not what lies over i
     await presses('மறைந்தது');
 });
 
+webTest('an underlined text below the window is no fault', second(`
+        நெடுவரிசை(
+            பெட்டி(பெட்டி_பாணி(அகலம்: 100, உயரம்: 2000, பின்னணி: "#FF0000")),
+            உரை("கீழே", உரைபாணி(அடிக்குறிப்பு: மெய்))
+        )`), async page => {
+    await page.frames(3);
+    assert.equal(await faultCard(page), '');
+    assert.deepEqual(page.errors, []);
+});
+
 webTest('a page with layers comes to rest', read, async page => {
     await page.moveTo(100, 50);
-    await page.page.waitForTimeout(3000);
-    const count = () => page.page.evaluate(() => window.recorded.frames);
-    const before = await count();
-    await page.page.waitForTimeout(500);
-    assert.equal(await count(), before);
+    assert.ok(await page.rests());
 });

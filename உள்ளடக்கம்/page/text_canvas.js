@@ -131,6 +131,8 @@ var pozhilTextCanvas = (() => {
     /// Who decides whether and how a text is written.
     let writeThrough = draw => draw();
     let lastLine = null;
+    /// Whether the last text was, rather than being out of the window.
+    let isWritten = false;
 
     const PARTS_TO_THE_LEFT = { center: 0.5, right: 1, end: 1 };
     // Edges of letters are soft.
@@ -234,7 +236,8 @@ var pozhilTextCanvas = (() => {
             wanted = saved.pop() ?? wanted;
         },
         fillText(text, left, top, ...most) {
-            if (!isOutside(top)) {
+            isWritten = !isOutside(top);
+            if (isWritten) {
                 writeThrough(() => {
                     NAMES_OF_TEXT.forEach(tell);
                     if (strength === 1) {
@@ -283,10 +286,12 @@ var pozhilTextCanvas = (() => {
     }
     // Of the lines under texts.
     remembering.stroke = function (...values) {
-        writeThrough(() => {
-            NAMES.forEach(tell);
-            browser.stroke.apply(this, values);
-        }, () => lastLine);
+        if (isWritten) {
+            writeThrough(() => {
+                NAMES.forEach(tell);
+                browser.stroke.apply(this, values);
+            }, () => lastLine);
+        }
     };
 
     // What neither asks what is set nor changes it.
