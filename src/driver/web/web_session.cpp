@@ -18,6 +18,7 @@ void WebSession::open(const WebText& text) {
     const bool isBuilt = build_.run(text);
     if (text.edition == Edition::First) {
         tellFirst(isBuilt, text);
+        text.reportHints();
         std::thread(runLocalServer, LOCAL_SERVER_PORT, server_).detach();
         return;
     }
@@ -25,6 +26,7 @@ void WebSession::open(const WebText& text) {
     if (server != nullptr || !isBuilt) {
         tellFirst(isBuilt, text);
     }
+    text.reportHints();
     std::thread(runOpenServer, std::move(server)).detach();
 }
 
@@ -35,7 +37,6 @@ void WebSession::tellFirst(bool isBuilt, const WebText& text) const {
     } else {
         printWebFailure(text.edition);
     }
-    text.reportHints();
 }
 
 void WebSession::update(const WebText& text) {
