@@ -27,6 +27,8 @@ async function typeInto(page, hint, text) {
 onBothDevices('பணிப்_பட்டியல்', async page => {
     await page.text('மீதம் 1 பணி');
     await press(page, 'சேர்');
+    await page.page.press('[placeholder="என்ன செய்ய வேண்டும்?"]', 'Enter');
+    await page.frames(2);
     assert.equal((await page.texts()).filter(({ text }) => text === '✕').length, 2);
 
     await typeInto(page, 'என்ன செய்ய வேண்டும்?', 'பால் வாங்கு');
@@ -88,6 +90,8 @@ onBothDevices('கணிப்பான்', async page => {
     assert.deepEqual(await shown(), ['39']);
     await type('40=');
     assert.deepEqual(await shown(), ['-1']);
+    await type('5+−3=');
+    assert.deepEqual(await shown(), ['2']);
     await type('5÷0=');
     await page.waitForText('பூச்சியத்தால் வகுக்க முடியாது');
     await press(page, 'அழி');

@@ -75,7 +75,7 @@ constexpr WidgetProperty HEADER_PROPERTIES[] = {
     {property::BACKGROUND_VIDEO, "", ValueKind::Path, {"காணொளி", "a video"}},
     {"இணைய_தலைப்பு", "", ValueKind::Text, {"உலாவித் தாவலின் தலைப்பு", "title of the browser's tab"}},
     {"சின்னம்", "", ValueKind::Path, {"தாவலின் சின்னக் கோப்பு", "icon of the tab"}},
-    {TEXT_SCALE, "", ValueKind::Text, {"`\"நிலையான\"`: குறுகிய சாளரத்திலும் எழுத்துகள் சிறுக்காது", "`\"நிலையான\"`: texts don't shrink in narrow windows"}, TEXT_SCALES},
+    {TEXT_SCALE, "", ValueKind::Text, {"`\"நிலையான\"`: குறுகிய சாளரத்திலும் எழுத்துகள் சிறுக்கா", "`\"நிலையான\"`: texts don't shrink in narrow windows"}, TEXT_SCALES},
     {STATE_KEPT, "", ValueKind::Truth, {"பொய் எனில் திருத்தியதும் நிலை புதிதாகத் தொடங்கும்", "false: state begins anew after each change of the source"}},
 };
 
