@@ -30,6 +30,9 @@ struct Word {
 /// Builds an application for any web host.
 extern const Word PUBLISH;
 
+/// Explains the number of a fault.
+extern const Word EXPLAIN;
+
 /// All words, in the order in which the help lists them.
 const std::vector<const Word*>& words();
 

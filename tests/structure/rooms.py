@@ -114,6 +114,7 @@ ROOMS = {
         "src/driver/web",
         "src/tools",
     ],
+    "src/tools/explain": ["உள்ளடக்கம்", "src/base", "src/report", "src/language", "src/tools"],
     # main.cpp and tools_main.cpp alone: the order of the stages, and the beginning of the other command.
     "src": [
         *SYSTEM, "src/front_end", "src/driver/console", "src/driver", "src/driver/native", "src/driver/web", "src/tools",
