@@ -30,6 +30,9 @@ public:
     [[noreturn]] static void அறிக்கை(பிழைவகை category, std::string code, std::string description, std::string file,
                                     int line, std::string lineText, std::string remedy);
 
+    /// The word for who raised a diagnostic, as the box shows it.
+    static const char* வகைச்சொல்(பிழைவகை category);
+
     /// One of the sayings, drawn anew and evenly on every call.
     static std::string பொன்மொழி_பெறு();
 

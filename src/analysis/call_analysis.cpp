@@ -57,7 +57,7 @@ bool CallAnalysis::analysedInputMethod(const CallExpression& call) {
         return false;
     }
     if (call.arguments.empty() && method->text.find("$A") != std::string_view::npos) {
-        walk_.faults.raise("பொழி-331", call.line, "'." + get->member.value + "()'");
+        walk_.faults.raise("பொழி-331", call, "'." + get->member.value + "()'");
     }
     note(call, CallKind::InputMethod, method);
     analyseArguments(call, method->text);
@@ -95,7 +95,7 @@ void CallAnalysis::analyseMethod(const CallExpression& call, const GetExpression
 
 void CallAnalysis::analyseAppend(const CallExpression& call, const GetExpression& callee) {
     if (call.arguments.size() != 1) {
-        walk_.faults.raise("பொழி-331", call.line, "'.சேர்()' 1 argument மட்டுமே ஏற்கும்.");
+        walk_.faults.raise("பொழி-331", call, "'.சேர்()' 1 argument மட்டுமே ஏற்கும்.");
     }
     note(call, CallKind::Append);
     expressions_.analyse(callee.object.get());
@@ -144,7 +144,7 @@ void CallAnalysis::analyseUserFunction(const CallExpression& call, const std::st
                                        const std::vector<Param>& params) {
     const ExpressionList& arguments = call.arguments;
     if (arguments.size() != params.size()) {
-        walk_.faults.raise("பொழி-331", call.line, expectedCount(name, params.size(), arguments.size()));
+        walk_.faults.raise("பொழி-331", call, expectedCount(name, params.size(), arguments.size()));
     }
     note(call, CallKind::UserFunction);
     for (std::size_t index = 0; index < arguments.size(); ++index) {
@@ -152,7 +152,7 @@ void CallAnalysis::analyseUserFunction(const CallExpression& call, const std::st
         if (!params[index].isMutable) {
             expressions_.analyse(argument);
         } else if (nodeCast<VariableAccess>(argument) == nullptr) {
-            walk_.faults.raise("பொழி-331", call.line,
+            walk_.faults.raise("பொழி-331", call,
                                "'மாற்று' parameter-க்கு ஒரு மாறி (Variable)-ஐ மட்டும் தான் அனுப்ப முடியும்.");
         }
     }
@@ -216,7 +216,7 @@ bool CallAnalysis::analysedBuiltin(const CallExpression& call, const std::string
     if (form == nullptr) {
         const std::string details(anyForm->wrongCountDetail);
         if (anyForm->wrongCount == language::WrongCount::Report) {
-            walk_.faults.raise("பொழி-331", call.line, details);
+            walk_.faults.raise("பொழி-331", call, details);
         }
         walk_.faults.raisePlaceless("பொழி-331", &call, details);
     }
@@ -227,11 +227,10 @@ bool CallAnalysis::analysedBuiltin(const CallExpression& call, const std::string
 
 void CallAnalysis::analyseElementWrite(const CallExpression& call) {
     if (call.arguments.size() != ELEMENT_WRITE_ARGUMENTS) {
-        walk_.faults.raise("பொழி-331", call.line,
-                           "('வை' செயலுக்கு 3 மதிப்புகள் தேவை: பட்டியல்/அகராதி, குறியீடு/சாவி, மதிப்பு)");
+        walk_.faults.raise("பொழி-331", call, "('வை' செயலுக்கு 3 மதிப்புகள் தேவை: பட்டியல்/அகராதி, குறியீடு/சாவி, மதிப்பு)");
     }
     if (!isPlace(call.arguments.front().get())) {
-        walk_.faults.raise("பொழி-313", call.line,
+        walk_.faults.raise("பொழி-313", call,
                            "('வை' செயலின் முதல் மதிப்பு ஒரு மாறி, பட்டியல் உறுப்பு அல்லது பொருள் பண்பாக இருக்க வேண்டும்.)");
     }
     note(call, CallKind::ElementWrite, language::findBuiltin(ELEMENT_WRITE));
@@ -240,7 +239,7 @@ void CallAnalysis::analyseElementWrite(const CallExpression& call) {
 
 void CallAnalysis::analyseIndexAssignment(const CallExpression& call) {
     if (call.arguments.size() != ELEMENT_WRITE_ARGUMENTS) {
-        walk_.faults.raise("பொழி-331", call.line, "'_set_index_internal'");
+        walk_.faults.raise("பொழி-331", call, "'_set_index_internal'");
     }
     note(call, CallKind::IndexAssignment);
     analyseElementReference(call.arguments[0].get());

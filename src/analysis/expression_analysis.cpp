@@ -50,7 +50,7 @@ void ExpressionAnalysis::visit(const NumberLiteral& node) {
     errno = 0;
     std::strtoull(toAsciiDigits(node.value).c_str(), nullptr, 10);
     if (errno == ERANGE) {
-        walk_.faults.raise("பொழி-305", node.line);
+        walk_.faults.raise("பொழி-305", node);
     }
 }
 
@@ -74,7 +74,7 @@ void ExpressionAnalysis::visit(const GroupingExpression& node) {
 
 void ExpressionAnalysis::visit(const VariableAccess& node) {
     if (isSelfName(node.name) && !walk_.kinds.isInStructure()) {
-        walk_.faults.raise("பொழி-325", node.line);
+        walk_.faults.raise("பொழி-325", node);
     }
     walk_.facts.names.add(&node, walk_.scope.isNative(node.name) ? Place::Native : Place::Global);
 }
@@ -82,7 +82,7 @@ void ExpressionAnalysis::visit(const VariableAccess& node) {
 /// A constant is one by its name, and is given a value only once.
 void ExpressionAnalysis::visit(const AssignmentExpression& node) {
     if (isConstantName(node.name) && walk_.scope.isAssigned(node.name)) {
-        walk_.faults.raise("பொழி-315", node.line);
+        walk_.faults.raise("பொழி-315", node);
     }
     const bool isNative = !walk_.function.empty() && walk_.scope.isNative(node.name);
     walk_.scope.assign(node.name, walk_.kinds.of(node.value.get()));
@@ -99,10 +99,10 @@ void ExpressionAnalysis::visit(const SetMemberExpression& node) {
     if (object == nullptr || object->name != VISIBILITY) {
         const VarType kind = walk_.kinds.of(node.object.get());
         if (kind == VarType::Time) {
-            walk_.faults.raise("பொழி-322", node.line);
+            walk_.faults.raise("பொழி-322", node);
         }
         if (kind != VarType::Object) {
-            walk_.faults.raise("பொழி-304", node.line, "இந்த வகைக்குள் பண்புகளை மாற்ற முடியாது");
+            walk_.faults.raise("பொழி-304", node, "இந்த வகைக்குள் பண்புகளை மாற்ற முடியாது");
         }
         checkPrivacy(node.object.get(), node.member, node.line);
         analyse(node.object.get());
@@ -125,11 +125,11 @@ void ExpressionAnalysis::visit(const GetExpression& node) {
         walk_.facts.members.add(&node, MemberKind::Property);
     } else if (kind == VarType::Time) {
         if (language::findMember(language::BuiltinForm::TimePart, member) == nullptr) {
-            walk_.faults.raise("பொழி-304", node.line, "நேரப் பொருளில் '" + member + "' என்ற பகுதி இல்லை.");
+            walk_.faults.raise("பொழி-304", node, "நேரப் பொருளில் '" + member + "' என்ற பகுதி இல்லை.");
         }
         walk_.facts.members.add(&node, MemberKind::TimePart);
     } else {
-        walk_.faults.raise("பொழி-304", node.line, "'.' operator-ஐ இந்தப் பொருளில் பயன்படுத்த முடியாது.");
+        walk_.faults.raise("பொழி-304", node, "'.' operator-ஐ இந்தப் பொருளில் பயன்படுத்த முடியாது.");
     }
     analyse(node.object.get());
 }
@@ -188,13 +188,13 @@ void ExpressionAnalysis::checkOperandKinds(const BinaryExpression& node, VarType
         return;
     }
     if (isContainer(left) || isContainer(right)) {
-        walk_.faults.raise("பொழி-304", node.line);
+        walk_.faults.raise("பொழி-304", node);
     }
     if (word == "வகு" && isZeroLiteral(node.right.get())) {
-        walk_.faults.raise("பொழி-301", node.line);
+        walk_.faults.raise("பொழி-301", node);
     }
     if ((left == VarType::Text && isNumber(right)) || (isNumber(left) && right == VarType::Text)) {
-        walk_.faults.raise("பொழி-303", node.line);
+        walk_.faults.raise("பொழி-303", node);
     }
 }
 

@@ -12,6 +12,12 @@ void FaultSite::raise(const std::string& code, std::int32_t line, const std::str
     throw fault(code, line, details);
 }
 
+void FaultSite::raise(const std::string& code, const Expression& node, const std::string& details) const {
+    Fault raised = fault(code, node.line, details);
+    raised.node = &node;
+    throw raised;
+}
+
 void FaultSite::raisePlaceless(const std::string& code, const Expression* node, const std::string& details,
                                std::string hint) const {
     Fault raised = placeless(code, node == nullptr ? 0 : node->line, details);

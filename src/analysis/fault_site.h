@@ -21,6 +21,9 @@ public:
     /// Raises a fault in \p line; \p details may be empty.
     [[noreturn]] void raise(const std::string& code, std::int32_t line, const std::string& details = {}) const;
 
+    /// Raises a fault in the line of \p node, which tells whoever asks in which file that is.
+    [[noreturn]] void raise(const std::string& code, const Expression& node, const std::string& details = {}) const;
+
     /// Raises a fault at \p node that is told without its place.
     /// \param node null if nobody knows it
     /// \param hint what may have been meant; may be empty

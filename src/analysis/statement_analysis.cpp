@@ -67,10 +67,10 @@ void StatementAnalysis::visit(const SetStatement& node) {
     }
     const VarType kind = walk_.kinds.of(get->object.get());
     if (kind == VarType::Time) {
-        walk_.faults.raise("பொழி-322", get->line);
+        walk_.faults.raise("பொழி-322", *get);
     }
     if (kind != VarType::Object) {
-        walk_.faults.raise("பொழி-304", get->line, "'.' operator-ஐ இந்தப் பொருளில் பயன்படுத்த முடியாது.");
+        walk_.faults.raise("பொழி-304", *get, "'.' operator-ஐ இந்தப் பொருளில் பயன்படுத்த முடியாது.");
     }
     expressions_.checkPrivacy(get->object.get(), get->member, get->line);
     expressions_.analyse(get->object.get());
@@ -175,7 +175,7 @@ void StatementAnalysis::checkReturnKind(const ReturnStatement& node) const {
         return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
     };
     const auto refuse = [&](const char* details) {
-        walk_.faults.raise("பொழி-334", node.value->line, "'" + walk_.function + "' " + details);
+        walk_.faults.raise("பொழி-334", *node.value, "'" + walk_.function + "' " + details);
     };
     if (promises("எண்")) {
         if (isOneOf({VarType::Text, VarType::List, VarType::Map, VarType::Object})) {

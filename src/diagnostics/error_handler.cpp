@@ -21,17 +21,6 @@ constexpr const char* dim = "\033[2;37m";
 constexpr const char* reset = "\033[0m";
 constexpr const char* rule = "------------------------------------------------------------";
 
-const char* categoryWord(பிழைவகை category) {
-    switch (category) {
-    case பிழைவகை::சொல்_பிழை: return "சொல் பிழை";
-    case பிழைவகை::இலக்கண_பிழை: return "இலக்கணப் பிழை";
-    case பிழைவகை::பொருள்_பிழை: return "பொருள் பிழை";
-    case பிழைவகை::செயல்பாட்டு_பிழை: return "செயல்பாட்டுப் பிழை";
-    case பிழைவகை::இயக்கநேர_பிழை: return "இயக்கநேரப் பிழை";
-    }
-    return "பிழை";
-}
-
 #ifdef __linux__
 [[maybe_unused]] const bool isWatched = pozhil::last_word::watchProgram();
 #endif
@@ -52,7 +41,7 @@ void ErrorHandler::அறிக்கை(பிழைவகை category, std::st
     std::ostream& box = std::cout;
 
     box << "\n" << red << rule << reset << "\n";
-    box << "  🚨 [ " << gold << code << reset << " ] :: " << red << categoryWord(category) << reset << "\n";
+    box << "  🚨 [ " << gold << code << reset << " ] :: " << red << வகைச்சொல்(category) << reset << "\n";
     box << red << rule << reset << "\n";
     box << "  " << blue << "📂 கோப்பு  " << reset << ": " << file << "\n";
     box << "  " << blue << "📍 இடம்    " << reset << ": வரி " << line << "\n";
@@ -71,6 +60,17 @@ void ErrorHandler::அறிக்கை(பிழைவகை category, std::st
     box.flush();
 
     std::exit(1);
+}
+
+const char* ErrorHandler::வகைச்சொல்(பிழைவகை category) {
+    switch (category) {
+    case பிழைவகை::சொல்_பிழை: return "சொல் பிழை";
+    case பிழைவகை::இலக்கண_பிழை: return "இலக்கணப் பிழை";
+    case பிழைவகை::பொருள்_பிழை: return "பொருள் பிழை";
+    case பிழைவகை::செயல்பாட்டு_பிழை: return "செயல்பாட்டுப் பிழை";
+    case பிழைவகை::இயக்கநேர_பிழை: return "இயக்கநேரப் பிழை";
+    }
+    return "பிழை";
 }
 
 std::string ErrorHandler::பொன்மொழி_பெறு() {

@@ -6,9 +6,7 @@
 #include <string_view>
 
 namespace pozhil {
-namespace {
 
-/// The first line of the place, with what is underlined of it.
 report::Excerpt excerptOf(const SourcePlace& place) {
     const std::string_view text = place.source->text;
     const std::size_t begin = std::min<std::size_t>(place.range.begin, text.size());
@@ -24,8 +22,6 @@ report::Excerpt excerptOf(const SourcePlace& place) {
     excerpt.end = std::max(excerpt.begin, excerpt.end);
     return excerpt;
 }
-
-} // namespace
 
 report::FaultText faultText(const SecondFault& fault) {
     const std::vector<std::string_view> values(fault.values.begin(), fault.values.end());

@@ -31,6 +31,9 @@ constexpr std::size_t MAX_TOLD_FAULTS = 10;
 /// How many are looked for: one more than is told tells that there are more.
 constexpr std::size_t MAX_FOUND_FAULTS = MAX_TOLD_FAULTS + 1;
 
+/// The first line of the place, with what is underlined of it.
+report::Excerpt excerptOf(const SourcePlace& place);
+
 /// The fault with message, remedy and excerpt, as the box tells it.
 report::FaultText faultText(const SecondFault& fault);
 

@@ -19,10 +19,14 @@ namespace {
 constexpr std::size_t MOST_HINTS = 5;
 
 void show(const std::string& path, std::size_t line, std::string_view text) {
-    std::cerr << style::GOLD << "💡 குறிப்பு: " << style::RESET << path << " வரி " << line << ": " << text << std::endl;
+    std::cerr << style::GOLD << HINT_TITLE << style::RESET << hintText(path, line, text) << std::endl;
 }
 
 } // namespace
+
+std::string hintText(const std::string& path, std::size_t line, std::string_view text) {
+    return path + " வரி " + std::to_string(line) + ": " + std::string(text);
+}
 
 void reportHints(const ParsedSource& parsed) {
     reportAlmostMarked(*parsed.parser->scanned().source);
@@ -48,9 +52,7 @@ void reportHints(const SecondHints& hints) {
 
 void reportAlmostMarked(const SourceText& source) {
     if (settings::showsHints() && isAlmostMarked(source)) {
-        show(source.path, 1,
-             "இந்த வரி இரண்டாம் பதிப்பைக் கேட்பது போல் உள்ளது, ஆனால் நிரல் முதல் பதிப்பில்தான் தொகுக்கப்படுகிறது; இரண்டாம் பதிப்பு "
-             "வேண்டுமென்றால் முதல் வரியில் 'ஃ பொழில் 2' என்று மட்டும் எழுதவும்.");
+        show(source.path, 1, ALMOST_MARKED_HINT);
     }
 }
 

@@ -41,6 +41,10 @@ bool showsHints() {
     return platform::environmentVariable("POZHIL_HINTS").value_or("") != "0";
 }
 
+bool allowsColours() {
+    return platform::environmentVariable("NO_COLOR").value_or("").empty();
+}
+
 std::string serverHost() {
     const std::string host = platform::environmentVariable("POZHIL_HOST").value_or("");
     return host == "localhost" ? "127.0.0.1" : host;

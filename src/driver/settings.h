@@ -29,6 +29,9 @@ ToolchainWords toolchainWords();
 /// Whether hints are shown: POZHIL_HINTS, unless it is 0.
 bool showsHints();
 
+/// Whether texts may have colours: not if NO_COLOR is set to anything but the empty text.
+bool allowsColours();
+
 /// The address that the server of web applications listens on: POZHIL_HOST; empty for all that this machine has.
 std::string serverHost();
 

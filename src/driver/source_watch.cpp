@@ -2,13 +2,10 @@
 
 #include "driver/console/fault_report.h"
 #include "driver/console/second_fault_report.h"
+#include "driver/file_changes.h"
 
-#include <chrono>
 #include <filesystem>
 #include <iostream>
-#include <optional>
-#include <system_error>
-#include <thread>
 #include <utility>
 
 namespace fs = std::filesystem;
@@ -111,35 +108,24 @@ void rebuild(const std::string& sourcePath, const FrontEndOptions& options, cons
     }
 }
 
-using TimeOfChange = std::optional<fs::file_time_type>;
-
 /// \throws std::filesystem::filesystem_error for a file that isn't there
 TimeOfChange timeOfChange(const fs::path& file) {
     return fs::last_write_time(file);
 }
 
-/// Nothing for a file that isn't there.
-TimeOfChange timeOfChangeIfThere(const fs::path& file) {
-    std::error_code error;
-    const fs::file_time_type time = fs::last_write_time(file, error);
-    return error ? std::nullopt : TimeOfChange(time);
-}
-
 /// Calls \p react whenever a file changes, after it has told so. Never returns.
 [[noreturn]] void watchFile(const std::string& path, TimeOfChange (*timeOf)(const fs::path&), const char* changeNote,
                             const std::function<void()>& react) {
-    constexpr std::chrono::milliseconds PAUSE{500};
     const fs::path file = fs::u8path(path);
     TimeOfChange last = timeOf(file);
-    while (true) {
+    lookAgainAndAgain([&] {
         const TimeOfChange now = timeOf(file);
         if (now && now != last) {
             last = now;
             std::cout << changeNote << std::endl;
             react();
         }
-        std::this_thread::sleep_for(PAUSE);
-    }
+    });
 }
 
 } // namespace

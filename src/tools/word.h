@@ -30,6 +30,9 @@ struct Word {
 /// Builds an application for any web host.
 extern const Word PUBLISH;
 
+/// Tells the faults of sources.
+extern const Word CHECK;
+
 /// Explains the number of a fault.
 extern const Word EXPLAIN;
 

@@ -3,7 +3,7 @@
 namespace pozhil::tools {
 
 const std::vector<const Word*>& words() {
-    static const std::vector<const Word*> all = {&EXPLAIN, &PUBLISH};
+    static const std::vector<const Word*> all = {&CHECK, &EXPLAIN, &PUBLISH};
     return all;
 }
 

@@ -17,7 +17,7 @@ def _chapter(page):
         return f"web{sorted(guide.WEB_GUIDE.glob('*.md')).index(page)}"
     number, is_inserted = re.match(r"(\d*)(அ?)", page.name).groups()
     chapter = number + ("a" if is_inserted else "")
-    return chapter or ("errors" if page == guide.ERROR_PAGE else "index")
+    return chapter or {guide.ERROR_PAGE: "errors", guide.COMMAND_PAGE: "command"}.get(page, "index")
 
 
 def _place(program):

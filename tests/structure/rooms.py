@@ -114,6 +114,10 @@ ROOMS = {
         "src/driver/web",
         "src/tools",
     ],
+    "src/tools/check": [
+        "உள்ளடக்கம்", *SYSTEM, "src/report", "src/language", "src/front_end", "src/analysis", "src/driver/console", "src/driver",
+        "src/tools",
+    ],
     "src/tools/explain": ["உள்ளடக்கம்", "src/base", "src/report", "src/language", "src/tools"],
     # main.cpp and tools_main.cpp alone: the order of the stages, and the beginning of the other command.
     "src": [

@@ -12,6 +12,7 @@ from support.compiler import REPOSITORY
 GUIDE = REPOSITORY / "docs" / "மொழி"
 WEB_GUIDE = REPOSITORY / "docs" / "வலை"
 ERROR_PAGE = REPOSITORY / "docs" / "பிழைகள்.md"
+COMMAND_PAGE = REPOSITORY / "docs" / "கட்டளை.md"
 
 # The tag of a fence is its first word; a name behind the first two makes a file that stands beside the next program.
 PROGRAM = "பொழில்"
@@ -71,7 +72,7 @@ class Program:
 
 def pages():
     """All pages whose programs are tests, in order."""
-    return [*sorted(GUIDE.glob("*.md")), *sorted(WEB_GUIDE.glob("*.md")), ERROR_PAGE]
+    return [*sorted(GUIDE.glob("*.md")), *sorted(WEB_GUIDE.glob("*.md")), ERROR_PAGE, COMMAND_PAGE]
 
 
 def read_fences(page, text=None):

@@ -5,6 +5,8 @@
 #include <locale>
 #include <stdexcept>
 
+#include <unistd.h>
+
 namespace pozhil::platform {
 
 void setUpConsole() {
@@ -16,6 +18,10 @@ void setUpConsole() {
         std::locale::global(std::locale::classic());
     }
     std::ios::sync_with_stdio(false);
+}
+
+bool isTerminalOutput() {
+    return isatty(STDOUT_FILENO) == 1;
 }
 
 } // namespace pozhil::platform

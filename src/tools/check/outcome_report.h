@@ -1,0 +1,15 @@
+#pragma once
+
+#include "tools/check/finding.h"
+
+namespace pozhil::tools {
+
+/// Shows what came of checking sources on standard output, faults in the boxes of the compiler, and how many there are.
+/// What couldn't be read is told on standard error.
+/// \param coloured whether it may have colours
+void reportOutcome(const Outcome& outcome, bool coloured);
+
+/// Tells on standard error what couldn't be read.
+void reportUnread(const std::vector<Unread>& unread);
+
+} // namespace pozhil::tools
