@@ -30,9 +30,12 @@ struct Word {
 /// Builds an application for any web host.
 extern const Word PUBLISH;
 
+/// Runs a program.
+extern const Word RUN;
+/// Makes a folder for a new program.
+extern const Word NEW;
 /// Tells the faults of sources.
 extern const Word CHECK;
-
 /// Explains the number of a fault.
 extern const Word EXPLAIN;
 

@@ -118,6 +118,8 @@ ROOMS = {
         "உள்ளடக்கம்", *SYSTEM, "src/report", "src/language", "src/front_end", "src/analysis", "src/driver/console", "src/driver",
         "src/tools",
     ],
+    "src/tools/run": ["src/base", "src/platform", "src/tools"],
+    "src/tools/new": ["src/base", "src/tools"],
     "src/tools/explain": ["உள்ளடக்கம்", "src/base", "src/report", "src/language", "src/tools"],
     # main.cpp and tools_main.cpp alone: the order of the stages, and the beginning of the other command.
     "src": [

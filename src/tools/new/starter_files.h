@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace pozhil::tools {
+
+/// What a new project is to be.
+struct ProjectKind {
+    bool isApplication = false;
+    bool isSecondEdition = true;
+};
+
+/// A file that a new project begins with.
+struct StarterFile {
+    std::string name;
+    std::string text;
+};
+
+/// \param name of the project, which the texts name
+std::vector<StarterFile> starterFiles(const std::string& name, ProjectKind kind);
+
+} // namespace pozhil::tools
