@@ -342,6 +342,32 @@ webTest('whoever goes without a pointer presses the widget, not what lies over i
     await presses('மறைந்தது');
 });
 
+const faulty = second(`
+        பெட்டி(பெட்டி_பாணி(அகலம்: 500, உயரம்: 900, பின்னணி: "#FFFFFF"), உரை("அழுத்தங்கள் " இணை அழுத்தங்கள்), அழுத்தினால்: () => பிழை_செய்())`, `
+        அழுத்தங்கள் = 0
+        செயல் பிழை_செய்():
+            அழுத்தங்கள் = அழுத்தங்கள் கூட்டு 1
+            அச்சிடு(அழுத்தங்கள் வகு 0)`);
+
+for (const [means, context, act] of [
+    ['the mouse', {}, (page, x, y) => page.click(x, y)],
+    ['a finger', PHONE, (page, x, y) => page.tap(x, y)],
+]) {
+    webTest(`the card of a fault shields what is under it from ${means}`, faulty, context, async page => {
+        await act(page, 100, 100);
+        const card = page.page.locator('#pozhil-program-fault');
+        const place = await card.locator('h1').boundingBox();
+        await act(page, place.x + 20, place.y + place.height / 2);
+        await page.frames(5);
+        await page.text('அழுத்தங்கள் 1');
+        const button = await card.locator('.pozhil-close').boundingBox();
+        await act(page, button.x + button.width / 2, button.y + button.height / 2);
+        await page.frames(5);
+        await page.text('அழுத்தங்கள் 1');
+        assert.equal(await card.count(), 0);
+    });
+}
+
 webTest('an underlined text below the window is no fault', second(`
         நெடுவரிசை(
             பெட்டி(பெட்டி_பாணி(அகலம்: 100, உயரம்: 2000, பின்னணி: "#FF0000")),

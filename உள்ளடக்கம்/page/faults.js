@@ -20,6 +20,10 @@ var pozhilFaults = (() => {
         made.id = 'pozhil-program-fault';
         made.setAttribute('role', 'alert');
         made.addEventListener('keydown', event => event.key === 'Escape' && close());
+        // What is under the card isn't meant.
+        for (const happening of ['mousedown', 'wheel']) {
+            made.addEventListener(happening, event => event.stopPropagation());
+        }
         return made;
     }
 
@@ -57,5 +61,10 @@ var pozhilFaults = (() => {
         document.body.appendChild(shown);
     }
 
-    return { tell };
+    /// Whether it is a part of the card.
+    function isOf(target) {
+        return target instanceof HTMLElement && target.closest('#pozhil-program-fault') !== null;
+    }
+
+    return { tell, isOf };
 })();

@@ -36,7 +36,7 @@ var pozhilTouch = (() => {
     function begin(event) {
         const [touch] = event.touches;
         glide = null;
-        if (event.touches.length > 1) {
+        if (event.touches.length > 1 || pozhilFaults.isOf(event.target)) {
             giveUp();
             finger = { does: 'other' };
             return;
