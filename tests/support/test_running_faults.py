@@ -21,6 +21,7 @@ WITHOUT_PROGRAM = {
     661: "the analysis knows every construction, and refuses that of an abstract structure",
     675: "only a page has no input",
     684: "only a page can't wait",
+    685: "only the work of a page is stopped",
     690: "only controls of pages are bound to variables",
     699: "a mistake of the engine, which no program knows how to make",
 }
