@@ -76,7 +76,7 @@ test('a canvas takes no more pixels than can be told apart, held, and drawn', ()
 const touches = (...points) => points.map(([clientX, clientY]) => ({ clientX, clientY }));
 
 test('a finger that shakes presses; one that moves on scrolls by all of its way', () => {
-    const tab = page('frames', 'pointer', 'touch');
+    const tab = page('frames', 'pointer', 'faults', 'touch');
     tab.send('touchstart', { touches: touches([100, 200]), timeStamp: 0 });
     assert.deepEqual([tab.mouseX, tab.mouseY], [100, 200]);
     tab.send('touchmove', { touches: touches([104, 196]), timeStamp: 10 });
@@ -96,7 +96,7 @@ test('a finger that shakes presses; one that moves on scrolls by all of its way'
 
 test('a glide goes as far as its speed says, whatever the frames, and ends', () => {
     const ways = [8, 16, 50].map(milliseconds => {
-        const tab = page('frames', 'pointer', 'touch');
+        const tab = page('frames', 'pointer', 'faults', 'touch');
         tab.send('touchstart', { touches: touches([100, 300]), timeStamp: 0 });
         for (let time = 10; time <= 100; time += 10) {
             tab.now = time;
@@ -121,7 +121,7 @@ test('a glide goes as far as its speed says, whatever the frames, and ends', () 
 });
 
 test('a finger taken away by the system presses nothing', () => {
-    const tab = page('frames', 'pointer', 'touch');
+    const tab = page('frames', 'pointer', 'faults', 'touch');
     tab.send('touchstart', { touches: touches([100, 200]), timeStamp: 0 });
     tab.send('touchcancel', { touches: [], timeStamp: 10 });
     assert.equal(tab.mouseClicked, undefined);
@@ -129,7 +129,7 @@ test('a finger taken away by the system presses nothing', () => {
 });
 
 test('what browsers do for a mouse after a touch is not done twice', () => {
-    const tab = page('frames', 'pointer', 'touch');
+    const tab = page('frames', 'pointer', 'faults', 'touch');
     const stopped = (type, timeStamp) => {
         let count = 0;
         tab.send(type, { timeStamp, stopImmediatePropagation: () => { count++; } });
