@@ -131,8 +131,6 @@ var pozhilTextCanvas = (() => {
     /// Who decides whether and how a text is written.
     let writeThrough = draw => draw();
     let lastLine = null;
-    /// Whether the last text was, rather than being out of the window.
-    let isWritten = false;
 
     const PARTS_TO_THE_LEFT = { center: 0.5, right: 1, end: 1 };
     // Edges of letters are soft.
@@ -236,8 +234,9 @@ var pozhilTextCanvas = (() => {
             wanted = saved.pop() ?? wanted;
         },
         fillText(text, left, top, ...most) {
-            isWritten = !isOutside(top);
-            if (isWritten) {
+            if (isOutside(top)) {
+                lastLine = null;
+            } else {
                 writeThrough(() => {
                     NAMES_OF_TEXT.forEach(tell);
                     if (strength === 1) {
@@ -286,11 +285,15 @@ var pozhilTextCanvas = (() => {
     }
     // Of the lines under texts.
     remembering.stroke = function (...values) {
-        if (isWritten) {
-            writeThrough(() => {
-                NAMES.forEach(tell);
-                browser.stroke.apply(this, values);
-            }, () => lastLine);
+        const draw = () => {
+            NAMES.forEach(tell);
+            browser.stroke.apply(this, values);
+        };
+        // That of a text which isn't in the window isn't there either, so nothing can lie over it.
+        if (lastLine === null) {
+            draw();
+        } else {
+            writeThrough(draw, () => lastLine);
         }
     };
 
