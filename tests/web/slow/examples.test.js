@@ -1,10 +1,10 @@
 // The larger examples, in a desktop's window and in a phone's: every page is reached by presses and does what it says.
 
-import * as examples from './harness/examples.js';
-import { assert, near, webTest } from './harness/index.js';
+import * as examples from '../harness/examples.js';
+import { assert, near, webTest } from '../harness/index.js';
 import {
     DESKTOP, PHONE, expectGone, expectInside, leafThroughGallery, openTile, press, takeOrder, useGallery,
-} from './harness/tours.js';
+} from '../harness/tours.js';
 
 const files = examples.files();
 

@@ -1,9 +1,9 @@
-// The examples of the second edition, in a desktop's window and in a phone's. The gallery's pages are visited in slow.
+// The examples of the second edition, in a desktop's window and in a phone's. The gallery's pages are visited in editions.test.js.
 
-import { faultCard } from './harness/editions.js';
-import * as examples from './harness/examples.js';
-import { assert, webTest } from './harness/index.js';
-import { DESKTOP, PHONE, expectGone, expectInside, openTile, press, takeOrder } from './harness/tours.js';
+import { faultCard } from '../harness/editions.js';
+import * as examples from '../harness/examples.js';
+import { assert, webTest } from '../harness/index.js';
+import { DESKTOP, PHONE, expectGone, expectInside, openTile, press, takeOrder } from '../harness/tours.js';
 
 const files = examples.files();
 
