@@ -34,8 +34,8 @@ const PAGE = readonly(['CanvasRenderingContext2D', 'Event', 'FS', 'FontFace', 'H
 // What scripts of a page use beside: of the browser, of what em++ makes, and of each other.
 const PAGE_SCRIPTS = {
     ...readonly(['Browser', 'ErrorEvent', 'GL', 'GLFW', 'HEAP32', 'HEAPF32', 'HEAPU8', 'HTMLCanvasElement',
-        'HTMLImageElement', 'HTMLScriptElement', 'TextDecoder', 'WebAssembly', 'abort', 'history', 'pozhilDrawing',
-        'pozhilFaults', 'pozhilFrames', 'pozhilLoading', 'pozhilPictures', 'pozhilPointer', 'pozhilShown',
+        'HTMLImageElement', 'HTMLScriptElement', 'TextDecoder', 'WebAssembly', 'abort', 'history',
+        'pozhilCanvasProperties', 'pozhilDrawing', 'pozhilFaults', 'pozhilFrames', 'pozhilLoading', 'pozhilPictures', 'pozhilPointer', 'pozhilShown',
         'pozhilTextCanvas', 'pozhilWidths']),
     UTF8ToString: 'writable',
     currentVersion: 'writable',

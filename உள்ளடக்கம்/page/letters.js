@@ -9,36 +9,51 @@ pozhilFrames.atStart(() => {
     const read = UTF8ToString;
     /// By a number made of its bytes, a text: { bytes, text }.
     const known = new Array(PLACES).fill(null);
+    /// By a number made of where it begins, the text that was there last.
+    const lastAt = new Array(PLACES).fill(null);
 
-    function isAt(begin, bytes) {
+    function isAt(begin, { bytes }) {
+        const heap = HEAPU8;
         for (let index = 0; index < bytes.length; index++) {
-            if (HEAPU8[begin + index] !== bytes[index]) {
+            if (heap[begin + index] !== bytes[index]) {
                 return false;
             }
         }
-        return HEAPU8[begin + bytes.length] === 0;
+        return heap[begin + bytes.length] === 0;
     }
 
-    function remember(begin, end, place) {
-        const text = read(begin);
-        known[place] = { bytes: HEAPU8.slice(begin, end), text };
-        return text;
+    /// What is known of the text that begins there; null if it is too long.
+    function find(begin) {
+        const heap = HEAPU8;
+        const last = begin + LONGEST;
+        let place = 0;
+        let end = begin;
+        for (; heap[end] !== 0; end++) {
+            if (end === last) {
+                return null;
+            }
+            place = Math.imul(place ^ heap[end], 0x01000193);
+        }
+        place = (place ^ place >>> 15) & PLACES - 1;
+        if (known[place] === null || !isAt(begin, known[place])) {
+            known[place] = { bytes: heap.slice(begin, end), text: read(begin) };
+        }
+        return known[place];
     }
 
     /// The text that begins there and ends with a byte of 0.
     function readKnown(begin) {
-        const last = begin + LONGEST;
-        let place = 0;
-        let end = begin;
-        for (; HEAPU8[end] !== 0; end++) {
-            if (end === last) {
-                return read(begin);
-            }
-            place = Math.imul(place ^ HEAPU8[end], 0x01000193);
+        const place = begin & PLACES - 1;
+        const last = lastAt[place];
+        if (last !== null && isAt(begin, last)) {
+            return last.text;
         }
-        place = (place ^ place >>> 15) & PLACES - 1;
-        const entry = known[place];
-        return entry !== null && isAt(begin, entry.bytes) ? entry.text : remember(begin, end, place);
+        const found = find(begin);
+        if (found === null) {
+            return read(begin);
+        }
+        lastAt[place] = found;
+        return found.text;
     }
 
     UTF8ToString = (begin, most) => (begin && most === undefined ? readKnown(begin) : read(begin, most));

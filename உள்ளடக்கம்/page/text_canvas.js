@@ -6,77 +6,41 @@ var pozhilTextCanvas = (() => {
 
     // --- what is set ---
 
-    // Each with two of its values: whatever is set after the one or the other, and makes no difference between them, is a
-    // value as well.
-    const PROPERTIES = {
-        font: ['1px serif', '2px serif'], fillStyle: ['#000001', '#000002'], strokeStyle: ['#000001', '#000002'],
-        globalAlpha: [0, 1], lineWidth: [1, 2], globalCompositeOperation: ['copy', 'xor'],
-        textAlign: ['left', 'right'], textBaseline: ['top', 'bottom'], direction: ['ltr', 'rtl'],
-    };
-    const NAMES = Object.keys(PROPERTIES);
-    const NAMES_OF_TEXT = NAMES.filter(name => name !== 'strokeStyle' && name !== 'lineWidth');
-    // Animations go through many values.
-    const MOST_VALUES = 1000;
-
-    const accessors = Object.fromEntries(NAMES.map(name => [name, Object.getOwnPropertyDescriptor(browser, name)]));
-    /// By property and value, how the browser writes the value; null for what it refuses.
-    const written = Object.fromEntries(NAMES.map(name => [name, new Map()]));
-
     let context = null;
-    /// By property, the value that the program has set.
-    let wanted = {};
-    /// By property, the value that the browser has been told, as far as that is known.
-    const told = {};
-    /// What was wanted at each `save` that waits for its `restore`.
-    let saved = [];
+
+    const { strokeStyle, lineWidth, font, fillStyle, textAlign, textBaseline, globalAlpha, globalCompositeOperation }
+        = pozhilCanvasProperties;
+    const ALL = Object.values(pozhilCanvasProperties);
+    const OF_TEXTS = ALL.filter(property => property !== strokeStyle && property !== lineWidth);
+
+    function tell(some) {
+        for (const property of some) {
+            property.tell();
+        }
+    }
+
+    /// What was wanted at each `save`; of those that have been restored, the lists are kept for the next ones.
+    const saved = [];
+    let depth = 0;
+
+    function save() {
+        const values = saved[depth] ??= [];
+        for (let index = 0; index < ALL.length; index++) {
+            values[index] = ALL[index].wanted;
+        }
+        depth++;
+    }
+
+    function goBackTo(values) {
+        for (let index = 0; index < ALL.length; index++) {
+            ALL[index].wanted = values[index];
+        }
+    }
 
     /// Takes the canvas as it is.
     function begin() {
-        for (const name of NAMES) {
-            const value = accessors[name].get.call(context);
-            written[name].set(value, value);
-            wanted[name] = told[name] = value;
-        }
-        saved = [];
-    }
-
-    /// How the browser writes this value, which is new here.
-    function write(name, value) {
-        const { get, set } = accessors[name];
-        const [one, other] = PROPERTIES[name].map(former => {
-            set.call(context, former);
-            set.call(context, value);
-            return get.call(context);
-        });
-        told[name] = undefined;
-        return one === other ? one : null;
-    }
-
-    function want(name, value) {
-        const values = written[name];
-        let text = values.get(value);
-        if (text === undefined) {
-            if (values.size >= MOST_VALUES) {
-                values.clear();
-            }
-            text = write(name, value);
-            values.set(value, text);
-        }
-        if (text !== null) {
-            wanted[name] = value;
-        }
-    }
-
-    function tell(name) {
-        if (told[name] !== wanted[name]) {
-            told[name] = wanted[name];
-            accessors[name].set.call(context, wanted[name]);
-        }
-    }
-
-    function askFor(name) {
-        tell(name);
-        return accessors[name].get.call(context);
+        ALL.forEach(property => property.begin(context));
+        depth = 0;
     }
 
     // --- what is in the window ---
@@ -84,6 +48,7 @@ var pozhilTextCanvas = (() => {
     // Marks above and below letters may reach far out of their line.
     const REACH = 6;
     const SIZE_IN_FONT = /([\d.e+-]+)px/;
+    const MOST_SIZES = 1000;
     const sizes = new Map();
     /// How many pixels of the canvas are a point of the program's, and how many points the canvas is high; 0 and none where
     /// that isn't known.
@@ -95,14 +60,14 @@ var pozhilTextCanvas = (() => {
         height = context.canvas.height / scale;
     }
 
-    function sizeOf(font) {
-        let size = sizes.get(font);
+    function sizeOf(name) {
+        let size = sizes.get(name);
         if (size === undefined) {
-            if (sizes.size >= MOST_VALUES) {
+            if (sizes.size >= MOST_SIZES) {
                 sizes.clear();
             }
-            size = parseFloat(SIZE_IN_FONT.exec(font)?.[1] ?? Infinity);
-            sizes.set(font, size);
+            size = parseFloat(SIZE_IN_FONT.exec(name)?.[1] ?? Infinity);
+            sizes.set(name, size);
         }
         return size;
     }
@@ -111,7 +76,7 @@ var pozhilTextCanvas = (() => {
         if (scale === 0) {
             return false;
         }
-        const reach = REACH * sizeOf(wanted.font);
+        const reach = REACH * sizeOf(font.wanted);
         return top < -reach || top > height + reach;
     }
 
@@ -121,8 +86,7 @@ var pozhilTextCanvas = (() => {
     let strength = 1;
 
     function fillFaded(...values) {
-        accessors.globalAlpha.set.call(context, askFor('globalAlpha') * strength);
-        told.globalAlpha = undefined;
+        globalAlpha.put(globalAlpha.read() * strength);
         browser.fillText.call(context, ...values);
     }
 
@@ -138,11 +102,10 @@ var pozhilTextCanvas = (() => {
 
     /// What the browser measures of a text from its upper left corner on.
     function measureFromCorner(text) {
-        return pozhilWidths.of(`${wanted.font} from the corner`, text, () => {
-            const { textAlign, textBaseline } = wanted;
-            Object.assign(wanted, { textAlign: 'left', textBaseline: 'top' });
-            NAMES.forEach(tell);
-            Object.assign(wanted, { textAlign, textBaseline });
+        return pozhilWidths.of(`${font.wanted} from the corner`, text, () => {
+            tell(ALL);
+            textAlign.put('left');
+            textBaseline.put('top');
             return browser.measureText.call(context, text);
         });
     }
@@ -151,8 +114,8 @@ var pozhilTextCanvas = (() => {
     function areaOf(text, x, y) {
         const { width, actualBoundingBoxLeft, actualBoundingBoxRight, actualBoundingBoxAscent, actualBoundingBoxDescent }
             = measureFromCorner(text);
-        const begin = x - width * (PARTS_TO_THE_LEFT[wanted.textAlign] ?? 0);
-        lastLine = { left: begin, right: begin + width, top: y, bottom: y + sizeOf(wanted.font) };
+        const begin = x - width * (PARTS_TO_THE_LEFT[textAlign.wanted] ?? 0);
+        lastLine = { left: begin, right: begin + width, top: y, bottom: y + sizeOf(font.wanted) };
         return { left: begin - actualBoundingBoxLeft - EDGE, right: begin + actualBoundingBoxRight + EDGE,
                  top: y - actualBoundingBoxAscent - EDGE, bottom: y + actualBoundingBoxDescent + EDGE };
     }
@@ -165,7 +128,7 @@ var pozhilTextCanvas = (() => {
 
     /// What `draw` draws is cut to the area.
     function within({ left, right, top, bottom }, draw) {
-        NAMES.forEach(tell);
+        tell(ALL);
         browser.save.call(context);
         cutTo(left, top, right - left, bottom - top);
         draw();
@@ -184,9 +147,9 @@ var pozhilTextCanvas = (() => {
         shape.roundRect(x, y, width, height, Math.max(0, radius));
         browser.save.call(context);
         cutTo(left, top, right - left, bottom - top);
-        accessors.globalCompositeOperation.set.call(context, 'destination-out');
-        accessors.globalAlpha.set.call(context, part);
-        accessors.fillStyle.set.call(context, '#000');
+        globalCompositeOperation.put('destination-out');
+        globalAlpha.put(part);
+        fillStyle.put('#000');
         browser.fill.call(context, shape);
         browser.restore.call(context);
     }
@@ -198,21 +161,22 @@ var pozhilTextCanvas = (() => {
 
     /// A script does here what no program does. From now on the browser alone keeps the canvas.
     function giveBack() {
-        const now = wanted;
-        for (wanted of saved) {
-            NAMES.forEach(tell);
+        const now = ALL.map(({ wanted }) => wanted);
+        for (const values of saved.slice(0, depth)) {
+            goBackTo(values);
+            tell(ALL);
             browser.save.call(context);
         }
-        wanted = now;
-        NAMES.forEach(tell);
+        goBackTo(now);
+        tell(ALL);
         Object.setPrototypeOf(watched, browser);
     }
 
-    for (const name of NAMES) {
+    for (const [name, property] of Object.entries(pozhilCanvasProperties)) {
         Object.defineProperty(remembering, name, {
             configurable: true,
             get() {
-                return written[name].get(wanted[name]) ?? askFor(name);
+                return property.written;
             },
             set(value) {
                 // Gradients and patterns are objects.
@@ -220,25 +184,26 @@ var pozhilTextCanvas = (() => {
                     giveBack();
                     this[name] = value;
                 } else {
-                    want(name, value);
+                    property.want(value);
                 }
             },
         });
     }
 
     Object.assign(remembering, {
-        save() {
-            saved.push({ ...wanted });
-        },
+        save,
         restore() {
-            wanted = saved.pop() ?? wanted;
+            if (depth > 0) {
+                depth--;
+                goBackTo(saved[depth]);
+            }
         },
         fillText(text, left, top, ...most) {
             if (isOutside(top)) {
                 lastLine = null;
             } else {
                 writeThrough(() => {
-                    NAMES_OF_TEXT.forEach(tell);
+                    tell(OF_TEXTS);
                     if (strength === 1) {
                         browser.fillText.call(this, text, left, top, ...most);
                     } else {
@@ -249,26 +214,26 @@ var pozhilTextCanvas = (() => {
         },
         measureText(text) {
             const measure = () => {
-                NAMES.forEach(tell);
+                tell(ALL);
                 return browser.measureText.call(this, text);
             };
             // More than the width depends on these.
-            const isUsual = wanted.textAlign === 'start' && wanted.textBaseline === 'alphabetic';
-            return isUsual ? pozhilWidths.of(wanted.font, text, measure) : measure();
+            const isUsual = textAlign.wanted === 'start' && textBaseline.wanted === 'alphabetic';
+            return isUsual ? pozhilWidths.of(font.wanted, text, measure) : measure();
         },
         setTransform(...values) {
-            if (saved.length > 0) {
+            if (depth > 0) {
                 giveBack();
                 this.setTransform(...values);
                 return;
             }
             // So each frame begins: with nothing that the canvas may have forgotten.
-            NAMES.forEach(name => { told[name] = undefined; });
+            ALL.forEach(property => { property.told = undefined; });
             rescale(values.join() === '1,0,0,1,0,0' ? 1 : 0);
             browser.setTransform.apply(this, values);
         },
         scale(x, y) {
-            if (saved.length > 0) {
+            if (depth > 0) {
                 giveBack();
                 this.scale(x, y);
                 return;
@@ -279,14 +244,14 @@ var pozhilTextCanvas = (() => {
     });
     for (const method of ['fillRect', 'fill']) {
         remembering[method] = function (...values) {
-            NAMES.forEach(tell);
+            tell(ALL);
             browser[method].apply(this, values);
         };
     }
     // Of the lines under texts.
     remembering.stroke = function (...values) {
         const draw = () => {
-            NAMES.forEach(tell);
+            tell(ALL);
             browser.stroke.apply(this, values);
         };
         // That of a text which isn't in the window isn't there either, so nothing can lie over it.

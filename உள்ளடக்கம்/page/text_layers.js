@@ -48,10 +48,12 @@ var pozhilTextLayers = (() => {
     let done = 0;
 
     function coverAt(index) {
+        const numbers = HEAPF32;
         const begin = (HEAP32[coversAt + 1] >> 2) + NUMBERS * index;
-        const [x, y, width, height, radius, strength, left, top, right, bottom] = HEAPF32.subarray(begin, begin + NUMBERS);
-        return { x, y, width, height, radius, strength, left: Math.max(left, x), top: Math.max(top, y),
-                 right: Math.min(right, x + width), bottom: Math.min(bottom, y + height) };
+        const [x, y, width, height] = [numbers[begin], numbers[begin + 1], numbers[begin + 2], numbers[begin + 3]];
+        return { x, y, width, height, radius: numbers[begin + 4], strength: numbers[begin + 5],
+                 left: Math.max(numbers[begin + 6], x), top: Math.max(numbers[begin + 7], y),
+                 right: Math.min(numbers[begin + 8], x + width), bottom: Math.min(numbers[begin + 9], y + height) };
     }
 
     /// Hides what lies under the shapes that have been drawn since.
