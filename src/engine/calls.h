@@ -145,7 +145,7 @@ struct Structure {
 /// A new object, the fields of all its parents and its own initialised, before துவக்கம்.
 Value create(Structure& structure, Place place);
 
-/// A source of the program, for its faults.
+/// A source of the program, for its faults; without its text, these tell the number of a line alone.
 struct Source {
     const char* path;
     const char* text;

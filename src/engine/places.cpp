@@ -67,6 +67,9 @@ report::Excerpt excerptOf(Place place) {
     if (source == nullptr) {
         return {};
     }
+    if (source->text == nullptr) {
+        return {source->path, position.line, "", 0, 0, true};
+    }
     return {source->path, position.line, std::string(lineOf(*source, position.line)), position.begin, position.end};
 }
 

@@ -213,6 +213,8 @@ std::string faultBox(const FaultText& fault) {
     std::size_t digits = FEWEST_DIGITS;
     if (fault.excerpt.line > 0) {
         digits = std::max(digits, std::to_string(fault.excerpt.line).size());
+    }
+    if (fault.excerpt.line > 0 && !fault.excerpt.isHidden) {
         box += coloured(CYAN, "  🔍 பிழை கண்டறியப்பட்ட பகுதி:") + "\n";
         box += excerptText(fault.excerpt, digits);
     }

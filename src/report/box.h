@@ -18,6 +18,8 @@ struct Excerpt {
     /// The bytes of the line that are underlined; an empty range underlines nothing.
     std::size_t begin = 0;
     std::size_t end = 0;
+    /// Whether the text of the line isn't at hand, so that only file and line are told.
+    bool isHidden = false;
 };
 
 /// A call that led to a fault of a running program.

@@ -93,6 +93,21 @@ TEST_F(Page, TellsAFaultInPartsAndWhole) {
     EXPECT_EQ(fault.text.way[1].line, 1);
 }
 
+TEST_F(Page, WithoutTextsOfItsSourcesTellsWhereAFaultIs) {
+    constexpr Source NAMES_ALONE[] = {{"பாடம்.பொழில்", nullptr, 0}, {"பாகம்.பொழில்", nullptr, 0}};
+    ProgramInfo published = programOf([] {});
+    published.sources = NAMES_ALONE;
+    ASSERT_TRUE(startPage(published));
+    guarded([] { callHandler(function(FAILS), "1:0-4"); });
+    ASSERT_EQ(told.size(), 1U);
+    const pozhil::report::Excerpt& excerpt = told.front().text.excerpt;
+    EXPECT_EQ(excerpt.file, "பாடம்.பொழில்");
+    EXPECT_EQ(excerpt.line, 3);
+    EXPECT_EQ(excerpt.lineText, "");
+    EXPECT_TRUE(excerpt.isHidden);
+    EXPECT_EQ(told.front().text.way[1].line, 1);
+}
+
 TEST_F(Page, TellsTheBoxOfTheConsoleWithoutColours) {
     guarded([] { callHandler(function(FAILS), "1:0-4"); });
     const ChildResult console = resultOf([] { callHandler(function(FAILS), "1:0-4"); });

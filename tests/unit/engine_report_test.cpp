@@ -163,6 +163,18 @@ TEST(Box, UnderlinesLettersNotBytes) {
     EXPECT_THAT(plainBox(fault), HasSubstr("|  கிளி = ப[9]\n       |  ▲▲▲▲\n"));
 }
 
+TEST(Box, WithoutTheLineTellsFileAndNumber) {
+    FaultText fault = someFault();
+    fault.excerpt.line = 1234;
+    fault.excerpt.isHidden = true;
+    const std::string box = plainBox(fault);
+    EXPECT_THAT(box, HasSubstr("பாடம்.பொழில்\n"));
+    EXPECT_THAT(box, HasSubstr("வரி 1234\n"));
+    EXPECT_THAT(box, HasSubstr("\n         ╰── மச்சி, "));
+    EXPECT_THAT(box, Not(HasSubstr("🔍")));
+    EXPECT_THAT(box, Not(HasSubstr("|")));
+}
+
 TEST(Box, AlignsLongLineNumbers) {
     FaultText fault = someFault();
     fault.excerpt.line = 1234;

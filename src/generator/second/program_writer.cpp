@@ -196,9 +196,27 @@ void ProgramWriter::writeBuiltinValues() {
     }
 }
 
+/// A page that is published tells its faults without the lines of the source: these would be a good part of what visitors
+/// fetch, and are nobody else's to read.
 void ProgramWriter::writeSources() {
+    if (program_.pages.empty()) {
+        writeSources(true);
+        return;
+    }
+    ending_.line("#ifdef POZHIL_PUBLISHED");
+    writeSources(false);
+    ending_.line("#else");
+    writeSources(true);
+    ending_.line("#endif");
+}
+
+void ProgramWriter::writeSources(bool withTexts) {
     ending_.open("static const Source sources[] = {");
     for (const SourceText* source : tables_.places.sources()) {
+        if (!withTexts) {
+            ending_.line("{" + textLiteral(source->path) + ", nullptr, 0},");
+            continue;
+        }
         ending_.line("{" + textLiteral(source->path) + ",");
         ending_.line(textLiteral(source->text) + ",");
         ending_.line(std::to_string(source->text.size()) + "},");

@@ -34,6 +34,7 @@ private:
     /// The braces of what the engine is told.
     std::string programInfo() const;
     void writeSources();
+    void writeSources(bool withTexts);
 
     const Program& program_;
     ProgramTables tables_;

@@ -1,5 +1,6 @@
 // Published pages are those that the compiler serves; what publishing leaves out of files, nobody sees.
 
+import { faultCard, second } from '../harness/editions.js';
 import { application, assert, webTest } from '../harness/index.js';
 import * as examples from '../harness/examples.js';
 import { DESKTOP, PHONE, expectInside, takeOrder } from '../harness/tours.js';
@@ -63,3 +64,23 @@ webTest('published dashboard, desktop', examples.source('கடை_நிலவ�
     await expectInside(page, DESKTOP);
     assert.deepEqual(page.errors, []);
 });
+
+// In the published page nobody reads the source.
+const REMARK = 'தனிப்பட்ட குறிப்பு';
+const failing = second(`
+        உரைபொத்தான்("தவறு", அழுத்தினால்: () => அச்சிடு(எண்கள்[7]))`, `
+        ஃ ${REMARK}
+        எண்கள் = [1]`);
+
+for (const published of [false, true]) {
+    webTest(`${published ? 'published' : 'served'}, a fault is told with its place`, failing, { published }, async page => {
+        const { x, y } = await page.text('தவறு');
+        await page.click(x + 5, y + 5);
+        const card = await faultCard(page);
+        assert.match(card, /பொழி-642/);
+        assert.match(card, /வரி 6/);
+        assert.equal(card.includes('எண்கள்[7]'), !published);
+        const wasm = await page.page.evaluate(() => fetch('index.wasm').then(answer => answer.text()));
+        assert.equal(wasm.includes(REMARK), !published);
+    });
+}
