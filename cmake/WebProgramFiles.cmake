@@ -93,14 +93,17 @@ set(web_reporter_object ${web_parts}/error_handler_web.o)
 add_web_program_file(
     ${web_reporter} ${PROJECT_SOURCE_DIR}/src/diagnostics/error_handler.cpp -x c++ -O2 -std=c++17
     -I ${PROJECT_SOURCE_DIR}/உள்ளடக்கம்)
-set(web_page_state ${web_parts}/web_page_state.o)
-add_web_program_file(
-    ${web_page_state} ${PROJECT_SOURCE_DIR}/src/installation/web_page_state.cpp -x c++ -O2 -std=c++17)
+set(web_page_questions)
+foreach(name web_page_state web_memory_sum)
+    add_web_program_file(
+        ${web_parts}/${name}.o ${PROJECT_SOURCE_DIR}/src/installation/${name}.cpp -x c++ -O2 -std=c++17)
+    list(APPEND web_page_questions ${web_parts}/${name}.o)
+endforeach()
 add_custom_command(
     OUTPUT ${web_reporter_object}
     COMMAND ${POZHIL_EMXX} -c -x none ${web_precompiled_headers} -o ${web_headers_code} -O2 ${program_flags}
-    COMMAND ${POZHIL_EMXX} -r -nostdlib ${web_reporter} ${web_page_state} ${web_headers_code} -o ${web_reporter_object}
-    DEPENDS ${web_reporter} ${web_page_state} ${web_precompiled_headers}
+    COMMAND ${POZHIL_EMXX} -r -nostdlib ${web_reporter} ${web_page_questions} ${web_headers_code} -o ${web_reporter_object}
+    DEPENDS ${web_reporter} ${web_page_questions} ${web_precompiled_headers}
     BYPRODUCTS ${web_headers_code}
     COMMENT "Compiling ${web_reporter_object}"
     VERBATIM)

@@ -190,3 +190,12 @@ webTest('an application of the second edition rests too', second(`
         எண்கள் = [1, 2, 3]`), async page => {
     assert.ok(await page.rests(), 'rests');
 });
+
+// What is longer than small pieces of memory is, is counted where it is released.
+const LONG = 'நீண்ட உரை '.repeat(60);
+for (const [edition, source] of [['first', application(`        நெடுவரிசை(உரை("${LONG}"))`)],
+                                 ['second', second(`        நெடுவரிசை(உரை("${LONG}", மடி: மெய்))`, '')]]) {
+    webTest(`a page with a long text rests, ${edition} edition`, source, async page => {
+        assert.ok(await page.rests());
+    });
+}
