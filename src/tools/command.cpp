@@ -1,6 +1,7 @@
 #include "tools/command.h"
 
 #include "driver/console/banner.h"
+#include "tools/completion.h"
 #include "tools/word.h"
 
 #include <algorithm>
@@ -18,12 +19,6 @@ bool isOneOf(std::string_view word, std::initializer_list<std::string_view> word
 
 bool asksForHelp(std::string_view argument) {
     return isOneOf(argument, {"--உதவி", "--help", "-h"});
-}
-
-const Word* findWord(const std::string& name) {
-    const auto found = std::find_if(words().begin(), words().end(),
-                                    [&](const Word* word) { return name == word->tamil || name == word->english; });
-    return found == words().end() ? nullptr : *found;
 }
 
 void printHelp(std::ostream& out) {
@@ -61,6 +56,15 @@ int help(const std::vector<std::string>& arguments) {
     return DONE;
 }
 
+int complete(const std::vector<std::string>& arguments) {
+    if (arguments.size() < 3) {
+        printWords(std::cout);
+    } else {
+        printSwitches(std::cout, arguments[2]);
+    }
+    return DONE;
+}
+
 } // namespace
 
 int runCommand(const std::vector<std::string>& arguments) {
@@ -75,6 +79,9 @@ int runCommand(const std::vector<std::string>& arguments) {
     if (isVersionSwitch(name)) {
         printVersionScreen();
         return DONE;
+    }
+    if (name == COMPLETION_SWITCH) {
+        return complete(arguments);
     }
     const Word* const word = findWord(name);
     if (word == nullptr) {

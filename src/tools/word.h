@@ -42,4 +42,7 @@ extern const Word EXPLAIN;
 /// All words, in the order in which the help lists them.
 const std::vector<const Word*>& words();
 
+/// The word of this name in either language; null if there is none.
+const Word* findWord(const std::string& name);
+
 } // namespace pozhil::tools
