@@ -110,12 +110,16 @@ bool haveSameWords(const Words& a, const Words& b) {
     return true;
 }
 
-bool haveSameNodes(const SourceReading& a, const Words& wordsOfA, const SourceReading& b, const Words& wordsOfB) {
-    return std::equal(a.nodes.begin(), a.nodes.end(), b.nodes.begin(), b.nodes.end(),
-                      [&](ByteRange one, ByteRange other) {
-                          return wordsOfA.numberOf(one.begin) == wordsOfB.numberOf(other.begin) &&
-                                 wordsOfA.numberOf(one.end) == wordsOfB.numberOf(other.end);
-                      });
+/// The words that each node of the tree is made of, from one number up to another: what is the same for two sources only
+/// if their trees have the same form.
+std::vector<std::pair<std::size_t, std::size_t>> wordsOfNodes(const SourceReading& reading, const Words& words) {
+    std::vector<std::pair<std::size_t, std::size_t>> nodes;
+    nodes.reserve(reading.nodes.size());
+    for (const ByteRange range : reading.nodes) {
+        nodes.emplace_back(words.numberOf(range.begin), words.numberOf(range.end));
+    }
+    std::sort(nodes.begin(), nodes.end());
+    return nodes;
 }
 
 /// In the second edition every line end and every edge of a block among the tokens counts. In the first they also come
@@ -157,7 +161,7 @@ bool meanTheSame(const SourceReading& a, const SourceReading& b) {
     }
     const Words wordsOfA(a);
     const Words wordsOfB(b);
-    return haveSameWords(wordsOfA, wordsOfB) && haveSameNodes(a, wordsOfA, b, wordsOfB);
+    return haveSameWords(wordsOfA, wordsOfB) && wordsOfNodes(a, wordsOfA) == wordsOfNodes(b, wordsOfB);
 }
 
 } // namespace pozhil::formatter

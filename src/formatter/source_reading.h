@@ -13,7 +13,7 @@ struct SourceReading {
     SourcePtr source;
     Edition edition = Edition::First;
     ScannedSource scanned;
-    /// The bytes of all nodes of its tree, in the order of the parse.
+    /// The bytes of all nodes of its tree, in no order.
     std::vector<ByteRange> nodes;
     /// Whether anything is wrong with it; the rest is then worth nothing.
     bool isFaulty = true;

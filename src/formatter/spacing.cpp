@@ -15,8 +15,8 @@ constexpr std::string_view IF = "எனில்";
 constexpr std::string_view OTHERWISE = "இல்லைஎனில்";
 
 /// Words that a value comes after, so that a bracket after them begins one. After all others it belongs to them.
-constexpr std::string_view WORDS_BEFORE_VALUES[] = {"எனில்",  "இல்லைஎனில்", "இல்லை", "சுற்று", "திரும்பு",
-                                                    "தேர்வு", "நிலை",     "இல்",   "மாற்று"};
+constexpr std::string_view WORDS_BEFORE_VALUES[] = {"எனில்",    "இல்லைஎனில்", "இல்லை", "சுற்று",
+                                                    "திரும்பு", "தேர்வு",    "நிலை", "இல்"};
 
 bool isOpening(TokenType type) {
     return type == TokenType::LPAREN || type == TokenType::LBRACKET || type == TokenType::LBRACE;

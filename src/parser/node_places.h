@@ -27,7 +27,7 @@ public:
     std::optional<SourcePlace> of(const Statement& node) const { return find(&node); }
     /// The same for a node of which only the address is known, nothing for null.
     std::optional<SourcePlace> ofAddress(const void* node) const { return find(node); }
-    /// Where all nodes of a source stand, in the order of its parse as long as nobody has asked for a single one.
+    /// Where all nodes of a source stand, in no order.
     std::vector<ByteRange> allIn(const SourcePtr& source) const;
 
 private:
