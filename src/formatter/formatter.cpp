@@ -12,11 +12,16 @@
 namespace pozhil {
 namespace {
 
+using formatter::InBrackets;
 using formatter::Piece;
 using formatter::Pieces;
+using formatter::SourceReading;
 
-std::string textOf(const Pieces& pieces) {
-    const std::vector<std::size_t> columns = formatter::lineColumns(pieces);
+/// One of them ends a line, the other makes a blank one.
+constexpr std::size_t MOST_LINE_ENDS = 2;
+
+std::string textOf(const Pieces& pieces, InBrackets inBrackets) {
+    const std::vector<std::size_t> columns = formatter::lineColumns(pieces, inBrackets);
     const std::vector<std::size_t> blanks = formatter::blanksBefore(pieces);
     std::string text;
     for (std::size_t index = 0; index < pieces.size(); ++index) {
@@ -24,10 +29,10 @@ std::string textOf(const Pieces& pieces) {
         if (piece.kind == Piece::Kind::End) {
             break;
         }
-        if (piece.linesBefore > 0 && index > 0) {
-            text.append(std::min<std::size_t>(piece.linesBefore, 2), '\n');
+        if (index > 0) {
+            text.append(std::min(piece.linesBefore, MOST_LINE_ENDS), '\n');
         }
-        text.append(index == 0 || piece.linesBefore > 0 ? columns[index] : blanks[index], ' ');
+        text.append(piece.isLineStart ? columns[index] : blanks[index], ' ');
         text += piece.text;
     }
     return text.empty() ? text : text + "\n";
@@ -36,23 +41,23 @@ std::string textOf(const Pieces& pieces) {
 } // namespace
 
 FormattedSource formatSource(const SourcePtr& source, const FrontEndOptions& options) {
-    const formatter::SourceReading reading = formatter::readSource(source, options);
+    const SourceReading reading = formatter::readSource(source, options);
     if (reading.isFaulty) {
         return {FormatResult::Faulty, source->text};
     }
-    const std::optional<Pieces> pieces = formatter::piecesOf(reading.scanned);
+    const bool isFirst = reading.edition == Edition::First;
+    const std::optional<Pieces> pieces = formatter::piecesOf(reading.scanned, isFirst);
     if (!pieces) {
         return {FormatResult::NotUnderstood, source->text};
     }
-    std::string text = textOf(*pieces);
-    if (text == source->text) {
-        return {FormatResult::Formatted, std::move(text)};
+    for (const InBrackets inBrackets : {InBrackets::Brackets, InBrackets::Lines}) {
+        std::string text = textOf(*pieces, inBrackets);
+        const SourcePtr made = makeSource(source->path, text);
+        if (text == source->text || meanTheSame(reading, formatter::readSource(made, options))) {
+            return {FormatResult::Formatted, std::move(text)};
+        }
     }
-    const SourcePtr made = makeSource(source->path, text);
-    if (!meanTheSame(reading, formatter::readSource(made, options))) {
-        return {FormatResult::NotUnderstood, source->text};
-    }
-    return {FormatResult::Formatted, std::move(text)};
+    return {FormatResult::NotUnderstood, source->text};
 }
 
 } // namespace pozhil

@@ -30,13 +30,14 @@ struct Enclosure {
 /// One walk over the pieces, line by line.
 class Walk {
 public:
-    explicit Walk(const Pieces& pieces) : pieces_(pieces), columns_(pieces.size(), 0) {}
+    Walk(const Pieces& pieces, InBrackets inBrackets)
+        : pieces_(pieces), inBrackets_(inBrackets), columns_(pieces.size(), 0) {}
 
     std::vector<std::size_t> run() {
         std::size_t begin = 0;
         while (begin < pieces_.size()) {
             std::size_t end = begin + 1;
-            while (end < pieces_.size() && pieces_[end].linesBefore == 0 && pieces_[end].kind != Piece::Kind::End) {
+            while (end < pieces_.size() && !pieces_[end].isLineStart && pieces_[end].kind != Piece::Kind::End) {
                 ++end;
             }
             takeLine(begin, end);
@@ -75,6 +76,9 @@ private:
     std::size_t columnOf(const Piece& leader) const {
         if (leader.kind == Piece::Kind::End) {
             return 0;
+        }
+        if (inBrackets_ == InBrackets::Lines) {
+            return edges_.size() * STEP;
         }
         if (isClosing(leader.type)) {
             const auto bracket = std::find_if(enclosures_.rbegin(), enclosures_.rend(),
@@ -139,6 +143,9 @@ private:
         const bool closesBracket = isClosing(leader.type) && !before.empty();
         for (const std::size_t comment : comments_) {
             columns_[comment] = column_;
+            if (inBrackets_ == InBrackets::Lines) {
+                continue;
+            }
             if (closesBracket) {
                 columns_[comment] = lastBracket(before).inside;
             }
@@ -161,6 +168,7 @@ private:
     static constexpr std::size_t NO_BLOCK = static_cast<std::size_t>(-1);
 
     const Pieces& pieces_;
+    const InBrackets inBrackets_;
     std::vector<std::size_t> columns_;
     std::vector<Enclosure> enclosures_;
     /// For each open INDENT the number of its block among the enclosures.
@@ -174,8 +182,8 @@ private:
 
 } // namespace
 
-std::vector<std::size_t> lineColumns(const Pieces& pieces) {
-    return Walk(pieces).run();
+std::vector<std::size_t> lineColumns(const Pieces& pieces, InBrackets inBrackets) {
+    return Walk(pieces, inBrackets).run();
 }
 
 } // namespace pozhil::formatter

@@ -15,7 +15,8 @@ constexpr std::size_t TAB_WIDTH = 4;
 
 class Taking {
 public:
-    explicit Taking(const ScannedSource& scanned) : scanned_(scanned), text_(scanned.source->text) {
+    Taking(const ScannedSource& scanned, bool areStatementsIndented)
+        : scanned_(scanned), text_(scanned.source->text), areStatementsIndented_(areStatementsIndented) {
         pieces_.reserve(scanned.tokens.size());
     }
 
@@ -94,6 +95,8 @@ private:
     void add(Piece::Kind kind, std::size_t end) {
         Piece piece = std::exchange(next_, {});
         piece.kind = kind;
+        const bool isAfterSemicolon = !pieces_.empty() && pieces_.back().kind == Piece::Kind::Semicolon;
+        piece.isLineStart = pieces_.empty() || piece.linesBefore > 0 || (areStatementsIndented_ && isAfterSemicolon);
         piece.text = text_.substr(position_, end - position_);
         if (piece.isComment()) {
             next_.edges = std::exchange(piece.edges, {});
@@ -104,6 +107,7 @@ private:
 
     const ScannedSource& scanned_;
     const std::string_view text_;
+    const bool areStatementsIndented_;
     Pieces pieces_;
     std::size_t position_ = 0;
     /// What is known of the piece to come.
@@ -112,8 +116,8 @@ private:
 
 } // namespace
 
-std::optional<Pieces> piecesOf(const ScannedSource& scanned) {
-    return Taking(scanned).run();
+std::optional<Pieces> piecesOf(const ScannedSource& scanned, bool areStatementsIndented) {
+    return Taking(scanned, areStatementsIndented).run();
 }
 
 } // namespace pozhil::formatter

@@ -20,7 +20,9 @@ struct Piece {
     std::string_view text;
     /// How many line ends stand before it, after the piece before it.
     std::size_t linesBefore = 0;
-    /// How far it is indented, a tab reaching to the next multiple of four, if it begins a line.
+    /// Whether it is indented: at the beginning of a line, and in the first edition after a semicolon.
+    bool isLineStart = false;
+    /// How far it is indented, a tab reaching to the next multiple of four.
     std::size_t width = 0;
     /// Edges of blocks before it: INDENT and DEDENT.
     std::vector<TokenType> edges{};
@@ -33,7 +35,8 @@ struct Piece {
 using Pieces = std::vector<Piece>;
 
 /// Takes a source to pieces, the last of which is its end.
+/// \param areStatementsIndented whether the blanks after a semicolon count like those at the beginning of a line
 /// \return nothing if anything else than blanks and comments stands between tokens
-std::optional<Pieces> piecesOf(const ScannedSource& scanned);
+std::optional<Pieces> piecesOf(const ScannedSource& scanned, bool areStatementsIndented);
 
 } // namespace pozhil::formatter

@@ -6,17 +6,13 @@
 namespace pozhil::formatter {
 namespace {
 
-/// Before a comment at the end of a line of code.
-constexpr std::size_t COMMENT_GAP = 2;
-
 constexpr std::string_view APPLICATION = "வலைதளம்";
-constexpr std::string_view ARROW = "=>";
 constexpr std::string_view IF = "எனில்";
 constexpr std::string_view OTHERWISE = "இல்லைஎனில்";
 
-/// Words that a value comes after, so that a bracket after them begins one. After all others it belongs to them.
-constexpr std::string_view WORDS_BEFORE_VALUES[] = {"எனில்",    "இல்லைஎனில்", "இல்லை", "சுற்று",
-                                                    "திரும்பு", "தேர்வு",    "நிலை", "இல்"};
+/// Words that a bracket after them doesn't belong to: it begins a value, or a group of members.
+constexpr std::string_view WORDS_APART[] = {"எனில்",  "இல்லைஎனில்", "இல்லை", "சுற்று", "திரும்பு",
+                                            "தேர்வு", "நிலை",     "இல்",   "பொது"};
 
 bool isOpening(TokenType type) {
     return type == TokenType::LPAREN || type == TokenType::LBRACKET || type == TokenType::LBRACE;
@@ -26,9 +22,9 @@ bool isClosing(TokenType type) {
     return type == TokenType::RPAREN || type == TokenType::RBRACKET || type == TokenType::RBRACE;
 }
 
-bool isWordBeforeValue(const Piece& piece) {
-    return piece.type == TokenType::KEYWORD && std::find(std::begin(WORDS_BEFORE_VALUES), std::end(WORDS_BEFORE_VALUES),
-                                                         piece.text) != std::end(WORDS_BEFORE_VALUES);
+bool standsApart(const Piece& piece) {
+    return piece.type == TokenType::KEYWORD &&
+           std::find(std::begin(WORDS_APART), std::end(WORDS_APART), piece.text) != std::end(WORDS_APART);
 }
 
 /// Whether a value can end here.
@@ -48,14 +44,15 @@ bool endsValue(const Piece* piece) {
     case TokenType::BIT_NOT:
     case TokenType::UNARY_PLUS:
     case TokenType::UNARY_MINUS:
+    case TokenType::PRIVATE:
     case TokenType::LPAREN:
     case TokenType::LBRACKET:
     case TokenType::LBRACE: return false;
-    default: return !isWordBeforeValue(*piece);
+    default: return !standsApart(*piece);
     }
 }
 
-/// One walk over the pieces, which remembers the last three of the code.
+/// One walk over the pieces, which remembers the last two of the code.
 class Walk {
 public:
     explicit Walk(const Pieces& pieces) : pieces_(pieces) {}
@@ -65,11 +62,10 @@ public:
         for (std::size_t index = 0; index < pieces_.size(); ++index) {
             const Piece& piece = pieces_[index];
             noteQuestions(piece);
-            if (index > 0 && piece.linesBefore == 0) {
+            if (!piece.isLineStart) {
                 blanks[index] = between(pieces_[index - 1], piece);
             }
             if (piece.isCode()) {
-                beforeLast_ = last_;
                 last_ = code_;
                 code_ = &piece;
             }
@@ -79,9 +75,6 @@ public:
 
 private:
     std::size_t between(const Piece& left, const Piece& right) const {
-        if (right.kind == Piece::Kind::LineComment) {
-            return COMMENT_GAP;
-        }
         if (left.isComment() || right.isComment()) {
             return 1;
         }
@@ -98,32 +91,19 @@ private:
             return isOfQuestion_ ? 1 : 0;
         }
         if (right.type == TokenType::LPAREN || right.type == TokenType::LBRACKET) {
-            return belongsTo(left, right.type) ? 0 : 1;
+            return belongsTo(left) ? 0 : 1;
         }
         return 1;
     }
 
-    /// Whether a bracket calls the piece before it, or counts in it.
-    bool belongsTo(const Piece& left, TokenType bracket) const {
-        if (left.type == TokenType::OPERATOR) {
-            // Some operators are names of functions too.
-            return bracket == TokenType::LPAREN && left.text != ARROW && !endsValue(last_);
-        }
-        const bool isSign = left.type == TokenType::UNARY_MINUS || left.type == TokenType::UNARY_PLUS ||
-                            left.type == TokenType::BIT_NOT;
-        if (isSign) {
-            return bracket == TokenType::LPAREN;
-        }
-        if (left.type == TokenType::PERCENT || left.type == TokenType::NUMBER) {
-            return false;
-        }
-        return endsValue(&left) && !isApplication(left);
+    /// Whether a bracket calls the piece before it, or counts in it. No sign of a percentage may stand right before one.
+    bool belongsTo(const Piece& left) const {
+        return endsValue(&left) && left.type != TokenType::PERCENT && !isApplication(left);
     }
 
     /// Whether a piece is the name of an application, or its word where it has none.
     bool isApplication(const Piece& piece) const {
-        const bool isNamed =
-            last_ != nullptr && last_->text == APPLICATION && (beforeLast_ == nullptr || last_->linesBefore > 0);
+        const bool isNamed = last_ != nullptr && last_->text == APPLICATION && last_->isLineStart;
         return piece.text == APPLICATION || isNamed;
     }
 
@@ -146,15 +126,12 @@ private:
     }
 
     /// Whether a piece is the word of a condition after its value, as no statement begins.
-    bool isQuestionWord(const Piece& piece) const {
-        return piece.linesBefore == 0 && piece.text == IF && endsValue(code_);
-    }
+    bool isQuestionWord(const Piece& piece) const { return !piece.isLineStart && piece.text == IF && endsValue(code_); }
 
     const Pieces& pieces_;
-    /// The last piece of the code, and those before it.
+    /// The last piece of the code, and the one before it.
     const Piece* code_ = nullptr;
     const Piece* last_ = nullptr;
-    const Piece* beforeLast_ = nullptr;
     /// How many questions wait for their colons in each open bracket.
     std::vector<std::size_t> questions_{0};
     /// Whether the piece at hand is such a colon.
