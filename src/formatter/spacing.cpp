@@ -7,6 +7,8 @@ namespace pozhil::formatter {
 namespace {
 
 constexpr std::string_view APPLICATION = "வலைதளம்";
+constexpr std::string_view ARROW = "=>";
+constexpr std::string_view MINUS = "கழி";
 constexpr std::string_view IF = "எனில்";
 constexpr std::string_view OTHERWISE = "இல்லைஎனில்";
 
@@ -98,7 +100,18 @@ private:
 
     /// Whether a bracket calls the piece before it, or counts in it. No sign of a percentage may stand right before one.
     bool belongsTo(const Piece& left) const {
+        if (left.type == TokenType::OPERATOR) {
+            return isName(left);
+        }
         return endsValue(&left) && left.type != TokenType::PERCENT && !isApplication(left);
+    }
+
+    /// Whether a word of an operator stands where none can: it is the name of a function then. The minus of the first
+    /// edition may also stand before its only operand.
+    bool isName(const Piece& word) const {
+        const bool beginsStatement = word.isLineStart && questions_.size() == 1;
+        const bool isAfterValue = endsValue(last_) && last_->type != TokenType::KEYWORD && !beginsStatement;
+        return !isAfterValue && word.text != ARROW && word.text != MINUS;
     }
 
     /// Whether a piece is the name of an application, or its word where it has none.
