@@ -1,6 +1,9 @@
 """The programs of the repository are in the one style of the language, but for those whose layout is what they are about."""
 
+import re
 import subprocess
+
+import pytest
 
 from support.compiler import REPOSITORY, compiler_path
 
@@ -35,15 +38,37 @@ UNLIKE = {
 }
 
 
-def test_sources_are_in_the_style():
-    tool = compiler_path().parent / "பொழில்"
-    result = subprocess.run([tool, "வடிவமை", "--சரிபார்", *FOLDERS], cwd=REPOSITORY, capture_output=True, check=False)
-    unlike = set(result.stdout.decode().splitlines())
+# In the documents. One that starts with faults is passed over, as everywhere.
+PROGRAM = re.compile(r"^```பொழில்[^\n]*\n(.*?)^```$", re.MULTILINE | re.DOTALL)
+
+
+@pytest.fixture
+def check():
+    """Runs --check on folders."""
+    def check_folders(*folders, cwd=REPOSITORY):
+        tool = compiler_path().parent / "பொழில்"
+        return subprocess.run([tool, "வடிவமை", "--சரிபார்", *folders], cwd=cwd, capture_output=True, check=False)
+    return check_folders
+
+
+def test_sources_are_in_the_style(check):
+    unlike = set(check(*FOLDERS).stdout.decode().splitlines())
     assert unlike - set(UNLIKE) == set(), "format these: பொழில் வடிவமை <file>"
     assert set(UNLIKE) - unlike == set(), "these needn't be left out any more"
 
 
-def test_published_programs_have_no_faults():
-    tool = compiler_path().parent / "பொழில்"
-    result = subprocess.run([tool, "வடிவமை", "--சரிபார்", *FOLDERS[:3]], cwd=REPOSITORY, capture_output=True, check=False)
+def test_published_programs_have_no_faults(check):
+    result = check(*FOLDERS[:3])
     assert (result.returncode, result.stdout, result.stderr) == (0, b"", b"")
+
+
+def test_programs_of_the_documents_are_in_the_style(check, tmp_path):
+    count = 0
+    for page in (REPOSITORY / "docs").rglob("*.md"):
+        text = page.read_text(encoding="utf-8")
+        for program in PROGRAM.finditer(text):
+            line = text.count("\n", 0, program.start()) + 1
+            (tmp_path / f"{page.stem}:{line}.பொழில்").write_text(program[1], encoding="utf-8")
+            count += 1
+    assert count > 100, "the programs were found"
+    assert check(".", cwd=tmp_path).stdout.decode().splitlines() == []
