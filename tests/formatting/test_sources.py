@@ -38,7 +38,7 @@ UNLIKE = {
 }
 
 
-# In the documents. One that starts with faults is passed over, as everywhere.
+# In the documents. What has faults, such as most programs of the list of errors, is passed over.
 PROGRAM = re.compile(r"^```பொழில்[^\n]*\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 
 

@@ -4,7 +4,6 @@
 #include "driver/second_translation.h"
 #include "driver/translation.h"
 #include "expectation.h"
-#include "formatter/formatter.h"
 #include "scanner/lexer.h"
 #include "scanner/second/scanner.h"
 
@@ -172,14 +171,14 @@ std::string withLinesOf(std::string_view source, std::string_view formatted) {
     return text;
 }
 
-std::string checkFormatting(const SourcePtr& source) {
+FormattedSource checkFormatting(const SourcePtr& source) {
     const MemoryLoader noFiles;
     FrontEndOptions options;
     options.loader = &noFiles;
     const FormattedSource formatted = formatSource(source, options);
     if (formatted.result != FormatResult::Formatted) {
         expect(formatted.text == source->text, "what isn't formatted stays as it is");
-        return "";
+        return formatted;
     }
     const SourcePtr made = makeSource(source->path, formatted.text);
     expect(partsOf(source) == partsOf(made), "words, texts and comments stay byte for byte");
@@ -190,5 +189,5 @@ std::string checkFormatting(const SourcePtr& source) {
            "no more than one blank line");
     const SourcePtr onLines = makeSource(source->path, withLinesOf(source->text, formatted.text));
     expect(meaningOf(source) == meaningOf(onLines), "the same text is emitted");
-    return formatted.text;
+    return formatted;
 }
