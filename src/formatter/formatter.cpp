@@ -20,6 +20,10 @@ using formatter::SourceReading;
 /// One of them ends a line, the other makes a blank one.
 constexpr std::size_t MOST_LINE_ENDS = 2;
 
+std::optional<Pieces> piecesOf(const SourceReading& reading) {
+    return formatter::piecesOf(reading.scanned, reading.edition == Edition::First);
+}
+
 std::string textOf(const Pieces& pieces, InBrackets inBrackets) {
     const std::vector<std::size_t> columns = formatter::lineColumns(pieces, inBrackets);
     const std::vector<std::size_t> blanks = formatter::blanksBefore(pieces);
@@ -38,6 +42,18 @@ std::string textOf(const Pieces& pieces, InBrackets inBrackets) {
     return text.empty() ? text : text + "\n";
 }
 
+/// Whether nothing but blanks differs: the same words and comments byte for byte, with the same meaning.
+bool isSafe(const SourceReading& reading, const Pieces& pieces, const SourceReading& made) {
+    if (!haveSameForm(reading, made)) {
+        return false;
+    }
+    const std::optional<Pieces> others = piecesOf(made);
+    return others &&
+           std::equal(pieces.begin(), pieces.end(), others->begin(), others->end(), [](const Piece& a, const Piece& b) {
+               return a.kind == b.kind && a.type == b.type && a.text == b.text;
+           });
+}
+
 } // namespace
 
 FormattedSource formatSource(const SourcePtr& source, const FrontEndOptions& options) {
@@ -45,15 +61,17 @@ FormattedSource formatSource(const SourcePtr& source, const FrontEndOptions& opt
     if (reading.isFaulty) {
         return {FormatResult::Faulty, source->text};
     }
-    const bool isFirst = reading.edition == Edition::First;
-    const std::optional<Pieces> pieces = formatter::piecesOf(reading.scanned, isFirst);
+    const std::optional<Pieces> pieces = piecesOf(reading);
     if (!pieces) {
         return {FormatResult::NotUnderstood, source->text};
     }
     for (const InBrackets inBrackets : {InBrackets::Brackets, InBrackets::Lines}) {
+        if (inBrackets == InBrackets::Lines && reading.edition == Edition::Second) {
+            break;
+        }
         std::string text = textOf(*pieces, inBrackets);
         const SourcePtr made = makeSource(source->path, text);
-        if (text == source->text || meanTheSame(reading, formatter::readSource(made, options))) {
+        if (text == source->text || isSafe(reading, *pieces, formatter::readSource(made, options))) {
             return {FormatResult::Formatted, std::move(text)};
         }
     }

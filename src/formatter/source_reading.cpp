@@ -6,8 +6,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <exception>
-#include <string_view>
 #include <utility>
 
 namespace pozhil::formatter {
@@ -58,65 +58,33 @@ void readSecondEdition(SourceReading& reading) {
     reading.scanned = second::scanSecondEdition(reading.source, faults);
 }
 
-bool isBlockEdge(TokenType type) {
-    return type == TokenType::INDENT || type == TokenType::DEDENT;
-}
-
 bool isLayout(TokenType type) {
-    return isBlockEdge(type) || type == TokenType::NEWLINE || type == TokenType::END_OF_FILE;
+    return type == TokenType::INDENT || type == TokenType::DEDENT || type == TokenType::NEWLINE ||
+           type == TokenType::END_OF_FILE;
 }
 
-/// The tokens without what the lines are, with their numbers by places.
-class Words {
-public:
-    explicit Words(const SourceReading& reading) : scanned_(reading.scanned), text_(reading.source->text) {
-        for (std::size_t index = 0; index < scanned_.tokens.size(); ++index) {
-            if (!isLayout(scanned_.tokens[index].type)) {
-                indices_.push_back(index);
-            }
+/// Where the words begin, which are the tokens that lines and blocks don't bring.
+std::vector<std::uint32_t> beginsOfWords(const ScannedSource& scanned) {
+    std::vector<std::uint32_t> begins;
+    for (std::size_t index = 0; index < scanned.tokens.size(); ++index) {
+        if (!isLayout(scanned.tokens[index].type)) {
+            begins.push_back(scanned.places[index].begin);
         }
     }
-
-    std::size_t size() const { return indices_.size(); }
-    TokenType typeAt(std::size_t number) const { return scanned_.tokens[indices_[number]].type; }
-    std::string_view textAt(std::size_t number) const {
-        const ByteRange range = scanned_.places[indices_[number]];
-        return text_.substr(range.begin, range.end - range.begin);
-    }
-
-    /// How many words begin before an offset.
-    std::size_t numberOf(std::uint32_t offset) const {
-        const auto found = std::lower_bound(indices_.begin(), indices_.end(), offset, [&](std::size_t index, auto at) {
-            return scanned_.places[index].begin < at;
-        });
-        return static_cast<std::size_t>(found - indices_.begin());
-    }
-
-private:
-    const ScannedSource& scanned_;
-    std::string_view text_;
-    std::vector<std::size_t> indices_;
-};
-
-bool haveSameWords(const Words& a, const Words& b) {
-    if (a.size() != b.size()) {
-        return false;
-    }
-    for (std::size_t number = 0; number < a.size(); ++number) {
-        if (a.typeAt(number) != b.typeAt(number) || a.textAt(number) != b.textAt(number)) {
-            return false;
-        }
-    }
-    return true;
+    return begins;
 }
 
 /// The words that each node of the tree is made of, from one number up to another: what is the same for two sources only
 /// if their trees have the same form.
-std::vector<std::pair<std::size_t, std::size_t>> wordsOfNodes(const SourceReading& reading, const Words& words) {
+std::vector<std::pair<std::size_t, std::size_t>> wordsOfNodes(const SourceReading& reading) {
+    const std::vector<std::uint32_t> begins = beginsOfWords(reading.scanned);
+    const auto wordsBefore = [&](std::uint32_t offset) {
+        return static_cast<std::size_t>(std::lower_bound(begins.begin(), begins.end(), offset) - begins.begin());
+    };
     std::vector<std::pair<std::size_t, std::size_t>> nodes;
     nodes.reserve(reading.nodes.size());
     for (const ByteRange range : reading.nodes) {
-        nodes.emplace_back(words.numberOf(range.begin), words.numberOf(range.end));
+        nodes.emplace_back(wordsBefore(range.begin), wordsBefore(range.end));
     }
     std::sort(nodes.begin(), nodes.end());
     return nodes;
@@ -155,13 +123,9 @@ SourceReading readSource(const SourcePtr& source, const FrontEndOptions& options
     return reading;
 }
 
-bool meanTheSame(const SourceReading& a, const SourceReading& b) {
-    if (a.isFaulty || b.isFaulty || a.edition != b.edition || !haveSameLayout(a, b)) {
-        return false;
-    }
-    const Words wordsOfA(a);
-    const Words wordsOfB(b);
-    return haveSameWords(wordsOfA, wordsOfB) && wordsOfNodes(a, wordsOfA) == wordsOfNodes(b, wordsOfB);
+bool haveSameForm(const SourceReading& a, const SourceReading& b) {
+    return !a.isFaulty && !b.isFaulty && a.edition == b.edition && haveSameLayout(a, b) &&
+           wordsOfNodes(a) == wordsOfNodes(b);
 }
 
 } // namespace pozhil::formatter

@@ -22,8 +22,8 @@ struct SourceReading {
 /// Scans and parses a source. What is wrong with files that it imports is none of its faults.
 SourceReading readSource(const SourcePtr& source, const FrontEndOptions& options);
 
-/// Whether two sources are the same but for their blanks: each word, text, number and sign, byte for byte, of the same
-/// kind, in the same lines of code, blocks and parts of the tree.
-bool meanTheSame(const SourceReading& a, const SourceReading& b);
+/// Whether two sources that hold the same words mean the same: as programs without faults of the same edition, with the same
+/// parts in their trees, and where lines and blocks count by themselves, with the same ones.
+bool haveSameForm(const SourceReading& a, const SourceReading& b);
 
 } // namespace pozhil::formatter

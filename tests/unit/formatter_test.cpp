@@ -98,6 +98,7 @@ TEST(Formatter, IndentsLinesInBracketsByTheLineOfTheBracket) {
 
 TEST(Formatter, KeepsBlocksOfFunctionsInBrackets) {
     expectSecond("ப(வினை(அ):\n  அச்சிடு(அ)\n, 3)\n", "ப(வினை(அ):\n    அச்சிடு(அ)\n, 3)\n");
+    expectSecond("ப([\n1\n], வினை(அ):\n  விடு\n, 3)\n", "ப([\n    1\n], வினை(அ):\n    விடு\n, 3)\n");
     expectSecond("ப(\n  வினை(அ):\n      அச்சிடு(அ)\n  , 3)\n", "ப(\n    வினை(அ):\n        அச்சிடு(அ)\n    , 3)\n");
 }
 
