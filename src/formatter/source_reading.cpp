@@ -13,40 +13,49 @@
 namespace pozhil::formatter {
 namespace {
 
-/// More than this are worth no more than one.
-constexpr std::size_t MOST_FAULTS = 100;
-
 /// The folder of imports that are nowhere else.
 constexpr const char* NOWHERE = "/\n";
 
 /// Finds an empty source for every import that can't be found: how a file looks doesn't depend on where it is.
 class LenientLoader : public SourceLoader {
 public:
-    explicit LenientLoader(const SourceLoader* loader) : loader_(loader == nullptr ? files_ : *loader) {}
+    explicit LenientLoader(const SourceLoader& loader) : loader_(loader) {}
 
     SourcePtr load(const std::string& path) const override {
         return startsWith(path, NOWHERE) ? makeSource(path, "") : loader_.load(path);
     }
 
 private:
-    const FileLoader files_;
     const SourceLoader& loader_;
 };
 
-bool hasFaultsOfItsOwn(const ParsedSource& parsed) {
-    const auto isOwn = [&](const FoundFault& fault) { return fault.place.source == parsed.source; };
-    return parsed.faults.size() >= MOST_FAULTS || std::any_of(parsed.faults.begin(), parsed.faults.end(), isOwn);
-}
-
-void readFirstEdition(SourceReading& reading, FrontEndOptions options) {
-    const LenientLoader loader(options.loader);
+ParsedSource parseLeniently(const SourcePtr& source, FrontEndOptions options, const SourceLoader& imports) {
+    const LenientLoader loader(imports);
     options.loader = &loader;
     options.moduleDirectories.emplace_back(NOWHERE);
-    options.maxFaults = MOST_FAULTS;
-    const ParsedSource parsed = parseSource(reading.source, options);
+    options.maxFaults = 0;
+    return parseSource(source, options);
+}
+
+/// Parses a source with what it imports, or if something is wrong with that, without it.
+/// \throws Fault of the source itself
+ParsedSource parseFirstEdition(const SourcePtr& source, const FrontEndOptions& options) {
+    const FileLoader files;
+    try {
+        return parseLeniently(source, options, options.loader == nullptr ? files : *options.loader);
+    } catch (const Fault& fault) {
+        if (fault.file == source->path) {
+            throw;
+        }
+        return parseLeniently(source, options, MemoryLoader());
+    }
+}
+
+void readFirstEdition(SourceReading& reading, const FrontEndOptions& options) {
+    const ParsedSource parsed = parseFirstEdition(reading.source, options);
     reading.scanned = parsed.parser->scanned();
     reading.nodes = parsed.parser->places().allIn(reading.source);
-    reading.isFaulty = hasFaultsOfItsOwn(parsed);
+    reading.isFaulty = false;
 }
 
 void readSecondEdition(SourceReading& reading) {

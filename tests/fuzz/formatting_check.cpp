@@ -175,7 +175,7 @@ FormattedSource checkFormatting(const SourcePtr& source) {
     const MemoryLoader noFiles;
     FrontEndOptions options;
     options.loader = &noFiles;
-    const FormattedSource formatted = formatSource(source, options);
+    FormattedSource formatted = formatSource(source, options);
     if (formatted.result != FormatResult::Formatted) {
         expect(formatted.text == source->text, "what isn't formatted stays as it is");
         return formatted;
