@@ -8,14 +8,6 @@ namespace {
 
 constexpr std::size_t STEP = 4;
 
-bool isOpening(TokenType type) {
-    return type == TokenType::LPAREN || type == TokenType::LBRACKET || type == TokenType::LBRACE;
-}
-
-bool isClosing(TokenType type) {
-    return type == TokenType::RPAREN || type == TokenType::RBRACKET || type == TokenType::RBRACE;
-}
-
 /// What is open around a line: a block, or a bracket.
 struct Enclosure {
     bool isBracket;
@@ -61,7 +53,7 @@ private:
         column_ = columnOf(pieces_[first]);
         columns_[begin] = column_;
         placeComments(before, pieces_[first]);
-        if (!enclosures_.empty() && !enclosures_.back().written && !isClosing(pieces_[first].type)) {
+        if (!enclosures_.empty() && !enclosures_.back().written && !pieces_[first].isClosingBracket()) {
             enclosures_.back().written = pieces_[begin].width;
         }
         for (std::size_t index = first; index < end; ++index) {
@@ -80,7 +72,7 @@ private:
         if (inBrackets_ == InBrackets::Lines) {
             return edges_.size() * STEP;
         }
-        if (isClosing(leader.type)) {
+        if (leader.isClosingBracket()) {
             const auto bracket = std::find_if(enclosures_.rbegin(), enclosures_.rend(),
                                               [](const Enclosure& enclosure) { return enclosure.isBracket; });
             return bracket == enclosures_.rend() ? 0 : bracket->outside;
@@ -125,9 +117,9 @@ private:
             return;
         }
         isAfterColon_ = piece.type == TokenType::COLON;
-        if (isOpening(piece.type)) {
+        if (piece.isOpeningBracket()) {
             enclosures_.push_back({true, column_ + STEP, column_});
-        } else if (isClosing(piece.type)) {
+        } else if (piece.isClosingBracket()) {
             while (!enclosures_.empty() && !enclosures_.back().isBracket) {
                 enclosures_.pop_back();
             }
@@ -140,7 +132,7 @@ private:
     /// Lines of comments before a line of code stand with it; but where that leaves blocks or brackets, each stands with the
     /// innermost of them that it is indented as far as.
     void placeComments(const std::vector<Enclosure>& before, const Piece& leader) {
-        const bool closesBracket = isClosing(leader.type) && !before.empty();
+        const bool closesBracket = leader.isClosingBracket() && !before.empty();
         for (const std::size_t comment : comments_) {
             columns_[comment] = column_;
             if (inBrackets_ == InBrackets::Lines) {

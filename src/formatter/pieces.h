@@ -30,6 +30,12 @@ struct Piece {
     bool isComment() const { return kind == Kind::LineComment || kind == Kind::BlockComment; }
     /// Whether it is what the scanner sees.
     bool isCode() const { return kind == Kind::Token || kind == Kind::Semicolon; }
+    bool isOpeningBracket() const {
+        return type == TokenType::LPAREN || type == TokenType::LBRACKET || type == TokenType::LBRACE;
+    }
+    bool isClosingBracket() const {
+        return type == TokenType::RPAREN || type == TokenType::RBRACKET || type == TokenType::RBRACE;
+    }
 };
 
 using Pieces = std::vector<Piece>;

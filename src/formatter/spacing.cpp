@@ -16,14 +16,6 @@ constexpr std::string_view OTHERWISE = "இல்லைஎனில்";
 constexpr std::string_view WORDS_APART[] = {"எனில்",  "இல்லைஎனில்", "இல்லை", "சுற்று", "திரும்பு",
                                             "தேர்வு", "நிலை",     "இல்",   "பொது"};
 
-bool isOpening(TokenType type) {
-    return type == TokenType::LPAREN || type == TokenType::LBRACKET || type == TokenType::LBRACE;
-}
-
-bool isClosing(TokenType type) {
-    return type == TokenType::RPAREN || type == TokenType::RBRACKET || type == TokenType::RBRACE;
-}
-
 bool standsApart(const Piece& piece) {
     return piece.type == TokenType::KEYWORD &&
            std::find(std::begin(WORDS_APART), std::end(WORDS_APART), piece.text) != std::end(WORDS_APART);
@@ -83,7 +75,7 @@ private:
         if (right.kind != Piece::Kind::Token || left.kind != Piece::Kind::Token) {
             return right.kind == Piece::Kind::Token ? 1 : 0;
         }
-        if (isOpening(left.type) || isClosing(right.type) || right.type == TokenType::COMMA) {
+        if (left.isOpeningBracket() || right.isClosingBracket() || right.type == TokenType::COMMA) {
             return 0;
         }
         if (left.type == TokenType::DOT || right.type == TokenType::DOT) {
@@ -126,9 +118,9 @@ private:
         if (piece.kind != Piece::Kind::Token) {
             return;
         }
-        if (isOpening(piece.type)) {
+        if (piece.isOpeningBracket()) {
             questions_.push_back(0);
-        } else if (isClosing(piece.type) && questions_.size() > 1) {
+        } else if (piece.isClosingBracket() && questions_.size() > 1) {
             questions_.pop_back();
         } else if (piece.type == TokenType::QUESTION || isQuestionWord(piece)) {
             ++questions_.back();
