@@ -18,20 +18,21 @@ SourcePtr makeSource(std::string path, std::string text) {
     return std::make_shared<const SourceText>(SourceText{std::move(path), std::move(text)});
 }
 
+std::string sourceTextOf(std::string bytes) {
+    bytes.erase(std::remove(bytes.begin(), bytes.end(), '\r'), bytes.end());
+    if (startsWith(bytes, BYTE_ORDER_MARK)) {
+        bytes.erase(0, 3);
+    }
+    return bytes;
+}
+
 bool canReadSource(const std::string& path) {
     return openFile(std::filesystem::u8path(path)).is_open();
 }
 
 std::optional<std::string> readSourceText(const std::string& path) {
-    std::optional<std::string> text = readFile(std::filesystem::u8path(path));
-    if (!text) {
-        return std::nullopt;
-    }
-    text->erase(std::remove(text->begin(), text->end(), '\r'), text->end());
-    if (startsWith(*text, BYTE_ORDER_MARK)) {
-        text->erase(0, 3);
-    }
-    return text;
+    std::optional<std::string> bytes = readFile(std::filesystem::u8path(path));
+    return bytes ? std::optional(sourceTextOf(std::move(*bytes))) : std::nullopt;
 }
 
 std::string_view lineOf(std::string_view text, std::int32_t number) {

@@ -21,12 +21,15 @@ using SourcePtr = std::shared_ptr<const SourceText>;
 /// A source of this path and text, to be shared.
 SourcePtr makeSource(std::string path, std::string text);
 
+/// The text of a source file with these bytes: carriage returns and a byte order mark are dropped, so that files of every
+/// editor scan alike.
+std::string sourceTextOf(std::string bytes);
+
 /// Whether a source file can be opened for reading.
 /// \param path the file's path in UTF-8
 bool canReadSource(const std::string& path);
 
-/// Reads a source file as text: carriage returns and a byte order mark are dropped, so that files of every editor scan
-/// alike.
+/// Reads a source file as text.
 /// \param path the file's path in UTF-8
 /// \return the text, or nothing if the file can't be read (missing, not permitted, a directory)
 std::optional<std::string> readSourceText(const std::string& path);

@@ -15,6 +15,16 @@ std::uint32_t NodePlaces::addSource(SourcePtr source, std::size_t nodes) {
     return static_cast<std::uint32_t>(sources_.size() - 1);
 }
 
+std::vector<ByteRange> NodePlaces::allIn(const SourcePtr& source) const {
+    std::vector<ByteRange> ranges;
+    for (const Entry& entry : entries_) {
+        if (sources_[entry.source] == source) {
+            ranges.push_back(entry.range);
+        }
+    }
+    return ranges;
+}
+
 /// Compiling asks for no place at all, so noting one must cost next to nothing; the first question pays.
 std::optional<SourcePlace> NodePlaces::find(const void* node) const {
     const std::less<> before;

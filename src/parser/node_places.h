@@ -27,6 +27,8 @@ public:
     std::optional<SourcePlace> of(const Statement& node) const { return find(&node); }
     /// The same for a node of which only the address is known, nothing for null.
     std::optional<SourcePlace> ofAddress(const void* node) const { return find(node); }
+    /// Where all nodes of a source stand, in no order.
+    std::vector<ByteRange> allIn(const SourcePtr& source) const;
 
 private:
     struct Entry {

@@ -36,6 +36,8 @@ extern const Word RUN;
 extern const Word NEW;
 /// Tells the faults of sources.
 extern const Word CHECK;
+/// Sets sources in the one style.
+extern const Word FORMAT;
 /// Explains the number of a fault.
 extern const Word EXPLAIN;
 

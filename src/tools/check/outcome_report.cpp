@@ -9,9 +9,9 @@
 namespace pozhil::tools {
 namespace {
 
-void printHint(const report::FaultText& hint, bool coloured) {
-    std::cout << (coloured ? style::GOLD : "") << HINT_TITLE << (coloured ? style::RESET : "")
-              << hintText(hint.excerpt.file, static_cast<std::size_t>(hint.excerpt.line), hint.message) << "\n";
+void printHint(std::ostream& out, const report::FaultText& hint, bool coloured) {
+    out << (coloured ? style::GOLD : "") << HINT_TITLE << (coloured ? style::RESET : "")
+        << hintText(hint.excerpt.file, static_cast<std::size_t>(hint.excerpt.line), hint.message) << "\n";
 }
 
 void printSummary(const Outcome& outcome) {
@@ -23,14 +23,18 @@ void printSummary(const Outcome& outcome) {
 
 } // namespace
 
-void reportOutcome(const Outcome& outcome, bool coloured) {
-    for (const Finding& finding : outcome.findings) {
+void printFindings(std::ostream& out, const Findings& findings, bool coloured) {
+    for (const Finding& finding : findings) {
         if (finding.kind == Finding::Kind::Hint) {
-            printHint(finding.text, coloured);
+            printHint(out, finding.text, coloured);
         } else {
-            std::cout << (coloured ? report::faultBox(finding.text) : report::plainFaultBox(finding.text));
+            out << (coloured ? report::faultBox(finding.text) : report::plainFaultBox(finding.text));
         }
     }
+}
+
+void reportOutcome(const Outcome& outcome, bool coloured) {
+    printFindings(std::cout, outcome.findings, coloured);
     printSummary(outcome);
     reportUnread(outcome.unread);
 }

@@ -2,7 +2,12 @@
 
 #include "tools/check/finding.h"
 
+#include <iosfwd>
+
 namespace pozhil::tools {
+
+/// Shows faults in the boxes of the compiler, and hints in a line each.
+void printFindings(std::ostream& out, const Findings& findings, bool coloured);
 
 /// Shows what came of checking sources on standard output, faults in the boxes of the compiler, and how many there are.
 /// What couldn't be read is told on standard error.

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+
+namespace pozhil::platform {
+
+/// Puts \p contents in the place of those of a file, at one stroke: whoever reads it finds the one or the other, whatever
+/// happens meanwhile. Mode and owner stay. A link stays one; the file that it leads to is replaced.
+/// \return what kept it from that, the file being as it was: it may not be written to, the disk is full
+std::error_code replaceFile(const std::filesystem::path& file, std::string_view contents);
+
+} // namespace pozhil::platform
