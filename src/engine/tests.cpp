@@ -35,7 +35,7 @@ Value ensure(const Value& condition, const Value& message, Place place) {
 
 Value ensureEqual(const Value& got, const Value& wanted, Place place) {
     if (!equalValues(got, wanted)) {
-        fail(NOT_AS_WANTED, place, differenceOf(got, wanted));
+        fail(NOT_AS_WANTED, place, "\n" + differenceOf(got, wanted));
     }
     return Value();
 }
