@@ -20,11 +20,12 @@ file(GLOB last_word_sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/diagnost
 install(FILES ${reporter_source} DESTINATION src)
 install(FILES ${last_word_sources} DESTINATION src/last_word)
 install(DIRECTORY DESTINATION தொகுப்புகள்)
-install(DIRECTORY தொகுப்புகள்/ DESTINATION தொகுப்புகள் OPTIONAL)
+install(DIRECTORY தொகுப்புகள்/ DESTINATION தொகுப்புகள் OPTIONAL PATTERN சோதனைகள் EXCLUDE PATTERN .நிலையற்ற EXCLUDE)
 
 # Every build lays down the same folder in its own directory, for use in place.
 set(stage ${PROJECT_BINARY_DIR}/பொழில்)
 file(GLOB_RECURSE installed_files CONFIGURE_DEPENDS உள்ளடக்கம்/* தொகுப்புகள்/*)
+list(FILTER installed_files EXCLUDE REGEX "/தொகுப்புகள்/(சோதனைகள்|.நிலையற்ற)/")
 # The list is a file of its own, so that a deleted header or module disappears from the folder too.
 file(CONFIGURE OUTPUT generated/installed_files.txt CONTENT "${installed_files};${last_word_sources};${engine_headers};${report_headers};${web_objects};${web_headers}")
 

@@ -22,6 +22,9 @@ SecondTranslation translateSecondEdition(SourcePtr source, const FrontEndOptions
     for (const resolved::File& file : meaning.program.files) {
         translation.sources.push_back(file.source);
     }
+    for (const resolved::Function* test : meaning.program.tests) {
+        translation.tests.push_back(test->name);
+    }
     if (!meaning.program.pages.empty()) {
         std::vector<const WebAppNode*> pages;
         for (const resolved::Page& page : meaning.program.pages) {

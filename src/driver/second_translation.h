@@ -7,6 +7,7 @@
 #include "generator/web/page/application.h"
 
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace pozhil {
@@ -21,6 +22,8 @@ struct SecondTranslation {
     std::vector<SourcePtr> sources;
     /// What the pages of the program ask for, which stand in its trees; nothing for a console program.
     std::optional<Application> application;
+    /// The names of the test functions, if the source is a file of tests.
+    std::vector<std::string> tests;
     SecondFaults faults;
     /// What runs but surely isn't meant.
     SecondHints hints;

@@ -45,6 +45,12 @@ Value trim(const Value& text, Place place);
 bool startsWith(const Value& text, const Value& part, Place place);
 bool endsWith(const Value& text, const Value& part, Place place);
 
+// Tests. What fails one passes every பிடி.
+Value ensure(const Value& condition, const Value& message, Place place);
+Value ensureEqual(const Value& got, const Value& wanted, Place place);
+/// Whether the program was started for the test of this name: CHOSEN_TEST of report/test_run.h holds it.
+bool isChosenTest(const Value& name, Place place);
+
 // Mathematics.
 Decimal squareRoot(const Value& value, Place place);
 Decimal power(const Value& base, const Value& exponent, Place place);

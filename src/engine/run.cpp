@@ -5,7 +5,9 @@
 #include "engine/program_start.h"
 #include "engine/raise.h"
 #include "engine/running_faults.h"
+#include "engine/stop.h"
 #include "report/box.h"
+#include "report/test_run.h"
 
 #include <cstdlib>
 #include <exception>
@@ -24,15 +26,23 @@ namespace {
     std::_Exit(1);
 }
 
+void tell(const Fault& fault) {
+    flushOutput();
+    useLastMemory();
+    const report::FaultText text = faultText(fault);
+    waitingOutput() += std::getenv(report::PLAIN_BOX) != nullptr ? report::plainFaultBox(text) : report::faultBox(text);
+}
+
 /// \param status becomes the exit status of the program
 void runToTheEnd(void* status) {
     try {
         callWithFaults([](void* /*none*/) { startProgram(); }, nullptr);
     } catch (const Fault& fault) {
         *static_cast<int*>(status) = 1;
-        flushOutput();
-        useLastMemory();
-        waitingOutput() += report::faultBox(faultText(fault));
+        tell(fault);
+    } catch (const Stop& stop) {
+        *static_cast<int*>(status) = 1;
+        tell(stop.fault);
     }
     flushOutput();
 }

@@ -49,6 +49,9 @@ enum RunningFault : int {
 
     WRONG_STATE = 690,
 
+    TEST_FAILED = 691,
+    NOT_AS_WANTED = 692,
+
     FAULT_OF_OURS = 699
 };
 

@@ -19,6 +19,8 @@ struct FrontEndOptions {
     std::vector<std::string> moduleDirectories{};
     /// Reads the source and what it imports; null for the files themselves.
     const SourceLoader* loader = nullptr;
+    /// Whether the source is a file of tests (second edition).
+    bool isTest = false;
     /// How many faults to go on after, of scanner and parser together; with 0 the first one is thrown.
     std::size_t maxFaults = 0;
 };

@@ -119,7 +119,9 @@ bool isAlmostMarked(const SourceText& source) {
 }
 
 SecondProgram parseSecondEdition(SourcePtr source, const FrontEndOptions& options) {
-    return ProgramReader(options).read(std::move(source));
+    SecondProgram program = ProgramReader(options).read(std::move(source));
+    program.isTest = options.isTest;
+    return program;
 }
 
 } // namespace pozhil

@@ -38,6 +38,8 @@ struct SecondProgram {
     /// In the order in which they run: what is imported before who imports it, the program's own file last.
     std::vector<SecondFile> files;
     NodePlaces places;
+    /// Whether the program's own file is one of tests.
+    bool isTest = false;
     /// In the order of the files and of their texts.
     SecondFaults faults;
 };

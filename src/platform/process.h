@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -35,6 +37,22 @@ int run_command(const Command& command);
 /// Runs a program without a console and waits for it.
 /// \return its exit status as above, and everything it wrote
 CommandResult captureCommand(const Command& command);
+
+/// What a program may take that is stopped if it takes more.
+struct Limits {
+    std::chrono::milliseconds time;
+    /// Bytes that it writes
+    std::size_t output;
+};
+
+/// How a program with limits ended.
+struct LimitedResult : CommandResult {
+    bool tookTooLong = false;
+    bool wroteTooMuch = false;
+};
+
+/// Runs a program without a console and without input, and stops it with all that it runs where it goes beyond the limits.
+LimitedResult captureCommand(const Command& command, const Limits& limits);
 
 /// Runs a program, whatever it writes thrown away, and waits for it.
 /// \return its exit status as above

@@ -10,7 +10,7 @@ namespace pozhil::report {
 /// One fault of the second edition. Numbers are never reused: a gap stays a gap.
 ///
 /// 501 to 549: what is written wrong. 551 to 599: what means nothing. 601 to 699: what goes wrong in a running
-/// program; among them, 624 to 639: what is written wrong in a web application.
+/// program; among them, 624 to 639: what is written wrong in a web application, and 693, in a file of tests.
 struct Entry {
     int number;
     /// Such as "பெயர்ப் பிழை".

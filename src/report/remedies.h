@@ -33,6 +33,10 @@ constexpr const char* NO_CONSTRUCTOR =
 constexpr const char* FIELD_OF_STRUCTURE =
     "பண்பு ஒவ்வொரு பொருளுக்கும் உரியது, கட்டமைப்புக்கு அல்ல: 'அ = {1}(…)' என்று ஒரு பொருளை உருவாக்கி, 'அ.{2}' என்று எழுது மச்சி!";
 
+/// உறுதிசெய்(…) in a program that is no test: {1} is its name.
+constexpr const char* ONLY_IN_TESTS =
+    "'{1}' சோதனைகளுக்கு மட்டும் உரியது: அதை 'சோதனைகள்' அடைவில உள்ள கோப்பில அழைச்சு, 'பொழில் சோதி' என்று ஓட்டு மச்சி!";
+
 /// A variable that is called: {1} is its name and that of a function of the language.
 constexpr const char* HIDDEN_FUNCTION =
     "இங்க '{1}' உன் மாறி; அதே பெயருள்ள மொழியின் செயலை அது மறைக்குது. மாறிக்கு வேற பெயர் வை மச்சி!";

@@ -38,6 +38,8 @@ extern const Word NEW;
 extern const Word CHECK;
 /// Sets sources in the one style.
 extern const Word FORMAT;
+/// Runs the tests of a project.
+extern const Word TEST;
 /// Explains the number of a fault.
 extern const Word EXPLAIN;
 

@@ -5,7 +5,7 @@
 namespace pozhil::tools {
 
 const std::vector<const Word*>& words() {
-    static const std::vector<const Word*> all = {&RUN, &NEW, &CHECK, &FORMAT, &EXPLAIN, &PUBLISH};
+    static const std::vector<const Word*> all = {&RUN, &NEW, &CHECK, &FORMAT, &TEST, &EXPLAIN, &PUBLISH};
     return all;
 }
 

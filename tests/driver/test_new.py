@@ -10,6 +10,8 @@ from support.workplace import NOBODY
 
 OK, WRONG_USE, FAILED = 0, 2, 3
 FILES = [".editorconfig", ".gitignore", "README.md", "முதன்மை.பொழில்"]
+TESTED = {False: ["சோதனைகள்/வாழ்த்து_சோதி.பொழில்", "வாழ்த்து.பொழில்"],
+          True: ["எண்ணுதல்.பொழில்", "சோதனைகள்/எண்ணுதல்_சோதி.பொழில்"]}
 
 
 @pytest.fixture
@@ -30,14 +32,25 @@ def test_project_has_a_program_without_faults_and_hints(place, new, web, edition
     result = new("என் வேலை", *web, *edition)
     folder = place.folder / "என் வேலை"
     assert (result.status, result.err) == (OK, "")
-    assert sorted(path.name for path in folder.iterdir()) == FILES
+    files = {str(path.relative_to(folder)) for path in folder.rglob("*") if path.is_file()}
+    assert files == set(FILES + (TESTED[bool(web)] if marked else []))
     program = (folder / "முதன்மை.பொழில்").read_text()
     assert program.startswith("ஃ பொழில் 2\n") == marked
     assert ("வலைதளம்" in program) == bool(web)
-    assert told_by_check(place, "என் வேலை") == {"version": 1, "checked": 1, "findings": [], "unread": []}
+    assert told_by_check(place, "என் வேலை") == {"version": 1, "checked": 3 if marked else 1, "findings": [], "unread": []}
     readme = (folder / "README.md").read_text()
     assert readme.startswith("# என் வேலை\n")
     assert ("வெளியிடு" in readme) == bool(web)
+    assert ("பொழில் சோதி" in readme) == marked
+
+
+@pytest.mark.parametrize("web", [[], ["--web"]])
+def test_new_project_passes_its_test(real_place, web):
+    command = real_place.compiler.parent / "பொழில்"
+    assert run([command, "new", "வேலை", *web], cwd=real_place.folder, env=real_place.env).status == OK
+    result = run([command, "சோதி"], cwd=real_place.folder / "வேலை", env=real_place.env)
+    assert (result.status, result.err) == (OK, "")
+    assert "சோதனைகள்: 1, வெற்றி: 1, தோல்வி: 0" in result.out
 
 
 @pytest.mark.parametrize("edition", ["1", "2"])
@@ -47,7 +60,9 @@ def test_program_runs_where_no_file_is_named(real_place, edition):
     result = run([real_place.compiler], cwd=real_place.folder / "வேலை", env=real_place.env)
     assert result.out.endswith("வணக்கம், உலகே!\n")
     ignored = (real_place.folder / "வேலை" / ".gitignore").read_text().split()
-    assert [path.name + "/" for path in (real_place.folder / "வேலை").iterdir() if path.is_dir()] == [ignored[0]]
+    tests = ["சோதனைகள்/"] if edition == "2" else []
+    made = sorted(path.name + "/" for path in (real_place.folder / "வேலை").iterdir() if path.is_dir())
+    assert made == [ignored[0], *tests]
 
 
 @pytest.mark.parametrize("kind", ["file", "folder", "broken link"])

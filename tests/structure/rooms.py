@@ -115,9 +115,12 @@ ROOMS = {
         "src/driver/web",
         "src/tools",
     ],
+    "src/tools/test": [
+        *SYSTEM, "src/report", "src/front_end", "src/driver/console", "src/driver", "src/driver/native", "src/tools",
+    ],
     "src/tools/check": [
         "உள்ளடக்கம்", *SYSTEM, "src/report", "src/language", "src/front_end", "src/analysis", "src/driver/console", "src/driver",
-        "src/tools",
+        "src/tools", "src/tools/test",
     ],
     "src/tools/format": [*SYSTEM, "src/front_end", "src/formatter", "src/driver", "src/tools", "src/tools/check"],
     "src/tools/run": ["src/base", "src/platform", "src/tools"],

@@ -12,6 +12,7 @@
 #include "analysis/second/names.h"
 #include "analysis/second/resolution.h"
 #include "analysis/second/structures.h"
+#include "analysis/second/test_calls.h"
 #include "front_end/second_edition.h"
 
 #include <algorithm>
@@ -66,6 +67,7 @@ SecondMeaning analyseSecondEdition(const SecondProgram& program) {
     second::resolveStructures(model);
     second::findCaptures(model);
     second::resolveBodies(model);
+    second::callTests(model);
     handOutVariables(model);
     second::checkConstants(model);
     const second::WayFacts ways = second::findDefiniteAssignments(model);

@@ -304,6 +304,10 @@ resolved::ExpressionPtr resolveCall(Resolution& resolution, const CallExpression
     if (meaning.isUnknown() && ofPages != nullptr) {
         return callBuiltin(resolution, call, ofPages);
     }
+    const Builtin* const ofTests = findTestBuiltin(resolution.model, name->name);
+    if (meaning.isUnknown() && ofTests != nullptr) {
+        return callBuiltin(resolution, call, ofTests);
+    }
     const resolved::Place place = resolution.placeOf(name);
     if (meaning.enumeration != nullptr) {
         tellNameWithoutValue(resolution, meaning, name->name, place);

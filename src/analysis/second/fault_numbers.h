@@ -40,6 +40,8 @@ constexpr int DOUBLE_KEY = 579;
 constexpr int NESTED_PLACES = 591;
 constexpr int LATE_PLACE = 595;
 
+constexpr int TEST_WITH_PARAMETERS = 693;
+
 // Structures.
 constexpr int PARENT_CIRCLE = 567;
 constexpr int MISSING_METHOD = 568;

@@ -1,6 +1,7 @@
 #include "analysis/second/names.h"
 
 #include "analysis/second/fault_numbers.h"
+#include "front_end/second_edition.h"
 #include "parser/tree/shapes.h"
 
 #include <algorithm>
@@ -205,6 +206,10 @@ bool isWidgetName(const Model& model, const Scope& scope, std::string_view name)
 const language::second::Builtin* findPageBuiltin(const Model& model, language::second::BuiltinForm form,
                                                  std::string_view name) {
     return model.hasApplication ? language::second::findBuiltin(form, name) : nullptr;
+}
+
+const language::second::Builtin* findTestBuiltin(const Model& model, std::string_view name) {
+    return model.source.isTest ? language::second::findBuiltin(language::second::BuiltinForm::TestCall, name) : nullptr;
 }
 
 bool isOfLanguage(std::string_view name) {

@@ -38,6 +38,9 @@ bool isWidgetName(const Model& model, const Scope& scope, std::string_view name)
 const language::second::Builtin* findPageBuiltin(const Model& model, language::second::BuiltinForm form,
                                                  std::string_view name);
 
+/// The built-in of tests of this name; null if there is none, or if the program is no test.
+const language::second::Builtin* findTestBuiltin(const Model& model, std::string_view name);
+
 /// Whether the language gives the name a value, as long as the program gives it none.
 bool isOfLanguage(std::string_view name);
 

@@ -8,6 +8,8 @@
 #include "language/second/builtins.h"
 #include "language/second/foreign_words.h"
 #include "language/second/module_functions.h"
+#include "report/catalogue.h"
+#include "report/remedies.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -66,6 +68,9 @@ std::string remedyForName(const Resolution& resolution, std::string_view name) {
     if (isImportedFile(resolution, name)) {
         return "'" + std::string(name) +
                "' நீ இறக்கிய கோப்பின் பெயர்; அதன் செயல்களைக் கோப்பின் பெயரும் '.' குறியும் இல்லாம நேரா அழை, 'செயல்(…)' மாதிரி மச்சி!";
+    }
+    if (language::second::findBuiltin(language::second::BuiltinForm::TestCall, name) != nullptr) {
+        return report::filled(report::remedy::ONLY_IN_TESTS, {name});
     }
     if (const auto* const function = language::second::findModuleFunction(name)) {
         return importRemedyOf(*function);

@@ -67,17 +67,26 @@ platform::Command SecondBuild::command(const SecondTranslation& translation,
 }
 
 int SecondBuild::finish(const SecondTranslation& translation) {
+    return isMade(translation) ? runProgram() : 1;
+}
+
+std::optional<fs::path> SecondBuild::finishProgram(const SecondTranslation& translation) {
+    return isMade(translation) && program_.settle() ? std::optional(program_.program) : std::nullopt;
+}
+
+/// Waits for the toolchain, and tells why it failed.
+bool SecondBuild::isMade(const SecondTranslation& translation) {
     const platform::CommandResult result = toolchain_.get();
     if (settings::toolchainWords() == settings::ToolchainWords::Shown) {
         std::cerr << result.output << result.errors << std::flush;
     }
     if (result.status == 0) {
-        return runProgram();
+        return true;
     }
     reportFailure(translation, result);
     std::error_code ignored;
     fs::remove(program_.fresh, ignored); // a linker that was ended may have left a part of it
-    return 1;
+    return false;
 }
 
 int SecondBuild::runProgram() const {

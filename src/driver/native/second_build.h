@@ -31,8 +31,13 @@ public:
     /// \return the exit status of the program, 128 plus the signal if one ended it; 1 if there is none
     int finish(const SecondTranslation& translation);
 
+    /// The same without running it.
+    /// \return the program; nothing if there is none, which is told
+    std::optional<std::filesystem::path> finishProgram(const SecondTranslation& translation);
+
 private:
     platform::Command command(const SecondTranslation& translation, const std::vector<std::string>& userFlags) const;
+    bool isMade(const SecondTranslation& translation);
     int runProgram() const;
     void reportFailure(const SecondTranslation& translation, const platform::CommandResult& result) const;
     std::optional<platform::Command> plainCall(const SecondTranslation& translation) const;

@@ -35,9 +35,13 @@ BuiltProgram::BuiltProgram(const fs::path& directory, const fs::path& freshName)
     : fresh(directory / freshName), program(directory / "பொழில்_செயலி") {}
 
 int BuiltProgram::run(std::vector<std::pair<std::string, std::string>> environment) const {
+    return settle() ? platform::run_command({{program.u8string()}, std::move(environment)}) : platform::COULD_NOT_START;
+}
+
+bool BuiltProgram::settle() const {
     std::error_code failure;
     fs::rename(fresh, program, failure);
-    return failure ? platform::COULD_NOT_START : platform::run_command({{program.u8string()}, std::move(environment)});
+    return !failure;
 }
 
 } // namespace pozhil

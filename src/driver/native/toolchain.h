@@ -38,6 +38,10 @@ struct BuiltProgram {
     /// \return its exit status, 128 plus the signal if one ended it; COULD_NOT_START if it doesn't run
     int run(std::vector<std::pair<std::string, std::string>> environment) const;
 
+    /// Puts the fresh file in the place of the program.
+    /// \return whether that could be done
+    bool settle() const;
+
     std::filesystem::path fresh;
     std::filesystem::path program;
 };

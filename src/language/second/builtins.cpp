@@ -77,6 +77,10 @@ constexpr Builtin BUILTINS[] = {
     {"வினாடி", Form::Part, 1, 1, "second", Kind::Whole, false, {"நேரம்"}, {"வினாடி", "the second"}, owner::TIME},
     {"வாரநாள்", Form::Part, 1, 1, "weekday", Kind::Whole, false, {"நேரம்"}, {"வாரத்தின் நாள்: ஞாயிறு 0, சனி 6", "the day of the week: 0 is Sunday, 6 is Saturday"}, owner::TIME},
 
+    // Of tests.
+    {"உறுதிசெய்", Form::TestCall, 2, 2, "ensure", Kind::Nothing, false, {"நிபந்தனை", "செய்தி"}, {"நிபந்தனை பொய் என்றால் சோதனை அந்தச் செய்தியோடு தோற்கும்", "fails the test with the message if the condition is false"}},
+    {"சமம்_உறுதி", Form::TestCall, 2, 2, "ensureEqual", Kind::Nothing, false, {"பெற்றது", "வேண்டியது"}, {"இரண்டும் சமமில்லை என்றால், எங்கே வேறுபடுகின்றன என்று சொல்லி சோதனை தோற்கும்", "fails the test if they aren't equal, and tells where they differ"}},
+
     // Of web applications.
     {"செல்க", Form::PageCall, 1, 1, "page::go", Kind::Nothing, false, {"பக்கம்"}, {"பக்கத்திற்குச் செல்லும்", "goes to a page"}},
     {"முகவரி", Form::PageCall, 0, 0, "page::address", Kind::Text, false, {}, {"காட்டப்படும் பக்கத்தின் பெயர்", "the name of the page that is shown"}},

@@ -16,6 +16,8 @@ enum class BuiltinForm : std::uint8_t {
     Method, ///< value.name(a); the value counts as the first argument
     Part,   ///< value.name, without brackets; the value is the only argument
     Clock,  ///< நேரம்.name()
+    /// name(a), in test files only
+    TestCall,
     // In programs with a web application only.
     PageCall,   ///< name(a)
     PageWord,   ///< name

@@ -4,10 +4,12 @@
 #include "platform/linux/running_program.h"
 
 #include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/mman.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -33,6 +35,11 @@ public:
     CaptureFile& operator=(const CaptureFile&) = delete;
 
     int descriptor() const { return descriptor_; }
+
+    std::size_t size() const {
+        struct stat facts {};
+        return fstat(descriptor_, &facts) == 0 ? static_cast<std::size_t>(facts.st_size) : 0;
+    }
 
     std::string content() const {
         std::string text;
@@ -138,6 +145,11 @@ void awaitEnd(pid_t child) {
     }
 }
 
+bool hasEnded(pid_t child) {
+    siginfo_t facts{};
+    return waitid(P_PID, static_cast<id_t>(child), &facts, WEXITED | WNOWAIT | WNOHANG) == 0 && facts.si_pid == child;
+}
+
 enum class Ground {
     Fore, ///< with the console, whose keys reach it
     Back  ///< a group of its own, so that a signal reaches whatever the program runs in turn
@@ -170,6 +182,39 @@ CommandResult captureCommand(const Command& command) {
     actions.redirect(errors.descriptor(), STDERR_FILENO);
     CommandResult result;
     result.status = spawnAndWait(command, actions, Ground::Back);
+    result.output = output.content();
+    result.errors = errors.content();
+    return result;
+}
+
+LimitedResult captureCommand(const Command& command, const Limits& limits) {
+    constexpr std::chrono::milliseconds BETWEEN_LOOKS(2);
+    const CaptureFile output;
+    const CaptureFile errors;
+    FileActions actions;
+    actions.discard(STDIN_FILENO);
+    actions.redirect(output.descriptor(), STDOUT_FILENO);
+    actions.redirect(errors.descriptor(), STDERR_FILENO);
+    LimitedResult result;
+    RunningProgram running;
+    const auto child = spawn(command, actions, POSIX_SPAWN_SETPGROUP);
+    if (!child) {
+        result.status = COULD_NOT_START;
+        return result;
+    }
+    running.hasStarted(-*child);
+    const auto end = std::chrono::steady_clock::now() + limits.time;
+    while (!hasEnded(*child) && !result.tookTooLong && !result.wroteTooMuch) {
+        std::this_thread::sleep_for(BETWEEN_LOOKS);
+        result.tookTooLong = std::chrono::steady_clock::now() > end;
+        result.wroteTooMuch = output.size() + errors.size() > limits.output;
+    }
+    if (result.tookTooLong || result.wroteTooMuch) {
+        kill(-*child, SIGKILL);
+    }
+    awaitEnd(*child);
+    running.hasEnded();
+    result.status = waitFor(*child);
     result.output = output.content();
     result.errors = errors.content();
     return result;

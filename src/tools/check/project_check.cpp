@@ -2,6 +2,7 @@
 
 #include "front_end/second_imports.h"
 #include "tools/check/source_check.h"
+#include "tools/test/test_files.h"
 
 #include <set>
 #include <string>
@@ -51,6 +52,7 @@ private:
         if (source == nullptr) {
             return false;
         }
+        options_.isTest = isTestFile(path);
         Checked program{SecondImports::keyOf(path), {}, checkSource(source, options_)};
         program.read = sources_.takeRead();
         for (Checked& earlier : programs_) {

@@ -17,8 +17,8 @@ namespace fs = std::filesystem;
 constexpr const char* HELP =
     R"(பொழில் புதிது <பெயர்> [--வலை] [--பதிப்பு 1]
 
-அந்தப் பெயரில் ஓர் அடைவை உருவாக்கி, அதில் ஒரு நிரலையும் (முதன்மை.பொழில்), README.md, .editorconfig, .gitignore ஆகியவற்றையும்
-வைக்கும். அந்தப் பெயரில் எதுவும் ஏற்கெனவே இருந்தால் அதைத் தொடாது.
+அந்தப் பெயரில் ஓர் அடைவை உருவாக்கி, அதில் ஒரு நிரலையும் (முதன்மை.பொழில்), அதன் செயல்களையும், அவற்றின் சோதனையையும், README.md,
+.editorconfig, .gitignore ஆகியவற்றையும் வைக்கும். அந்தப் பெயரில் எதுவும் ஏற்கெனவே இருந்தால் அதைத் தொடாது.
 
   --வலை          ஒரு வலைச் செயலி
   --பதிப்பு 1     மொழியின் முதல் பதிப்பில்; இல்லாவிட்டால் இரண்டாம் பதிப்பில்
@@ -27,8 +27,8 @@ constexpr const char* HELP =
 
 pozhil new <name> [--web] [--edition 1]
 
-Makes a folder of that name with a program in it (முதன்மை.பொழில்), README.md, .editorconfig and .gitignore. What is there
-already under that name is left alone.
+Makes a folder of that name with a program in it (முதன்மை.பொழில்), its functions and their test, README.md, .editorconfig
+and .gitignore. What is there already under that name is left alone.
 
   --web            a web application
   --edition 1      in the first edition of the language, not in the second
@@ -88,6 +88,8 @@ std::optional<Order> readOrder(const std::vector<std::string>& arguments) {
 
 /// \return whether all of it could be written
 bool writeFile(const fs::path& path, const std::string& text) {
+    std::error_code ignored; // a folder that isn't there shows with the file
+    std::filesystem::create_directories(path.parent_path(), ignored);
     std::ofstream file(path, std::ios::binary);
     file << text;
     file.close();

@@ -13,6 +13,7 @@ struct ProjectKind {
 
 /// A file that a new project begins with.
 struct StarterFile {
+    /// Its path in the project, with a folder at most.
     std::string name;
     std::string text;
 };

@@ -135,6 +135,8 @@ struct Program {
     /// Parents before their children.
     std::vector<std::unique_ptr<Structure>> structures;
     std::vector<std::unique_ptr<Variable>> variables;
+    /// Of a file of tests, in the order of the text; each is called if the program is started for it.
+    std::vector<const Function*> tests;
     /// In the order of the text; none in a console program. The trees outlive the program.
     std::vector<Page> pages;
     /// The values of pages, by their nodes in the tree, the states of boxes to tick by the texts of their names; what assigns the place of a control by the name of its property.
