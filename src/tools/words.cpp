@@ -5,7 +5,17 @@
 namespace pozhil::tools {
 
 const std::vector<const Word*>& words() {
-    static const std::vector<const Word*> all = {&RUN, &NEW, &CHECK, &FORMAT, &EXPLAIN, &PUBLISH};
+    static const std::vector<const Word*> all = {
+        &RUN,
+        &NEW,
+        &CHECK,
+        &FORMAT,
+        &EXPLAIN,
+#ifdef POZHIL_LANGUAGE_SERVER
+        &LANGUAGE_SERVER,
+#endif
+        &PUBLISH,
+    };
     return all;
 }
 
