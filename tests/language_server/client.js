@@ -51,8 +51,8 @@ export class Client {
         this.connection.listen();
         const answer = await this.ask('initialize',
                                       { processId: process.pid, rootUri: this.uri('').replace(/\/$/, ''), capabilities });
+        this.capabilities = answer.capabilities;
         this.tell('initialized', {});
-        return answer;
     }
 
     uri(name) {

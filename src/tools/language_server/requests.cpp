@@ -1,5 +1,13 @@
 #include "tools/language_server/requests.h"
 
+#include "tools/language_server/requests/colours.h"
+#include "tools/language_server/requests/completion.h"
+#include "tools/language_server/requests/definition.h"
+#include "tools/language_server/requests/folding.h"
+#include "tools/language_server/requests/hover.h"
+#include "tools/language_server/requests/semantic_tokens.h"
+#include "tools/language_server/requests/signature_help.h"
+#include "tools/language_server/requests/symbols.h"
 #include "tools/language_server/requests/synchronization.h"
 
 #include <map>
@@ -13,7 +21,19 @@ constexpr int INCREMENTAL = 2;
 } // namespace
 
 RequestHandler findRequest(const std::string& method) {
-    static const std::map<std::string, RequestHandler> handlers = {};
+    static const std::map<std::string, RequestHandler> handlers = {
+        {"textDocument/colorPresentation", colourPresentations},
+        {"textDocument/completion", completion},
+        {"textDocument/definition", definition},
+        {"textDocument/documentColor", documentColours},
+        {"textDocument/documentHighlight", documentHighlights},
+        {"textDocument/documentSymbol", documentSymbols},
+        {"textDocument/foldingRange", foldingRanges},
+        {"textDocument/hover", hover},
+        {"textDocument/references", references},
+        {"textDocument/semanticTokens/full", semanticTokens},
+        {"textDocument/signatureHelp", signatureHelp},
+    };
     const auto found = handlers.find(method);
     return found == handlers.end() ? nullptr : found->second;
 }
@@ -33,6 +53,16 @@ Json capabilities(Encoding encoding) {
     return {
         {"positionEncoding", encoding == Encoding::Utf8 ? "utf-8" : "utf-16"},
         {"textDocumentSync", {{"openClose", true}, {"change", INCREMENTAL}}},
+        {"colorProvider", true},
+        {"completionProvider", {{"triggerCharacters", {".", "\"", ":"}}}},
+        {"definitionProvider", true},
+        {"documentHighlightProvider", true},
+        {"documentSymbolProvider", true},
+        {"foldingRangeProvider", true},
+        {"hoverProvider", true},
+        {"referencesProvider", true},
+        {"semanticTokensProvider", {{"legend", semanticTokenLegend()}, {"full", true}}},
+        {"signatureHelpProvider", {{"triggerCharacters", {"(", ","}}}},
     };
 }
 

@@ -61,6 +61,7 @@ void Workspace::close(const std::string& uri) {
         return;
     }
     const std::string key = found->second.key;
+    outlines_.erase(found->second.document->source()->path);
     documents_.erase(found);
     texts_.remove(key);
     uris_.erase(key);
@@ -158,6 +159,26 @@ std::vector<Verdict> Workspace::takeVerdicts() {
         told.push_back(std::move(verdict));
     }
     return told;
+}
+
+std::shared_ptr<const Outline> Workspace::outlineOf(const SourcePtr& source) const {
+    std::shared_ptr<const Outline>& outline = outlines_[source->path];
+    // Files are read anew each time, and seldom differ from what they were.
+    const bool isKnown =
+        outline != nullptr && (outline->scanned.source == source ||
+                               (outline->scanned.source != nullptr && outline->scanned.source->text == source->text));
+    if (!isKnown) {
+        outline = std::make_shared<const Outline>(language_server::outlineOf(source));
+    }
+    return outline;
+}
+
+std::vector<SourcePtr> Workspace::openSources() const {
+    std::vector<SourcePtr> sources;
+    for (const auto& [uri, document] : documents_) {
+        sources.push_back(document.document->source());
+    }
+    return sources;
 }
 
 std::shared_ptr<const Document> Workspace::documentOf(const SourcePtr& source) const {

@@ -4,6 +4,7 @@
 #include "front_end/front_end.h"
 #include "tools/check/finding.h"
 #include "tools/language_server/document.h"
+#include "tools/language_server/outline.h"
 
 #include <cstdint>
 #include <map>
@@ -74,6 +75,12 @@ public:
     /// \return null if there is none that can be read
     SourcePtr load(const std::string& path) const { return texts_.load(path); }
 
+    /// What a source names; made once for each text.
+    std::shared_ptr<const Outline> outlineOf(const SourcePtr& source) const;
+
+    /// The sources that are open.
+    std::vector<SourcePtr> openSources() const;
+
     /// The document of a source that the stages have read: an open one, or one that is made for it.
     std::shared_ptr<const Document> documentOf(const SourcePtr& source) const;
 
@@ -103,6 +110,8 @@ private:
     /// URIs about which something was told that still stands.
     std::set<std::string> told_;
     bool hasNews_ = false;
+    /// By path. What was made is no part of what the workspace holds.
+    mutable std::map<std::string, std::shared_ptr<const Outline>> outlines_;
 };
 
 } // namespace pozhil::language_server
