@@ -127,6 +127,7 @@ test('what is no JSON, no object or no request is refused, and the next request 
 test('parameters of any kind are refused, not believed', async () => {
     await withClient(async client => {
         for (const params of [null, [], {}, { textDocument: 3 }, { textDocument: { uri: 4 } },
+                              { textDocument: { uri: client.uri('இல்லை') }, position: { line: [[[1]]], character: {} } },
                               { textDocument: { uri: client.uri('இல்லை') }, position: { line: -1, character: 0 } },
                               { textDocument: { uri: client.uri('இல்லை') }, position: { line: 1e300, character: 'அ' } }]) {
             client.tell('textDocument/didOpen', params ?? undefined);

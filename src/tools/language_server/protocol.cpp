@@ -7,7 +7,7 @@ namespace {
 
 std::size_t countFrom(const Json& json) {
     if (!json.is_number_unsigned()) {
-        throw RequestError(ErrorCode::InvalidParams, "not a count: " + json.dump());
+        throw RequestError(ErrorCode::InvalidParams, std::string("not a count: ") + json.type_name());
     }
     return json.get<std::size_t>();
 }

@@ -60,9 +60,17 @@ std::string mended(const std::string& content) {
     return tools::validUtf8(whole);
 }
 
+/// Never copied: what nests deep takes as many calls to copy.
 Json parsed(const std::string& content) {
     Json json = Json::parse(content, nullptr, false);
-    return json.is_discarded() ? Json::parse(mended(content), nullptr, false) : json;
+    if (json.is_discarded()) {
+        json = Json::parse(mended(content), nullptr, false);
+    }
+    return json;
+}
+
+bool isIdentification(const Json& id) {
+    return id.is_string() || id.is_number_integer();
 }
 
 } // namespace
@@ -116,9 +124,10 @@ void Server::takeMessage(const std::string& content) {
     }
     if (memberOf(message, "method") == "$/cancelRequest") {
         const Json& id = memberOf(memberOf(message, "params"), "id");
-        const bool isWaiting = std::any_of(waiting_.begin(), waiting_.end(),
-                                           [&](const Json& other) { return memberOf(other, "id") == id; });
-        if (isWaiting && !id.is_null()) {
+        const bool isWaiting =
+            isIdentification(id) && std::any_of(waiting_.begin(), waiting_.end(),
+                                                [&](const Json& other) { return memberOf(other, "id") == id; });
+        if (isWaiting) {
             cancelled_.insert(id.dump());
         }
         return;
@@ -129,7 +138,7 @@ void Server::takeMessage(const std::string& content) {
 void Server::handle(const Json& message) {
     const Json& method = memberOf(message, "method");
     const Json& id = memberOf(message, "id");
-    const bool isIdentified = id.is_string() || id.is_number_integer();
+    const bool isIdentified = isIdentification(id);
     if (!method.is_string() || !(isIdentified || id.is_null())) {
         const bool isAnswer = !memberOf(message, "result").is_null() || !memberOf(message, "error").is_null();
         if (!isAnswer) {
