@@ -242,10 +242,24 @@ test('documentColor and colorPresentation: colours as digits and as words', asyn
     });
 });
 
+test('formatting: the one style as an edit, with the line ends of the text; nothing for a source with faults', async () => {
+    await withClient(async client => {
+        const edits = async text => {
+            client.open('அ.பொழில்', text);
+            return client.ask('textDocument/formatting', { textDocument: { uri: client.uri('அ.பொழில்') }, options: {} });
+        };
+        const [edit] = await edits(`\uFEFF${SECOND.trim()}\r\nஅ   =  1\r\nஅச்சிடு( அ )`);
+        assert.equal(edit.newText, `${SECOND.trim()}\r\nஅ = 1\r\nஅச்சிடு(அ)\r\n`);
+        assert.deepEqual(edit.range, { start: { line: 0, character: 1 }, end: { line: 2, character: 12 } });
+        assert.deepEqual(await edits(`${SECOND}அ = 1\nஅச்சிடு(அ)\n`), []);
+        assert.equal(await edits(`${SECOND}அ   =  (\n`), null);
+    });
+});
+
 test('every request about a text that is not open, or without a place, is refused', async () => {
     await withClient(async client => {
         for (const method of ['completion', 'hover', 'definition', 'references', 'documentHighlight', 'signatureHelp',
-                              'documentSymbol', 'foldingRange', 'semanticTokens/full', 'documentColor']) {
+                              'documentSymbol', 'foldingRange', 'semanticTokens/full', 'documentColor', 'formatting']) {
             await assert.rejects(client.ask(`textDocument/${method}`, client.at('இல்லை.பொழில்', '|')), { code: -32602 }, method);
             await assert.rejects(client.ask(`textDocument/${method}`, {}), { code: -32602 }, method);
         }
@@ -261,7 +275,7 @@ test('every request is answered everywhere in a text, whole or broken', async ()
             for (const text of [...broken, PROGRAM.slice(0, 150)]) {
                 client.open('அ.பொழில்', first + text);
                 const whole = { textDocument: { uri: client.uri('அ.பொழில்') } };
-                for (const method of ['documentSymbol', 'foldingRange', 'semanticTokens/full', 'documentColor']) {
+                for (const method of ['documentSymbol', 'foldingRange', 'semanticTokens/full', 'documentColor', 'formatting']) {
                     await client.ask(`textDocument/${method}`, whole);
                 }
                 const lines = (first + text).split(/\r\n|\r|\n/);

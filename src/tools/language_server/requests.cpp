@@ -4,6 +4,7 @@
 #include "tools/language_server/requests/completion.h"
 #include "tools/language_server/requests/definition.h"
 #include "tools/language_server/requests/folding.h"
+#include "tools/language_server/requests/formatting.h"
 #include "tools/language_server/requests/hover.h"
 #include "tools/language_server/requests/semantic_tokens.h"
 #include "tools/language_server/requests/signature_help.h"
@@ -29,6 +30,7 @@ RequestHandler findRequest(const std::string& method) {
         {"textDocument/documentHighlight", documentHighlights},
         {"textDocument/documentSymbol", documentSymbols},
         {"textDocument/foldingRange", foldingRanges},
+        {"textDocument/formatting", formatting},
         {"textDocument/hover", hover},
         {"textDocument/references", references},
         {"textDocument/semanticTokens/full", semanticTokens},
@@ -56,6 +58,7 @@ Json capabilities(Encoding encoding) {
         {"colorProvider", true},
         {"completionProvider", {{"triggerCharacters", {".", "\"", ":"}}}},
         {"definitionProvider", true},
+        {"documentFormattingProvider", true},
         {"documentHighlightProvider", true},
         {"documentSymbolProvider", true},
         {"foldingRangeProvider", true},
