@@ -44,7 +44,7 @@ const PAGE_SCRIPTS = {
 export default [
     { ignores: ['build/**', 'third_party/**', '**/node_modules/**', '**/வெளியீடு/**'] },
     {
-        files: ['tests/web/**/*.js', 'benchmarks/*.mjs', 'docs/**/*.mjs', 'scripts/*.mjs'],
+        files: ['tests/web/**/*.js', 'tests/language_server/*.js', 'benchmarks/*.mjs', 'docs/**/*.mjs', 'scripts/*.mjs'],
         languageOptions: { ecmaVersion: 2022, sourceType: 'module', globals: { ...COMMON, ...NODE, ...PAGE } },
         rules: RULES,
     },

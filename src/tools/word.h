@@ -42,6 +42,8 @@ extern const Word FORMAT;
 extern const Word TEST;
 /// Explains the number of a fault.
 extern const Word EXPLAIN;
+/// Tells editors of sources. Only where the build found what it needs.
+extern const Word LANGUAGE_SERVER;
 
 /// All words, in the order in which the help lists them.
 const std::vector<const Word*>& words();

@@ -5,7 +5,18 @@
 namespace pozhil::tools {
 
 const std::vector<const Word*>& words() {
-    static const std::vector<const Word*> all = {&RUN, &NEW, &CHECK, &FORMAT, &TEST, &EXPLAIN, &PUBLISH};
+    static const std::vector<const Word*> all = {
+        &RUN,
+        &NEW,
+        &CHECK,
+        &FORMAT,
+        &TEST,
+        &EXPLAIN,
+#ifdef POZHIL_LANGUAGE_SERVER
+        &LANGUAGE_SERVER,
+#endif
+        &PUBLISH,
+    };
     return all;
 }
 

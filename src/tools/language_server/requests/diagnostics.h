@@ -1,0 +1,11 @@
+#pragma once
+
+#include "tools/language_server/json.h"
+#include "tools/language_server/workspace.h"
+
+namespace pozhil::language_server {
+
+/// What a client is told of a source: the parameters of textDocument/publishDiagnostics.
+Json diagnosticsOf(const Workspace& workspace, const Verdict& verdict);
+
+} // namespace pozhil::language_server
