@@ -19,6 +19,16 @@ test('a fault is told with its number, place and remedy, in UTF-16', async () =>
     });
 });
 
+test('files of tests know what only tests have', async () => {
+    await withClient(async client => {
+        const source = `${SECOND}செயல் சோதி_கூட்டு():\n    சமம்_உறுதி(1 கூட்டு 1, 2)\n`;
+        client.open('சோதனைகள்/அ.பொழில்', source);
+        assert.deepEqual(await client.diagnostics('சோதனைகள்/அ.பொழில்'), []);
+        client.open('அ.பொழில்', source);
+        assert.equal((await client.diagnostics('அ.பொழில்')).length, 1);
+    });
+});
+
 test('positions are in UTF-8 for a client that offers it', async () => {
     await withClient(async client => {
         client.open('அ.பொழில்', `${SECOND}அச்சிடு("😀", பெயர்)\n`);

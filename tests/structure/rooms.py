@@ -126,7 +126,7 @@ ROOMS = {
     # It gives the same verdicts while sources are written.
     "src/tools/language_server": [
         *SYSTEM, "src/report", "src/language", "src/scanner", "src/scanner/second", "src/parser", "src/front_end",
-        "src/formatter", "src/driver", "src/tools/check", "src/tools",
+        "src/formatter", "src/driver", "src/tools/check", "src/tools/test", "src/tools",
     ],
     "src/tools/run": ["src/base", "src/platform", "src/tools"],
     "src/tools/new": ["src/base", "src/tools"],

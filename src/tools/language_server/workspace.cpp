@@ -5,6 +5,7 @@
 #include "platform/paths.h"
 #include "tools/check/source_check.h"
 #include "tools/language_server/uri.h"
+#include "tools/test/test_files.h"
 
 #include <algorithm>
 #include <exception>
@@ -92,7 +93,9 @@ void Workspace::checkStale() {
         }
         texts_.takeAsked();
         try {
-            document.findings = tools::checkSource(document.document->source(), options_);
+            const SourcePtr source = document.document->source();
+            options_.isTest = tools::isTestFile(source->path);
+            document.findings = tools::checkSource(source, options_);
         } catch (const std::ios_base::failure&) {
             // An imported file that can be opened but not read ends the check: what was told before still stands.
         }
