@@ -1,4 +1,4 @@
-// The packed extension, in an editor that is made up: node --test extension.test.cjs <folder of the extension> <command>
+// The packed extension, in an editor that is made up. EXTENSION is the folder of the extension, COMMAND the command.
 
 const assert = require('node:assert/strict');
 const { chmodSync, mkdtempSync, readFileSync, writeFileSync } = require('node:fs');
@@ -99,6 +99,7 @@ test('what is saved is checked, with places in units of UTF-16', async () => {
     const line = 'சொல் = "😀" இணை காணாத_பெயர்';
     assert.deepEqual(told.range.places, [1, line.indexOf('காணாத'), 1, line.length]);
     assert.equal(told.severity, seen.vscode.DiagnosticSeverity.Error);
+    assert.match(told.message, /^'காணாத_பெயர்' [^\n]+\n[^\n]*காணாத_பெயர்/);
     assert.match(told.code, /^பொழி-5\d\d$/);
 
     writeFileSync(document.uri.fsPath, 'ஃ பொழில் 2\nஅச்சிடு(1)\n');

@@ -10,7 +10,6 @@ import pytest
 
 from support.compiler import REPOSITORY, compiler_path
 
-BUILT = REPOSITORY / "build" / "editors"
 SNIPPETS = REPOSITORY / "editors" / "vscode" / "snippets" / "pozhil.json"
 COMMAND = compiler_path().parent / "பொழில்"
 MARKER = "ஃ பொழில் 2"
@@ -18,9 +17,10 @@ HOLE = re.compile(r"\$\{\d+:([^}]*)\}")
 
 
 @pytest.fixture(scope="module", name="package")
-def fixture_package():
-    subprocess.run([REPOSITORY / "scripts" / "build-extension"], check=True, timeout=300)
-    return BUILT
+def fixture_package(tmp_path_factory):
+    folder = tmp_path_factory.mktemp("extension")
+    subprocess.run([REPOSITORY / "scripts" / "build-extension", folder], check=True, timeout=300)
+    return folder
 
 
 def test_package_holds_what_it_names(package):

@@ -7,10 +7,9 @@ function position(place) {
     return { line: place.line - 1, character: place.utf16 - 1 };
 }
 
-/// What a finding says: the message, and what to do.
+/// What a finding says: the message, what may have been meant, and what to do.
 function wording({ message, mend, suggestion }) {
-    const meant = suggestion ? `'${suggestion}'?` : null;
-    return [message, meant, mend].filter(Boolean).join('\n');
+    return [message, suggestion, mend].filter(Boolean).join('\n');
 }
 
 /// The findings of one answer of the command, by file. What has no place of its own stands on the first line.
