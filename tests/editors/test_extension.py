@@ -34,9 +34,10 @@ def test_package_holds_what_it_names(package):
     assert icon.startswith(b"\x89PNG")
 
 
-def test_behaviour(package):
+@pytest.mark.parametrize("file", ["extension.test.cjs", "server.test.cjs"])
+def test_behaviour(file, package):
     environment = {**os.environ, "EXTENSION": str(package / "vscode"), "COMMAND": str(COMMAND)}
-    told = subprocess.run(["node", "--test", REPOSITORY / "tests" / "editors" / "extension.test.cjs"], env=environment,
+    told = subprocess.run(["node", "--test", REPOSITORY / "tests" / "editors" / file], env=environment,
                           capture_output=True, text=True, timeout=120, check=False)
     assert told.returncode == 0, told.stdout
 
