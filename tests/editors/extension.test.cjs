@@ -12,7 +12,8 @@ const COMMAND = process.env.COMMAND;
 
 /// An editor of which the extension sees what it uses, and what it did to that.
 function editor(settings, document) {
-    const seen = { warnings: [], diagnostics: new Map(), terminals: [], handlers: {}, saved: null, executed: [] };
+    const seen = { warnings: [], diagnostics: new Map(), terminals: [], handlers: {}, saved: null, formatter: null,
+                   executed: [] };
     seen.vscode = {
         Range: class {
             constructor(...places) {
@@ -30,7 +31,9 @@ function editor(settings, document) {
             registerCommand: (name, handler) => (seen.handlers[name] = handler),
             executeCommand: async name => seen.executed.push(name),
         },
+        TextEdit: { replace: (range, text) => ({ range, text }) },
         languages: {
+            registerDocumentFormattingEditProvider: (_, provider) => (seen.formatter = provider),
             createDiagnosticCollection: () => ({
                 clear: () => seen.diagnostics.clear(),
                 set: (uri, told) => seen.diagnostics.set(uri.fsPath, told),
@@ -116,6 +119,17 @@ test('nothing is checked on saving where the settings say so', async () => {
     await seen.handlers['pozhil.check']();
     assert.equal(seen.diagnostics.size, 1);
     assert.deepEqual(seen.executed, ['workbench.actions.view.problems']);
+});
+
+test('programs are set in the one style, those with faults left alone', async () => {
+    const seen = editor({ command: commandWithoutServer(), checkOnSave: true });
+    await start(seen);
+    const edits = text => seen.formatter.provideDocumentFormattingEdits({ getText: () => text, lineCount: 3 });
+    assert.deepEqual(await edits('எனில் மெய்:\n  அச்சிடு( 1 )\n'), [
+        { range: new seen.vscode.Range(0, 0, 3, 0), text: 'எனில் மெய்:\n    அச்சிடு(1)\n' },
+    ]);
+    assert.deepEqual(await edits('எனில் மெய்:\n    அச்சிடு(1)\n'), []);
+    assert.deepEqual(await edits('அச்சிடு( 1\n'), []);
 });
 
 test('a program runs in a terminal, without a shell that would read its path', async () => {

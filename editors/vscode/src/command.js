@@ -5,13 +5,16 @@ const { execFile } = require('node:child_process');
 const NAMES = ['பொழில்', 'pozhil'];
 const MOST_OUTPUT = 64 * 1024 * 1024;
 
-/// Runs a program to its end: its exit status (null where it couldn't be started) and what it printed.
-function execute(program, words) {
+/// Runs a program to its end, with \p input to read: its exit status (null where it couldn't be started) and what it
+/// printed.
+function execute(program, words, input = '') {
     return new Promise(resolve => {
-        execFile(program, words, { maxBuffer: MOST_OUTPUT, windowsHide: true }, (error, stdout) => {
+        const running = execFile(program, words, { maxBuffer: MOST_OUTPUT, windowsHide: true }, (error, stdout) => {
             const status = error ? (typeof error.code === 'number' ? error.code : null) : 0;
             resolve({ status, stdout });
         });
+        running.stdin.on('error', () => {}); // a program needn't read what it is given
+        running.stdin.end(input);
     });
 }
 

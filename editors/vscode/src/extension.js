@@ -1,9 +1,10 @@
-// The extension: commands, and faults by the language server, or, where the command has none, by checking what is saved.
+// The extension: commands; faults and formatting by the language server, or, where the command has none, by its other words.
 
 const vscode = require('vscode');
 
 const { check } = require('./check.js');
 const { findCommand, hasServer } = require('./command.js');
+const { format } = require('./format.js');
 const { startServer } = require('./server.js');
 
 const LANGUAGE = 'pozhil';
@@ -88,6 +89,17 @@ function checkOnSave(command, context, shown) {
     }));
 }
 
+/// Without a server: sets programs in the one style when asked to.
+function offerFormatting(command, context) {
+    context.subscriptions.push(vscode.languages.registerDocumentFormattingEditProvider({ language: LANGUAGE }, {
+        async provideDocumentFormattingEdits(document) {
+            const formatted = await format(command, document.getText());
+            const whole = new vscode.Range(0, 0, document.lineCount, 0);
+            return formatted === null ? [] : [vscode.TextEdit.replace(whole, formatted)];
+        },
+    }));
+}
+
 async function activate(context) {
     const shown = vscode.languages.createDiagnosticCollection(LANGUAGE);
     context.subscriptions.push(
@@ -103,6 +115,7 @@ async function activate(context) {
         client = await startServer(command);
     } else {
         checkOnSave(command, context, shown);
+        offerFormatting(command, context);
     }
 }
 
