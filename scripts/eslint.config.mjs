@@ -49,6 +49,13 @@ export default [
         rules: RULES,
     },
     {
+        files: ['editors/vscode/src/*.js', 'tests/editors/*.cjs'],
+        languageOptions: {
+            ecmaVersion: 2022, sourceType: 'commonjs', globals: { ...COMMON, ...NODE, ...readonly(['module', 'require']) },
+        },
+        rules: RULES,
+    },
+    {
         files: ['src/**/*.js'],
         languageOptions: { ecmaVersion: 2022, sourceType: 'script' },
         // A hole looks like a name, and what stands in a <script> is global.

@@ -1,5 +1,6 @@
 #include "driver/vocabulary_json.h"
 
+#include "analysis/second/names.h"
 #include "base/json_text.h"
 #include "base/source_loader.h"
 #include "diagnostics/fault.h"
@@ -13,10 +14,13 @@
 #include "language/diagnostic_causes.h"
 #include "language/keywords.h"
 #include "language/operators.h"
+#include "language/second/builtins.h"
+#include "language/second/widgets.h"
 #include "language/widgets.h"
 
 #include <algorithm>
 #include <array>
+#include <set>
 #include <vector>
 
 namespace pozhil {
@@ -36,6 +40,8 @@ constexpr std::string_view OPERATOR_KINDS[] = {"logical", "bitwise", "comparison
                                                "compound", "step"};
 constexpr std::string_view BUILTIN_FORMS[] = {"call", "element_write", "loop_range", "list_method", "input_property",
                                               "input_method", "time_part", "time_method", "clock"};
+constexpr std::string_view SECOND_BUILTIN_FORMS[] = {"call", "method", "part", "clock", "page_call", "page_word",
+                                                     "field_part", "field_method"};
 constexpr std::string_view BUILTIN_TOPICS[] = {"values", "lists", "texts", "mathematics", "files", "time", "web"};
 constexpr std::string_view WIDGET_ROLES[] = {"widget", "item", "style", "key"};
 constexpr std::string_view VALUE_KINDS[] = {"number", "size", "text", "truth", "colour", "alignment", "path",
@@ -147,6 +153,39 @@ std::string diagnostic(const catalogue::Entry& row) {
                          {"remedy", text(row.remedy)}});
 }
 
+std::string secondBuiltin(const language::second::Builtin& row) {
+    return json::object({{"name", text(row.name)}, {"form", nameOf(row.form, SECOND_BUILTIN_FORMS)}});
+}
+
+/// The names of all properties that a widget of the second edition or one of its style blocks has.
+std::set<std::string_view> secondProperties() {
+    namespace second = language::second;
+    std::set<std::string_view> names = {second::EACH_LIST, second::EACH_ELEMENT, second::EACH_KEY, second::SHOWN,
+                                        second::STATE_KEPT};
+    for (const std::string_view word : second::widgetWords()) {
+        const language::Widget* const widget = second::findWidget(word);
+        if (widget == nullptr) {
+            continue;
+        }
+        std::vector<std::string_view> blocks = second::stylesOf(*widget);
+        blocks.emplace_back();
+        for (const std::string_view style : blocks) {
+            for (const language::WidgetProperty* property : second::propertiesOf(*widget, style)) {
+                names.insert(property->name);
+            }
+        }
+    }
+    return names;
+}
+
+/// What only the second edition has.
+std::string secondEdition() {
+    return json::object({{"values", json::array(std::array{second::NOTHING_NAME}, text)},
+                         {"builtins", json::array(language::second::builtins(), secondBuiltin)},
+                         {"widgets", json::array(std::array{language::second::EACH}, text)},
+                         {"properties", json::array(secondProperties(), text)}});
+}
+
 } // namespace
 
 std::string vocabularyJson() {
@@ -159,7 +198,8 @@ std::string vocabularyJson() {
                          {"alignments", json::array(language::alignments(), alignment)},
                          {"colours", json::array(language::colourWords(), colour)},
                          {"curves", json::array(language::curves(), curve)},
-                         {"diagnostics", json::array(catalogue::entries, diagnostic)}});
+                         {"diagnostics", json::array(catalogue::entries, diagnostic)},
+                         {"second", secondEdition()}});
 }
 
 } // namespace pozhil
