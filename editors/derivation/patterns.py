@@ -33,10 +33,14 @@ def any_of(words):
     return "(?:" + "|".join(re.escape(word) for word in words) + ")"
 
 
+def after(words):
+    """That one of the words stands before."""
+    return "(?<=" + "|".join(re.escape(word) + " " for word in words) + ")"
+
+
 def declared(words):
     """The name after one of the words that declare it."""
-    behind = "|".join(re.escape(word) + " " for word in words)
-    return rf"(?<={behind}){NAME}"
+    return after(words) + NAME
 
 
 def pattern(rule, rules):
@@ -46,6 +50,7 @@ def pattern(rule, rules):
     return {
         Place.ANYWHERE: rf"{BEGIN}{words}{END}{NOT_GIVEN}",
         Place.LINE_BEFORE_OPERAND: rf"{words}(?=[ \t]+{not_operator}[\p{{L}}\p{{N}}_\"'(\[])",
+        Place.AFTER_MODIFIER: rf"{after(rules.modifiers)}{words}(?=[ \t]+{LETTER})",
         Place.LINE_BEFORE_BLOCK: rf"{words}(?=[ \t]*[:(])",
         Place.LINE_ELSE: rf"{words}(?=[ \t]*:|[ \t]+{rules.condition}{END})",
         Place.LINE_BEFORE_COLON: rf"{words}(?=[ \t]*:)",

@@ -32,6 +32,7 @@ class Place(Enum):
 
     ANYWHERE = "but not as a member, and not where a value is given to that name"
     LINE_BEFORE_OPERAND = "first of a line, with a word, number or text after it"
+    AFTER_MODIFIER = "after a word that says who may use what is declared"
     LINE_BEFORE_BLOCK = "first of a line, with a colon or bracket after it"
     LINE_ELSE = "first of a line, with a colon or a condition after it"
     LINE_BEFORE_COLON = "first of a line, with a colon after it"
@@ -60,6 +61,8 @@ class Rules:
     # Words with the name after them that they declare: (kind of the name, words).
     declarations: list
     operators: tuple
+    # Words before a declaration that say who may use it.
+    modifiers: tuple
     condition: str
 
 
@@ -68,6 +71,7 @@ class Trouble(Exception):
 
 
 CONSTANT_TOKEN = 5
+MODIFIER_TOKEN = 6
 DECLARING_FUNCTIONS = {"செயல்"}
 DECLARING_TYPES = {"கட்டமைப்பு", "வடிவமைப்பு", "வகை", "வலைதளம்"}
 DECLARING = DECLARING_FUNCTIONS | DECLARING_TYPES | {"வினை"}
@@ -118,6 +122,8 @@ def statement_rules(keywords):
             raise Trouble(f"PLACES in editors/derivation/rules.py doesn't say where {word!r} is a word of statements")
         elif PLACES[word]:
             rules.append(Rule(kind, PLACES[word], (word,)))
+            if word in DECLARING_FUNCTIONS:
+                rules.append(Rule(kind, Place.AFTER_MODIFIER, (word,)))
     return rules + [Rule(kind, Place.ANYWHERE, in_order(words)) for kind, words in anywhere.items()]
 
 
@@ -155,4 +161,5 @@ def rules_of(tables):
         Rule(Kind.BUILTIN, Place.ANYWHERE, called(tables, {"page_word"})),
     ]
     declarations = [(Kind.FUNCTION, in_order(DECLARING_FUNCTIONS)), (Kind.TYPE, in_order(DECLARING_TYPES))]
-    return Rules(common, second, declarations, operators, CONDITION)
+    modifiers = in_order(row["word"] for row in tables["keywords"] if row["kind"] == MODIFIER_TOKEN)
+    return Rules(common, second, declarations, operators, modifiers, CONDITION)

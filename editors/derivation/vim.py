@@ -30,12 +30,18 @@ def any_of(words):
     return r"\%(" + r"\|".join(word.replace(".", r"\.") for word in words) + r"\)"
 
 
+def after(words):
+    """That one of the words stands before."""
+    return rf"\%({any_of(words)} \)\@<="
+
+
 def pattern(rule, rules):
     words = any_of(rule.words) + r"\>"
     not_operator = r"\%(" + any_of(rules.operators) + r"\>\)\@!"
     return {
         Place.ANYWHERE: rf"{BEGIN}{words}\%(\s*=>\@!\)\@!",
         Place.LINE_BEFORE_OPERAND: rf"""{LINE}{words}\ze\s\+{not_operator}\%(\k\|["'(\[]\)""",
+        Place.AFTER_MODIFIER: rf"{after(rules.modifiers)}{words}\ze\s\+\k",
         Place.LINE_BEFORE_BLOCK: rf"{LINE}{words}\ze\s*[:(]",
         Place.LINE_ELSE: rf"{LINE}{words}\ze\%(\s*:\|\s\+{rules.condition}\>\)",
         Place.LINE_BEFORE_COLON: rf"{LINE}{words}\ze\s*:",
@@ -58,9 +64,7 @@ def word_rules(some, rules):
 
 
 def text(rules):
-    declared = [
-        match(kind, rf"\%({any_of(words)} \)\@<={NAME}") for kind, words in rules.declarations
-    ]
+    declared = [match(kind, after(words) + NAME) for kind, words in rules.declarations]
     lines = [
         '" பொழில்: நிறங்கள் · colours of programs. scripts/derive-editors writes this file.',
         "if exists('b:current_syntax')",

@@ -1,5 +1,7 @@
 """The TextMate grammar, by the engine of VS Code."""
 
+import json
+import os
 import subprocess
 
 import pytest
@@ -7,6 +9,7 @@ import pytest
 import cases
 from derivation import textmate
 from support.compiler import REPOSITORY
+from support.vocabulary import vocabulary
 
 EDITORS = REPOSITORY / "editors"
 GRAMMAR = EDITORS / "vscode" / "syntaxes" / "pozhil.tmLanguage.json"
@@ -49,3 +52,17 @@ def test_scopes(path, tmp_path):
     case.write_text("\n".join(written) + "\n", encoding="utf-8")
     told = subprocess.run(["node", TOOL, "--grammar", GRAMMAR, case], capture_output=True, text=True, timeout=120, check=False)
     assert told.returncode == 0, told.stdout + told.stderr
+
+
+def test_published_programs():
+    """Words of statements are coloured in all of them, and nothing stays open."""
+    sources = [str(path) for folder in ("எடுத்துக்காட்டுகள்", "தொகுப்புகள்") for path in (REPOSITORY / folder).rglob("*.பொழில்")]
+    groups = ("statement", "condition", "operator")
+    words = [row["word"] for row in vocabulary()["keywords"]
+             if row["group"] in groups and (row["reserved"] or row["reserved_in_second"] or row["word"] == "செயல்")]
+    environment = {**os.environ, "TOOLS": str(EDITORS / "node_modules"), "GRAMMAR": str(GRAMMAR),
+                   "SOURCES": json.dumps(sources), "WORDS": json.dumps(words)}
+    told = subprocess.run(["node", "--test", REPOSITORY / "tests" / "editors" / "sources.test.cjs"], env=environment,
+                          capture_output=True, text=True, timeout=120, check=False)
+    assert told.returncode == 0, told.stdout
+    assert f"# pass {len(sources)}\n" in told.stdout
