@@ -67,7 +67,7 @@ public:
     std::string compare(const Value& got, const Value& wanted) {
         goInto("", got, wanted, 0);
         if (count_ > MOST_PLACES) {
-            text_ += "மேலும் " + std::to_string(count_ - MOST_PLACES) + " இடங்களில் வேறுபாடு.\n";
+            text_ += "மேலும் வேறுபடும் இடங்கள்: " + std::to_string(count_ - MOST_PLACES) + ".\n";
         }
         text_.pop_back();
         return text_;

@@ -1,4 +1,4 @@
-" பொழில்: ஆவணத்தின் பழக்கங்கள் · habits of the language
+" பொழில்: மொழியின் பழக்கங்கள் · habits of the language
 if exists('b:did_ftplugin')
   finish
 endif

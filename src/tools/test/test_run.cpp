@@ -76,7 +76,7 @@ private:
 
     std::string whyFailed(const platform::LimitedResult& result) const {
         if (result.tookTooLong) {
-            return "முடியவில்லை: " + std::to_string(settings_.limit.count()) + " வினாடிகளுக்குப் பின் நிறுத்தப்பட்டது.";
+            return "முடியவில்லை: " + std::to_string(settings_.limit.count()) + " வினாடிக்குப் பின் நிறுத்தப்பட்டது.";
         }
         if (result.wroteTooMuch) {
             return "எல்லையில்லாமல் அச்சிடுகிறது: 16 MB-க்குப் பின் நிறுத்தப்பட்டது.";

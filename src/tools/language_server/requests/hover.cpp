@@ -30,7 +30,7 @@ std::string describe(const FoundSymbol& found, const NamedSource& here) {
 
 std::string describe(const LanguageWord& word) {
     const char* const kind = word.kind == WordKind::Keyword ? "மொழியின் சொல் · a word of the language"
-                             : word.kind == WordKind::Operator ? "செயற்குறிச் சொல் · an operator"
+                             : word.kind == WordKind::Operator ? "செயற்சொல் · an operator"
                                                                : "";
     std::string text = code(headingOf(word)) + bothLanguages(word.description) + bothLanguages(word.remark);
     return *kind == '\0' ? text : text + "\n" + kind + "\n";
