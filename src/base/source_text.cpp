@@ -26,6 +26,15 @@ std::string sourceTextOf(std::string bytes) {
     return bytes;
 }
 
+bool hasLoneCarriageReturns(std::string_view bytes) {
+    for (std::size_t at = bytes.find('\r'); at != std::string_view::npos; at = bytes.find('\r', at + 1)) {
+        if (at + 1 == bytes.size() || bytes[at + 1] != '\n') {
+            return true;
+        }
+    }
+    return false;
+}
+
 bool canReadSource(const std::string& path) {
     return openFile(std::filesystem::u8path(path)).is_open();
 }

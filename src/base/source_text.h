@@ -25,6 +25,10 @@ SourcePtr makeSource(std::string path, std::string text);
 /// editor scan alike.
 std::string sourceTextOf(std::string bytes);
 
+/// Whether a carriage return among these bytes stands elsewhere than before a line feed. Where it ends a line, or what it
+/// does, is then not what the stages see, which never see it.
+bool hasLoneCarriageReturns(std::string_view bytes);
+
 /// Whether a source file can be opened for reading.
 /// \param path the file's path in UTF-8
 bool canReadSource(const std::string& path);

@@ -50,6 +50,8 @@ Value ensure(const Value& condition, const Value& message, Place place);
 Value ensureEqual(const Value& got, const Value& wanted, Place place);
 /// Whether the program was started for the test of this name: CHOSEN_TEST of report/test_run.h holds it.
 bool isChosenTest(const Value& name, Place place);
+/// After all tests have been asked for: fails if the program was started for one that it doesn't have.
+Value requireChosenTest(Place place);
 
 // Mathematics.
 Decimal squareRoot(const Value& value, Place place);

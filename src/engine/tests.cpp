@@ -15,6 +15,9 @@
 namespace pozhil::engine {
 namespace {
 
+/// Whether the test that the program was started for has been come to.
+bool hasRun = false;
+
 /// Not a fault that பிடி sees: a test that tries whether something fails would take it for that.
 [[noreturn]] void fail(int number, Place place, const std::string& text) {
     try {
@@ -42,7 +45,16 @@ Value ensureEqual(const Value& got, const Value& wanted, Place place) {
 
 bool isChosenTest(const Value& name, Place /*place*/) {
     const char* const chosen = std::getenv(report::CHOSEN_TEST);
-    return chosen != nullptr && textOf(name) == chosen;
+    const bool isIt = chosen != nullptr && textOf(name) == chosen;
+    hasRun = hasRun || isIt;
+    return isIt;
+}
+
+Value requireChosenTest(Place place) {
+    if (std::getenv(report::CHOSEN_TEST) != nullptr && !hasRun) {
+        fail(TEST_FAILED, place, "தொகுத்த நிரலில் இந்தச் சோதனை இல்லை; கோப்பு இடையில் மாறியிருக்கலாம்.");
+    }
+    return Value();
 }
 
 } // namespace pozhil::engine

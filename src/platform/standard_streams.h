@@ -12,6 +12,9 @@ namespace pozhil::platform {
 /// \return empty if there was none in that time, nothing at the end of input or if it can't be read
 std::optional<std::string> readStandardInput(std::chrono::milliseconds wait);
 
+/// From here on, writing where nobody reads any more fails instead of ending the process.
+void failWritesToNobody();
+
 /// Writes all bytes to standard output, past std::cout.
 /// \return false if nobody takes them
 bool writeStandardOutput(std::string_view bytes);

@@ -222,3 +222,22 @@ def test_modules_pass_their_tests(project):
     assert (result.status, result.err) == (OK, ""), result.out
     for module in ("பட்டியல்", "உரை", "கணிதம்", "அகராதி"):
         assert f"{module}_சோதி.பொழில்" in result.out
+
+
+def test_a_program_without_the_chosen_test_fails(project):
+    """As when the file is built anew, with other tests, while its tests run."""
+    project.write("சோதனைகள்/அ_சோதி.பொழில்", "செயல் சோதி_அ():\n    உறுதிசெய்(மெய், \"\")\n")
+    project.test()
+    built, = project.place.folder.glob(".நிலையற்ற/**/பொழில்_செயலி")
+    env = {**project.place.env, "POZHIL_TEST": "சோதி_இல்லாதது"}
+    result = run([built], cwd=project.place.folder, env=env)
+    assert result.status == FAILURE and "இந்தச் சோதனை இல்லை" in result.out + result.err
+    assert run([built], cwd=project.place.folder, env=project.place.env).status == OK
+
+
+def test_nothing_of_a_run_stays_beside_the_program(project):
+    project.write("சோதனைகள்/அ_சோதி.பொழில்", "செயல் சோதி_அ():\n    உறுதிசெய்(மெய், \"\")\n")
+    project.test()
+    first = sorted(project.place.folder.glob(".நிலையற்ற/**/*"))
+    project.test()
+    assert sorted(project.place.folder.glob(".நிலையற்ற/**/*")) == first

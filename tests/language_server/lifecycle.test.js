@@ -1,7 +1,7 @@
 // How a client and the language server meet and part, and what becomes of messages that aren't as they should be.
 
 import assert from 'node:assert/strict';
-import { spawnSync } from 'node:child_process';
+import { spawn, spawnSync } from 'node:child_process';
 import { test } from 'node:test';
 import { Client, command, until, withClient } from './client.js';
 
@@ -147,6 +147,15 @@ test('a request that was cancelled while it waited is answered as cancelled', as
     ], 3);
     assert.deepEqual(answers.map(answer => [answer.id, answer.error?.code]),
                      [[1, undefined], [2, -32800], [3, -32601]]);
+});
+
+test('a client that reads no more ends the server as one that vanished', async () => {
+    const server = spawn(command, ['lsp'], { stdio: ['pipe', 'pipe', 'ignore'] });
+    const exit = new Promise(resolve => { server.on('exit', (status, signal) => resolve(status ?? signal)); });
+    server.stdout.destroy();
+    server.stdin.on('error', () => {});
+    server.stdin.write(INITIALIZE);
+    assert.equal(await exit, 1);
 });
 
 test('wrong words of the command line are refused', () => {

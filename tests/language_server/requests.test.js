@@ -253,6 +253,7 @@ test('formatting: the one style as an edit, with the line ends of the text; noth
         assert.deepEqual(edit.range, { start: { line: 0, character: 1 }, end: { line: 2, character: 12 } });
         assert.deepEqual(await edits(`${SECOND}அ = 1\nஅச்சிடு(அ)\n`), []);
         assert.equal(await edits(`${SECOND}அ   =  (\n`), null);
+        assert.equal(await edits(`${SECOND}ஃ குறிப்பு\rஅ  = 1\rஅச்சிடு( அ )\n`), null, 'its lines are not those of the source');
     });
 });
 

@@ -27,10 +27,16 @@ public:
 
     bool isEmpty() const { return notes_.empty(); }
 
+    /// Whether there are so many that this one will hardly be among those that are told: what takes long to find out about it
+    /// needn't be.
+    bool isLong() const { return notes_.size() >= LONG; }
+
     /// The faults in the order of the files and of their texts, MAX_FOUND_FAULTS at most.
     SecondFaults found();
 
 private:
+    static constexpr std::size_t LONG = 100;
+
     struct Note {
         resolved::Place place;
         SecondFault fault;

@@ -49,6 +49,9 @@ const Scope* fileElsewhere(const Model& model, std::size_t file, std::string_vie
 
 /// What may have been meant by a name that nothing has, as a question; empty if nothing is near.
 std::string meantName(const Resolution& resolution, std::string_view name) {
+    if (resolution.model.faults.isLong()) {
+        return {};
+    }
     auto known = namesKnownIn(resolution.model, resolution.scope);
     addOwnWords(known);
     return nearestAsQuestion(name, known);

@@ -20,6 +20,16 @@ constexpr language::second::Builtin IS_CHOSEN = {
     "", language::second::BuiltinForm::TestCall, 1, 1, "isChosenTest", language::second::ResultKind::Truth, false, {},
     {}};
 
+constexpr language::second::Builtin REQUIRE_CHOSEN = {"",
+                                                      language::second::BuiltinForm::TestCall,
+                                                      0,
+                                                      0,
+                                                      "requireChosenTest",
+                                                      language::second::ResultKind::Nothing,
+                                                      false,
+                                                      {},
+                                                      {}};
+
 /// Of the program's own file, apart from inner functions and methods.
 bool isTest(const Model& model, const resolved::Function& function) {
     return function.file + 1 == model.program.files.size() && function.enclosing == nullptr &&
@@ -65,6 +75,13 @@ void callTests(Model& model) {
         condition->condition = isChosen(*function);
         condition->thenBranch = callOf(*function);
         model.program.files.back().body->statements.push_back(std::move(condition));
+    }
+    if (!model.program.tests.empty()) {
+        auto call = makeNode<resolved::BuiltinCall>(model.program.tests.back()->place);
+        call->builtin = &REQUIRE_CHOSEN;
+        auto statement = makeNode<resolved::Evaluation>(call->place);
+        statement->value = std::move(call);
+        model.program.files.back().body->statements.push_back(std::move(statement));
     }
 }
 

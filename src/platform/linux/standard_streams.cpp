@@ -1,6 +1,7 @@
 #include "platform/standard_streams.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstddef>
 
 #include <poll.h>
@@ -29,6 +30,10 @@ std::optional<std::string> readStandardInput(std::chrono::milliseconds wait) {
     }
     bytes.resize(static_cast<std::size_t>(count));
     return bytes;
+}
+
+void failWritesToNobody() {
+    std::signal(SIGPIPE, SIG_IGN);
 }
 
 bool writeStandardOutput(std::string_view bytes) {

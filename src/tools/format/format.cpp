@@ -28,8 +28,8 @@ constexpr const char* HELP =
     R"(பொழில் வடிவமை [--சரிபார்] [<கோப்பு அல்லது அடைவு>...]
 பொழில் வடிவமை [--சரிபார்] -
 
-நிரல்களை ஒரே பாணியில் அடுக்கும்: உள்தள்ளலும் இடைவெளிகளும் வெற்று வரிகளும் மட்டுமே மாறும்; பொருள் மாறாது. மாறிய கோப்புகளின்
-பெயர்கள் வரும். அடைவில் அதற்குள் உள்ள எல்லா .பொழில் கோப்புகளும்; ஒன்றும் சொல்லாவிட்டால் இப்போதைய அடைவு. '-' என்றால் உள்ளீட்டைப்
+நிரல்களை ஒரே பாணியில் அடுக்கும்: உள்தள்ளலும் இடைவெளிகளும் வெற்று வரிகளும் மட்டுமே மாறும்; பொருள் மாறாது. வரிகள் LF-இல்
+முடியும்; BOM நீங்கும். மாறிய கோப்புகளின் பெயர்கள் வரும். அடைவில் அதற்குள் உள்ள எல்லா .பொழில் கோப்புகளும்; ஒன்றும் சொல்லாவிட்டால் இப்போதைய அடைவு. '-' என்றால் உள்ளீட்டைப்
 படித்து வெளியீட்டில் எழுதும். பிழையுள்ள நிரல் இருந்தபடியே இருக்கும்; பிழை சொல்லப்படும்.
 
   --சரிபார்    எதையும் எழுதாது; மாற வேண்டிய கோப்புகளின் பெயர்களை மட்டும் சொல்லும்
@@ -40,8 +40,8 @@ constexpr const char* HELP =
 pozhil format [--check] [<file or folder>...]
 pozhil format [--check] -
 
-Sets programs in one style: indentation, blanks and blank lines change, their meaning doesn't. The names of changed files
-are told. Of a folder all .பொழில் files in it and below; without arguments, those of the current one. With '-' standard
+Sets programs in one style: indentation, blanks and blank lines change, their meaning doesn't. Lines end in LF, and a byte
+order mark goes. The names of changed files are told. Of a folder all .பொழில் files in it and below; without arguments, those of the current one. With '-' standard
 input goes to standard output. A program with faults is left as it is, and the faults are told.
 
   --check      write nothing, only name the files that would change
@@ -99,16 +99,6 @@ std::optional<Order> readOrder(const std::vector<std::string>& arguments) {
         order.given = {"."};
     }
     return order;
-}
-
-/// Whether every carriage return stands at the end of a line. Another one might be all that divides lines.
-bool hasLineEnds(const std::string& bytes) {
-    for (std::size_t at = bytes.find('\r'); at != std::string::npos; at = bytes.find('\r', at + 1)) {
-        if (at + 1 == bytes.size() || bytes[at + 1] != '\n') {
-            return false;
-        }
-    }
-    return true;
 }
 
 class Format {
@@ -175,7 +165,7 @@ private:
             tellFaults(source);
             return std::nullopt;
         }
-        if (made.result == FormatResult::NotUnderstood || !hasLineEnds(bytes)) {
+        if (made.result == FormatResult::NotUnderstood || hasLoneCarriageReturns(bytes)) {
             raise(FAULT_IN_SOURCE);
             std::cerr << "பிழை: '" << path
                       << "': இடைவெளிகளை மாற்றினால் இதன் பொருள் மாறக்கூடும்; எனவே இது இருந்தபடியே இருக்கிறது!" << std::endl;

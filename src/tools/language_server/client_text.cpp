@@ -3,6 +3,7 @@
 #include "report/code_point.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <utility>
 
@@ -21,18 +22,25 @@ std::size_t unitsOf(const report::CodePoint& point, Encoding encoding) {
 
 } // namespace
 
-ClientText::ClientText(std::string text, Encoding encoding) : text_(std::move(text)), encoding_(encoding) {
-    indexLines();
+ClientText::ClientText(std::string text, Encoding encoding)
+    : text_(std::move(text)), encoding_(encoding), lines_(lineBegins(0, text_.size())) {
+    lines_.insert(lines_.begin(), 0);
 }
 
-void ClientText::indexLines() {
-    lines_.assign(1, 0);
-    for (std::size_t at = text_.find_first_of("\r\n"); at != std::string::npos;) {
+std::vector<std::size_t> ClientText::lineBegins(std::size_t from, std::size_t to) const {
+    std::vector<std::size_t> begins;
+    for (std::size_t at = text_.find_first_of("\r\n", from); at < to; at = text_.find_first_of("\r\n", at)) {
         const bool isPair = text_[at] == '\r' && at + 1 < text_.size() && text_[at + 1] == '\n';
-        const std::size_t next = at + (isPair ? 2 : 1);
-        lines_.push_back(next);
-        at = text_.find_first_of("\r\n", next);
+        at += isPair ? 2 : 1;
+        begins.push_back(at);
     }
+    return begins;
+}
+
+std::size_t ClientText::lineOf(std::size_t offset) const {
+    return static_cast<std::size_t>(
+               std::distance(lines_.begin(), std::upper_bound(lines_.begin(), lines_.end(), offset))) -
+           1;
 }
 
 std::string_view ClientText::lineText(std::size_t line) const {
@@ -60,8 +68,7 @@ std::size_t ClientText::offsetAt(Position position) const {
 
 Position ClientText::positionAt(std::size_t offset) const {
     const std::size_t within = std::min(offset, text_.size());
-    const auto after = std::upper_bound(lines_.begin(), lines_.end(), within);
-    const auto line = static_cast<std::size_t>(std::distance(lines_.begin(), after)) - 1;
+    const std::size_t line = lineOf(within);
     const std::string_view text = lineText(line);
     const std::size_t bytes = std::min(within - lines_[line], text.size());
     std::size_t units = 0;
@@ -73,10 +80,26 @@ Position ClientText::positionAt(std::size_t offset) const {
     return {line, units};
 }
 
+/// Only the lines around it are looked at anew: a client may send thousands of edits at once.
 void ClientText::replace(Range range, std::string_view text) {
     const auto [begin, end] = std::minmax({offsetAt(range.begin), offsetAt(range.end)});
+    // A line more at either end, since an edit may join a carriage return and a line feed, or part them.
+    const std::size_t first = std::max<std::size_t>(lineOf(begin), 1) - 1;
+    const std::size_t after = std::min(lineOf(end) + 2, lines_.size());
+    const std::size_t oldEnd = after < lines_.size() ? lines_[after] : text_.size();
     text_.replace(begin, end - begin, text);
-    indexLines();
+    const std::size_t newEnd = oldEnd - (end - begin) + text.size();
+    // The line that begins at the end of what is looked at keeps its place in the list.
+    std::vector<std::size_t> begins = lineBegins(lines_[first], newEnd);
+    if (after < lines_.size()) {
+        begins.pop_back();
+    }
+    for (std::size_t line = after; line < lines_.size(); ++line) {
+        lines_[line] = lines_[line] - oldEnd + newEnd;
+    }
+    const auto place = lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(first) + 1,
+                                    lines_.begin() + static_cast<std::ptrdiff_t>(after));
+    lines_.insert(place, begins.begin(), begins.end());
 }
 
 } // namespace pozhil::language_server

@@ -40,7 +40,9 @@ public:
     void replace(Range range, std::string_view text);
 
 private:
-    void indexLines();
+    /// Where lines begin after the byte \p from, up to the byte \p to.
+    std::vector<std::size_t> lineBegins(std::size_t from, std::size_t to) const;
+    std::size_t lineOf(std::size_t offset) const;
     /// The bytes of a line without its end.
     std::string_view lineText(std::size_t line) const;
 

@@ -76,6 +76,7 @@ bool isIdentification(const Json& id) {
 } // namespace
 
 int Server::run() {
+    platform::failWritesToNobody();
     while (!status_) {
         const milliseconds wait = !waiting_.empty()         ? milliseconds(0)
                                   : !workspace_.hasNews()   ? FOREVER

@@ -66,6 +66,13 @@ void Workspace::close(const std::string& uri) {
     documents_.erase(found);
     texts_.remove(key);
     uris_.erase(key);
+    // A file may be open under several names.
+    const auto same =
+        std::find_if(documents_.begin(), documents_.end(), [&](const auto& entry) { return entry.second.key == key; });
+    if (same != documents_.end()) {
+        texts_.set(key, same->second.document->source());
+        uris_[key] = same->first;
+    }
     markStale(key);
 }
 

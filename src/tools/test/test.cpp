@@ -134,6 +134,7 @@ int test(const std::vector<std::string>& arguments) {
     options.isTest = true;
     const std::vector<TestProgram> programs = makeTestPrograms(files.paths, options, order->namePart);
     const TestCounts counts = runTests(programs, order->settings);
+    removeTestPrograms(programs);
     const int status = statusOf(programs, counts, !files.unreadable.empty());
     if (status == DONE && counts.passed == 0) {
         refuse(order->namePart.empty() ? "சோதனை எதுவும் இல்லை!"

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 #include <system_error>
 
 namespace pozhil::tools {
@@ -37,8 +38,7 @@ public:
 
 private:
     void addFile(const fs::path& path) {
-        const auto isSame = [&](const std::string& one) { return wholePath(fs::u8path(one)) == wholePath(path); };
-        if (std::none_of(found_.paths.begin(), found_.paths.end(), isSame)) {
+        if (known_.insert(wholePath(path)).second) {
             found_.paths.push_back(path.lexically_normal().u8string());
         }
     }
@@ -68,6 +68,7 @@ private:
     }
 
     TestFiles found_;
+    std::set<fs::path> known_;
 };
 
 } // namespace

@@ -7,6 +7,9 @@
 #include "tools/test/in_parallel.h"
 
 #include <memory>
+#include <random>
+#include <string>
+#include <system_error>
 #include <utility>
 
 namespace pozhil::tools {
@@ -40,6 +43,19 @@ void translate(TestProgram& test, const FrontEndOptions& options, const std::str
     }
 }
 
+/// The same program under a name of its own: whoever builds the file meanwhile puts another one in its place.
+/// \return empty if the disk has no room for it
+std::filesystem::path ownProgram(const std::filesystem::path& program) {
+    std::filesystem::path own = program;
+    own += "_" + std::to_string(std::random_device()());
+    std::error_code error;
+    std::filesystem::create_hard_link(program, own, error);
+    if (error) {
+        std::filesystem::copy_file(program, own, error);
+    }
+    return error ? std::filesystem::path() : own;
+}
+
 /// A program that is being built.
 class Building {
 public:
@@ -56,7 +72,8 @@ public:
 
     void finish() {
         if (build_ != nullptr) {
-            test_.program = build_->finishProgram(test_.translation).value_or(std::filesystem::path());
+            const auto program = build_->finishProgram(test_.translation);
+            test_.program = program ? ownProgram(*program) : std::filesystem::path();
         }
         if (test_.program.empty()) {
             test_.refusal = "சோதனைகளைத் தொகுக்க முடியவில்லை!";
@@ -86,6 +103,13 @@ std::vector<TestProgram> makeTestPrograms(const std::vector<std::string>& paths,
         buildings.size(), [&](std::size_t index) { buildings[index].start(); },
         [&](std::size_t index) { buildings[index].finish(); });
     return programs;
+}
+
+void removeTestPrograms(const std::vector<TestProgram>& programs) {
+    for (const TestProgram& test : programs) {
+        std::error_code ignored;
+        std::filesystem::remove(test.program, ignored);
+    }
 }
 
 } // namespace pozhil::tools

@@ -15,7 +15,7 @@ struct TestProgram {
     SecondTranslation translation{};
     /// The tests to run, in the order of the text.
     std::vector<std::string> tests{};
-    /// What was built; empty if nothing was.
+    /// What was built, for this run alone; empty if nothing was.
     std::filesystem::path program{};
     /// Why no test of it runs, as a sentence; empty for faults of the source, and where they run.
     std::string refusal{};
@@ -27,5 +27,8 @@ struct TestProgram {
 /// \return one for each path
 std::vector<TestProgram> makeTestPrograms(const std::vector<std::string>& paths, const FrontEndOptions& options,
                                           const std::string& namePart);
+
+/// Removes what was built.
+void removeTestPrograms(const std::vector<TestProgram>& programs);
 
 } // namespace pozhil::tools

@@ -1,5 +1,6 @@
 #include "tools/language_server/requests/formatting.h"
 
+#include "base/source_text.h"
 #include "base/text.h"
 #include "formatter/formatter.h"
 #include "tools/language_server/names.h"
@@ -12,6 +13,10 @@ namespace pozhil::language_server {
 Json formatting(const Workspace& workspace, const Json& params) {
     const Document* document = nullptr;
     const NamedSource file = askedSource(workspace, params, document);
+    // The client counts a line there, which the source doesn't have.
+    if (hasLoneCarriageReturns(document->text().text())) {
+        return nullptr;
+    }
     const FormattedSource formatted = formatSource(file.source, workspace.frontEndOptions());
     if (formatted.result != FormatResult::Formatted) {
         return nullptr;
