@@ -23,6 +23,9 @@ WITHOUT_PROGRAM = {
     684: "only a page can't wait",
     685: "only the work of a page is stopped",
     690: "only controls of pages are bound to variables",
+    691: "only a test fails so, and பிடி doesn't catch that",
+    692: "only a test fails so, and பிடி doesn't catch that",
+    693: "told of a test before it is built",
     699: "a mistake of the engine, which no program knows how to make",
 }
 
