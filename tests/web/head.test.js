@@ -2,13 +2,13 @@
 
 import { readFileSync } from 'node:fs';
 
-import { PHONE, application, assert, webTest } from './harness/index.js';
+import { COARSE_PHONE, application, assert, webTest } from './harness/index.js';
 
 const titled = application('        உரை("வணக்கம்")', { header: 'இணைய_தலைப்பு: "கடை & \'தோட்டம்\'", பின்னணி: "#123456"' });
 
 const ICON = '<svg xmlns="http://www.w3.org/2000/svg" width="8" height="8"><rect width="8" height="8"/></svg>';
 
-for (const [screen, context] of [['desktop', {}], ['phone', { ...PHONE, deviceScaleFactor: 1 }]]) {
+for (const [screen, context] of [['desktop', {}], ['phone', COARSE_PHONE]]) {
     webTest(`a page has a description, a colour and an icon of its own (${screen})`, titled, context, async page => {
         const meta = name => page.page.getAttribute(`meta[name=${name}]`, 'content');
         assert.equal(await meta('description'), 'கடை & \'தோட்டம்\'');

@@ -1,6 +1,6 @@
 // Keys: the browser's own go where they should, fields are reached one after the other, and none hides under a dialog.
 
-import { PHONE, application, assert, near, webTest } from './harness/index.js';
+import { COARSE_PHONE, application, assert, near, webTest } from './harness/index.js';
 
 const form = application(`
         நெடுவரிசை(உருளும்பட்டை: மெய், இடைவெளி: 10)(
@@ -29,7 +29,7 @@ webTest('Tab goes from field to field and past the last one, and back', form, as
     assert.equal(await focused(page), 'மூன்று');
 });
 
-for (const [screen, context] of [['desktop', {}], ['phone', { ...PHONE, deviceScaleFactor: 1 }]]) {
+for (const [screen, context] of [['desktop', {}], ['phone', COARSE_PHONE]]) {
     webTest(`a field that Tab reaches comes into the window, and the page stays in it (${screen})`, form, context,
             async page => {
         for (const id of ['ஒன்று', 'இரண்டு', 'மூன்று']) {
@@ -90,7 +90,7 @@ const seen = (page, id) => page.page.evaluate(wanted => {
     return field.checkVisibility({ visibilityProperty: true });
 }, id);
 
-for (const [screen, context] of [['desktop', {}], ['phone', { ...PHONE, deviceScaleFactor: 1 }]]) {
+for (const [screen, context] of [['desktop', {}], ['phone', COARSE_PHONE]]) {
     webTest(`a dialog hides the fields under it from eye, pointer and keyboard (${screen})`, dialog, context,
             async page => {
         const window = page.page.viewportSize();

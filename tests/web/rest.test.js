@@ -1,7 +1,7 @@
 // Pages where nothing happens draw nothing; what moves, and what anybody does, is drawn at once.
 
 import { second } from './harness/editions.js';
-import { PHONE, application, assert, near, webTest } from './harness/index.js';
+import { COARSE_PHONE, application, assert, near, webTest } from './harness/index.js';
 
 const counting = application(`
         நெடுவரிசை(உருளும்பட்டை: மெய், இடைவெளி: 20)(
@@ -19,7 +19,7 @@ const drawn = page => page.drawnFrames();
 
 const shown = page => page.page.evaluate(() => window.recorded.texts.map(({ text }) => text));
 
-for (const [screen, context] of [['desktop', {}], ['phone', { ...PHONE, deviceScaleFactor: 1 }]]) {
+for (const [screen, context] of [['desktop', {}], ['phone', COARSE_PHONE]]) {
     webTest(`a page at rest draws nothing, and what is done is seen at once (${screen})`, counting, context,
             async page => {
         assert.ok(await page.rests(), 'rests');

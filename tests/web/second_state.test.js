@@ -113,13 +113,6 @@ liveTest('what can not be kept begins anew, with a word if it was too large', CO
     assert.deepEqual(tab.errors, []);
 });
 
-webTest('a published page has nothing that keeps variables', COUNTING('முதல்'), { published: true }, async tab => {
-    await tab.waitForText('முதல் 0');
-    assert.deepEqual(await tab.page.evaluate(() => [
-        typeof pozhilState, typeof Module._pozhil_take_state, typeof Module._pozhil_kept_state]),
-                     ['undefined', 'undefined', 'undefined']);
-});
-
 const ENDLESS = page(['"எண் " இணை எண்ணிக்கை', '"உரை " இணை உரை_தரு()'], `
         எண்ணிக்கை = 0
         வழி = 0

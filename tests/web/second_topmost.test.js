@@ -1,11 +1,12 @@
 // What lies over what in the second edition: a press, the pointer and what is seen belong to what was drawn last there.
 
 import { faultCard, second } from './harness/editions.js';
-import { PHONE, assert, webTest } from './harness/index.js';
+import { COARSE_PHONE, assert, webTest } from './harness/index.js';
 import { png } from './harness/pictures.js';
 
 const RED = [255, 0, 0];
 const BLUE = [0, 0, 255];
+const FINGERS = { ...COARSE_PHONE, viewport: { width: 500, height: 800 } };
 
 /// One over the other, each at its own place.
 const stack = (...children) => `        அடுக்கி(சீரமைப்பு: மேல்_இடது)(\n            ${children.join(',\n            ')}\n        )`;
@@ -69,8 +70,7 @@ webTest('a press goes to the topmost widget alone', overlapping, async page => {
     await checkOverlapping(page, (x, y) => page.click(x, y));
 });
 
-webTest('a finger presses the topmost widget alone', overlapping, { ...PHONE, viewport: { width: 500, height: 800 } },
-        async page => {
+webTest('a finger presses the topmost widget alone', overlapping, FINGERS, async page => {
     await checkOverlapping(page, (x, y) => page.tap(x, y));
 });
 
@@ -170,8 +170,7 @@ webTest('an open menu shields the page, and a press beside it only closes it', u
     await page.text('அளவு 10');
 });
 
-webTest('an open menu shields the page from fingers', under, { ...PHONE, viewport: { width: 500, height: 800 } },
-        async page => {
+webTest('an open menu shields the page from fingers', under, FINGERS, async page => {
     await checkMenu(page, (x, y) => page.tap(x, y));
 });
 
@@ -351,7 +350,7 @@ const faulty = second(`
 
 for (const [means, context, act] of [
     ['the mouse', {}, (page, x, y) => page.click(x, y)],
-    ['a finger', PHONE, (page, x, y) => page.tap(x, y)],
+    ['a finger', COARSE_PHONE, (page, x, y) => page.tap(x, y)],
 ]) {
     webTest(`the card of a fault shields what is under it from ${means}`, faulty, context, async page => {
         await act(page, 100, 100);

@@ -1,6 +1,6 @@
 // A phone: the page is as wide as the screen, and fingers scroll, drag, press and go.
 
-import { PHONE, application, assert, near, webTest } from './harness/index.js';
+import { COARSE_PHONE, PHONE, application, assert, near, webTest } from './harness/index.js';
 
 const { width, height } = PHONE.viewport;
 
@@ -34,7 +34,7 @@ webTest('what juts out does not widen the page of a phone', form, PHONE, async p
     assert.deepEqual([box.x, box.y, box.height], [0, 0, 60]);
 });
 
-webTest('two fingers may zoom the page, one may not move it', form, PHONE, async page => {
+webTest('two fingers may zoom the page, one may not move it', form, COARSE_PHONE, async page => {
     const viewport = await page.page.getAttribute('meta[name=viewport]', 'content');
     assert.doesNotMatch(viewport, /user-scalable|maximum-scale/);
     for (const selector of ['html', 'body', '#canvas', '#பெயர்']) {
@@ -45,7 +45,7 @@ webTest('two fingers may zoom the page, one may not move it', form, PHONE, async
 
 const yOf = async (page, text) => (await page.text(text)).y;
 
-webTest('a finger scrolls a column by its own way, wherever it begins', form, PHONE, async page => {
+webTest('a finger scrolls a column by its own way, wherever it begins', form, COARSE_PHONE, async page => {
     const before = await yOf(page, 'வரி 0');
     await page.swipe([200, 700], [190, 500]);
     near(await yOf(page, 'வரி 0'), before - 200);
@@ -62,7 +62,7 @@ webTest('a finger scrolls a column by its own way, wherever it begins', form, PH
 
 webTest('a finger that is swept away lets the column glide, and the next one stops it', form,
         // Without a graphics card, frames of all these pixels come too late for a sweep.
-        { ...PHONE, deviceScaleFactor: 1 }, async page => {
+        COARSE_PHONE, async page => {
     const before = await yOf(page, 'வரி 0');
     // Within the page: from outside the finger would be lifted so late that it has come to rest.
     await page.page.evaluate(async () => {
@@ -107,7 +107,7 @@ webTest('a tap presses once, and no hover stays', form, PHONE, async page => {
     assert.equal(await page.area([0, 0, 255]), null);
 });
 
-webTest('a tap on a field lets the user type, one beside it ends that', form, PHONE, async page => {
+webTest('a tap on a field lets the user type, one beside it ends that', form, COARSE_PHONE, async page => {
     await page.tap(100, 60 + 44 + 25);
     assert.equal(await page.page.evaluate(() => document.activeElement.id), 'பெயர்');
     await page.page.keyboard.type('ab');
@@ -117,7 +117,7 @@ webTest('a tap on a field lets the user type, one beside it ends that', form, PH
     await page.text('0');
 });
 
-webTest('a second finger ends what the first one does', form, PHONE, async page => {
+webTest('a second finger ends what the first one does', form, COARSE_PHONE, async page => {
     const before = await yOf(page, 'வரி 0');
     await page.putFingers([100, 240]);
     await page.putFingers([100, 240], [200, 500]);
@@ -168,7 +168,7 @@ webTest('a finger moves a row sideways and leaves the column still', application
             ),
             உரை("கீழே", உரைபாணி(அளவு: 500)),
             உரை("அடியில்", உரைபாணி(அளவு: 500))
-        )`), PHONE, async page => {
+        )`), COARSE_PHONE, async page => {
     const { x } = await page.text('பொ0');
     const before = await yOf(page, 'கீழே');
     await page.swipe([300, 50], [200, 55]);

@@ -19,6 +19,8 @@ const WINDOW = { width: 500, height: 400 };
 
 /// A phone, as the options of a test.
 export const PHONE = { viewport: { width: 390, height: 844 }, deviceScaleFactor: 3, isMobile: true, hasTouch: true };
+/// A phone of large pixels, for all that isn't about sharpness: this machine's processor draws each of them.
+export const COARSE_PHONE = { ...PHONE, deviceScaleFactor: 1 };
 
 const server = new PageServer();
 let browser;

@@ -73,7 +73,9 @@ const failing = second(`
         எண்கள் = [1]`);
 
 for (const published of [false, true]) {
-    webTest(`${published ? 'published' : 'served'}, a fault is told with its place`, failing, { published }, async page => {
+    const name = published ? 'published, faults are told by file and line, and variables are not kept'
+        : 'served, faults show their line, and variables are kept';
+    webTest(name, failing, { published }, async page => {
         const { x, y } = await page.text('தவறு');
         await page.click(x + 5, y + 5);
         const card = await faultCard(page);
@@ -82,5 +84,9 @@ for (const published of [false, true]) {
         assert.equal(card.includes('எண்கள்[7]'), !published);
         const wasm = await page.page.evaluate(() => fetch('index.wasm').then(answer => answer.text()));
         assert.equal(wasm.includes(REMARK), !published);
+        // What keeps the variables over a rebuild.
+        const keepers = await page.page.evaluate(() => [
+            typeof pozhilState, typeof Module._pozhil_take_state, typeof Module._pozhil_kept_state]);
+        assert.deepEqual(keepers.map(kind => kind === 'undefined'), [published, published, published]);
     });
 }
