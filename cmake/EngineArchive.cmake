@@ -8,7 +8,7 @@ set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${engine_director
 file(STRINGS ${engine_directory}/program.h engine_headers REGEX "^#include \"engine/")
 list(TRANSFORM engine_headers REPLACE "^#include \"engine/(.*)\"$" "${engine_directory}/\\1")
 list(APPEND engine_headers ${engine_directory}/program.h ${engine_directory}/page.h
-     ${engine_directory}/kept_state.h ${engine_directory}/stopping.h)
+     ${engine_directory}/kept_state.h ${engine_directory}/layers.h ${engine_directory}/stopping.h)
 set(report_headers ${PROJECT_SOURCE_DIR}/src/report/box.h)
 
 file(GLOB engine_sources CONFIGURE_DEPENDS ${engine_directory}/*.cpp ${PROJECT_SOURCE_DIR}/src/report/*.cpp)

@@ -236,7 +236,7 @@ std::string PageEdition::elementName(const std::string& name) const {
 }
 
 void PageEdition::writeWindowSize(CodeWriter& out) {
-    out.block("page::width = winWidth;\npage::height = winHeight;\npage::beginFrame(winWidth);\npage::findTopmost();\n"
+    out.block("page::width = winWidth;\npage::height = winHeight;\npage::beginFrame(winWidth);\npage::beginLayers();\n"
               "page::runHandlers();\n");
 }
 

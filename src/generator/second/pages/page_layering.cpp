@@ -13,15 +13,15 @@ std::string areaText(const PressArea& area) {
 } // namespace
 
 std::string PageLayering::takesPress(const std::string& key, const PressArea& area) const {
-    return "page::takesPress(" + key + ", " + areaText(area) + ") && ";
+    return "layers::takesPress(" + key + ", " + areaText(area) + ") && ";
 }
 
 std::string PageLayering::takesHover(const std::string& key, const PressArea& area) const {
-    return "page::takesHover(" + key + ", " + areaText(area) + ") && ";
+    return "layers::takesHover(" + key + ", " + areaText(area) + ") && ";
 }
 
 std::string PageLayering::isHeld(const std::string& key) const {
-    return "page::isHeld(" + key + ") && ";
+    return "layers::isHeld(" + key + ") && ";
 }
 
 std::string PageLayering::isMenuOnTop() const {
@@ -33,7 +33,7 @@ std::string PageLayering::hasField(const std::string& key, const PressArea& area
 }
 
 std::string PageLayering::shields(const PressArea& area) const {
-    return "page::shield(" + areaText(area) + ");\n";
+    return "layers::shield(" + areaText(area) + ");\n";
 }
 
 std::string PageLayering::shieldsPage() const {
@@ -41,11 +41,11 @@ std::string PageLayering::shieldsPage() const {
 }
 
 std::string PageLayering::holds(const std::string& key, bool takesPresses) const {
-    return std::string("const page::Holder holder(") + key + ", " + (takesPresses ? "true" : "false") + ");\n";
+    return std::string("const layers::Holder holder(") + key + ", " + (takesPresses ? "true" : "false") + ");\n";
 }
 
 std::string PageLayering::declaredMenu(const std::string& key) const {
-    return "const page::WidgetKey menuKey = page::menuOf(" + key + ");\n";
+    return "const layers::WidgetKey menuKey = layers::menuOf(" + key + ");\n";
 }
 
 /// While a menu is open it takes all presses, also those that only close it.
@@ -54,7 +54,7 @@ std::string PageLayering::begunMenu() const {
 }
 
 std::string PageLayering::cutsTo(const CutArea& area, bool alsoTexts) const {
-    return std::string("const page::Cut cut(") + area.x + ", " + area.y + ", " + area.width + ", " + area.height +
+    return std::string("const layers::Cut cut(") + area.x + ", " + area.y + ", " + area.width + ", " + area.height +
            ", " + (alsoTexts ? "true" : "false") + ");\n";
 }
 

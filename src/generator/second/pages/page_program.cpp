@@ -59,7 +59,7 @@ EmittedLines PageProgram::head() const {
     for (const char* header : {"cctype", "cstddef", "cstdio", "cstdlib", "cstring"}) {
         lines.line("#include <" + std::string(header) + ">");
     }
-    for (const char* header : {"program", "page", "kept_state", "stopping"}) {
+    for (const char* header : {"program", "page", "kept_state", "layers", "stopping"}) {
         lines.line("#include \"engine/" + std::string(header) + ".h\"");
     }
     lines.line("using namespace pozhil::engine;");
