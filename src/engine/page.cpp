@@ -71,13 +71,11 @@ struct Task {
     bool wentWell;
 };
 
-void carryOut(void* argument) {
-    Task& task = *static_cast<Task*>(argument);
-    const OwnWay way;
-    const TimedWork timed;
+/// \return whether no fault had to be told
+bool hasNoFault(void (*work)(void* argument), void* argument) {
     try {
-        callWithFaults(task.work, task.argument);
-        task.wentWell = true;
+        callWithFaults(work, argument);
+        return true;
     } catch (const Fault& fault) {
         flushOutput(); // comes before what is told
         tell(fault);
@@ -85,6 +83,14 @@ void carryOut(void* argument) {
         flushOutput();
         tell(stop.fault, true);
     }
+    return false;
+}
+
+void carryOut(void* argument) {
+    Task& task = *static_cast<Task*>(argument);
+    const OwnWay way;
+    const TimedWork timed;
+    task.wentWell = hasNoFault(task.work, task.argument);
     flushOutput();
 }
 
@@ -101,6 +107,15 @@ bool runGuarded(void (*work)(void* argument), void* argument) {
         watchMemory(); // for the next fault
     }
     return task.wentWell;
+}
+
+void beginPart() {
+    beginTimeAnew();
+}
+
+void tellCaught() {
+    hasNoFault([](void* /*none*/) { throw; }, nullptr);
+    watchMemory(); // for the next fault
 }
 
 bool startPage(const ProgramInfo& program) {

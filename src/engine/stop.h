@@ -9,6 +9,9 @@ struct Stop {
     Fault fault;
 };
 
+/// The time of a piece of work counts from here on.
+void beginTimeAnew();
+
 /// A piece of a page's work: its time counts from its first steps on.
 class TimedWork {
 public:

@@ -23,17 +23,17 @@ int stepsOfALook = FEWEST_STEPS;
 Decimal firstLook = 0;
 Decimal lastLook = 0;
 
+} // namespace
+
+int stepsLeft = FEWEST_STEPS;
+
 /// Between pieces of work nothing tells how long they took: a page whose memory stays the same comes to rest.
-void beginAnew() {
+void beginTimeAnew() {
     firstLook = 0;
     lastLook = 0;
     stepsOfALook = FEWEST_STEPS;
     stepsLeft = FEWEST_STEPS;
 }
-
-} // namespace
-
-int stepsLeft = FEWEST_STEPS;
 
 void endStep(Place place) {
     const Decimal now = workClock();
@@ -45,7 +45,7 @@ void endStep(Place place) {
     lastLook = now;
     stepsLeft = stepsOfALook;
     if (isTimed && now - firstLook > patience) {
-        beginAnew();
+        beginTimeAnew();
         throw Stop{faultWithWay(ENDLESS_WORK, place)};
     }
 }
@@ -56,13 +56,13 @@ void setPatience(Decimal seconds) {
 
 TimedWork::TimedWork() : wasTimed_(isTimed) {
     isTimed = true;
-    beginAnew();
+    beginTimeAnew();
 }
 
 /// What goes on around it begins anew: what it waited for wasn't its own.
 TimedWork::~TimedWork() {
     isTimed = wasTimed_;
-    beginAnew();
+    beginTimeAnew();
 }
 
 } // namespace pozhil::engine

@@ -198,6 +198,26 @@ void goOnForEver(Place place) {
     }
 }
 
+TEST_F(Page, AFaultInAPartLeavesTheRestAlone) {
+    noted = 0;
+    EXPECT_TRUE(guarded([] {
+        guardedPart([] {
+            const Frame frame("பகுதி", "1:0-4");
+            inner("2:0-5");
+        });
+        EXPECT_EQ(Frame::innermost, nullptr);
+        guardedPart([] { throw std::bad_alloc(); });
+        guardedPart([] { guardedPart([] { throw 7; }); });
+        guardedPart([] { noted = 1; });
+    }));
+    EXPECT_EQ(form(noted), "1");
+    ASSERT_EQ(told.size(), 3U);
+    EXPECT_EQ(told[0].number, NO_SUCH_INDEX);
+    EXPECT_EQ(told[0].text.way.size(), 2U);
+    EXPECT_EQ(told[1].number, OUT_OF_MEMORY);
+    EXPECT_EQ(told[2].number, FAULT_OF_OURS);
+}
+
 class Patience : public Page {
 protected:
     Patience() { setPatience(0.05); }
@@ -237,6 +257,25 @@ TEST_F(Patience, EachPieceOfWorkHasItsOwnTime) {
         workFor(0.2);
     })) << "what it waits for isn't its own work";
     EXPECT_EQ(told.size(), 1U);
+}
+
+TEST_F(Patience, EachPartHasItsOwnTime) {
+    EXPECT_TRUE(guarded([] {
+        for (int part = 0; part < 3; ++part) {
+            guardedPart([] {
+                const double end = secondsSince1970(HERE) + 0.03;
+                while (secondsSince1970(HERE) < end) {
+                    step(HERE);
+                }
+            });
+        }
+        EXPECT_THAT(told, IsEmpty());
+        guardedPart([] { goOnForEver(HERE); });
+        guardedPart([] { inner("2:0-5"); });
+    }));
+    ASSERT_EQ(told.size(), 2U);
+    EXPECT_TRUE(told[0].isStop);
+    EXPECT_EQ(told[1].number, NO_SUCH_INDEX);
 }
 
 TEST_F(Patience, FewStepsThatTakeLongAreWorkAsWell) {

@@ -105,6 +105,7 @@ public:
     void writeWindowSize(CodeWriter& out) override { out.block("WINDOW_SIZE;\n"); }
     void writeOpenAlerts(CodeWriter& out) override { out.block("OPEN_ALERTS;\n"); }
     void writeDrawing(CodeWriter& out) override { out.block("DRAWING;\n"); }
+    std::string frameGuard() const override { return "FRAME_GUARD"; }
     void writeHandler(WidgetWriter& widget, const Expression& handler, HandlerSite site) override {
         const std::array<std::string, 3> sites = {"HANDLER", "BAR_HANDLER", "TEXT_HANDLER"};
         widget.block("$site($name);\n",
@@ -358,6 +359,8 @@ TEST(Frame, HasItsHolesFilledByTheEdition) {
     const std::string page = pageOf(widgetOf(language::widget::GAP));
     EXPECT_THAT(page, HasSubstr("\nOPEN_ALERTS;\n\nDRAWING;\n\nvoid render_frame() {\n"));
     EXPECT_THAT(page, HasSubstr("\n    WINDOW_SIZE;\n"));
+    EXPECT_THAT(page, HasSubstr("\n    FRAME_GUARD([&] {\n"));
+    EXPECT_THAT(page, HasSubstr("        FRAME_GUARD(draw_overlay);\n"));
     for (const char* line : {"    if (IS_SHOWN) {\n        double elapsed = emscripten_get_now() - SINCE;\n",
                              "        float currentY = TOP;\n", "        MOVED;\n", "            HIDDEN;\n",
                              "            std::string msgTxt = MESSAGE;\n", "            int sb_r = RED;\n",

@@ -275,7 +275,7 @@ void PageEdition::writeDrawing(CodeWriter& out) {
     out.block(R"(
 // வரையும்போது பிழை எழுந்தால் அந்த விட்ஜெட் மட்டும் அச்சட்டத்தில் விடுபடும்; பிழை பக்கத்தில் சொல்லப்படும்
 template <class Draw> void pozhil_draw(Draw draw) {
-    guarded(draw);
+    guardedPart(draw);
 }
 )");
 }

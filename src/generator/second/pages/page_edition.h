@@ -73,6 +73,7 @@ public:
     void writeWindowSize(CodeWriter& out) override;
     void writeOpenAlerts(CodeWriter& out) override;
     void writeDrawing(CodeWriter& out) override;
+    std::string frameGuard() const override { return "guarded"; }
 
     /// The function pozhil_program_shows of the emitted program: whether the variable of a name shows the widgets that name it,
     /// for whoever mirrors the page.

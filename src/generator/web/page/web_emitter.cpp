@@ -44,13 +44,14 @@ void WebEmitter::writeFrameHead() {
                                        {"drawing", drawing},
                                        {"windowSize", windowSize}});
     out_ << "    float forcedW = -1.0f; float forcedH = -1.0f; float maxW = -1.0f; float maxH = -1.0f;\n"
-         << "    pozhil_draw([&] {\n";
+         << "    " << edition_.frameGuard() << "([&] {\n";
 }
 
 void WebEmitter::writeFrameTail() {
     const MessageBar bar = edition_.messageBar();
     out_.block(page_text::frame_tail,
-               {{"isShown", bar.isShown},
+               {{"guard", edition_.frameGuard()},
+                {"isShown", bar.isShown},
                 {"since", bar.since},
                 {"top", bar.top},
                 {"moved", bar.moved},

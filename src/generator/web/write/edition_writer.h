@@ -180,6 +180,9 @@ public:
     /// in it is told, and the page goes on after it.
     virtual void writeDrawing(CodeWriter& out) = 0;
 
+    /// The function of the emitted program that calls what holds the blocks of widgets: all that a frame draws at once.
+    virtual std::string frameGuard() const { return "pozhil_draw"; }
+
     // Handlers, as lines at the present level of indentation, inside the test for the press.
 
     /// What \p handler does. A page outlives whatever it throws.
