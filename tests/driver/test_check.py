@@ -282,6 +282,22 @@ def test_what_may_not_be_read_is_told(place, check):
     assert SUMMARY.format(1, 0, 0) in result.out
 
 
+def test_file_that_fails_while_it_is_read_is_told(place, check):
+    write(place, "நல்லது.பொழில்", GOOD)
+    result = check("நல்லது.பொழில்", "/proc/self/mem")
+    assert result.status == FAILED
+    assert result.err == "பிழை: '/proc/self/mem': இந்தக் கோப்பைப் படிக்க முடியவில்லை!\n"
+    assert result.out == "🚨 " + SUMMARY.format(1, 0, 0)
+
+
+@pytest.mark.parametrize("arguments", [[], ["--json"]])
+def test_output_that_takes_nothing_is_told(place, check, arguments):
+    write(place, "அ.பொழில்", GOOD)
+    with open("/dev/full", "wb") as full:
+        result = check(*arguments, stdout=full)
+    assert (result.status, result.err) == (FAILED, "பிழை: வெளியீட்டில் எழுத முடியவில்லை!\n")
+
+
 # Watching
 
 @pytest.fixture

@@ -318,6 +318,14 @@ def test_broken_links_and_pipes_are_told_and_the_others_run(project):
     assert "✅ சோதி_அ" in result.out
 
 
+def test_folder_that_is_gone_is_told(project):
+    project.write("சோதனைகள்/அ.பொழில்", "செயல் சோதி_அ():\n    விடு\n")
+    shell = ["/bin/sh", "-c", 'mkdir போனது && cd போனது && rmdir ../போனது && exec "$0" "$@"',
+             project.place.compiler.parent / "பொழில்", "test", project.place.folder]
+    result = run(shell, cwd=project.place.folder, env=project.place.env)
+    assert (result.status, result.err.count("இப்போதைய அடைவு இப்போது இல்லை")) == (FAILED, 1)
+
+
 # Ctrl+C
 
 def running_in(folder):

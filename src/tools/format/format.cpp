@@ -137,9 +137,6 @@ private:
         } else {
             std::cout << text.value_or(bytes) << std::flush;
         }
-        if (!std::cout) {
-            fail({{INPUT, "வெளியீட்டில் எழுத முடியவில்லை"}});
-        }
     }
 
     void formatFile(const std::string& path) {
