@@ -11,8 +11,10 @@
 #include "tools/word.h"
 
 #include <exception>
+#include <filesystem>
 #include <iostream>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace {
@@ -30,6 +32,11 @@ int run(const std::vector<std::string>& arguments) {
         reportFirstFailure(failure);
         return failure.fault ? tools::FAULT_IN_SOURCE : tools::FAILED;
     } catch (const std::exception& exception) {
+        std::error_code missing;
+        if (std::filesystem::current_path(missing).empty()) {
+            std::cerr << "பிழை: இப்போதைய அடைவு இப்போது இல்லை! வேறோர் அடைவுக்குப் போய் மீண்டும் முயற்சிக்கவும்." << std::endl;
+            return tools::FAILED;
+        }
         std::cerr << "பிழை: எதிர்பாராத சிக்கல்! (" << exception.what() << ")" << std::endl;
     }
     return tools::FAILED;

@@ -1,7 +1,9 @@
 #include "base/whole_file.h"
 
-#include <iterator>
+#include <array>
+#include <cstddef>
 #include <system_error>
+#include <utility>
 
 namespace pozhil {
 
@@ -15,7 +17,12 @@ std::optional<std::string> readFile(const std::filesystem::path& path) {
     if (!file.is_open()) {
         return std::nullopt;
     }
-    return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+    std::string bytes;
+    std::array<char, std::size_t(64) * 1024> piece{};
+    while (file.read(piece.data(), piece.size()) || file.gcount() > 0) {
+        bytes.append(piece.data(), static_cast<std::size_t>(file.gcount()));
+    }
+    return file.bad() ? std::nullopt : std::optional(std::move(bytes));
 }
 
 } // namespace pozhil

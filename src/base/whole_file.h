@@ -11,7 +11,7 @@ namespace pozhil {
 /// device might never end.
 std::ifstream openFile(const std::filesystem::path& path);
 
-/// All bytes of a file; nothing where openFile opens none.
+/// All bytes of a file; nothing where openFile opens none, or reading fails on the way.
 std::optional<std::string> readFile(const std::filesystem::path& path);
 
 } // namespace pozhil

@@ -30,6 +30,9 @@ struct CommandResult {
 
 // Programs that are waited for get the signals that end this process (platform/interrupt.h).
 
+/// As many programs may run at a time; signals don't reach more.
+constexpr std::size_t MOST_PROGRAMS = 64;
+
 /// Runs a program in the foreground with this process's console and waits for it.
 /// \return its exit status, 128 plus the signal if one ended it, COULD_NOT_START if there was none to start
 int run_command(const Command& command);

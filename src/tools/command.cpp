@@ -65,9 +65,7 @@ int complete(const std::vector<std::string>& arguments) {
     return DONE;
 }
 
-} // namespace
-
-int runCommand(const std::vector<std::string>& arguments) {
+int carryOut(const std::vector<std::string>& arguments) {
     if (arguments.size() < 2) {
         printHelp(std::cerr);
         return WRONG_USE;
@@ -93,6 +91,18 @@ int runCommand(const std::vector<std::string>& arguments) {
         return DONE;
     }
     return word->run(rest);
+}
+
+} // namespace
+
+int runCommand(const std::vector<std::string>& arguments) {
+    const int status = carryOut(arguments);
+    const bool isOfProgram = arguments.size() > 1 && findWord(arguments[1]) == &RUN;
+    if (isOfProgram || std::cout.flush()) {
+        return status;
+    }
+    std::cerr << "பிழை: வெளியீட்டில் எழுத முடியவில்லை!" << std::endl;
+    return FAILED;
 }
 
 } // namespace pozhil::tools

@@ -3,6 +3,7 @@
 import json
 import os
 import re
+import signal
 import time
 
 import pytest
@@ -281,6 +282,22 @@ def test_what_may_not_be_read_is_told(place, check):
     assert SUMMARY.format(1, 0, 0) in result.out
 
 
+def test_file_that_fails_while_it_is_read_is_told(place, check):
+    write(place, "நல்லது.பொழில்", GOOD)
+    result = check("நல்லது.பொழில்", "/proc/self/mem")
+    assert result.status == FAILED
+    assert result.err == "பிழை: '/proc/self/mem': இந்தக் கோப்பைப் படிக்க முடியவில்லை!\n"
+    assert result.out == "🚨 " + SUMMARY.format(1, 0, 0)
+
+
+@pytest.mark.parametrize("arguments", [[], ["--json"]])
+def test_output_that_takes_nothing_is_told(place, check, arguments):
+    write(place, "அ.பொழில்", GOOD)
+    with open("/dev/full", "wb") as full:
+        result = check(*arguments, stdout=full)
+    assert (result.status, result.err) == (FAILED, "பிழை: வெளியீட்டில் எழுத முடியவில்லை!\n")
+
+
 # Watching
 
 @pytest.fixture
@@ -322,6 +339,32 @@ def test_watching_sees_files_and_folders_come_and_go(place, watch):
         (place.folder / "அ.பொழில்").unlink()
         assert lines(session, before + 2)[-1]["checked"] == 0
         assert session.process.poll() is None
+
+
+@pytest.mark.parametrize("switch", ["--கண்காணி", "--watch"])
+def test_watching_tells_people_as_well_until_it_is_broken_off(place, command, switch):
+    write(place, "அ.பொழில்", GOOD)
+    with Session([command, "check", switch], cwd=place.folder, env=place.env) as session:
+        session.wait_for_output(SUMMARY.format(1, 0, 0))
+        place.change("அ.பொழில்", WRONG)
+        session.wait_for_output(SUMMARY.format(1, 1, 0))
+        assert "பொழி-304" in session.stdout.decode()
+        session.process.send_signal(signal.SIGINT)
+        assert session.wait_for_end() == -signal.SIGINT
+        assert session.stderr == b""
+
+
+def test_watched_file_may_be_replaced_go_and_come_back(place, watch):
+    write(place, "அ.பொழில்", GOOD)
+    with watch("அ.பொழில்") as session:
+        assert lines(session, 1)[0]["findings"] == []
+        write(place, "புதிது", WRONG)
+        (place.folder / "புதிது").replace(place.folder / "அ.பொழில்")  # as many editors save
+        assert len(lines(session, 2)[1]["findings"]) == 1
+        (place.folder / "அ.பொழில்").unlink()
+        assert [one["path"] for one in lines(session, 3)[2]["unread"]] == ["அ.பொழில்"]
+        write(place, "அ.பொழில்", GOOD)
+        assert lines(session, 4)[3]["unread"] == lines(session, 4)[3]["findings"] == []
 
 
 # The command

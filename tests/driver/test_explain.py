@@ -70,6 +70,13 @@ def test_number_of_the_second_edition(explain):
     assert "\n    ஃ பொழில் 2\n    வயது = 12\n    அச்சிடு(வயது)\n" in told.out.split(RIGHT)[1]
 
 
+@pytest.mark.parametrize("code", ["691", "692", "693"])
+def test_number_of_tests_has_tests_for_programs(explain, code):
+    told = explain(code).out
+    for program in (told.split(WRONG)[1].split(RIGHT)[0], told.split(RIGHT)[1]):
+        assert "\n    ஃ பொழில் 2\n" in program and "செயல் சோதி_" in program
+
+
 def test_number_of_the_second_edition_without_programs(explain):
     told = explain("502")
     assert told.status == OK

@@ -178,6 +178,24 @@ def test_mark_and_line_ends_of_other_systems_go(place, format):
     assert file.read_text() == TIDY * 2
 
 
+def test_file_that_is_too_large_is_left_and_told(place, command, format):
+    large = write(place, "அ.பொழில்", UNTIDY)
+    os.truncate(large, 100 * 1024 * 1024)
+    write(place, "ஆ.பொழில்", UNTIDY)
+    shell = ["/bin/sh", "-c", 'ulimit -v 400000 && exec "$0" "$@"', command, "format"]
+    result = run(shell, cwd=place.folder, env=place.env)
+    assert (result.status, result.out) == (FAULT, "ஆ.பொழில்\n")
+    assert "'அ.பொழில்': 16 MB-ஐ விடப் பெரிய நிரலை வடிவமைக்க முடியாது" in result.err
+    assert large.stat().st_size == 100 * 1024 * 1024
+
+
+def test_input_that_is_too_large_comes_out_as_it_is(format):
+    text = UNTIDY.encode() + b"\0" * (16 * 1024 * 1024)
+    result = format("-", stdin=text)
+    assert result.status == FAULT and result.stdout == text
+    assert "'-': 16 MB" in result.err
+
+
 # Writing
 
 def test_mode_stays(place, format):
@@ -204,6 +222,39 @@ def test_link_stays_one(place, format):
     assert [path.name for path in target.parent.iterdir()] == ["நிரல்.பொழில்"]
 
 
+def test_other_names_of_a_file_lead_to_the_same_one(place, format):
+    file = write(place, "அ.பொழில்", UNTIDY)
+    other = place.folder / "வேறு.txt"
+    other.hardlink_to(file)
+    file.chmod(0o640)
+    before = file.stat()
+    assert (format().status, format().out) == (OK, "")
+    assert other.read_text() == TIDY
+    assert file.stat().st_ino == other.stat().st_ino == before.st_ino
+    assert (file.stat().st_mode, file.stat().st_nlink) == (before.st_mode, 2)
+    assert names(place) == ["அ.பொழில்", "வேறு.txt"]
+
+
+def test_file_with_other_names_that_grows_is_whole(place, format):
+    shorter, longer = "அ=1\n" * 3000, "அ = 1\n" * 3000
+    file = write(place, "அ.பொழில்", shorter)
+    (place.folder / "வேறு.txt").hardlink_to(file)
+    assert format().status == OK
+    assert file.read_text() == longer
+
+
+@pytest.mark.skipif(os.geteuid() != 0, reason="only root can become somebody else")
+def test_file_of_somebody_else_that_one_may_write_is_formatted(place, format):
+    place.folder.chmod(0o777)
+    file = write(place, "அ.பொழில்", UNTIDY)
+    file.chmod(0o666)
+    result = format(user=NOBODY)
+    assert (result.status, result.out, result.err) == (OK, "அ.பொழில்\n", "")
+    assert file.read_text() == TIDY
+    assert (file.stat().st_uid, file.stat().st_mode & 0o777) == (os.geteuid(), 0o666)
+    assert names(place) == ["அ.பொழில்"]
+
+
 def test_locked_files_and_folders_are_told(place, format):
     place.folder.chmod(0o777)
     locked = write(place, "அ.பொழில்", UNTIDY)
@@ -220,8 +271,11 @@ def test_locked_files_and_folders_are_told(place, format):
     assert locked.read_text() == inside.read_text() == UNTIDY
 
 
-def test_full_disk_leaves_the_file(place, command):
+@pytest.mark.parametrize("has_other_name", [False, True])
+def test_full_disk_leaves_the_file(place, command, has_other_name):
     file = write(place, "அ.பொழில்", UNTIDY * 200)
+    if has_other_name:
+        (place.folder.parent / "வேறு.பொழில்").hardlink_to(file)
     shell = ["/bin/sh", "-c", 'ulimit -f 1 && exec "$0" "$@"', command, "format", "அ.பொழில்"]
     result = run(shell, cwd=place.folder, env=place.env)
     assert (result.status, result.out) == (FAILED, "")

@@ -44,6 +44,18 @@ def test_project_has_a_program_without_faults_and_hints(place, new, web, edition
     assert ("பொழில் சோதி" in readme) == marked
 
 
+@pytest.mark.parametrize("name", ["வேலை", "என் வேலை", "அ'ஆ", "$(ls)", "வரி\nமாறும்", "க;ங"])
+def test_what_to_type_next_can_be_typed(place, new, name):
+    _, _, told = new(name).out.partition("👉 ")
+    shell = told.split("; பொழில் ஓட்டு")[0] + " && exec ls முதன்மை.பொழில்"
+    result = run(["/bin/sh", "-c", shell], cwd=place.folder, env=place.env)
+    assert (result.status, result.out) == (OK, "முதன்மை.பொழில்\n")
+
+
+def test_plain_name_is_told_as_it_is(new):
+    assert "👉 cd வேலை; பொழில் ஓட்டு முதன்மை.பொழில்\n" in new("வேலை").out
+
+
 @pytest.mark.parametrize("web", [[], ["--web"]])
 def test_new_project_passes_its_test(real_place, web):
     command = real_place.compiler.parent / "பொழில்"

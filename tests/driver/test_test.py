@@ -1,11 +1,13 @@
 """The word சோதி of the command பொழில்: which tests run, what is told of them, and how the command ends."""
 
 import os
+import signal
+from pathlib import Path
 
 import pytest
 
 from support.compiler import REPOSITORY
-from support.process import run
+from support.process import Session, run
 from support.workplace import NOBODY
 
 OK, FAILURE, WRONG_USE, FAILED = 0, 1, 2, 3
@@ -239,5 +241,131 @@ def test_nothing_of_a_run_stays_beside_the_program(project):
     project.write("சோதனைகள்/அ_சோதி.பொழில்", "செயல் சோதி_அ():\n    உறுதிசெய்(மெய், \"\")\n")
     project.test()
     first = sorted(project.place.folder.glob(".நிலையற்ற/**/*"))
+    assert not list(project.place.folder.glob(".நிலையற்ற/சோதி.*"))
     project.test()
     assert sorted(project.place.folder.glob(".நிலையற்ற/**/*")) == first
+
+
+# Several at a time
+
+MEETING = """செயல் சந்தி(நான், அவன்):
+    கோப்பு_எழுது(நான், "")
+    சுற்று இல்லை கோப்பு_உள்ளதா(அவன்):
+        விடு
+
+செயல் சோதி_அ():
+    சந்தி("அ.txt", "ஆ.txt")
+
+செயல் சோதி_ஆ():
+    சந்தி("ஆ.txt", "அ.txt")
+"""
+
+
+@pytest.mark.skipif(os.cpu_count() < 2, reason="on one processor tests run one after the other")
+def test_tests_run_at_the_same_time(project):
+    project.write("சோதனைகள்/அ.பொழில்", MEETING)
+    result = project.test()
+    assert (result.status, result.out.splitlines()[-1] + "\n") == (OK, "✅ " + summary(2, 0))
+
+
+# What fails outside of tests, and what stands beside them
+
+def test_fault_of_the_files_own_statements_fails_each_of_its_tests(project):
+    project.write("கருவி.பொழில்", "செயல் இரட்டி(எ):\n    திரும்பு எ பெருக்கு 2\n")
+    project.write("சோதனைகள்/அ.பொழில்", 'நூஇறக்கி "../கருவி"\nஆ = [1]\nஅச்சிடு("முன்னே")\nஇ = ஆ[5]\n\n'
+                  "செயல் சோதி_ஒன்று():\n    விடு\n\nசெயல் சோதி_இரண்டு():\n    விடு\n")
+    project.write("சோதனைகள்/ஆ.பொழில்", 'நூஇறக்கி "../கருவி"\nநூஇறக்கி "அருகில்/துணை"\n\n'
+                  "செயல் சோதி_மூன்று():\n    சமம்_உறுதி(இரட்டி(துணை()), 14)\n")
+    project.write("சோதனைகள்/அருகில்/துணை.பொழில்", "செயல் துணை():\n    திரும்பு 7\n")
+    result = project.test()
+    assert (result.status, result.err) == (FAILURE, "")
+    assert result.out.endswith(summary(1, 2))
+    assert result.out.count("முன்னே\n") == 2 and result.out.count("வரி 5\n") == 2
+    assert "✅ சோதி_மூன்று" in result.out
+
+
+def test_names_may_hold_anything(project):
+    names = ["இரு சொல்.பொழில்", "வரி\nமாறும்.பொழில்", "-தொடக்கம்.பொழில்", "'\"$(ls);*.பொழில்", "கொக்கிகள்ௌ😀.பொழில்"]
+    for name in names:
+        project.write(f"ஒரு திட்டம்\n/சோதனைகள்/{name}", "செயல் சோதி_இது():\n    சமம்_உறுதி(1, 1)\n")
+    result = project.test("ஒரு திட்டம்\n")
+    assert (result.status, result.err) == (OK, "")
+    assert result.out.endswith("✅ " + summary(len(names), 0))
+    assert all(name in result.out for name in names)
+
+
+def test_links_are_followed_but_not_round(project):
+    project.write("சோதனைகள்/அ.பொழில்", "செயல் சோதி_அ():\n    விடு\n")
+    tests = project.place.folder / "சோதனைகள்"
+    (tests / "மேல்").symlink_to("..")
+    (tests / "அடைவு.பொழில்").symlink_to("..")
+    (tests / "ஆ.பொழில்").symlink_to("அ.பொழில்")
+    (project.place.folder / "வேறு").symlink_to(".")
+    result = project.test(".", "வேறு", "சோதனைகள்", "சோதனைகள்/அ.பொழில்")
+    assert (result.status, result.err) == (OK, "")
+    assert result.out.endswith("✅ " + summary(1, 0))
+
+
+def test_broken_links_and_pipes_are_told_and_the_others_run(project):
+    project.write("சோதனைகள்/நல்லது.பொழில்", "செயல் சோதி_அ():\n    விடு\n")
+    tests = project.place.folder / "சோதனைகள்"
+    (tests / "உடைந்தது.பொழில்").symlink_to("எங்கும்_இல்லை")
+    (tests / "தான்.பொழில்").symlink_to("தான்.பொழில்")
+    os.mkfifo(tests / "குழாய்.பொழில்")
+    result = project.test(timeout=30)
+    assert result.status == FAILED and not result.timed_out
+    assert result.out.count("இந்தக் கோப்பைப் படிக்க முடியவில்லை") == 3
+    assert "✅ சோதி_அ" in result.out
+
+
+def test_folder_that_is_gone_is_told(project):
+    project.write("சோதனைகள்/அ.பொழில்", "செயல் சோதி_அ():\n    விடு\n")
+    shell = ["/bin/sh", "-c", 'mkdir போனது && cd போனது && rmdir ../போனது && exec "$0" "$@"',
+             project.place.compiler.parent / "பொழில்", "test", project.place.folder]
+    result = run(shell, cwd=project.place.folder, env=project.place.env)
+    assert (result.status, result.err.count("இப்போதைய அடைவு இப்போது இல்லை")) == (FAILED, 1)
+
+
+# Ctrl+C
+
+def running_in(folder):
+    """The numbers of the processes that run in a folder, or what was built there."""
+    found = []
+    for process in Path("/proc").iterdir():
+        try:
+            if process.name.isdigit() and os.readlink(process / "cwd").startswith(str(folder)):
+                found.append(process.name)
+        except OSError:
+            pass  # it ended meanwhile
+    return found
+
+
+ENDLESS = """செயல் சோதி_முடிவில்லாதது():
+    கோப்பு_எழுது("தொடங்கியது.txt", "")
+    சுற்று மெய்:
+        விடு
+"""
+
+
+@pytest.mark.parametrize("number", [signal.SIGINT, signal.SIGTERM, signal.SIGHUP])
+def test_what_is_broken_off_leaves_nothing_running(project, number):
+    folder = project.place.folder
+    project.write("சோதனைகள்/அ.பொழில்", ENDLESS)
+    command = [project.place.compiler.parent / "பொழில்", "test", "--seconds", "60"]
+    with Session(command, cwd=folder, env=project.place.env) as session:
+        session.wait_until((folder / "தொடங்கியது.txt").exists)
+        session.process.send_signal(number)
+        assert session.wait_for_end() in (-number, 128 + number)
+        session.wait_until(lambda: running_in(folder) == [], 5)
+    assert [path.name for path in folder.glob(".நிலையற்ற/சோதி.*")] == []
+
+
+def test_what_is_broken_off_while_it_is_built_leaves_nothing_running(place, tools):
+    tools.stands_in_for("g++", "exec /bin/sleep 60")
+    folder = place.folder
+    Project(place).write("சோதனைகள்/அ.பொழில்", ENDLESS)
+    with Session([place.compiler.parent / "பொழில்", "test"], cwd=folder, env=place.env) as session:
+        session.wait_until(lambda: tools.calls("g++"))
+        session.process.send_signal(signal.SIGINT)
+        session.wait_for_end()
+        session.wait_until(lambda: running_in(folder) == [], 5)

@@ -7,6 +7,7 @@ import pytest
 from support import guide
 from support.case_check import check_case
 from support.compiler import compiler_path
+from support.shown_tests import check_tests
 
 PROGRAMS = [program for page in guide.pages() for program in guide.read_programs(guide.read_fences(page))]
 
@@ -26,7 +27,10 @@ def _place(program):
 
 @pytest.mark.parametrize("program", PROGRAMS, ids=_place)
 def test_program(program, tmp_path):
-    trouble = check_case(guide.as_case(program, tmp_path), compiler_path())
+    if program.is_test:
+        trouble = check_tests(program, tmp_path, compiler_path())
+    else:
+        trouble = check_case(guide.as_case(program, tmp_path), compiler_path())
     assert not trouble, f"{program.place}\n{trouble}"
 
 

@@ -17,6 +17,7 @@ COMMAND_PAGE = REPOSITORY / "docs" / "கட்டளை.md"
 # The tag of a fence is its first word; a name behind the first two makes a file that stands beside the next program.
 PROGRAM = "பொழில்"
 WEB_PROGRAM = "பொழில்-வலை"
+TEST_PROGRAM = "பொழில்-சோதனை"
 FILE = "கோப்பு"
 WORDS = "சொற்கள்"
 FRAGMENT = "துண்டு"
@@ -69,6 +70,11 @@ class Program:
         """That of the language in which it is written."""
         return 2 if self.fence.lines[:1] == [t.SECOND_EDITION_MARKER] else 1
 
+    @property
+    def is_test(self):
+        """Whether it is a file of tests, which the command பொழில் runs."""
+        return self.fence.tag == TEST_PROGRAM
+
 
 def pages():
     """All pages whose programs are tests, in order."""
@@ -104,7 +110,7 @@ def read_programs(fences):
     for fence in fences:
         if fence.tag in (PROGRAM, FILE) and fence.name:
             files.append(fence)
-        elif fence.tag in (PROGRAM, WEB_PROGRAM):
+        elif fence.tag in (PROGRAM, WEB_PROGRAM, TEST_PROGRAM):
             entries = [(cf.EMITTED, _WEB_TEXT)] if fence.tag == WEB_PROGRAM else []
             programs.append(Program(fence, {file.name: file.text for file in files}, entries))
             files = []

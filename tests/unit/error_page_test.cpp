@@ -30,6 +30,14 @@ TEST(ShownPrograms, OutputThatLooksLikeAFaultIsNone) {
     EXPECT_EQ(shownPrograms(PAGE, "பொழி-305").wrong, "தவறு 4\n");
 }
 
+TEST(ShownPrograms, AreTestsToo) {
+    const auto shown = shownPrograms("```பொழில்-சோதனை\nதவறு\n```\n```இயக்கநேர_பிழை\nபொழி-691 வரி 1\n```\n"
+                                     "```பொழில்-சோதனை\nசரி\n```\n```வெளியீடு\n✅\n```\n",
+                                     "பொழி-691");
+    EXPECT_EQ(shown.wrong, "தவறு\n");
+    EXPECT_EQ(shown.right, "சரி\n");
+}
+
 TEST(ShownPrograms, AreNoneForACodeThatThePageLacks) {
     EXPECT_EQ(shownPrograms(PAGE, "பொழி-3").wrong, "");
     EXPECT_EQ(shownPrograms("", "பொழி-304").wrong, "");

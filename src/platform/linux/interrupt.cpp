@@ -1,6 +1,7 @@
 #include "platform/interrupt.h"
 
 #include "platform/linux/running_program.h"
+#include "platform/process.h"
 
 #include <array>
 #include <cerrno>
@@ -11,9 +12,6 @@
 
 namespace pozhil::platform {
 namespace {
-
-/// More programs at a time than are ever run.
-constexpr std::size_t MOST_PROGRAMS = 8;
 
 // Lock-free, and so the one way to share values with a signal handler, which may run on any thread.
 std::atomic<const char*> farewell{nullptr};

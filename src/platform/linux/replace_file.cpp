@@ -41,12 +41,49 @@ bool takeOver(int descriptor, const struct stat& former) {
            fchmod(descriptor, former.st_mode & ALL_OF_MODE) == 0;
 }
 
-std::error_code writeLike(const struct stat& former, const fs::path& made, std::string_view contents) {
+/// Whether another file may take the place of one: its other names would go on leading to the old one, and a new file may
+/// not be given to any owner.
+bool canStandFor(int descriptor, const struct stat& former) {
+    return former.st_nlink == 1 && takeOver(descriptor, former);
+}
+
+/// \param stands whether the new file can take the place of the former one
+std::error_code writeNew(const fs::path& made, std::string_view contents, const struct stat& former, bool& stands) {
     const int descriptor = open(made.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, MODE_AT_FIRST);
     if (descriptor < 0) {
         return lastError();
     }
-    const bool isWhole = writeAll(descriptor, contents) && takeOver(descriptor, former) && fsync(descriptor) == 0;
+    const bool isWhole = writeAll(descriptor, contents);
+    std::error_code error = isWhole ? std::error_code() : lastError();
+    stands = canStandFor(descriptor, former);
+    if (!error && fsync(descriptor) != 0) {
+        error = lastError();
+    }
+    if (close(descriptor) != 0 && !error) {
+        error = lastError();
+    }
+    return error;
+}
+
+/// Takes the room for so many bytes, so that a full disk is known before anything is lost.
+/// \return false if there is none, the file being as it was
+bool takeRoom(int descriptor, off_t size, const struct stat& former) {
+    const int failure = size > 0 ? posix_fallocate(descriptor, 0, size) : 0;
+    if (failure != 0 && ftruncate(descriptor, former.st_size) == 0) {
+        errno = failure;
+    }
+    return failure == 0;
+}
+
+std::error_code writeOver(const fs::path& target, std::string_view contents, const struct stat& former) {
+    // Some file systems read where room is taken.
+    const int descriptor = open(target.c_str(), O_RDWR | O_CLOEXEC);
+    if (descriptor < 0) {
+        return lastError();
+    }
+    const auto size = static_cast<off_t>(contents.size());
+    const bool isWhole = takeRoom(descriptor, size, former) && writeAll(descriptor, contents) &&
+                         ftruncate(descriptor, size) == 0 && fsync(descriptor) == 0;
     std::error_code error = isWhole ? std::error_code() : lastError();
     if (close(descriptor) != 0 && !error) {
         error = lastError();
@@ -67,11 +104,14 @@ std::error_code replaceFile(const fs::path& file, std::string_view contents) {
         return lastError();
     }
     const fs::path made = freshBeside(target.parent_path() / ".pozhil");
-    error = writeLike(former, made, contents);
-    if (!error) {
+    bool stands = false;
+    error = writeNew(made, contents, former, stands);
+    if (!error && stands) {
         fs::rename(made, target, error);
+    } else if (!error) {
+        error = writeOver(target, contents, former);
     }
-    if (error) {
+    if (error || !stands) {
         unlink(made.c_str());
     }
     return error;

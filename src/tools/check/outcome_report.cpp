@@ -17,8 +17,8 @@ void printHint(std::ostream& out, const report::FaultText& hint, bool coloured) 
 void printSummary(const Outcome& outcome) {
     const std::size_t faults = countOf(outcome.findings, Finding::Kind::Fault);
     const std::size_t hints = countOf(outcome.findings, Finding::Kind::Hint);
-    std::cout << (faults == 0 ? "✅ " : "🚨 ") << "சரிபார்த்த கோப்புகள்: " << outcome.checked << ", பிழைகள்: " << faults
-              << ", குறிப்புகள்: " << hints << std::endl;
+    std::cout << (faults == 0 && outcome.unread.empty() ? "✅ " : "🚨 ") << "சரிபார்த்த கோப்புகள்: " << outcome.checked
+              << ", பிழைகள்: " << faults << ", குறிப்புகள்: " << hints << std::endl;
 }
 
 } // namespace

@@ -3,14 +3,14 @@
 #include "base/text.h"
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 namespace pozhil::tools {
 namespace {
 
 constexpr std::string_view FENCE = "```";
-constexpr std::string_view PROGRAM = "பொழில்";
-constexpr std::string_view WEB_PROGRAM = "பொழில்-வலை";
+constexpr std::string_view PROGRAMS[] = {"பொழில்", "பொழில்-வலை", "பொழில்-சோதனை"};
 constexpr std::string_view FAULT = "பிழை";
 constexpr std::string_view RUNNING_FAULT = "இயக்கநேர_பிழை";
 
@@ -55,10 +55,14 @@ Fence takeFence(std::string_view& page) {
     return fence;
 }
 
+bool isProgram(const Fence& fence) {
+    return std::find(std::begin(PROGRAMS), std::end(PROGRAMS), fence.tag) != std::end(PROGRAMS);
+}
+
 std::vector<Program> programsOf(std::string_view page) {
     std::vector<Program> programs;
     for (Fence fence = takeFence(page); !fence.tag.empty(); fence = takeFence(page)) {
-        if (fence.tag == PROGRAM || fence.tag == WEB_PROGRAM) {
+        if (isProgram(fence)) {
             programs.push_back({fence.text, {}});
         } else if ((fence.tag == FAULT || fence.tag == RUNNING_FAULT) && !programs.empty()) {
             programs.back().code = fence.text.substr(0, fence.text.find(' '));

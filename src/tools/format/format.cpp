@@ -10,6 +10,7 @@
 #include "tools/word.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <iostream>
 #include <iterator>
@@ -51,6 +52,8 @@ Exit status: 0 all is well, 1 a fault in a program (--check: or a file would cha
 )";
 
 constexpr const char* INPUT = "-";
+/// In bytes; tokens and tree take some sixty times as much.
+constexpr std::uintmax_t LARGEST = std::uintmax_t(16) * 1024 * 1024;
 
 struct Order {
     std::vector<std::string> given;
@@ -127,18 +130,21 @@ private:
     /// What can't be formatted comes out as it went in, so that no editor loses it.
     void formatInput() {
         const std::string bytes((std::istreambuf_iterator<char>(std::cin)), std::istreambuf_iterator<char>());
-        const std::optional<std::string> text = formatted(INPUT, bytes);
+        const std::optional<std::string> text =
+            isTooLarge(bytes.size(), INPUT) ? std::nullopt : formatted(INPUT, bytes);
         if (order_.checkOnly) {
             noteChange(text && *text != bytes, INPUT);
         } else {
             std::cout << text.value_or(bytes) << std::flush;
         }
-        if (!std::cout) {
-            fail({{INPUT, "வெளியீட்டில் எழுத முடியவில்லை"}});
-        }
     }
 
     void formatFile(const std::string& path) {
+        std::error_code ignored;
+        if (fs::is_regular_file(fs::u8path(path), ignored) &&
+            isTooLarge(fs::file_size(fs::u8path(path), ignored), path)) {
+            return;
+        }
         const std::optional<std::string> bytes = readFile(fs::u8path(path));
         if (!bytes) {
             fail({{path, "இந்தக் கோப்பைப் படிக்க முடியவில்லை"}});
@@ -155,6 +161,17 @@ private:
             }
         }
         noteChange(true, path);
+    }
+
+    /// Tells it of a file that is.
+    bool isTooLarge(std::uintmax_t size, const std::string& path) {
+        if (size <= LARGEST) {
+            return false;
+        }
+        raise(FAULT_IN_SOURCE);
+        std::cerr << "பிழை: '" << path
+                  << "': 16 MB-ஐ விடப் பெரிய நிரலை வடிவமைக்க முடியாது; எனவே இது இருந்தபடியே இருக்கிறது!" << std::endl;
+        return true;
     }
 
     /// The bytes in the one style; nothing, after telling why, if they are to stay as they are.

@@ -86,6 +86,18 @@ std::optional<Order> readOrder(const std::vector<std::string>& arguments) {
     return order;
 }
 
+/// As a shell takes it for one word, if it could take it for anything else.
+std::string shellWord(const std::string& text) {
+    if (text.find_first_of(" \t\n\r\"'\\$`&|;<>()[]{}*?!#~^=%") == std::string::npos) {
+        return text;
+    }
+    std::string quoted = "'";
+    for (const char c : text) {
+        quoted += c == '\'' ? "'\\''" : std::string(1, c);
+    }
+    return quoted + "'";
+}
+
 /// \return whether all of it could be written
 bool writeFile(const fs::path& path, const std::string& text) {
     std::error_code ignored; // a folder that isn't there shows with the file
@@ -121,7 +133,7 @@ int makeProject(const std::vector<std::string>& arguments) {
             return tellUnwritable(order->folder);
         }
     }
-    std::cout << "✅ புதிய அடைவு: " << order->folder.u8string() << "\n👉 cd " << order->folder.u8string()
+    std::cout << "✅ புதிய அடைவு: " << order->folder.u8string() << "\n👉 cd " << shellWord(order->folder.u8string())
               << "; பொழில் ஓட்டு முதன்மை.பொழில்" << std::endl;
     return DONE;
 }

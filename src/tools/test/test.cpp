@@ -132,9 +132,9 @@ int test(const std::vector<std::string>& arguments) {
     FrontEndOptions options;
     options.moduleDirectories = settings::moduleDirectories(platform::executableDirectory().u8string());
     options.isTest = true;
-    const std::vector<TestProgram> programs = makeTestPrograms(files.paths, options, order->namePart);
+    ProgramFolder folder;
+    const std::vector<TestProgram> programs = makeTestPrograms(files.paths, options, order->namePart, folder);
     const TestCounts counts = runTests(programs, order->settings);
-    removeTestPrograms(programs);
     const int status = statusOf(programs, counts, !files.unreadable.empty());
     if (status == DONE && counts.passed == 0) {
         refuse(order->namePart.empty() ? "சோதனை எதுவும் இல்லை!"

@@ -3,17 +3,19 @@
 #include "driver/native/second_build.h"
 #include "driver/output_stage.h"
 #include "front_end/second_edition.h"
+#include "platform/fresh_path.h"
 #include "platform/paths.h"
 #include "tools/test/in_parallel.h"
 
 #include <memory>
-#include <random>
 #include <string>
 #include <system_error>
 #include <utility>
 
 namespace pozhil::tools {
 namespace {
+
+namespace fs = std::filesystem;
 
 void translate(TestProgram& test, const FrontEndOptions& options, const std::string& namePart) {
     const SourcePtr source = loadSource(test.path, options);
@@ -43,23 +45,10 @@ void translate(TestProgram& test, const FrontEndOptions& options, const std::str
     }
 }
 
-/// The same program under a name of its own: whoever builds the file meanwhile puts another one in its place.
-/// \return empty if the disk has no room for it
-std::filesystem::path ownProgram(const std::filesystem::path& program) {
-    std::filesystem::path own = program;
-    own += "_" + std::to_string(std::random_device()());
-    std::error_code error;
-    std::filesystem::create_hard_link(program, own, error);
-    if (error) {
-        std::filesystem::copy_file(program, own, error);
-    }
-    return error ? std::filesystem::path() : own;
-}
-
 /// A program that is being built.
 class Building {
 public:
-    explicit Building(TestProgram& test) : test_(test) {}
+    Building(TestProgram& test, ProgramFolder& folder) : test_(test), folder_(folder) {}
 
     void start() {
         const auto directory = directoryOfSource(prepareTemporaryDirectory(), test_.path);
@@ -73,7 +62,7 @@ public:
     void finish() {
         if (build_ != nullptr) {
             const auto program = build_->finishProgram(test_.translation);
-            test_.program = program ? ownProgram(*program) : std::filesystem::path();
+            test_.program = program ? folder_.keep(*program) : fs::path();
         }
         if (test_.program.empty()) {
             test_.refusal = "சோதனைகளைத் தொகுக்க முடியவில்லை!";
@@ -82,13 +71,36 @@ public:
 
 private:
     TestProgram& test_;
+    ProgramFolder& folder_;
     std::unique_ptr<SecondBuild> build_;
 };
 
 } // namespace
 
+ProgramFolder::~ProgramFolder() {
+    if (!path_.empty()) {
+        std::error_code ignored;
+        fs::remove_all(path_, ignored);
+    }
+}
+
+fs::path ProgramFolder::keep(const fs::path& program) {
+    std::error_code error;
+    if (path_.empty()) {
+        path_ = platform::freshBeside(prepareTemporaryDirectory() / "சோதி");
+        removal_.emplace(path_);
+        fs::create_directory(path_, error);
+    }
+    const fs::path own = path_ / std::to_string(count_++);
+    fs::create_hard_link(program, own, error);
+    if (error) {
+        fs::copy_file(program, own, error);
+    }
+    return error ? fs::path() : own;
+}
+
 std::vector<TestProgram> makeTestPrograms(const std::vector<std::string>& paths, const FrontEndOptions& options,
-                                          const std::string& namePart) {
+                                          const std::string& namePart, ProgramFolder& folder) {
     std::vector<TestProgram> programs;
     programs.reserve(paths.size());
     std::vector<Building> buildings;
@@ -96,20 +108,13 @@ std::vector<TestProgram> makeTestPrograms(const std::vector<std::string>& paths,
         programs.push_back({path});
         translate(programs.back(), options, namePart);
         if (!programs.back().tests.empty()) {
-            buildings.emplace_back(programs.back());
+            buildings.emplace_back(programs.back(), folder);
         }
     }
     inParallel(
         buildings.size(), [&](std::size_t index) { buildings[index].start(); },
         [&](std::size_t index) { buildings[index].finish(); });
     return programs;
-}
-
-void removeTestPrograms(const std::vector<TestProgram>& programs) {
-    for (const TestProgram& test : programs) {
-        std::error_code ignored;
-        std::filesystem::remove(test.program, ignored);
-    }
 }
 
 } // namespace pozhil::tools

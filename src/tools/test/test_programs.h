@@ -2,8 +2,11 @@
 
 #include "driver/second_translation.h"
 #include "front_end/front_end.h"
+#include "platform/interrupt.h"
 
+#include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,13 +25,30 @@ struct TestProgram {
     bool isUnreadable = false;
 };
 
+/// Where the programs of one run stand, since whoever builds a file meanwhile puts another program in the place of that which
+/// was built of it. It goes with the object, and with a signal that ends this process.
+class ProgramFolder {
+public:
+    ProgramFolder() = default;
+    ~ProgramFolder();
+    ProgramFolder(const ProgramFolder&) = delete;
+    ProgramFolder& operator=(const ProgramFolder&) = delete;
+
+    /// \return the same program under a name in the folder; empty if the disk has no room for it
+    std::filesystem::path keep(const std::filesystem::path& program);
+
+private:
+    /// Empty until there is a program.
+    std::filesystem::path path_;
+    std::optional<platform::EndingRemoval> removal_;
+    std::size_t count_ = 0;
+};
+
 /// Reads and translates test files, and builds those that have tests to run, several at a time.
 /// \param namePart which tests to run: those whose names hold it
+/// \param folder for what is built, needed as long as the tests run
 /// \return one for each path
 std::vector<TestProgram> makeTestPrograms(const std::vector<std::string>& paths, const FrontEndOptions& options,
-                                          const std::string& namePart);
-
-/// Removes what was built.
-void removeTestPrograms(const std::vector<TestProgram>& programs);
+                                          const std::string& namePart, ProgramFolder& folder);
 
 } // namespace pozhil::tools
