@@ -8,8 +8,8 @@
 
 namespace pozhil::tools {
 
-/// Starts pieces of work that go on by themselves, each a program at most, as many at a time as the machine has processors, and finishes them in
-/// their order.
+/// Starts pieces of work that go on by themselves, each a program at most, as many at a time as the machine has processors,
+/// and finishes them in their order.
 /// \param start starts piece number i
 /// \param finish waits for it
 template <class Start, class Finish> void inParallel(std::size_t count, Start start, Finish finish) {
