@@ -6,6 +6,7 @@
 #include "tools/language_server/requests/folding.h"
 #include "tools/language_server/requests/formatting.h"
 #include "tools/language_server/requests/hover.h"
+#include "tools/language_server/requests/rename.h"
 #include "tools/language_server/requests/semantic_tokens.h"
 #include "tools/language_server/requests/signature_help.h"
 #include "tools/language_server/requests/symbols.h"
@@ -32,7 +33,9 @@ RequestHandler findRequest(const std::string& method) {
         {"textDocument/foldingRange", foldingRanges},
         {"textDocument/formatting", formatting},
         {"textDocument/hover", hover},
+        {"textDocument/prepareRename", prepareRename},
         {"textDocument/references", references},
+        {"textDocument/rename", rename},
         {"textDocument/semanticTokens/full", semanticTokens},
         {"textDocument/signatureHelp", signatureHelp},
     };
@@ -64,6 +67,7 @@ Json capabilities(Encoding encoding) {
         {"foldingRangeProvider", true},
         {"hoverProvider", true},
         {"referencesProvider", true},
+        {"renameProvider", {{"prepareProvider", true}}},
         {"semanticTokensProvider", {{"legend", semanticTokenLegend()}, {"full", true}}},
         {"signatureHelpProvider", {{"triggerCharacters", {"(", ","}}}},
     };
