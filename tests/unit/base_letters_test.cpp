@@ -64,4 +64,10 @@ TEST(NearestWord, IsNeverTheWordItself) {
     EXPECT_EQ(nearestWord("abc", {"abc", "abd"}), "abd");
 }
 
+TEST(NearestWord, IsTheOnlyOneUnlessOthersAreAsNear) {
+    EXPECT_TRUE(isOnlyNearest("abcdef", "abcdeg", {"abcdeg", "abcxyz"}));
+    EXPECT_FALSE(isOnlyNearest("abcdef", "abcdeg", {"abcdeg", "abcdeh"}));
+    EXPECT_TRUE(isOnlyNearest("abcdef", "abcdeg", {"abcdeg", "abcdeg", "abcdef"}));
+}
+
 } // namespace

@@ -129,4 +129,10 @@ TEST(Spelling, ComparesBytesThatAreNoLettersOneByOne) {
     EXPECT_FALSE(looksLikeMisspeltKeyword("எனில்\x80\x80"));
 }
 
+TEST(Spelling, KnowsTheOneKeywordThatIsMeant) {
+    EXPECT_EQ(keywordMeantBy("சுற்ற"), "சுற்று");
+    EXPECT_EQ(keywordMeantBy("எனில்"), "");
+    EXPECT_EQ(keywordMeantBy("வேறு"), "");
+}
+
 } // namespace

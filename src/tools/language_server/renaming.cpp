@@ -5,6 +5,7 @@
 #include "platform/paths.h"
 #include "scanner/second/normal_form.h"
 #include "tools/check/source_search.h"
+#include "tools/language_server/changed_texts.h"
 #include "tools/language_server/new_name.h"
 #include "tools/language_server/protocol.h"
 #include "tools/language_server/rename_proof.h"
@@ -356,25 +357,16 @@ void refuseKnownName(const Workspace& workspace, const NameUse& use, const std::
     }
 }
 
-/// The texts of the workspace with the other name.
-void setRenamed(const Workspace& workspace, const NameUse& use, const std::string& newName, OpenTexts& texts) {
-    for (const SourcePtr& open : workspace.openSources()) {
-        texts.set(SecondImports::keyOf(open->path), open);
-    }
+/// Gives the texts the other name.
+void changeName(const NameUse& use, const std::string& newName, ChangedTexts& texts) {
     std::map<std::string, std::pair<SourcePtr, std::vector<ByteRange>>> places;
     for (const Reference& place : use.places) {
-        auto& file = places[SecondImports::keyOf(place.source->path)];
+        auto& file = places[place.source->path];
         file.first = place.source;
         file.second.push_back(place.place);
     }
-    for (auto& [key, file] : places) {
-        std::sort(file.second.begin(), file.second.end(),
-                  [](ByteRange one, ByteRange other) { return one.begin > other.begin; });
-        std::string text = file.first->text;
-        for (const ByteRange& place : file.second) {
-            text.replace(place.begin, place.end - place.begin, newName);
-        }
-        texts.set(key, makeSource(file.first->path, std::move(text)));
+    for (auto& [path, file] : places) {
+        texts.change(file.first, std::move(file.second), newName);
     }
 }
 
@@ -434,18 +426,15 @@ void checkNewName(const Workspace& workspace, const NameUse& use, const std::str
     refuseOtherKindOfName(use, name);
     refusePageInTexts(use);
     refuseKnownName(workspace, use, name);
-    OpenTexts renamed;
-    setRenamed(workspace, use, newName, renamed);
-    FrontEndOptions options = workspace.frontEndOptions();
+    ChangedTexts renamed(workspace);
+    changeName(use, newName, renamed);
     for (const NamedSource& program : use.programs) {
-        const auto before = compiledText(program.source, options);
+        const auto before = compiledText(program.source, workspace.frontEndOptions());
         if (!before) {
             refuse(inQuotes(fileName(program.source)) + " நிரலில் பிழை உள்ளது; அதைச் சரிசெய்த பின் பெயரை மாற்றலாம்.");
         }
-        FrontEndOptions renamedOptions = options;
-        renamedOptions.loader = &renamed;
         const SourcePtr source = renamed.load(program.source->path);
-        const auto after = source == nullptr ? std::nullopt : compiledText(source, renamedOptions);
+        const auto after = source == nullptr ? std::nullopt : compiledText(source, renamed.options());
         if (!after || !isSameButForName(*before, *after, use.name, name)) {
             refuse(inQuotes(newName) + " என்று மாற்றினால் " + inQuotes(fileName(program.source)) + " நிரலின் பொருள் மாறும்.");
         }

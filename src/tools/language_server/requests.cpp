@@ -1,5 +1,6 @@
 #include "tools/language_server/requests.h"
 
+#include "tools/language_server/requests/code_actions.h"
 #include "tools/language_server/requests/colours.h"
 #include "tools/language_server/requests/completion.h"
 #include "tools/language_server/requests/definition.h"
@@ -24,6 +25,7 @@ constexpr int INCREMENTAL = 2;
 
 RequestHandler findRequest(const std::string& method) {
     static const std::map<std::string, RequestHandler> handlers = {
+        {"textDocument/codeAction", codeActions},
         {"textDocument/colorPresentation", colourPresentations},
         {"textDocument/completion", completion},
         {"textDocument/definition", definition},
@@ -58,6 +60,7 @@ Json capabilities(Encoding encoding) {
     return {
         {"positionEncoding", encoding == Encoding::Utf8 ? "utf-8" : "utf-16"},
         {"textDocumentSync", {{"openClose", true}, {"change", INCREMENTAL}}},
+        {"codeActionProvider", {{"codeActionKinds", {"quickfix"}}}},
         {"colorProvider", true},
         {"completionProvider", {{"triggerCharacters", {".", "\"", ":"}}}},
         {"definitionProvider", true},
