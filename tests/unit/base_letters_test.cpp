@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+using pozhil::isOnlyNearest;
 using pozhil::letterDistance;
 using pozhil::Letters;
 using pozhil::nearestWord;

@@ -10,6 +10,7 @@
 
 namespace {
 
+using pozhil::keywordMeantBy;
 using pozhil::looksLikeMisspeltKeyword;
 using pozhil::typoCandidates;
 
