@@ -115,8 +115,9 @@ void CallAnalysis::analyseTimeMethod(const CallExpression& call, const GetExpres
         note(call, CallKind::TimeText);
         expressions_.analyse(callee.object.get());
     } else {
-        walk_.faults.raisePlaceless("பொழி-332", &call, "'" + method + "' என்பது ஒரு function இல்லை.",
-                                    methodHint(walk_, method));
+        const CallHint hint = methodHint(walk_, method);
+        walk_.faults.raisePlaceless("பொழி-332", &call, "'" + method + "' என்பது ஒரு function இல்லை.", hint.text,
+                                    hint.mend);
     }
 }
 
@@ -134,8 +135,8 @@ void CallAnalysis::analyseNamed(const CallExpression& call, const std::string& n
         expressions_.analyse(call.callee.get());
         expressions_.analyse(call.arguments);
     } else {
-        walk_.faults.raisePlaceless("பொழி-332", &call, "'" + name + "' என்பது ஒரு function இல்லை.",
-                                    callHint(walk_, name));
+        const CallHint hint = callHint(walk_, name);
+        walk_.faults.raisePlaceless("பொழி-332", &call, "'" + name + "' என்பது ஒரு function இல்லை.", hint.text, hint.mend);
     }
 }
 

@@ -72,35 +72,39 @@ bool holds(const Names& names, std::string_view name) {
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-std::string nearestHint(const std::string& name, const Names& known) {
-    const std::string_view nearest = nearestWord(name, known);
-    return nearest.empty() ? "" : "நீ எழுத நினைச்சது '" + std::string(nearest) + "'-ஆ?";
+CallHint nearestHint(const std::string& name, const Names& known) {
+    const std::string nearest(nearestWord(name, known));
+    if (nearest.empty()) {
+        return {};
+    }
+    const bool isOnly = isOnlyNearest(name, nearest, known);
+    return {"நீ எழுத நினைச்சது '" + nearest + "'-ஆ?", isOnly ? Mend{name, nearest} : Mend()};
 }
 
 } // namespace
 
-std::string callHint(const Walk& walk, const std::string& name) {
+CallHint callHint(const Walk& walk, const std::string& name) {
     if (walk.structures.all().count(name) != 0) {
-        return "'" + name +
-               "' கட்டமைப்பு இந்த இடத்துல இன்னும் தெரியாது; அதை எந்த பிளாக்குக்குள்ளயும் வைக்காம, கோப்போட தொடக்கத்துல எழுது மச்சி!";
+        return {"'" + name +
+                "' கட்டமைப்பு இந்த இடத்துல இன்னும் தெரியாது; அதை எந்த பிளாக்குக்குள்ளயும் வைக்காம, கோப்போட தொடக்கத்துல எழுது மச்சி!"};
     }
     if (holds(methodNames(walk), name)) {
-        return "'" + name + "' புள்ளிக்கு அப்புறம் வர்ற செயல்: 'பொருள்." + name + "(…)'-ன்னு எழுது மச்சி!";
+        return {"'" + name + "' புள்ளிக்கு அப்புறம் வர்ற செயல்: 'பொருள்." + name + "(…)'-ன்னு எழுது மச்சி!"};
     }
     return nearestHint(name, callableNames(walk));
 }
 
-std::string methodHint(const Walk& walk, const std::string& name) {
+CallHint methodHint(const Walk& walk, const std::string& name) {
     const std::string_view widget = widgetWithMethod(walk, name);
     if (!widget.empty()) {
-        return "'" + std::string(widget) + "' ஒரு விட்ஜெட்டோட பெயர்; கட்டமைப்புக்கு வேற பெயர் வை மச்சி!";
+        return {"'" + std::string(widget) + "' ஒரு விட்ஜெட்டோட பெயர்; கட்டமைப்புக்கு வேற பெயர் வை மச்சி!"};
     }
     const Names methods = methodNames(walk);
     if (holds(methods, name)) {
-        return "புள்ளிக்கு முன்னால, கட்டமைப்பால உருவாக்கின பொருளை வச்சிருக்கிற மாறி மட்டும் தான் வரலாம் மச்சி!";
+        return {"புள்ளிக்கு முன்னால, கட்டமைப்பால உருவாக்கின பொருளை வச்சிருக்கிற மாறி மட்டும் தான் வரலாம் மச்சி!"};
     }
     if (holds(callableNames(walk), name)) {
-        return "புள்ளி இல்லாம '" + name + "(…)'-ன்னு எழுது மச்சி!";
+        return {"புள்ளி இல்லாம '" + name + "(…)'-ன்னு எழுது மச்சி!"};
     }
     return nearestHint(name, methods);
 }

@@ -19,10 +19,11 @@ void FaultSite::raise(const std::string& code, const Expression& node, const std
 }
 
 void FaultSite::raisePlaceless(const std::string& code, const Expression* node, const std::string& details,
-                               std::string hint) const {
+                               std::string hint, Mend mend) const {
     Fault raised = placeless(code, node == nullptr ? 0 : node->line, details);
     raised.node = node;
     raised.hint = std::move(hint);
+    raised.mend = std::move(mend);
     throw raised;
 }
 

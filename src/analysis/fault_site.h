@@ -27,8 +27,9 @@ public:
     /// Raises a fault at \p node that is told without its place.
     /// \param node null if nobody knows it
     /// \param hint what may have been meant; may be empty
+    /// \param mend what to write instead, where one thing alone is right
     [[noreturn]] void raisePlaceless(const std::string& code, const Expression* node, const std::string& details,
-                                     std::string hint = {}) const;
+                                     std::string hint = {}, Mend mend = {}) const;
 
     /// A fault that is told without its place, to be thrown.
     Fault placeless(const std::string& code, std::int32_t line, const std::string& details) const;

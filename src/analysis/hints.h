@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/source_place.h"
+#include "diagnostics/mend.h"
 #include "parser/parser.h"
 #include "parser/tree/program.h"
 
@@ -35,6 +36,8 @@ struct Hint {
     std::int32_t line;
     /// What happens and what to write instead, a sentence or two for the user
     std::string text;
+    /// What to write in its place, where one thing alone is right
+    Mend mend{};
 };
 
 /// Looks for what runs but surely isn't meant. Whatever may be meant is passed over in silence. Takes time in line with

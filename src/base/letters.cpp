@@ -62,4 +62,12 @@ std::string_view nearestWord(std::string_view word, const std::vector<std::strin
     return nearest;
 }
 
+bool isOnlyNearest(std::string_view word, std::string_view nearest, const std::vector<std::string_view>& known) {
+    const Letters letters = splitLetters(word);
+    const std::size_t distance = letterDistance(letters, splitLetters(nearest), letters.size());
+    return std::none_of(known.begin(), known.end(), [&](std::string_view other) {
+        return other != nearest && other != word && letterDistance(letters, splitLetters(other), distance) <= distance;
+    });
+}
+
 } // namespace pozhil

@@ -21,4 +21,7 @@ std::size_t letterDistance(const Letters& a, const Letters& b, std::size_t limit
 /// one for every three letters of the word at most. Empty if there is none, and for \p word itself.
 std::string_view nearestWord(std::string_view word, const std::vector<std::string_view>& known);
 
+/// Whether no other word of \p known is as near to \p word as \p nearest is.
+bool isOnlyNearest(std::string_view word, std::string_view nearest, const std::vector<std::string_view>& known);
+
 } // namespace pozhil

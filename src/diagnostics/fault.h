@@ -1,5 +1,6 @@
 #pragma once
 
+#include "diagnostics/mend.h"
 #include "error_handler.h"
 
 #include <cstdint>
@@ -33,6 +34,8 @@ struct Fault {
     const void* node = nullptr;
     /// What may have been meant, as a sentence of its own; may be empty.
     std::string hint{};
+    /// What to write in its place, where one thing alone is right.
+    Mend mend{};
 };
 
 /// The catalogue's description of the fault, with its details in brackets.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/source_place.h"
+#include "diagnostics/mend.h"
 #include "report/box.h"
 
 #include <cstddef>
@@ -21,6 +22,8 @@ struct SecondFault {
     std::string suggestion{};
     /// What to do about this very fault, in place of what the catalogue says; may be empty.
     std::string remedy{};
+    /// What to write in its place, where one thing alone is right.
+    Mend mend{};
 };
 
 using SecondFaults = std::vector<SecondFault>;

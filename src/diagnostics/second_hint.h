@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/source_place.h"
+#include "diagnostics/mend.h"
 
 #include <string>
 #include <vector>
@@ -12,6 +13,8 @@ struct SecondHint {
     SourcePlace place;
     /// What happens and what to write instead, a sentence or two for the user.
     std::string text;
+    /// What to write in its place, where one thing alone is right.
+    Mend mend{};
 };
 
 using SecondHints = std::vector<SecondHint>;

@@ -21,6 +21,9 @@ std::filesystem::path nodeModulesDirectory();
 /// Whether this process may create files in \p directory.
 bool isWritableDirectory(const std::filesystem::path& directory);
 
+/// Whether this process may write to a file that is there.
+bool isWritableFile(const std::filesystem::path& file);
+
 /// Name of the operating system.
 std::string systemName();
 

@@ -196,10 +196,12 @@ void Lexer::skipBlockComment() {
     position_ = closing + BLOCK_COMMENT.size();
 }
 
-void Lexer::பிழை(const std::string& code) const {
+void Lexer::பிழை(const std::string& code, Mend mend) const {
     const std::string_view fromLineStart = text_.substr(lineStart_);
     std::string lineText(fromLineStart.substr(0, fromLineStart.find('\n')));
-    throw Fault{பிழைவகை::சொல்_பிழை, code, source_->path, line_, "", std::move(lineText)};
+    Fault fault{பிழைவகை::சொல்_பிழை, code, source_->path, line_, "", std::move(lineText)};
+    fault.mend = std::move(mend);
+    throw fault;
 }
 
 } // namespace pozhil

@@ -52,7 +52,7 @@ private:
     std::string_view textSince(std::size_t start) const;
     void skipWhitespace();
     void skipToLineEnd();
-    [[noreturn]] void பிழை(const std::string& code) const;
+    [[noreturn]] void பிழை(const std::string& code, Mend mend = {}) const;
 
     // What the scan is made of, and what it goes on with after a fault (lexer.cpp, lexer_recovery.cpp).
     void scanStep();

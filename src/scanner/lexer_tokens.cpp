@@ -247,7 +247,8 @@ const Lexer::WordFacts& Lexer::factsOf(std::string_view word) {
         பிழை("பொழி-112");
     }
     if (isNew && known->second.type == TokenType::IDENTIFIER && looksLikeMisspeltKeyword(word)) {
-        பிழை("பொழி-113");
+        const std::string meant(keywordMeantBy(word));
+        பிழை("பொழி-113", meant.empty() ? Mend() : Mend{std::string(word), meant});
     }
     return known->second;
 }

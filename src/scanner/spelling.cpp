@@ -34,4 +34,18 @@ bool looksLikeMisspeltKeyword(std::string_view word) {
                        [&](const Letters& keyword) { return letterDistance(letters, keyword, 1) == 1; });
 }
 
+std::string_view keywordMeantBy(std::string_view word) {
+    const Letters letters = splitLetters(word);
+    std::string_view meant;
+    for (const std::string_view keyword : typoCandidates()) {
+        if (letterDistance(letters, splitLetters(keyword), 1) == 1) {
+            if (!meant.empty()) {
+                return {};
+            }
+            meant = keyword;
+        }
+    }
+    return meant;
+}
+
 } // namespace pozhil

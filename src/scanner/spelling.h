@@ -8,4 +8,7 @@ namespace pozhil {
 /// wrong vowel sign is one letter. Words of three letters or fewer are never taken for a misspelling.
 bool looksLikeMisspeltKeyword(std::string_view word);
 
+/// The keyword that a word which looks like a misspelt one can only be; empty if it may be several.
+std::string_view keywordMeantBy(std::string_view word);
+
 } // namespace pozhil

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+using pozhil::isOnlyNearest;
 using pozhil::letterDistance;
 using pozhil::Letters;
 using pozhil::nearestWord;
@@ -62,6 +63,12 @@ TEST(NearestWord, IsNoneForShortWordsAndDistantOnes) {
 TEST(NearestWord, IsNeverTheWordItself) {
     EXPECT_EQ(nearestWord("abc", {"abc"}), "");
     EXPECT_EQ(nearestWord("abc", {"abc", "abd"}), "abd");
+}
+
+TEST(NearestWord, IsTheOnlyOneUnlessOthersAreAsNear) {
+    EXPECT_TRUE(isOnlyNearest("abcdef", "abcdeg", {"abcdeg", "abcxyz"}));
+    EXPECT_FALSE(isOnlyNearest("abcdef", "abcdeg", {"abcdeg", "abcdeh"}));
+    EXPECT_TRUE(isOnlyNearest("abcdef", "abcdeg", {"abcdeg", "abcdeg", "abcdef"}));
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 
 namespace {
 
+using pozhil::keywordMeantBy;
 using pozhil::looksLikeMisspeltKeyword;
 using pozhil::typoCandidates;
 
@@ -127,6 +128,12 @@ TEST(Spelling, ComparesBytesThatAreNoLettersOneByOne) {
     EXPECT_TRUE(looksLikeMisspeltKeyword("எனில்\x80"));
     EXPECT_TRUE(looksLikeMisspeltKeyword("எனில்\xE0\xAE"));
     EXPECT_FALSE(looksLikeMisspeltKeyword("எனில்\x80\x80"));
+}
+
+TEST(Spelling, KnowsTheOneKeywordThatIsMeant) {
+    EXPECT_EQ(keywordMeantBy("சுற்ற"), "சுற்று");
+    EXPECT_EQ(keywordMeantBy("எனில்"), "");
+    EXPECT_EQ(keywordMeantBy("வேறு"), "");
 }
 
 } // namespace

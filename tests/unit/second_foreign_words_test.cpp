@@ -76,4 +76,32 @@ TEST(ModuleFunctions, AreThoseOfTheModules) {
     EXPECT_FALSE(isModule("மலர்"));
 }
 
+std::string_view dropInFor(std::string_view word, ForeignPlace place) {
+    return dropIn(*findForeignWord(word, place));
+}
+
+TEST(ForeignWords, HaveADropInWhereNothingElseChanges) {
+    EXPECT_EQ(dropInFor("if", ForeignPlace::Statement), "எனில்");
+    EXPECT_EQ(dropInFor("return", ForeignPlace::Statement), "திரும்பு");
+    EXPECT_EQ(dropInFor("and", ForeignPlace::Inside), "மற்றும்");
+    EXPECT_EQ(dropInFor("True", ForeignPlace::Name), "மெய்");
+    EXPECT_EQ(dropInFor("self", ForeignPlace::Name), "தான்");
+    EXPECT_EQ(dropInFor("len", ForeignPlace::Name), "நீளம்");
+    EXPECT_EQ(dropInFor("append", ForeignPlace::Member), "சேர்");
+}
+
+TEST(ForeignWords, HaveNoDropInWhereMoreChangesOrSeveralThingsMayBeMeant) {
+    EXPECT_EQ(dropInFor("for", ForeignPlace::Statement), "");
+    EXPECT_EQ(dropInFor("let", ForeignPlace::Statement), "");
+    EXPECT_EQ(dropInFor("if", ForeignPlace::Inside), "");
+    EXPECT_EQ(dropInFor("not", ForeignPlace::Inside), "");
+    EXPECT_EQ(dropInFor("lambda", ForeignPlace::Inside), "");
+    EXPECT_EQ(dropInFor("int", ForeignPlace::Name), "");
+    EXPECT_EQ(dropInFor("sum", ForeignPlace::Name), "") << "its module must be imported";
+    EXPECT_EQ(dropInFor("str", ForeignPlace::Name), "");
+    EXPECT_EQ(dropInFor("list", ForeignPlace::Name), "");
+    EXPECT_EQ(dropInFor("length", ForeignPlace::Member), "");
+    EXPECT_EQ(dropInFor("extend", ForeignPlace::Member), "");
+}
+
 } // namespace

@@ -7,24 +7,24 @@
 
 namespace pozhil {
 
-void HintList::add(HintKind kind, const Expression& node, std::string text) {
-    addAtNode(kind, node, std::move(text));
+void HintList::add(HintKind kind, const Expression& node, std::string text, Mend mend) {
+    addAtNode(kind, node, std::move(text), std::move(mend));
 }
 
 void HintList::add(HintKind kind, const Statement& node, std::string text) {
-    addAtNode(kind, node, std::move(text));
+    addAtNode(kind, node, std::move(text), {});
 }
 
-template <class Node> void HintList::addAtNode(HintKind kind, const Node& node, std::string text) {
+template <class Node> void HintList::addAtNode(HintKind kind, const Node& node, std::string text, Mend mend) {
     const SourcePlace place = parser_.places().of(node).value_or(SourcePlace{parser_.scanned().source, {}});
     const std::int32_t line = node.line > 0 ? node.line : lineOf(place);
-    hints_.push_back({kind, place, line, std::move(text)});
+    hints_.push_back({kind, place, line, std::move(text), std::move(mend)});
 }
 
-void HintList::addAtToken(HintKind kind, std::size_t token, std::string text) {
+void HintList::addAtToken(HintKind kind, std::size_t token, std::string text, Mend mend) {
     const ScannedSource& scanned = parser_.scanned();
     const ByteRange range = token < scanned.places.size() ? scanned.places[token] : ByteRange{};
-    hints_.push_back({kind, {scanned.source, range}, scanned.tokens[token].line, std::move(text)});
+    hints_.push_back({kind, {scanned.source, range}, scanned.tokens[token].line, std::move(text), std::move(mend)});
 }
 
 /// Tokens know best, since line ends inside a text don't count; those of imported files are gone.

@@ -302,7 +302,7 @@ void TreeHints::checkCondition(const Expression* condition) {
     const Expression* value = assignedValue(condition);
     if (value != nullptr && !mayBeTruth(value)) {
         found_.add(HintKind::AssignmentCondition, *condition,
-                   "நிபந்தனையில் '=' ஒப்பிடாது, மதிப்பை வைத்துவிடும்; ஒப்பிட 'சமம்' என்று எழுதவும்.");
+                   "நிபந்தனையில் '=' ஒப்பிடாது, மதிப்பை வைத்துவிடும்; ஒப்பிட 'சமம்' என்று எழுதவும்.", {"=", "சமம்"});
     }
 }
 

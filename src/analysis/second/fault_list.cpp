@@ -9,13 +9,14 @@
 namespace pozhil::second {
 
 void FaultList::add(int number, resolved::Place place, std::vector<std::string> values, std::string suggestion,
-                    std::string remedy) {
+                    std::string remedy, Mend mend) {
     notes_.push_back({place,
                       {number,
                        {program_.files[place.file].source, place.range},
                        std::move(values),
                        std::move(suggestion),
-                       std::move(remedy)}});
+                       std::move(remedy),
+                       std::move(mend)}});
 }
 
 SecondFaults FaultList::found() {

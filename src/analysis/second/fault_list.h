@@ -22,8 +22,9 @@ public:
     /// \param values for the holes of its message and remedy
     /// \param suggestion what may have been meant, as a sentence
     /// \param remedy what to do about it, if that isn't what the catalogue says
+    /// \param mend what to write instead, where one thing alone is right
     void add(int number, resolved::Place place, std::vector<std::string> values = {}, std::string suggestion = {},
-             std::string remedy = {});
+             std::string remedy = {}, Mend mend = {});
 
     bool isEmpty() const { return notes_.empty(); }
 

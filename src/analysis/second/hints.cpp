@@ -99,22 +99,26 @@ public:
             checkFields(*structure);
         }
         for (const resolved::AssignmentValue* argument : reads_.namedArguments) {
-            found_.emplace_back(argument->place,
-                                "'" + argument->target->variable->name +
-                                    " = …' இங்கே உள்ளீட்டின் பெயரைச் சொல்வதில்லை, அந்த மாறிக்கு மதிப்பு வைக்கிறது; பெயர் இல்லாமல் "
-                                    "மதிப்பை மட்டும் எழுதவும்.");
+            found_.push_back(
+                {argument->place, "'" + argument->target->variable->name +
+                                      " = …' இங்கே உள்ளீட்டின் பெயரைச் சொல்வதில்லை, அந்த மாறிக்கு மதிப்பு வைக்கிறது; பெயர் இல்லாமல் "
+                                      "மதிப்பை மட்டும் எழுதவும்."});
         }
-        const auto order = [](const Found& found) { return std::tie(found.first.file, found.first.range.begin); };
+        const auto order = [](const Found& found) { return std::tie(found.place.file, found.place.range.begin); };
         std::sort(found_.begin(), found_.end(), [&](const Found& a, const Found& b) { return order(a) < order(b); });
         SecondHints hints;
-        for (auto& [place, text] : found_) {
-            hints.push_back({{model_.source.files[place.file].source, place.range}, std::move(text)});
+        for (auto& [place, text, mend] : found_) {
+            hints.push_back({{model_.source.files[place.file].source, place.range}, std::move(text), std::move(mend)});
         }
         return hints;
     }
 
 private:
-    using Found = std::pair<resolved::Place, std::string>;
+    struct Found {
+        resolved::Place place;
+        std::string text;
+        Mend mend{};
+    };
 
     bool isRead(const resolved::Variable& variable) const { return reads_.variables.count(&variable) != 0; }
 
@@ -157,8 +161,10 @@ private:
 
     void tell(resolved::Place place, const std::string& name, const char* what, std::string_view meant) {
         if (!meant.empty()) {
-            found_.emplace_back(place, "'" + name + "' என்ற " + what + " மதிப்பு பெறுகிறது, ஆனால் எங்கும் படிக்கப்படவில்லை; '" +
-                                           std::string(meant) + "' என்று எழுத நினைத்தீர்களா என்று பார்க்கவும்.");
+            found_.push_back({place,
+                              "'" + name + "' என்ற " + what + " மதிப்பு பெறுகிறது, ஆனால் எங்கும் படிக்கப்படவில்லை; '" +
+                                  std::string(meant) + "' என்று எழுத நினைத்தீர்களா என்று பார்க்கவும்.",
+                              {name, std::string(meant)}});
         }
     }
 

@@ -3,6 +3,7 @@
 #include "analysis/second/fault_numbers.h"
 #include "analysis/second/nearest_name.h"
 #include "analysis/second/structures.h"
+#include "base/letters.h"
 #include "front_end/second_edition.h"
 #include "language/keywords.h"
 #include "language/second/builtins.h"
@@ -47,14 +48,31 @@ const Scope* fileElsewhere(const Model& model, std::size_t file, std::string_vie
     return nullptr;
 }
 
-/// What may have been meant by a name that nothing has, as a question; empty if nothing is near.
-std::string meantName(const Resolution& resolution, std::string_view name) {
+/// What may have been meant by a name that nothing has.
+struct MeantName {
+    /// A question; empty if nothing is near.
+    std::string question{};
+    Mend mend{};
+};
+
+/// The nearest one, if no other is as near.
+Mend nearestAsMend(std::string_view name, const std::vector<std::string_view>& known) {
+    const std::string_view nearest = nearestName(name, known);
+    return nearest.empty() || !isOnlyNearest(name, nearest, known) ? Mend()
+                                                                   : Mend{std::string(name), std::string(nearest)};
+}
+
+MeantName meantName(const Resolution& resolution, std::string_view name) {
     if (resolution.model.faults.isLong()) {
         return {};
     }
     auto known = namesKnownIn(resolution.model, resolution.scope);
     addOwnWords(known);
-    return nearestAsQuestion(name, known);
+    MeantName meant = {nearestAsQuestion(name, known), nearestAsMend(name, known)};
+    if (const auto* const foreign = language::second::findForeignWord(name)) {
+        meant.mend = {std::string(name), std::string(language::second::dropIn(*foreign))};
+    }
+    return meant;
 }
 
 /// Whether \p name is that of a file that this one imports.
@@ -148,8 +166,9 @@ void tellUnknownName(Resolution& resolution, std::string_view name, resolved::Pl
                          {std::string(name), fileName(model.source.files[file->file].source->path)});
         return;
     }
-    model.faults.add(fault::UNKNOWN_NAME, place, {std::string(name)}, meantName(resolution, name),
-                     remedyForName(resolution, name));
+    MeantName meant = meantName(resolution, name);
+    model.faults.add(fault::UNKNOWN_NAME, place, {std::string(name)}, std::move(meant.question),
+                     remedyForName(resolution, name), std::move(meant.mend));
 }
 
 void tellUnknownFunction(Resolution& resolution, std::string_view name, resolved::Place place) {
@@ -158,8 +177,9 @@ void tellUnknownFunction(Resolution& resolution, std::string_view name, resolved
         tellInnerFunction(resolution, name, place)) {
         return;
     }
-    model.faults.add(fault::UNKNOWN_FUNCTION, place, {std::string(name)}, meantName(resolution, name),
-                     remedyForName(resolution, name));
+    MeantName meant = meantName(resolution, name);
+    model.faults.add(fault::UNKNOWN_FUNCTION, place, {std::string(name)}, std::move(meant.question),
+                     remedyForName(resolution, name), std::move(meant.mend));
 }
 
 void tellNameWithoutValue(Resolution& resolution, const Meaning& meaning, std::string_view name,
@@ -177,9 +197,12 @@ void tellUnknownMember(Model& model, std::string_view what, std::string_view mem
     for (const std::string_view one : members) {
         all += (all.empty() ? "" : ", ") + std::string(one);
     }
+    const auto* const foreign = language::second::findForeignWord(member, language::second::ForeignPlace::Member);
+    Mend mend = foreign == nullptr ? nearestAsMend(member, members)
+                                   : Mend{std::string(member), std::string(language::second::dropIn(*foreign))};
     model.faults.add(fault::UNKNOWN_MEMBER, place,
                      {std::string(what), std::string(member), all.empty() ? "எதுவுமில்லை" : all},
-                     nearestAsQuestion(member, members), std::move(remedy));
+                     nearestAsQuestion(member, members), std::move(remedy), std::move(mend));
 }
 
 std::string fileName(const std::string& path) {

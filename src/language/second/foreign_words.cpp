@@ -216,6 +216,26 @@ const ForeignWord* findForeignWord(std::string_view word) {
     return found == std::end(ROWS) ? nullptr : found;
 }
 
+std::string_view dropIn(const ForeignWord& foreign) {
+    const std::string_view own = foreign.own;
+    const std::size_t end = std::min(own.find_first_of(" :(."), own.size());
+    const bool isWordAlone = end == own.size();
+    if (moduleFunctionIn(own) != nullptr ||
+        (!foreign.remark.empty() && !(isWordAlone && foreign.place == Place::Name))) {
+        return {};
+    }
+    if (foreign.place == Place::Member) {
+        // value.word(…)
+        const std::size_t bracket = std::min(own.find('('), own.size());
+        const bool isMember = end < own.size() && own[end] == '.' && bracket < own.size();
+        return isMember ? own.substr(end + 1, bracket - end - 1) : std::string_view();
+    }
+    const bool isCall = end < own.size() && own[end] == '(';
+    const bool isWord = own.find_first_of("\"[{") > 0;
+    return isWord && (isWordAlone || isCall || foreign.place == Place::Statement) ? own.substr(0, end)
+                                                                                  : std::string_view();
+}
+
 std::string remedyOf(const ForeignWord& foreign, std::string_view parent) {
     std::string own(foreign.own);
     replaceAll(own, "{1}", parent);

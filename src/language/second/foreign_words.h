@@ -40,6 +40,10 @@ const ForeignWord* findForeignWord(std::string_view word, ForeignPlace place);
 /// The row of a word that stands anywhere but after a dot, null if there is none.
 const ForeignWord* findForeignWord(std::string_view word);
 
+/// The word of this language that can stand where the foreign one stands, whatever is around it; empty if the statement
+/// takes another shape, or if it depends on what is meant.
+std::string_view dropIn(const ForeignWord& foreign);
+
 /// What to do about the word, for the user.
 /// \param parent the name of the parent of the structure around, for words that mean it
 std::string remedyOf(const ForeignWord& foreign, std::string_view parent = "பெற்றோர்_பெயர்");

@@ -63,8 +63,8 @@ void ApplicationGrammar::parseSection(WebAppNode& app, std::vector<std::string_v
     if (row == std::end(ROWS) || tokens_.peek(1).type != TokenType::LPAREN) {
         SecondFault unknown =
             recovery_.faultAt(fault::NO_APPLICATION_PART, tokens_.visibleRange(), {tokens_.shown(first)});
-        unknown.suggestion = suggestionOf(tokens_.peek().value,
-                                          {word::HEADER, word::INTERFACE, word::DEFINITION, word::DATABASE_MANAGER});
+        suggestNearest(unknown, tokens_.peek().value,
+                       {word::HEADER, word::INTERFACE, word::DEFINITION, word::DATABASE_MANAGER});
         throw SyntaxFault{std::move(unknown)};
     }
     if (std::find(written.begin(), written.end(), row->word) != written.end()) {

@@ -313,22 +313,21 @@ bool beginsForeign(const TokenReader& tokens, std::size_t statement) {
     return foreignBeginning(tokens, statement) != nullptr;
 }
 
-std::string habitRemedy(const TokenReader& tokens, std::size_t statement, const SecondFault& fault) {
-    if (const ForeignWord* const beginning = foreignBeginning(tokens, statement)) {
-        return language::second::remedyOf(*beginning);
-    }
+void setHabitRemedy(const TokenReader& tokens, std::size_t statement, SecondFault& fault) {
     const Site site(tokens, statement, fault);
-    if (const ForeignWord* const inside = foreignInside(tokens, site)) {
-        return language::second::remedyOf(*inside);
+    const ForeignWord* foreign = foreignBeginning(tokens, statement);
+    foreign = foreign == nullptr ? foreignInside(tokens, site) : foreign;
+    if (foreign != nullptr) {
+        fault.remedy = language::second::remedyOf(*foreign);
+        fault.mend = {std::string(foreign->word), std::string(language::second::dropIn(*foreign))};
+        return;
     }
     const auto* const habit =
         std::find_if(std::begin(HABITS), std::end(HABITS), [&](const Habit& row) { return row.isAt(site); });
-    if (habit == std::end(HABITS)) {
-        return "";
+    if (habit != std::end(HABITS)) {
+        fault.remedy = habit->remedy;
+        replaceAll(fault.remedy, "{1}", tokens.at(statement).value);
     }
-    std::string remedy = habit->remedy;
-    replaceAll(remedy, "{1}", tokens.at(statement).value);
-    return remedy;
 }
 
 } // namespace pozhil::second

@@ -4,7 +4,6 @@
 #include "parser/second/token_reader.h"
 
 #include <cstddef>
-#include <string>
 
 /// What people who know other languages write by habit, and what a friend would tell them.
 
@@ -14,8 +13,8 @@ namespace pozhil::second {
 /// \param statement index of its first token
 bool beginsForeign(const TokenReader& tokens, std::size_t statement);
 
-/// What to do about a fault that comes of such a habit; empty if it comes of none that is known.
+/// Notes with a fault that comes of such a habit what to do about it; nothing if it comes of none that is known.
 /// \param statement index of the first token of the statement with the fault
-std::string habitRemedy(const TokenReader& tokens, std::size_t statement, const SecondFault& fault);
+void setHabitRemedy(const TokenReader& tokens, std::size_t statement, SecondFault& fault);
 
 } // namespace pozhil::second

@@ -143,7 +143,7 @@ void PropertyGrammar::noteUnknown(const PropertyList& list, std::string_view nam
                    [](const WidgetProperty* row) { return row->name; });
     SecondFault unknown =
         recovery_.faultAt(fault::UNKNOWN_PROPERTY, range, {std::string(list.owner), std::string(name)});
-    unknown.suggestion = suggestionOf(name, names);
+    suggestNearest(unknown, name, names);
     recovery_.note(std::move(unknown));
 }
 
@@ -199,7 +199,7 @@ void PropertyGrammar::checkValue(const PropertyList& list, const WidgetProperty&
 void PropertyGrammar::checkWord(const WidgetProperty& property, std::string_view word, ByteRange range) {
     const auto tell = [&](int number, const std::vector<std::string_view>& known) {
         SecondFault unknown = recovery_.faultAt(number, range, {std::string(word)});
-        unknown.suggestion = suggestionOf(word, known);
+        suggestNearest(unknown, word, known);
         recovery_.note(std::move(unknown));
     };
     if (property.kind == ValueKind::Colour) {
@@ -221,7 +221,7 @@ void PropertyGrammar::checkChoice(std::string_view property, std::string_view wo
         return;
     }
     SecondFault unknown = recovery_.faultAt(fault::UNKNOWN_CHOICE, range, {std::string(property), std::string(word)});
-    unknown.suggestion = suggestionOf(word, choices);
+    suggestNearest(unknown, word, choices);
     recovery_.note(std::move(unknown));
 }
 

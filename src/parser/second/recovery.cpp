@@ -40,10 +40,10 @@ void Recovery::note(SecondFault fault) {
         return;
     }
     if (mayComeOfHabit(fault.number)) {
-        fault.remedy = habitRemedy(tokens_, statement_, fault);
+        setHabitRemedy(tokens_, statement_, fault);
     }
     if (fault.remedy.empty() && mayComeOfSlip(fault.number)) {
-        fault.suggestion = suggestionFor(fault);
+        suggestFor(fault);
     }
     add(std::move(fault));
 }
@@ -101,8 +101,8 @@ bool Recovery::isEcho(const SecondFault& fault) const {
     });
 }
 
-/// The word that may have been meant by the first word of the statement, or by those around the fault.
-std::string Recovery::suggestionFor(const SecondFault& fault) const {
+/// Notes the word that may have been meant by the first word of the statement, or by those around the fault.
+void Recovery::suggestFor(SecondFault& fault) const {
     std::size_t faulty = statement_;
     while (tokens_.rangeOf(faulty).begin < fault.place.range.begin &&
            tokens_.at(faulty).type != TokenType::END_OF_FILE) {
@@ -114,13 +114,13 @@ std::string Recovery::suggestionFor(const SecondFault& fault) const {
             continue;
         }
         if (startsWith(token.value, "ஃ")) {
-            return "குறிப்பு எழுத நினைத்தால், 'ஃ'-க்குப் பின் ஓர் இடைவெளி விடு மச்சி!";
+            fault.suggestion = "குறிப்பு எழுத நினைத்தால், 'ஃ'-க்குப் பின் ஓர் இடைவெளி விடு மச்சி!";
+            return;
         }
-        if (std::string suggestion = suggestionOf(token.value, statementWords()); !suggestion.empty()) {
-            return suggestion;
+        if (suggestNearest(fault, token.value, statementWords())) {
+            return;
         }
     }
-    return "";
 }
 
 /// A statement ends with its line, or with the blocks that are indented below it.

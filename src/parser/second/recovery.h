@@ -61,7 +61,7 @@ public:
 
     /// The fault of this number at the text of a range of tokens.
     SecondFault faultAt(int number, ByteRange range, std::vector<std::string> values = {}) const {
-        return {number, {tokens_.source(), range}, std::move(values), ""};
+        return {number, {tokens_.source(), range}, std::move(values)};
     }
 
     /// The file is parsed: keeps what the scanner found and nobody was told yet.
@@ -71,7 +71,7 @@ private:
     void add(SecondFault fault);
     void addScanFaultsBefore(std::size_t end);
     bool isEcho(const SecondFault& fault) const;
-    std::string suggestionFor(const SecondFault& fault) const;
+    void suggestFor(SecondFault& fault) const;
     void skipStatement(std::size_t first, int level);
     void skipItem(std::size_t first);
     bool isAtItemEnd(std::size_t first) const;

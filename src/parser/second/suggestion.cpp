@@ -2,12 +2,21 @@
 
 #include "base/letters.h"
 
+#include <string>
+
 namespace pozhil::second {
 
-std::string suggestionOf(std::string_view word, const std::vector<std::string_view>& known) {
-    const std::string_view nearest = nearestWord(word, known);
-    return nearest.empty() ? ""
-                           : "'" + std::string(word) + "' என்பது '" + std::string(nearest) + "' என்று இருக்க வேண்டுமோ?";
+bool suggestNearest(SecondFault& fault, std::string_view word, const std::vector<std::string_view>& known) {
+    const std::string written(word);
+    const std::string nearest(nearestWord(word, known));
+    if (nearest.empty()) {
+        return false;
+    }
+    fault.suggestion = "'" + written + "' என்பது '" + nearest + "' என்று இருக்க வேண்டுமோ?";
+    if (isOnlyNearest(word, nearest, known)) {
+        fault.mend = {written, nearest};
+    }
+    return true;
 }
 
 } // namespace pozhil::second

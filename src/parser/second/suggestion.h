@@ -1,12 +1,14 @@
 #pragma once
 
-#include <string>
+#include "diagnostics/second_fault.h"
+
 #include <string_view>
 #include <vector>
 
 namespace pozhil::second {
 
-/// What may have been meant by \p word, as a sentence: the nearest of \p known. Empty if none is near.
-std::string suggestionOf(std::string_view word, const std::vector<std::string_view>& known);
+/// Notes with a fault what may have been meant by \p word: the nearest of \p known. Nothing if none is near.
+/// \return whether one is
+bool suggestNearest(SecondFault& fault, std::string_view word, const std::vector<std::string_view>& known);
 
 } // namespace pozhil::second

@@ -132,7 +132,7 @@ const Widget& WidgetGrammar::consumeWord() {
     const std::size_t position = tokens_.position();
     if (row == nullptr && isWord(word) && tokens_.peek(1).type == TokenType::LPAREN) {
         SecondFault unknown = recovery_.faultAt(fault::UNKNOWN_WIDGET, tokens_.rangeOf(position), {word.value});
-        unknown.suggestion = suggestionOf(word.value, language::second::widgetWords());
+        suggestNearest(unknown, word.value, language::second::widgetWords());
         throw SyntaxFault{std::move(unknown)};
     }
     failHere(fault::NO_WIDGET, {tokens_.shown(position)});

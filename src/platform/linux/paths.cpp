@@ -39,6 +39,11 @@ bool isWritableDirectory(const std::filesystem::path& directory) {
     return std::filesystem::is_directory(directory, ignored) && access(directory.c_str(), W_OK | X_OK) == 0;
 }
 
+bool isWritableFile(const std::filesystem::path& file) {
+    std::error_code ignored;
+    return std::filesystem::is_regular_file(file, ignored) && access(file.c_str(), W_OK) == 0;
+}
+
 std::string systemName() {
     return "Linux";
 }

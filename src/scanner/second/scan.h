@@ -48,8 +48,9 @@ private:
     void push(TokenType type, std::string value, std::size_t begin) {
         tokens_.push(type, std::move(value), begin, position_);
     }
-    void fault(int number, std::size_t begin, std::vector<std::string> values = {}, std::string remedy = {}) {
-        tokens_.fault(number, begin, position_, std::move(values), std::move(remedy));
+    void fault(int number, std::size_t begin, std::vector<std::string> values = {}, std::string remedy = {},
+               Mend mend = {}) {
+        tokens_.fault(number, begin, position_, std::move(values), std::move(remedy), std::move(mend));
     }
     void skipLinesSince(std::size_t begin);
 

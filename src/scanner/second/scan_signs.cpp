@@ -99,6 +99,11 @@ std::string shown(Character character, std::string_view written) {
     return code;
 }
 
+/// \param remedy what to do if that takes more
+Mend mendOf(std::string_view sign, std::string_view own, std::string_view remedy) {
+    return remedy.empty() ? Mend{std::string(sign), std::string(own)} : Mend();
+}
+
 } // namespace
 
 void Scan::scanSign() {
@@ -189,7 +194,8 @@ bool Scan::scanForeignSign() {
         }
         const std::size_t begin = position_;
         position_ += foreign.sign.size();
-        fault(fault::SIGN_FOR_WORD, begin, {std::string(foreign.sign), std::string(foreign.own)}, foreign.remedy);
+        fault(fault::SIGN_FOR_WORD, begin, {std::string(foreign.sign), std::string(foreign.own)}, foreign.remedy,
+              mendOf(foreign.sign, foreign.own, foreign.remedy));
         if (foreign.kind == TokenType::NEWLINE) {
             skipToLineEnd();
         } else {
@@ -209,7 +215,7 @@ bool Scan::scanForeignOperator() {
     position_ += found->symbol.size();
     const bool isStar = found->symbol == "*" && !endsOperand();
     fault(fault::SIGN_FOR_WORD, begin, {std::string(found->symbol), std::string(found->word)},
-          isStar ? STAR_REMEDY : "");
+          isStar ? STAR_REMEDY : "", mendOf(found->symbol, found->word, isStar ? STAR_REMEDY : ""));
     push(found->token, std::string(found->word), begin);
     return true;
 }

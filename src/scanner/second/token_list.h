@@ -29,8 +29,9 @@ public:
     /// \param remedy what to do about it, if that isn't what the catalogue says
     /// \throws Full if nobody asks for more
     void fault(int number, std::size_t begin, std::size_t end, std::vector<std::string> values = {},
-               std::string remedy = {}) {
-        faults_.push_back({number, {scanned_.source, range(begin, end)}, std::move(values), "", std::move(remedy)});
+               std::string remedy = {}, Mend mend = {}) {
+        faults_.push_back(
+            {number, {scanned_.source, range(begin, end)}, std::move(values), "", std::move(remedy), std::move(mend)});
         if (faults_.size() == MAX_FOUND_FAULTS) {
             throw Full();
         }

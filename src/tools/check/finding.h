@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/source_place.h"
+#include "diagnostics/mend.h"
 #include "language/rows.h"
 #include "report/box.h"
 
@@ -21,6 +22,8 @@ struct Finding {
     report::FaultText text;
     /// When the fault comes, as the list of errors tells it; may be empty.
     language::Bilingual cause{};
+    /// What to write in its place, where one thing alone is right.
+    Mend mend{};
 };
 
 using Findings = std::vector<Finding>;

@@ -41,8 +41,9 @@ language::Bilingual causeOf(std::string_view code) {
 }
 
 /// \param text as far as it is known without the place
-Finding findingAt(SourcePlace place, const std::string& file, report::FaultText text) {
+Finding findingAt(SourcePlace place, const std::string& file, report::FaultText text, Mend mend) {
     Finding finding;
+    finding.mend = std::move(mend);
     finding.cause = causeOf(text.code);
     finding.text = std::move(text);
     finding.text.excerpt.file = file;
@@ -53,11 +54,11 @@ Finding findingAt(SourcePlace place, const std::string& file, report::FaultText 
     return finding;
 }
 
-Finding hintAt(SourcePlace place, const std::string& message) {
+Finding hintAt(SourcePlace place, const std::string& message, Mend mend = {}) {
     report::FaultText text;
     text.message = message;
     const std::string file = place.source->path;
-    Finding finding = findingAt(std::move(place), file, std::move(text));
+    Finding finding = findingAt(std::move(place), file, std::move(text), std::move(mend));
     finding.kind = Finding::Kind::Hint;
     return finding;
 }
@@ -125,7 +126,7 @@ private:
             const SourcePtr source = file == source_->path ? source_ : loadSource(file, options_);
             place = source == nullptr ? place : placeOfLine(source, static_cast<std::size_t>(fault.line));
         }
-        findings_.push_back(findingAt(std::move(place), file, std::move(text)));
+        findings_.push_back(findingAt(std::move(place), file, std::move(text), fault.mend));
     }
 
     void addFailure(const StageFailure& failure, SourcePlace place) {
@@ -135,7 +136,7 @@ private:
         }
         report::FaultText text;
         text.message = failure.what();
-        findings_.push_back(findingAt({}, source_->path, std::move(text)));
+        findings_.push_back(findingAt({}, source_->path, std::move(text), {}));
     }
 
     void addHints(const ParsedSource& parsed) {
@@ -146,7 +147,7 @@ private:
             const bool isWholeLine = hint.place.range.begin == hint.place.range.end;
             findings_.push_back(
                 hintAt(isWholeLine ? placeOfLine(hint.place.source, static_cast<std::size_t>(hint.line)) : hint.place,
-                       hint.text));
+                       hint.text, hint.mend));
         }
     }
 
@@ -158,7 +159,7 @@ private:
 Findings faultFindings(const SecondFaults& faults) {
     Findings findings;
     for (const SecondFault& fault : faults) {
-        findings.push_back(findingAt(fault.place, fault.place.source->path, faultText(fault)));
+        findings.push_back(findingAt(fault.place, fault.place.source->path, faultText(fault), fault.mend));
     }
     return findings;
 }
@@ -168,7 +169,7 @@ Findings checkSecondEdition(const SourcePtr& source, const FrontEndOptions& opti
     Findings findings = faultFindings(translation.faults);
     if (settings::showsHints()) {
         for (const SecondHint& hint : translation.hints) {
-            findings.push_back(hintAt(hint.place, hint.text));
+            findings.push_back(hintAt(hint.place, hint.text, hint.mend));
         }
     }
     return findings;

@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::string_view COMMENT_SIGN = "ஃ";
 constexpr std::string_view SELF = "தான்";
+constexpr const char* APPLICATION = "வலைதளம்";
 
 SourcePtr loadImport(const Workspace& workspace, const NamedSource& importer, const std::string& written) {
     const FrontEndOptions& options = workspace.frontEndOptions();
@@ -173,7 +174,7 @@ std::vector<FoundSymbol> meaningsOf(const std::vector<NamedSource>& files, std::
 
 std::string headingOf(const Symbol& symbol) {
     switch (symbol.kind) {
-    case SymbolKind::Application: return "வலைதளம் " + symbol.name;
+    case SymbolKind::Application: return symbol.name == APPLICATION ? symbol.name : APPLICATION + (" " + symbol.name);
     case SymbolKind::Structure:
         return "கட்டமைப்பு " + symbol.name + (symbol.parentStructure.empty() ? "" : "(" + symbol.parentStructure + ")");
     case SymbolKind::AbstractStructure: return "வடிவமைப்பு " + symbol.name;

@@ -6,10 +6,14 @@
 
 #include <algorithm>
 #include <iterator>
+#include <set>
 #include <stdexcept>
+#include <utility>
 
 namespace pozhil::language_server {
 namespace {
+
+constexpr std::string_view APPLICATION = "வலைதளம்";
 
 /// How many faults the scan goes on after.
 constexpr std::size_t MOST_FAULTS = 1000;
@@ -79,10 +83,13 @@ const Symbol* Outline::find(std::string_view name, std::size_t offset) const {
         }
         // What stands in a function is known there; what stands in an application, in the whole source.
         const bool isEverywhere = symbol.parent == NO_INDEX || symbols[symbol.parent].kind == SymbolKind::Application;
-        const ByteRange reach =
-            isEverywhere ? ByteRange{0, std::numeric_limits<std::uint32_t>::max()} : symbols[symbol.parent].whole;
+        const bool hasReach = symbol.reach.end > symbol.reach.begin;
+        const ByteRange reach = hasReach       ? symbol.reach
+                                : isEverywhere ? ByteRange{0, std::numeric_limits<std::uint32_t>::max()}
+                                               : symbols[symbol.parent].whole;
         const std::size_t size = reach.end - reach.begin;
-        if (reach.begin <= offset && offset <= reach.end && (best == nullptr || size < bestSize)) {
+        const bool isBetter = best == nullptr || size < bestSize || best->kind == SymbolKind::Application;
+        if (reach.begin <= offset && offset <= reach.end && isBetter) {
             best = &symbol;
             bestSize = size;
         }
@@ -115,6 +122,9 @@ public:
         while (!open_.empty()) {
             close();
         }
+        if (outline_.edition == Edition::Second) {
+            dropVariablesOfOuterFunctions();
+        }
     }
 
 private:
@@ -132,6 +142,8 @@ private:
         return index < outline_.scanned.tokens.size() && outline_.token(index).value == word &&
                !outline_.isType(index, TokenType::STRING) && !outline_.isType(index, TokenType::CHAR);
     }
+    /// The scanners of the editions have it as different kinds.
+    bool isArrow(std::size_t index) const { return isKeyword(index, "=>"); }
     bool isName(std::size_t index) const { return outline_.isType(index, TokenType::IDENTIFIER); }
 
     void close() {
@@ -170,14 +182,17 @@ private:
     bool has(std::string_view name, std::size_t parent) const {
         const auto found = outline_.byName.find(std::string(name));
         return found != outline_.byName.end() &&
-               std::any_of(found->second.begin(), found->second.end(),
-                           [&](std::size_t index) { return outline_.symbols[index].parent == parent; });
+               std::any_of(found->second.begin(), found->second.end(), [&](std::size_t index) {
+                   const Symbol& symbol = outline_.symbols[index];
+                   return symbol.parent == parent && symbol.reach.begin == symbol.reach.end;
+               });
     }
 
     /// A variable where it gets its first value; in a function within another one it may be that of the outer one.
     void addVariable(std::size_t name, SymbolKind kind = SymbolKind::Variable) {
+        const std::string& value = outline_.token(name).value;
         for (std::size_t around = parent(); around != NO_INDEX; around = outline_.symbols[around].parent) {
-            if (has(outline_.token(name).value, around)) {
+            if (has(value, around) || publicNames_.count({around, value}) != 0) {
                 return;
             }
         }
@@ -193,19 +208,22 @@ private:
             noteStructure();
         } else if (isKeyword(at_, "வகை") && isName(at_ + 1)) {
             open_.push_back({add(SymbolKind::Enumeration, at_ + 1, at_, parent()), depth_});
-        } else if (isKeyword(at_, "வலைதளம்") && isName(at_ + 1)) {
+        } else if (isKeyword(at_, APPLICATION) && isName(at_ + 1)) {
             open_.push_back({add(SymbolKind::Application, at_ + 1, at_, parent()), depth_, closingBracket(at_ + 2)});
+        } else if (isKeyword(at_, APPLICATION) && outline_.isType(at_ + 1, TokenType::LPAREN)) {
+            // Only one of several needs a name of its own.
+            open_.push_back({add(SymbolKind::Application, at_, at_, parent()), depth_, closingBracket(at_ + 1)});
         } else if (isKeyword(at_, "நூஇறக்கி") && outline_.isType(at_ + 1, TokenType::STRING)) {
             outline_.imports.push_back({outline_.token(at_ + 1).value, outline_.placeOf(at_ + 1)});
         } else if ((isKeyword(at_, "ஒவ்வொன்றாக") || isKeyword(at_, "பிடி")) && isName(nameAfter(at_))) {
             addVariable(nameAfter(at_));
         } else if (isKeyword(at_, "உருப்படி") && outline_.isType(at_ + 1, TokenType::COLON) && isName(at_ + 2)) {
-            addVariable(at_ + 2);
+            noteElement(at_ + 2);
         } else if (isKeyword(at_, "பொது") && isName(at_ + 1)) {
             notePublicNames();
         } else if (isKeyword(at_, "வினை") && outline_.isType(at_ + 1, TokenType::LPAREN)) {
-            noteParameters(at_ + 1, parent());
-        } else if (outline_.isType(at_, TokenType::ARROW)) {
+            noteLambdaParameters(at_ + 1);
+        } else if (isArrow(at_)) {
             noteArrowParameters();
         } else if (isName(at_)) {
             noteName();
@@ -282,7 +300,8 @@ private:
     /// (a, b) => value, or a => value
     void noteArrowParameters() {
         if (at_ > 0 && isName(at_ - 1)) {
-            add(SymbolKind::Parameter, at_ - 1, at_ - 1, parent());
+            const std::size_t parameter = add(SymbolKind::Parameter, at_ - 1, at_ - 1, parent());
+            outline_.symbols[parameter].reach = {outline_.placeOf(at_ - 1).begin, lambdaEnd(at_)};
             return;
         }
         std::size_t at = at_ - 1;
@@ -290,13 +309,93 @@ private:
             --at;
         }
         if (outline_.isType(at, TokenType::LPAREN)) {
-            noteParameters(at, parent());
+            noteLambdaParameters(at);
+        }
+    }
+
+    /// Of a function without a name, which is known by them alone.
+    void noteLambdaParameters(std::size_t open) {
+        const std::size_t first = outline_.symbols.size();
+        noteParameters(open, parent());
+        const std::uint32_t end = lambdaEnd(closingBracket(open) + 1);
+        for (std::size_t i = first; i < outline_.symbols.size(); ++i) {
+            outline_.symbols[i].reach = {outline_.placeOf(open).begin, end};
+        }
+    }
+
+    /// உருப்படி: name, which is known in the brackets that follow those that it stands in.
+    void noteElement(std::size_t name) {
+        const std::size_t element = add(SymbolKind::Variable, name, name, parent());
+        std::size_t closing = name;
+        for (int depth = 0; closing < outline_.scanned.tokens.size() && depth >= 0; ++closing) {
+            depth += outline_.isType(closing, TokenType::LPAREN)   ? 1
+                     : outline_.isType(closing, TokenType::RPAREN) ? -1
+                                                                   : 0;
+        }
+        // Right after the first brackets.
+        const std::size_t end = outline_.isType(closing, TokenType::LPAREN) ? closingBracket(closing) : closing - 1;
+        if (end < outline_.scanned.tokens.size()) {
+            outline_.symbols[element].reach = {outline_.placeOf(name).begin, outline_.placeOf(end).begin};
+        }
+    }
+
+    /// Where the body of a function without a name ends: with its block, or with the line, list or bracket that it is in.
+    /// \param sign the arrow or colon before the body
+    std::uint32_t lambdaEnd(std::size_t sign) const {
+        const bool isBlock =
+            outline_.isType(sign + 1, TokenType::NEWLINE) || outline_.isType(sign + 1, TokenType::INDENT);
+        int depth = 0;
+        std::size_t at = sign + 1;
+        for (; at < outline_.scanned.tokens.size(); ++at) {
+            const TokenType type = outline_.token(at).type;
+            const bool isClosing = type == TokenType::RPAREN || type == TokenType::RBRACKET ||
+                                   type == TokenType::RBRACE || type == TokenType::DEDENT;
+            const bool isOpening = type == TokenType::LPAREN || type == TokenType::LBRACKET ||
+                                   type == TokenType::LBRACE || type == TokenType::INDENT;
+            depth += isOpening ? 1 : isClosing ? -1 : 0;
+            const bool isBorder = !isBlock && depth == 0 && (type == TokenType::COMMA || type == TokenType::NEWLINE);
+            if (depth < 0 || isBorder || (isBlock && depth == 0 && type == TokenType::DEDENT)) {
+                break;
+            }
+        }
+        return at < outline_.scanned.tokens.size() ? outline_.placeOf(at).begin
+                                                   : std::numeric_limits<std::uint32_t>::max();
+    }
+
+    /// What a function around assigns is its variable, wherever it does so.
+    bool isOfOuterFunction(const Symbol& symbol) const {
+        if (symbol.kind != SymbolKind::Variable || symbol.parent == NO_INDEX) {
+            return false;
+        }
+        std::size_t around = outline_.symbols[symbol.parent].parent;
+        while (around != NO_INDEX && !has(symbol.name, around)) {
+            around = outline_.symbols[around].parent;
+        }
+        return around != NO_INDEX;
+    }
+
+    void dropVariablesOfOuterFunctions() {
+        std::vector<Symbol> kept;
+        std::vector<std::size_t> places;
+        for (const Symbol& symbol : outline_.symbols) {
+            places.push_back(kept.size());
+            if (!isOfOuterFunction(symbol)) {
+                kept.push_back(symbol);
+            }
+        }
+        outline_.symbols = std::move(kept);
+        outline_.byName.clear();
+        for (std::size_t i = 0; i < outline_.symbols.size(); ++i) {
+            Symbol& symbol = outline_.symbols[i];
+            symbol.parent = symbol.parent == NO_INDEX ? NO_INDEX : places[symbol.parent];
+            outline_.byName[symbol.name].push_back(i);
         }
     }
 
     /// பொது அ, ஆ: names of the file, wherever they stand.
     void notePublicNames() {
         for (std::size_t at = at_ + 1; isName(at); at += 2) {
+            publicNames_.insert({parent(), outline_.token(at).value});
             if (!has(outline_.token(at).value, NO_INDEX)) {
                 add(SymbolKind::Variable, at, at, NO_INDEX);
             }
@@ -322,6 +421,8 @@ private:
     int depth_ = 0;
     std::uint32_t lastEnd_ = 0;
     std::vector<Open> open_;
+    /// Names that a function takes from the file, by the function's symbol.
+    std::set<std::pair<std::size_t, std::string>> publicNames_;
 };
 
 ScannedSource scan(const SourcePtr& source, Edition edition) {

@@ -42,6 +42,9 @@ struct Symbol {
     std::vector<std::string> parameters{};
     /// Of a structure; may be empty.
     std::string parentStructure{};
+    /// Of a parameter of a function without a name, and of an element that a page shows, where it is known; empty for all
+    /// others.
+    ByteRange reach{};
 };
 
 struct Import {

@@ -1,11 +1,13 @@
 #include "tools/language_server/requests.h"
 
+#include "tools/language_server/requests/code_actions.h"
 #include "tools/language_server/requests/colours.h"
 #include "tools/language_server/requests/completion.h"
 #include "tools/language_server/requests/definition.h"
 #include "tools/language_server/requests/folding.h"
 #include "tools/language_server/requests/formatting.h"
 #include "tools/language_server/requests/hover.h"
+#include "tools/language_server/requests/rename.h"
 #include "tools/language_server/requests/semantic_tokens.h"
 #include "tools/language_server/requests/signature_help.h"
 #include "tools/language_server/requests/symbols.h"
@@ -23,6 +25,7 @@ constexpr int INCREMENTAL = 2;
 
 RequestHandler findRequest(const std::string& method) {
     static const std::map<std::string, RequestHandler> handlers = {
+        {"textDocument/codeAction", codeActions},
         {"textDocument/colorPresentation", colourPresentations},
         {"textDocument/completion", completion},
         {"textDocument/definition", definition},
@@ -32,7 +35,9 @@ RequestHandler findRequest(const std::string& method) {
         {"textDocument/foldingRange", foldingRanges},
         {"textDocument/formatting", formatting},
         {"textDocument/hover", hover},
+        {"textDocument/prepareRename", prepareRename},
         {"textDocument/references", references},
+        {"textDocument/rename", rename},
         {"textDocument/semanticTokens/full", semanticTokens},
         {"textDocument/signatureHelp", signatureHelp},
     };
@@ -55,6 +60,7 @@ Json capabilities(Encoding encoding) {
     return {
         {"positionEncoding", encoding == Encoding::Utf8 ? "utf-8" : "utf-16"},
         {"textDocumentSync", {{"openClose", true}, {"change", INCREMENTAL}}},
+        {"codeActionProvider", {{"codeActionKinds", {"quickfix"}}}},
         {"colorProvider", true},
         {"completionProvider", {{"triggerCharacters", {".", "\"", ":"}}}},
         {"definitionProvider", true},
@@ -64,6 +70,7 @@ Json capabilities(Encoding encoding) {
         {"foldingRangeProvider", true},
         {"hoverProvider", true},
         {"referencesProvider", true},
+        {"renameProvider", {{"prepareProvider", true}}},
         {"semanticTokensProvider", {{"legend", semanticTokenLegend()}, {"full", true}}},
         {"signatureHelpProvider", {{"triggerCharacters", {"(", ","}}}},
     };

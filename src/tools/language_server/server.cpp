@@ -205,7 +205,9 @@ Json Server::initialize(const Json& params) {
     if (root.is_string()) {
         // Programs look for what they import in the folder that they are built in; without it, in this one.
         std::error_code ignored;
-        std::filesystem::current_path(std::filesystem::u8path(pathOf(root.get<std::string>())), ignored);
+        const std::string folder = pathOf(root.get<std::string>());
+        std::filesystem::current_path(std::filesystem::u8path(folder), ignored);
+        workspace_.setFolder(ignored ? "" : folder);
     }
     return {{"capabilities", capabilities(workspace_.encoding())}, {"serverInfo", {{"name", "பொழில்"}}}};
 }

@@ -64,6 +64,24 @@ std::vector<LanguageWord> memberWords(Edition edition) {
     return edition == Edition::Second ? secondBuiltins(true) : firstBuiltins(true);
 }
 
+std::vector<LanguageWord> memberWords(Edition edition, unsigned owners) {
+    std::vector<LanguageWord> words = memberWords(edition);
+    const auto isOfOthers = [&](const LanguageWord& word) {
+        const auto second = language::second::builtins();
+        const auto first = language::builtins();
+        if (edition == Edition::Second) {
+            return std::none_of(second.begin(), second.end(),
+                                [&](const auto& row) { return row.name == word.word && (row.owners & owners) != 0; });
+        }
+        return owners == language::second::owner::LIST &&
+               std::none_of(first.begin(), first.end(), [&](const auto& row) {
+                   return row.name == word.word && row.form == language::BuiltinForm::ListMethod;
+               });
+    };
+    words.erase(std::remove_if(words.begin(), words.end(), isOfOthers), words.end());
+    return words;
+}
+
 std::vector<LanguageWord> widgetWords() {
     std::vector<LanguageWord> words;
     for (const language::Widget& widget : language::widgets()) {

@@ -27,6 +27,9 @@ struct LanguageWord {
 std::vector<LanguageWord> functionWords(Edition edition);
 /// What values have after a dot.
 std::vector<LanguageWord> memberWords(Edition edition);
+/// What values of these kinds have after a dot; in the first edition only lists are told apart.
+/// \param owners of language::second::owner
+std::vector<LanguageWord> memberWords(Edition edition, unsigned owners);
 /// The widgets.
 std::vector<LanguageWord> widgetWords();
 /// The words that statements and values are made of.

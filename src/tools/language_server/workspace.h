@@ -11,6 +11,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace pozhil::language_server {
@@ -49,6 +50,10 @@ public:
     /// How the client counts characters; for texts that are opened from now on.
     void setEncoding(Encoding encoding) { encoding_ = encoding; }
     Encoding encoding() const { return encoding_; }
+
+    /// The folder that the client has open, an absolute path; empty if it has none.
+    void setFolder(std::string path) { folder_ = std::move(path); }
+    const std::string& folder() const { return folder_; }
 
     /// Takes a text, also in the place of one that is open under this name.
     void open(const std::string& uri, std::string text, std::int64_t version);
@@ -101,6 +106,7 @@ private:
     void addFinding(std::map<std::string, Verdict>& all, const OpenDocument& of, const tools::Finding& finding) const;
 
     Encoding encoding_ = Encoding::Utf16;
+    std::string folder_;
     OpenTexts texts_;
     FrontEndOptions options_;
     /// By URI.

@@ -5,12 +5,15 @@
 #include "language/second/animations.h"
 #include "language/second/widgets.h"
 #include "scanner/second/normal_form.h"
+#include "tools/language_server/grammar_places.h"
+#include "tools/language_server/member_kinds.h"
 #include "tools/language_server/names.h"
 #include "tools/language_server/protocol.h"
 #include "tools/language_server/surroundings.h"
 #include "tools/language_server/transliteration.h"
 #include "tools/language_server/vocabulary.h"
 
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -161,6 +164,23 @@ void offerNames(Offers& offers, const std::vector<NamedSource>& files, std::size
     }
 }
 
+void offerMembers(Offers& offers, const std::vector<NamedSource>& files, std::size_t dot) {
+    const Edition edition = files.front().outline->edition;
+    const std::optional<KnownKind> kind = kindBeforeDot(files, dot);
+    if (kind && kind->structure) {
+        for (const FoundSymbol& member : membersOf(files, *kind->structure->symbol)) {
+            offers.add(*member.symbol);
+        }
+    } else if (kind) {
+        offers.add(memberWords(edition, kind->owners));
+    } else {
+        for (const FoundSymbol& member : membersBefore(files, dot + 1)) {
+            offers.add(*member.symbol);
+        }
+        offers.add(memberWords(edition));
+    }
+}
+
 bool isInComment(const Outline& outline, std::size_t offset) {
     const std::string_view text = std::string_view(outline.scanned.source->text).substr(0, offset);
     const std::size_t line = text.rfind('\n') + 1; // npos + 1 is the beginning of the text
@@ -204,10 +224,7 @@ Json completion(const Workspace& workspace, const Json& params) {
     }
     const std::vector<NamedSource> files = visibleSources(workspace, asked.file);
     if (typed.before != NO_INDEX && outline.isType(typed.before, TokenType::DOT) && !typed.isInText) {
-        for (const FoundSymbol& member : membersBefore(files, typed.before + 1)) {
-            offers.add(*member.symbol);
-        }
-        offers.add(memberWords(outline.edition));
+        offerMembers(offers, files, typed.before);
         return offers.take();
     }
     const PropertyPlace properties = propertiesAt(outline, openBrackets(outline, typed.place.begin));
@@ -224,7 +241,7 @@ Json completion(const Workspace& workspace, const Json& params) {
     }
     offerNames(offers, files, asked.offset);
     offers.add(functionWords(outline.edition));
-    offers.add(statementWords());
+    offers.add(wordsAt(grammarPlaces(outline, typed.before, typed.place.begin)));
     if (hasApplication(outline)) {
         offers.add(widgetWords());
     }

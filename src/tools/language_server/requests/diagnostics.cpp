@@ -32,8 +32,8 @@ Range placeOf(const Workspace& workspace, const Verdict& verdict, const Finding&
     return workspace.documentOf(finding.place.source)->rangeOf(finding.place.range);
 }
 
-Json diagnosticOf(const Workspace& workspace, const Verdict& verdict, const Finding& finding) {
-    Json json = {{"range", jsonOf(placeOf(workspace, verdict, finding))},
+Json diagnosticAt(Range range, const Finding& finding) {
+    Json json = {{"range", jsonOf(range)},
                  {"severity", finding.kind == Finding::Kind::Fault ? ERROR : WARNING},
                  {"source", "பொழில்"},
                  {"message", messageOf(finding)}};
@@ -45,10 +45,14 @@ Json diagnosticOf(const Workspace& workspace, const Verdict& verdict, const Find
 
 } // namespace
 
+Json diagnosticOf(const Document& document, const Finding& finding) {
+    return diagnosticAt(finding.place.source == nullptr ? Range() : document.rangeOf(finding.place.range), finding);
+}
+
 Json diagnosticsOf(const Workspace& workspace, const Verdict& verdict) {
     Json diagnostics = Json::array();
     for (const Finding& finding : verdict.findings) {
-        diagnostics.push_back(diagnosticOf(workspace, verdict, finding));
+        diagnostics.push_back(diagnosticAt(placeOf(workspace, verdict, finding), finding));
     }
     Json told = {{"uri", verdict.uri}, {"diagnostics", std::move(diagnostics)}};
     if (verdict.document != nullptr) {

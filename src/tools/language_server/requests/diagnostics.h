@@ -5,6 +5,9 @@
 
 namespace pozhil::language_server {
 
+/// A finding in a document, as a client is told of it.
+Json diagnosticOf(const Document& document, const tools::Finding& finding);
+
 /// What a client is told of a source: the parameters of textDocument/publishDiagnostics.
 Json diagnosticsOf(const Workspace& workspace, const Verdict& verdict);
 
