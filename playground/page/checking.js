@@ -26,6 +26,7 @@ export class Checking {
 
     /// The text is another one now.
     textChanged() {
+        this.#findings.outdate();
         clearTimeout(this.#timer);
         this.#timer = setTimeout(() => this.check(), PAUSE);
     }

@@ -13,7 +13,7 @@ import { indentationAt } from './indentation.js';
 import { changesBetween } from './changes.js';
 import { WORDS } from './words.js';
 
-const NAME = 'நிரல் · Program. F8: அடுத்த பிழை, next fault. Esc, Tab: வெளியே, leave.';
+const NAME = 'நிரல் · Program. F8: அடுத்த பிழை, next fault. Shift+Alt+F: வடிவமை, format. Esc, Tab: வெளியே, leave.';
 
 /// Taken back by itself, whatever was typed just before.
 const ALONE = isolateHistory.of('full');
@@ -22,8 +22,8 @@ export class Editor {
     #colours = new Compartment();
     #view;
 
-    /// Puts an editor into `parent`. `onChange` is called after each change of its text.
-    constructor({ parent, text, onChange }) {
+    /// Puts an editor into `parent`. `onChange` is called after each change of its text, `onFormat` if its key is pressed.
+    constructor({ parent, text, onChange, onFormat }) {
         this.#view = new EditorView({
             parent,
             state: EditorState.create({
@@ -33,7 +33,7 @@ export class Editor {
                     EditorState.allowMultipleSelections.of(true), bracketMatching(), highlightSelectionMatches(),
                     indentUnit.of('    '), indentService.of(indentationAt), indentOnInput(), lintGutter(), search({ top: true }),
                     EditorView.lineWrapping,
-                    keymap.of([...defaultKeymap, ...searchKeymap, ...historyKeymap, ...lintKeymap, indentWithTab]),
+                    keymap.of([{ key: 'Shift-Alt-f', run: () => { onFormat(); return true; } }, ...defaultKeymap, ...searchKeymap, ...historyKeymap, ...lintKeymap, indentWithTab]),
                     EditorState.languageData.of(() => [{ commentTokens: { line: 'ஃ' } }]),
                     EditorState.phrases.of(WORDS),
                     EditorView.contentAttributes.of({ 'aria-label': NAME, 'spellcheck': 'false', 'autocapitalize': 'off' }),

@@ -51,9 +51,15 @@ export class Findings {
         this.tell('unknown', tamil, inEnglish);
     }
 
+    /// What is shown is of another text than that in the editor.
+    outdate() {
+        byId('state').setAttribute('aria-busy', 'true');
+    }
+
     /// Tells the state of the check.
     tell(state, tamil, inEnglish, rest = '') {
         byId('state').className = state;
+        byId('state').setAttribute('aria-busy', 'false');
         byId('summary').replaceChildren(`${tamil} `, english(inEnglish), rest);
     }
 

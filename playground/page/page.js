@@ -42,7 +42,9 @@ class Page {
         this.#compiler = new Compiler(parts);
         this.#programs = loadJson('samples.json').catch(() => []);
         prepareNote();
-        this.#editor = new Editor({ parent: byId('editor'), text: kept() ?? '', onChange: () => this.#textChanged() });
+        this.#editor = new Editor({
+            parent: byId('editor'), text: kept() ?? '', onChange: () => this.#textChanged(), onFormat: () => this.#format(),
+        });
         const findings = new Findings({ editor: this.#editor, explain: code => this.#explain(code) });
         this.#checking = new Checking({ compiler: this.#compiler, editor: this.#editor, findings });
     }

@@ -14,9 +14,8 @@ playgroundTest('formats a program and leaves the cursor at its word', async play
     await playground.write(UNTIDY);
     await playground.page.keyboard.press('Control+End');
     await playground.page.keyboard.press('ArrowLeft');
-    await playground.page.click('#format');
+    await playground.page.keyboard.press('Shift+Alt+F');
     await playground.page.waitForFunction(text => localStorage.getItem('pozhil-playground-program') === text, TIDY);
-    await playground.page.focus('.cm-content');
     await playground.page.keyboard.type('!');
     assert.equal(await playground.text(), TIDY.replace('"முடிந்தது")', '"முடிந்தது"!)'));
 });
@@ -98,6 +97,14 @@ playgroundTest('saves the program as a file', async playground => {
     const file = await download;
     assert.equal(file.suggestedFilename(), 'நிரல்.பொழில்');
     assert.equal(readFileSync(await file.path(), 'utf8'), TIDY);
+});
+
+playgroundTest('names the licences of what it is made of', async playground => {
+    const text = await playground.page.evaluate(async () => (await fetch(document.querySelector('#licences a').href)).text());
+    for (const name of ['@codemirror/view', '@lezer/highlight', 'vscode-oniguruma', 'vscode-textmate', 'utf8proc']) {
+        assert.match(text, new RegExp(`^${name}$`, 'm'));
+    }
+    assert.match(text, /Permission is hereby granted/);
 });
 
 playgroundTest('says how to run a program', async playground => {

@@ -59,15 +59,14 @@ export class Playground {
         return playground;
     }
 
-    /// Waits until a verdict stands on the page, or that there is none.
+    /// Waits until the verdict on what stands in the editor is there, or why there is none.
     async checked() {
-        await this.page.waitForSelector('#state[class]', { timeout: PATIENCE });
+        await this.page.waitForSelector('#state[aria-busy="false"]', { timeout: PATIENCE });
     }
 
     /// Pastes a program in the place of what stands in the editor, and waits for its verdict.
     async write(program) {
         await this.page.evaluate(async text => {
-            document.querySelector('#state').removeAttribute('class');
             document.querySelector('.cm-content').focus();
             await navigator.clipboard.writeText(text);
         }, program);

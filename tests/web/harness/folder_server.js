@@ -4,7 +4,7 @@ import { createServer } from 'node:http';
 
 const TYPES = {
     css: 'text/css', html: 'text/html; charset=utf-8', js: 'text/javascript', json: 'application/json', svg: 'image/svg+xml',
-    wasm: 'application/wasm',
+    txt: 'text/plain; charset=utf-8', wasm: 'application/wasm',
 };
 
 export class FolderServer {
