@@ -28,7 +28,8 @@ const LICENCE_FILE = /^(LICENSE|NOTICES|copyright)(\.(md|txt))?$/;
 function packagesIn(folder) {
     const below = (name, inside) => readdirSync(inside).filter(entry => !entry.startsWith('.'))
         .map(entry => [name + entry, path.join(inside, entry)]);
-    return below('', folder).flatMap(([name, inside]) => (name.startsWith('@') ? below(`${name}/`, inside) : [[name, inside]]));
+    const isScope = name => name.startsWith('@');
+    return below('', folder).flatMap(([name, inside]) => (isScope(name) ? below(`${name}/`, inside) : [[name, inside]]));
 }
 
 function licences() {
@@ -42,7 +43,8 @@ const write = (name, data) => writeFileSync(path.join(folder, name), JSON.string
 
 write('samples.json', read(path.join(here, 'samples.txt')).trim().split('\n').map(file => {
     const text = read(path.join(root, file));
-    return { name: path.basename(file, ENDING).replaceAll('_', ' '), edition: /^ஃ பொழில் 2$/m.test(text.split('\n')[0]) ? 2 : 1, text };
+    const name = path.basename(file, ENDING).replaceAll('_', ' ');
+    return { name, edition: text.startsWith('ஃ பொழில் 2\n') ? 2 : 1, text };
 }));
 write('modules.json', MODULE_FOLDERS.flatMap(below => readdirSync(path.join(MODULES, below))
     .filter(name => name.endsWith(ENDING)).sort()

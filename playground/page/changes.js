@@ -10,8 +10,8 @@ function blanksFrom(text, from) {
     return to;
 }
 
-/// The changes that make `before` into `after`, as CodeMirror wants them: one for each run of blanks that isn't as it was, so
-/// that all else keeps its place; a single one if other letters differ as well.
+/// The changes that make `before` into `after`, as CodeMirror wants them: one for each run of blanks that isn't as it was,
+/// so that all else keeps its place; a single one if other letters differ as well.
 export function changesBetween(before, after) {
     const changes = [];
     let from = 0;

@@ -31,9 +31,10 @@ export class Editor {
                 extensions: [
                     lineNumbers(), highlightSpecialChars(), history(), drawSelection(), highlightActiveLine(),
                     EditorState.allowMultipleSelections.of(true), bracketMatching(), highlightSelectionMatches(),
-                    indentUnit.of('    '), indentService.of(indentationAt), indentOnInput(), lintGutter(), search({ top: true }),
-                    EditorView.lineWrapping,
-                    keymap.of([{ key: 'Shift-Alt-f', run: () => { onFormat(); return true; } }, ...defaultKeymap, ...searchKeymap, ...historyKeymap, ...lintKeymap, indentWithTab]),
+                    indentUnit.of('    '), indentService.of(indentationAt), indentOnInput(), lintGutter(),
+                    search({ top: true }), EditorView.lineWrapping,
+                    keymap.of([{ key: 'Shift-Alt-f', run: () => { onFormat(); return true; } }]),
+                    keymap.of([...defaultKeymap, ...searchKeymap, ...historyKeymap, ...lintKeymap, indentWithTab]),
                     EditorState.languageData.of(() => [{ commentTokens: { line: 'ஃ' } }]),
                     EditorState.phrases.of(WORDS),
                     EditorView.contentAttributes.of({ 'aria-label': NAME, 'spellcheck': 'false', 'autocapitalize': 'off' }),
@@ -56,8 +57,8 @@ export class Editor {
     /// Puts another program in the place of this one, as a change that can be undone.
     replace(text) {
         this.#view.dispatch({
-            changes: { from: 0, to: this.#view.state.doc.length, insert: text }, selection: { anchor: 0 }, scrollIntoView: true,
-            annotations: ALONE,
+            changes: { from: 0, to: this.#view.state.doc.length, insert: text }, selection: { anchor: 0 },
+            scrollIntoView: true, annotations: ALONE,
         });
     }
 

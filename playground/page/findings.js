@@ -84,8 +84,9 @@ export class Findings {
         const place = finding.begin === null ? [] : [button('place', () => {
             this.#editor.goTo(this.#editor.offsetOf(finding.begin));
         }, `வரி ${finding.begin.line}`)];
-        return element('li', finding.kind, element('div', 'head', element('strong', '', isFault ? 'பிழை' : 'குறிப்பு'), ...place,
-                                                   ...(finding.code === null ? [] : [this.#codeButton(finding.code)])),
-                       element('p', 'message', finding.message), ...(isFault ? details(finding) : []));
+        const code = finding.code === null ? [] : [this.#codeButton(finding.code)];
+        const head = element('div', 'head', element('strong', '', isFault ? 'பிழை' : 'குறிப்பு'), ...place, ...code);
+        const message = element('p', 'message', finding.message);
+        return element('li', finding.kind, head, message, ...(isFault ? details(finding) : []));
     }
 }

@@ -26,7 +26,9 @@ const loadJson = async name => (await load(name)).json();
 const loadBytes = async name => (await load(name)).arrayBuffer();
 
 async function loadCompiler() {
-    const [script, bytes, modules] = await Promise.all([loadText('worker.js'), loadBytes('compiler.wasm'), loadJson('modules.json')]);
+    const [script, bytes, modules] = await Promise.all([
+        loadText('worker.js'), loadBytes('compiler.wasm'), loadJson('modules.json'),
+    ]);
     return { script, module: await WebAssembly.compile(bytes), modules };
 }
 
@@ -123,7 +125,8 @@ class Page {
     async #share() {
         const hash = await addressOf(this.#editor.text);
         if (hash === null) {
-            tellNote('இந்த நிரல் ஒரு முகவரிக்கு மிக நீளம்; கோப்பாகச் சேமித்துப் பகிரவும்.', 'This program is too long for an address; save it and share the file.');
+            tellNote('இந்த நிரல் ஒரு முகவரிக்கு மிக நீளம்; கோப்பாகச் சேமித்துப் பகிரவும்.',
+                     'This program is too long for an address; save it and share the file.');
             return;
         }
         const address = new URL(hash, location.href).href;
@@ -151,9 +154,11 @@ class Page {
         try {
             const made = await this.#compiler.ask('format', text);
             if (made.result === 'faulty') {
-                tellNote('பிழையுள்ள நிரலை வடிவமைக்க முடியாது; முதலில் பிழையைச் சரி செய்யவும்.', 'A program with faults can\'t be formatted; mend them first.');
+                tellNote('பிழையுள்ள நிரலை வடிவமைக்க முடியாது; முதலில் பிழையைச் சரி செய்யவும்.',
+                         'A program with faults can\'t be formatted; mend them first.');
             } else if (made.result === 'not-understood') {
-                tellNote('இடைவெளிகளை மாற்றினால் பொருள் மாறக்கூடும்; எனவே நிரல் இருந்தபடியே இருக்கிறது.', 'Other blanks might change the meaning, so the program stays as it is.');
+                tellNote('இடைவெளிகளை மாற்றினால் பொருள் மாறக்கூடும்; எனவே நிரல் இருந்தபடியே இருக்கிறது.',
+                         'Other blanks might change the meaning, so the program stays as it is.');
             } else if (made.text === text) {
                 tellNote('ஏற்கெனவே ஒரே பாணியில் உள்ளது.', 'It is in the one style already.');
             } else if (this.#editor.text === text) {

@@ -1,4 +1,4 @@
-// A program as a part of the page's address: compressed where the browser can, in the letters of base64 that addresses allow.
+// A program as a part of the page's address: compressed where the browser can, in letters of base64 that addresses allow.
 
 /// Longer ones are cut by what passes addresses on.
 const LONGEST = 12_000;
@@ -20,10 +20,11 @@ function bytesOf(letters) {
     return Uint8Array.from(atob(letters.replaceAll('-', '+').replaceAll('_', '/')), letter => letter.charCodeAt(0));
 }
 
-async function collect(stream, most) {
+/// What a stream makes of these bytes, unless that is more than `most`.
+async function through(stream, bytes, most) {
     const pieces = [];
     let size = 0;
-    for (const reader = stream.getReader(); ;) {
+    for (const reader = new Blob([bytes]).stream().pipeThrough(stream).getReader(); ;) {
         const { done, value } = await reader.read();
         if (done) {
             break;
@@ -45,7 +46,7 @@ export async function addressOf(program) {
         return null;
     }
     const address = typeof CompressionStream === 'undefined' ? PLAIN + lettersOf(bytes)
-        : COMPRESSED + lettersOf(await collect(new Blob([bytes]).stream().pipeThrough(new CompressionStream(FORMAT)), Infinity));
+        : COMPRESSED + lettersOf(await through(new CompressionStream(FORMAT), bytes, Infinity));
     return address.length > LONGEST ? null : address;
 }
 
@@ -57,8 +58,7 @@ export async function programOf(address) {
     }
     try {
         const bytes = bytesOf(address.slice(COMPRESSED.length));
-        const text = isCompressed
-            ? await collect(new Blob([bytes]).stream().pipeThrough(new DecompressionStream(FORMAT)), LARGEST_PROGRAM) : bytes;
+        const text = isCompressed ? await through(new DecompressionStream(FORMAT), bytes, LARGEST_PROGRAM) : bytes;
         return new TextDecoder('utf-8', { fatal: true, ignoreBOM: true }).decode(text);
     } catch (error) {
         return null;

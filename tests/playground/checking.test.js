@@ -66,7 +66,8 @@ playgroundTest('explains a code, and gives the keyboard back', async playground 
 });
 
 playgroundTest('knows the modules that come with the language, and no file beside them', async playground => {
-    await playground.write('ஃ பொழில் 2\nநூஇறக்கி "பட்டியல்"\nஅச்சிடு(பட்டியல்_வடிகட்டு([1, 2], (ஒன்று) => ஒன்று பெரிது 1))\n');
+    await playground.write('ஃ பொழில் 2\nநூஇறக்கி "பட்டியல்"\n' +
+        'அச்சிடு(பட்டியல்_வடிகட்டு([1, 2], (ஒன்று) => ஒன்று பெரிது 1))\n');
     assert.deepEqual(await playground.findings(), []);
     await playground.write('ஃ பொழில் 2\nநூஇறக்கி "மற்றது"\n');
     assert.deepEqual((await playground.findings()).map(({ line }) => line), ['வரி 2']);
@@ -91,7 +92,7 @@ playgroundTest('works on a phone without scrolling to the side', async playgroun
     assert.ok(width <= most, `${width} > ${most}`);
     await playground.page.tap('#findings .code');
     await playground.page.locator('#explanation').waitFor();
-    const small = await playground.page.evaluate(() => [...document.querySelectorAll('header button, header select, #findings button')]
-        .map(button => button.getBoundingClientRect()).filter(({ height }) => height < 32).length);
-    assert.equal(small, 0);
+    const heights = await playground.page.$$eval('header button, header select, #findings button',
+        buttons => buttons.map(button => button.getBoundingClientRect().height));
+    assert.deepEqual(heights.filter(height => height < 32), []);
 }, { options: PHONE });

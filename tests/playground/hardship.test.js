@@ -15,7 +15,7 @@ async function checksAsEver(playground) {
 }
 
 /// The site with this before the script of its worker.
-const withWorker = script => new Map([...siteFiles, ['worker.js', Buffer.concat([Buffer.from(script), siteFiles.get('worker.js')])]]);
+const withWorker = script => new Map([...siteFiles, ['worker.js', script + siteFiles.get('worker.js').toString()]]);
 
 const nested = (edition, depth) => `${edition}அ = ${'('.repeat(depth)}1${')'.repeat(depth)}\nஅச்சிடு(அ)\n`;
 

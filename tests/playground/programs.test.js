@@ -70,11 +70,13 @@ for (const hash of ['#p=%%%', '#p=AAAA', '#t=gICA', `#p=${'A'.repeat(5000)}`]) {
 
 playgroundTest('refuses to unfold more than a program', async playground => {
     const bomb = await playground.page.evaluate(async () => {
-        const packed = new Response(new Blob([new Uint8Array(60_000_000)]).stream().pipeThrough(new CompressionStream('deflate-raw')));
+        const zeros = new Blob([new Uint8Array(60_000_000)]).stream();
+        const packed = new Response(zeros.pipeThrough(new CompressionStream('deflate-raw')));
         return new Uint8Array(await packed.arrayBuffer()).reduce((text, byte) => text + String.fromCharCode(byte), '');
     });
     const kept = await playground.text();
-    await playground.page.evaluate(hash => { location.hash = hash; }, `#p=${Buffer.from(bomb, 'latin1').toString('base64url')}`);
+    const hash = `#p=${Buffer.from(bomb, 'latin1').toString('base64url')}`;
+    await playground.page.evaluate(address => { location.hash = address; }, hash);
     await playground.page.waitForSelector('#note:not([hidden])');
     assert.match(await note(playground), /படிக்க முடியவில்லை/);
     assert.equal(await playground.text(), kept);
@@ -100,7 +102,7 @@ playgroundTest('saves the program as a file', async playground => {
 });
 
 playgroundTest('names the licences of what it is made of', async playground => {
-    const text = await playground.page.evaluate(async () => (await fetch(document.querySelector('#licences a').href)).text());
+    const text = await playground.page.$eval('#licences a', async link => (await fetch(link.href)).text());
     for (const name of ['@codemirror/view', '@lezer/highlight', 'vscode-oniguruma', 'vscode-textmate', 'utf8proc']) {
         assert.match(text, new RegExp(`^${name}$`, 'm'));
     }

@@ -111,8 +111,8 @@ export function playgroundTest(name, act, open = {}) {
         const playground = await Playground.open(open);
         try {
             await act(playground);
-            const strangers = playground.requests.filter(url => !url.startsWith(playground.address) && !url.startsWith('blob:'));
-            assert.deepEqual(strangers, []);
+            const isOwn = url => url.startsWith(playground.address) || url.startsWith('blob:');
+            assert.deepEqual(playground.requests.filter(url => !isOwn(url)), []);
             assert.deepEqual(playground.errors, []);
         } finally {
             await playground.close();
