@@ -10,8 +10,11 @@ import { fileURLToPath } from 'node:url';
 import { launch } from '../web/harness/browser.js';
 import { StaticServer } from '../web/harness/static_server.js';
 
-const ROOT = path.resolve(path.dirname(fileURLToPath(import.meta.url)), '../..');
+export const ROOT = path.resolve(path.dirname(fileURLToPath(import.meta.url)), '../..');
 const SITE = process.env.POZHIL_PLAYGROUND || path.join(ROOT, 'build/playground/site');
+/// The command beside the compiler that is tested.
+export const COMMAND = path.join(path.dirname(process.env.POZHIL_COMPILER || path.join(ROOT, 'build/release/பொழில்/பொழி')), 'பொழில்');
+
 const PATIENCE = 30_000;
 
 export const PHONE = { viewport: { width: 390, height: 844 }, deviceScaleFactor: 2, hasTouch: true, isMobile: true };
