@@ -41,11 +41,29 @@ const PAGE_SCRIPTS = {
     currentVersion: 'writable',
 };
 
+// What the page of the playground and its worker ask of browsers.
+const PLAYGROUND = readonly(['Blob', 'CompressionStream', 'DecompressionStream', 'Response', 'TextDecoder', 'TextEncoder', 'WebAssembly',
+    'Worker', 'addEventListener', 'atob', 'btoa', 'clearTimeout', 'document', 'history', 'localStorage', 'location', 'navigator',
+    'self']);
+
 export default [
     { ignores: ['build/**', 'third_party/**', '**/node_modules/**', '**/வெளியீடு/**'] },
     {
-        files: ['tests/web/**/*.js', 'tests/language_server/*.js', 'benchmarks/*.mjs', 'docs/**/*.mjs', 'scripts/*.mjs'],
+        files: ['tests/web/**/*.js', 'tests/language_server/*.js', 'benchmarks/*.mjs', 'docs/**/*.mjs', 'playground/*.mjs',
+                'scripts/*.mjs'],
         languageOptions: { ecmaVersion: 2022, sourceType: 'module', globals: { ...COMMON, ...NODE, ...PAGE } },
+        rules: RULES,
+    },
+    {
+        files: ['tests/playground/*.js'],
+        languageOptions: {
+            ecmaVersion: 2022, sourceType: 'module', globals: { ...COMMON, ...NODE, ...PAGE, ...PLAYGROUND },
+        },
+        rules: RULES,
+    },
+    {
+        files: ['playground/page/*.js'],
+        languageOptions: { ecmaVersion: 2022, sourceType: 'module', globals: { ...COMMON, ...PLAYGROUND } },
         rules: RULES,
     },
     {

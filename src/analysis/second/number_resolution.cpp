@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <cstdint>
+#include <cstdlib>
 #include <string>
 
 namespace pozhil::second {
@@ -22,7 +23,8 @@ resolved::ExpressionPtr resolveNumber(Resolution& resolution, const NumberLitera
 resolved::ExpressionPtr resolveDecimal(Resolution& resolution, const DoubleLiteral& number) {
     const std::string digits = toAsciiDigits(number.value);
     auto literal = makeNode<resolved::DecimalLiteral>(resolution.placeOf(&number));
-    std::from_chars(digits.data(), digits.data() + digits.size(), literal->value);
+    // The C++ library of em++ has no other function that reads a decimal.
+    literal->value = std::strtod(digits.c_str(), nullptr);
     return literal;
 }
 

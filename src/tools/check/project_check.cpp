@@ -1,5 +1,6 @@
 #include "tools/check/project_check.h"
 
+#include "driver/settings.h"
 #include "front_end/second_imports.h"
 #include "tools/check/source_check.h"
 #include "tools/test/test_files.h"
@@ -53,7 +54,7 @@ private:
             return false;
         }
         options_.isTest = isTestFile(path);
-        Checked program{SecondImports::keyOf(path), {}, checkSource(source, options_)};
+        Checked program{SecondImports::keyOf(path), {}, checkSource(source, options_, settings::showsHints())};
         program.read = sources_.takeRead();
         for (Checked& earlier : programs_) {
             earlier.isPart = earlier.isPart || program.read.count(earlier.key) != 0;

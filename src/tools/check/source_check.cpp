@@ -1,10 +1,9 @@
 #include "tools/check/source_check.h"
 
 #include "analysis/hints.h"
+#include "analysis/second/analysis.h"
 #include "base/line_index.h"
 #include "driver/hint_report.h"
-#include "driver/second_translation.h"
-#include "driver/settings.h"
 #include "driver/translation.h"
 #include "error_codes.h"
 #include "front_end/second_edition.h"
@@ -66,8 +65,8 @@ Finding hintAt(SourcePlace place, const std::string& message, Mend mend = {}) {
 /// Checks a source of the first edition.
 class FirstEditionCheck {
 public:
-    FirstEditionCheck(SourcePtr source, const FrontEndOptions& options)
-        : source_(std::move(source)), options_(options) {
+    FirstEditionCheck(SourcePtr source, const FrontEndOptions& options, bool withHints)
+        : source_(std::move(source)), options_(options), withHints_(withHints) {
         options_.maxFaults = MOST_FAULTS;
     }
 
@@ -85,7 +84,7 @@ public:
         } catch (const StageFailure& failure) {
             addFailure(failure, {});
         }
-        if (settings::showsHints() && isAlmostMarked(*source_)) {
+        if (withHints_ && isAlmostMarked(*source_)) {
             findings_.push_back(hintAt(placeOfLine(source_, 1), ALMOST_MARKED_HINT));
         }
         return std::move(findings_);
@@ -140,7 +139,7 @@ private:
     }
 
     void addHints(const ParsedSource& parsed) {
-        if (!settings::showsHints()) {
+        if (!withHints_) {
             return;
         }
         for (const Hint& hint : hintsOf(parsed.program, *parsed.parser)) {
@@ -153,6 +152,7 @@ private:
 
     const SourcePtr source_;
     FrontEndOptions options_;
+    const bool withHints_;
     Findings findings_;
 };
 
@@ -164,11 +164,15 @@ Findings faultFindings(const SecondFaults& faults) {
     return findings;
 }
 
-Findings checkSecondEdition(const SourcePtr& source, const FrontEndOptions& options) {
-    const SecondTranslation translation = translateSecondEdition(source, options);
-    Findings findings = faultFindings(translation.faults);
-    if (settings::showsHints()) {
-        for (const SecondHint& hint : translation.hints) {
+Findings checkSecondEdition(const SourcePtr& source, const FrontEndOptions& options, bool withHints) {
+    const SecondProgram program = parseSecondEdition(source, options);
+    if (!program.faults.empty()) {
+        return faultFindings(program.faults);
+    }
+    const SecondMeaning meaning = analyseSecondEdition(program);
+    Findings findings = faultFindings(meaning.faults);
+    if (withHints) {
+        for (const SecondHint& hint : meaning.hints) {
             findings.push_back(hintAt(hint.place, hint.text, hint.mend));
         }
     }
@@ -177,14 +181,14 @@ Findings checkSecondEdition(const SourcePtr& source, const FrontEndOptions& opti
 
 } // namespace
 
-Findings checkSource(const SourcePtr& source, const FrontEndOptions& options) {
+Findings checkSource(const SourcePtr& source, const FrontEndOptions& options, bool withHints) {
     SecondFaults editionFaults;
     const Edition edition = editionOf(source, editionFaults);
     if (!editionFaults.empty()) {
         return faultFindings(editionFaults);
     }
-    return edition == Edition::Second ? checkSecondEdition(source, options)
-                                      : FirstEditionCheck(source, options).check();
+    return edition == Edition::Second ? checkSecondEdition(source, options, withHints)
+                                      : FirstEditionCheck(source, options, withHints).check();
 }
 
 } // namespace pozhil::tools

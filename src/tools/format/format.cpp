@@ -193,12 +193,9 @@ private:
 
     void tellFaults(const SourcePtr& source) {
         raise(FAULT_IN_SOURCE);
-        Findings faults = checkSource(source, options_);
+        Findings faults = checkSource(source, options_, false);
         faults.erase(std::remove_if(faults.begin(), faults.end(),
-                                    [&](const Finding& finding) {
-                                        return finding.kind == Finding::Kind::Hint ||
-                                               finding.text.excerpt.file != source->path;
-                                    }),
+                                    [&](const Finding& finding) { return finding.text.excerpt.file != source->path; }),
                      faults.end());
         printFindings(std::cerr, faults, false);
         std::cerr << "பிழை: '" << source->path << "': நிரலில் பிழை உள்ளது; எனவே இது இருந்தபடியே இருக்கிறது!" << std::endl;

@@ -102,7 +102,7 @@ void Workspace::checkStale() {
         try {
             const SourcePtr source = document.document->source();
             options_.isTest = tools::isTestFile(source->path);
-            document.findings = tools::checkSource(source, options_);
+            document.findings = tools::checkSource(source, options_, settings::showsHints());
         } catch (const std::ios_base::failure&) {
             // An imported file that can be opened but not read ends the check: what was told before still stands.
         }

@@ -2,7 +2,10 @@
 
 import { createServer } from 'node:http';
 
-const TYPES = { html: 'text/html; charset=utf-8', js: 'text/javascript', wasm: 'application/wasm' };
+const TYPES = {
+    css: 'text/css', html: 'text/html; charset=utf-8', js: 'text/javascript', json: 'application/json', svg: 'image/svg+xml',
+    txt: 'text/plain; charset=utf-8', wasm: 'application/wasm',
+};
 
 export class FolderServer {
     #root;
