@@ -1,9 +1,9 @@
 #include "tools/check/source_check.h"
 
 #include "analysis/hints.h"
+#include "analysis/second/analysis.h"
 #include "base/line_index.h"
 #include "driver/hint_report.h"
-#include "driver/second_translation.h"
 #include "driver/settings.h"
 #include "driver/translation.h"
 #include "error_codes.h"
@@ -11,8 +11,10 @@
 #include "language/diagnostic_causes.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 namespace pozhil::tools {
@@ -163,11 +165,32 @@ Findings faultFindings(const SecondFaults& faults) {
     return findings;
 }
 
+/// Faults of the grammar and of the meaning, in the order of the files and of their texts.
+SecondFaults inOrder(SecondFaults grammar, SecondFaults meaning, const SecondProgram& program) {
+    SecondFaults all = std::move(grammar);
+    std::move(meaning.begin(), meaning.end(), std::back_inserter(all));
+    std::unordered_map<const SourceText*, std::size_t> files;
+    for (const SecondFile& file : program.files) {
+        files.emplace(file.source.get(), files.size());
+    }
+    const auto order = [&](const SecondFault& fault) {
+        return std::make_pair(files[fault.place.source.get()], fault.place.range.begin);
+    };
+    std::stable_sort(all.begin(), all.end(),
+                     [&](const SecondFault& a, const SecondFault& b) { return order(a) < order(b); });
+    return all;
+}
+
+/// What is wrong with the grammar of one statement hides nothing of the others' meaning.
 Findings checkSecondEdition(const SourcePtr& source, const FrontEndOptions& options) {
-    const SecondTranslation translation = translateSecondEdition(source, options);
-    Findings findings = faultFindings(translation.faults);
+    const SecondProgram program = parseSecondEdition(source, options);
+    if (!isReadThrough(program)) {
+        return faultFindings(program.faults);
+    }
+    const SecondMeaning meaning = analyseSecondEdition(program);
+    Findings findings = faultFindings(inOrder(program.faults, meaning.faults, program));
     if (settings::showsHints()) {
-        for (const SecondHint& hint : translation.hints) {
+        for (const SecondHint& hint : meaning.hints) {
             findings.push_back(hintAt(hint.place, hint.text));
         }
     }
