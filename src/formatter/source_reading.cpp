@@ -61,7 +61,8 @@ void readFirstEdition(SourceReading& reading, const FrontEndOptions& options) {
 void readSecondEdition(SourceReading& reading) {
     SecondFaults faults;
     NodePlaces places;
-    second::parseFile(reading.source, places, faults);
+    second::Unread unread;
+    second::parseFile(reading.source, places, faults, unread);
     reading.nodes = places.allIn(reading.source);
     reading.isFaulty = !faults.empty();
     reading.scanned = second::scanSecondEdition(reading.source, faults);

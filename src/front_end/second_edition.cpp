@@ -42,7 +42,8 @@ private:
         Reading& reading = readings_.emplace_back();
         reading.file.source = source;
         editionOf(source, reading.faults);
-        reading.file.tree = second::parseFile(source, program_.places, reading.faults);
+        reading.file.unread.hasRest = !reading.faults.empty();
+        reading.file.tree = second::parseFile(source, program_.places, reading.faults, reading.file.unread);
         for (const StatementPtr& statement : reading.file.tree.statements) {
             if (const auto* import = nodeCast<ImportStatement>(statement.get())) {
                 readImport(*import, number);
@@ -59,6 +60,7 @@ private:
         if (source == nullptr) {
             const SourcePlace place = program_.places.of(import).value_or(SourcePlace{reading.file.source, {}});
             reading.faults.push_back({second::fault::NO_SUCH_FILE, place, {import.path}, ""});
+            reading.file.unread.parts.push_back({place.range, {}, {}, true});
             return;
         }
         const auto known = numbers_.find(SecondImports::keyOf(source->path));
@@ -116,6 +118,11 @@ Edition editionOf(const SourcePtr& source, SecondFaults& faults) {
 
 bool isAlmostMarked(const SourceText& source) {
     return second::isAlmostMarker(std::string_view(source.text).substr(0, source.text.find('\n')));
+}
+
+bool isReadThrough(const SecondProgram& program) {
+    return std::none_of(program.files.begin(), program.files.end(),
+                        [](const SecondFile& file) { return file.unread.hasRest; });
 }
 
 SecondProgram parseSecondEdition(SourcePtr source, const FrontEndOptions& options) {

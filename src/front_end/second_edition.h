@@ -3,6 +3,7 @@
 #include "diagnostics/second_fault.h"
 #include "front_end/front_end.h"
 #include "parser/node_places.h"
+#include "parser/second/unread.h"
 #include "parser/syntax_tree.h"
 
 #include <cstddef>
@@ -31,6 +32,8 @@ struct SecondFile {
     std::vector<std::size_t> imports;
     /// For each of these, the statement of the tree that brings it.
     std::vector<const ImportStatement*> importStatements;
+    /// What of it is missing from the tree, or stands there otherwise than it was meant.
+    second::Unread unread;
 };
 
 /// A program of the second edition as it is written.
@@ -43,6 +46,9 @@ struct SecondProgram {
     /// In the order of the files and of their texts.
     SecondFaults faults;
 };
+
+/// Whether all files of a program were read to their ends, so that what could not be read is known.
+bool isReadThrough(const SecondProgram& program);
 
 /// Scans and parses a source and all that it imports. Goes on after faults; the trees then hold what could be parsed.
 SecondProgram parseSecondEdition(SourcePtr source, const FrontEndOptions& options);

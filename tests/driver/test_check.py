@@ -54,6 +54,11 @@ def places(told):
 
 # Which sources
 
+def test_grammar_of_one_function_hides_no_meaning_of_others(place, found):
+    write(place, "அ.பொழில்", SECOND + "செயல் அ():\n    திரும்பு இல்லாதது\nசெயல் ஆ(எ:\n    திரும்பு எ\nஅச்சிடு(ஆ(1))\n")
+    assert places(found()) == [("அ.பொழில்", "பொழி-551", 3), ("அ.பொழில்", "பொழி-525", 4)]
+
+
 def test_source_without_faults(place, check, tools):
     write(place, "அ.பொழில்", GOOD)
     write(place, "ஆ.பொழில்", SECOND + GOOD)

@@ -47,6 +47,14 @@ test('carriage returns and a byte order mark count for the client alone', async 
     });
 });
 
+test('a fault of the grammar hides no fault of meaning elsewhere, and brings none about', async () => {
+    await withClient(async client => {
+        client.open('அ.பொழில்', `${SECOND}செயல் அ(எ:\n    திரும்பு எ\nசெயல் ஆ():\n    திரும்பு இல்லாதது\nஅச்சிடு(அ(1))\n`);
+        const places = (await client.diagnostics('அ.பொழில்')).map(fault => fault.range.start.line);
+        assert.deepEqual(places, [1, 4]);
+    });
+});
+
 test('a fault in one function does not hide those in others', async () => {
     await withClient(async client => {
         const wrong = 'செயல் அ():\n    திரும்பு (1 கூட்டு\nசெயல் ஆ():\n    எனில் :\n        விடு\nசெயல் இ():\n    திரும்பு 1 2\n';

@@ -62,6 +62,7 @@ SecondMeaning analyseSecondEdition(const SecondProgram& program) {
     SecondMeaning meaning;
     second::Model model(program, meaning.program);
     openFiles(model);
+    model.doubt.find(model);
     second::linkImports(model);
     second::declareVariables(model);
     second::resolveStructures(model);
@@ -72,13 +73,13 @@ SecondMeaning analyseSecondEdition(const SecondProgram& program) {
     second::checkConstants(model);
     const second::WayFacts ways = second::findDefiniteAssignments(model);
     tellWhatIsCertain(model, ways);
-    if (model.faults.isEmpty()) {
+    if (model.faults.isEmpty() && !model.doubt.isAny()) {
         const second::Kinds kinds(model, ways, second::Purpose::Writing);
         second::markKinds(model, kinds);
         second::makeCallsDirect(model, kinds);
         meaning.hints = second::findHints(model);
     }
-    meaning.faults = model.faults.found();
+    meaning.faults = model.faults.found(model.doubt);
     return meaning;
 }
 

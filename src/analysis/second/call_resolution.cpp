@@ -229,6 +229,9 @@ resolved::ExpressionPtr callMember(Resolution& resolution, const CallExpression&
     }
     if (const auto* object = nodeCast<VariableAccess>(withoutBrackets(member.object.get()))) {
         const Meaning meaning = resolution.meaningOf(object->name, Use::Read);
+        if (isDoubtful(resolution.model, meaning, object->name)) {
+            return callMethod(resolution, call, member);
+        }
         if (meaning.structure != nullptr) {
             return callMethodOf(resolution, call, member, *meaning.structure);
         }
@@ -259,10 +262,11 @@ resolved::ExpressionPtr resolveMember(Resolution& resolution, const GetExpressio
     }
     if (const auto* object = nodeCast<VariableAccess>(withoutBrackets(member.object.get()))) {
         const Meaning meaning = resolution.meaningOf(object->name, Use::Read);
-        if (meaning.enumeration != nullptr) {
+        const bool isCertain = !isDoubtful(resolution.model, meaning, object->name);
+        if (isCertain && meaning.enumeration != nullptr) {
             return enumerationMember(resolution, member, *meaning.enumeration);
         }
-        if (meaning.structure != nullptr) {
+        if (isCertain && meaning.structure != nullptr) {
             const auto* const method = methodByName(resolution, member, *meaning.structure);
             const resolved::Place place = resolution.placeOf(&member);
             return method == nullptr ? unknownValue(place) : functionValue(resolution, method, place);
@@ -285,6 +289,9 @@ resolved::ExpressionPtr resolveCall(Resolution& resolution, const CallExpression
         return callValue(resolution, call, resolveValue(resolution, callee));
     }
     const Meaning meaning = resolution.meaningOf(name->name, Use::Call);
+    if (isDoubtful(resolution.model, meaning, name->name)) {
+        return callValue(resolution, call, unknownValue(resolution.placeOf(name)));
+    }
     if (meaning.function != nullptr) {
         return callFunction(resolution, call, meaning.function);
     }

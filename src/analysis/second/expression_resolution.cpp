@@ -237,6 +237,9 @@ resolved::ExpressionPtr functionValue(Resolution& resolution, const resolved::Fu
 resolved::ExpressionPtr resolveName(Resolution& resolution, const VariableAccess& name) {
     const resolved::Place place = resolution.placeOf(&name);
     const Meaning meaning = resolution.meaningOf(name.name, Use::Read);
+    if (isDoubtful(resolution.model, meaning, name.name)) {
+        return unknownValue(place);
+    }
     if (meaning.variable != nullptr) {
         auto read = makeNode<resolved::VariableRead>(place);
         read->variable = meaning.variable;

@@ -1,5 +1,6 @@
 #include "analysis/second/fault_list.h"
 
+#include "analysis/second/doubt.h"
 #include "front_end/second_edition.h"
 
 #include <algorithm>
@@ -19,7 +20,12 @@ void FaultList::add(int number, resolved::Place place, std::vector<std::string> 
                        std::move(mend)}});
 }
 
-SecondFaults FaultList::found() {
+SecondFaults FaultList::found(const Doubt& doubt) {
+    notes_.erase(std::remove_if(notes_.begin(), notes_.end(),
+                                [&](const Note& note) {
+                                    return doubt.mayExplain(note.fault.number, note.place, note.fault.values);
+                                }),
+                 notes_.end());
     const auto order = [](const Note& note) {
         return std::tie(note.place.file, note.place.range.begin, note.place.range.end, note.fault.number,
                         note.fault.values);

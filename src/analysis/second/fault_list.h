@@ -12,6 +12,8 @@ struct SecondProgram;
 
 namespace pozhil::second {
 
+class Doubt;
+
 /// Gathers what is wrong with a program, in whatever order it is found.
 class FaultList {
 public:
@@ -32,8 +34,9 @@ public:
     /// needn't be.
     bool isLong() const { return notes_.size() >= LONG; }
 
-    /// The faults in the order of the files and of their texts, MAX_FOUND_FAULTS at most.
-    SecondFaults found();
+    /// The faults in the order of the files and of their texts, MAX_FOUND_FAULTS at most, without those that may come of
+    /// what could not be read.
+    SecondFaults found(const Doubt& doubt);
 
 private:
     static constexpr std::size_t LONG = 100;

@@ -191,7 +191,7 @@ std::size_t Kinds::slotOf(const void* owner) {
 /// What may be given values that the text doesn't show.
 void Kinds::setUncertain(const WayFacts& ways) {
     for (const auto& variable : model_.program.variables) {
-        if (variable->isShared || variable->mayBeUnset) {
+        if (variable->isShared || variable->mayBeUnset || model_.doubt.mayGive(*variable)) {
             setAny(variable.get());
         }
     }
@@ -207,7 +207,7 @@ void Kinds::setUncertain(const WayFacts& ways) {
             certainties_[slotOf(self)].mayBeChild = true;
         }
         const std::size_t result = slotOf(function.get());
-        if (isCalledUnseen) {
+        if (isCalledUnseen || model_.doubt.isIn(*function)) {
             certainties_[result] = Certainty::any();
         } else if (ways.endsWithoutReturn.count(function.get()) != 0) {
             certainties_[result] = Certainty::of(Kind::Nothing);

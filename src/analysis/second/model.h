@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/second/doubt.h"
 #include "analysis/second/fault_list.h"
 #include "analysis/second/locations.h"
 #include "analysis/second/resolved/program.h"
@@ -119,6 +120,7 @@ struct Model {
     resolved::Program& program;
     FaultList faults;
     Locations locations;
+    Doubt doubt;
     /// Outer ones before inner ones, those of a file in the order of the text.
     std::deque<Scope> scopes;
     std::vector<Scope*> fileScopes;

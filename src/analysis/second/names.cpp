@@ -198,6 +198,11 @@ Meaning meaningOf(const Model& model, const Scope& scope, std::string_view name,
     return definition == nullptr ? Meaning() : meaningOf(*definition);
 }
 
+bool isDoubtful(const Model& model, const Meaning& meaning, std::string_view name) {
+    const bool isOfFunction = meaning.variable != nullptr && meaning.variable->owner != nullptr;
+    return !isOfFunction && model.doubt.mayMean(name);
+}
+
 bool isWidgetName(const Model& model, const Scope& scope, std::string_view name) {
     return model.applications[scope.file].widgetNames.count(name) != 0 &&
            meaningOf(model, scope, name, Use::Read).isUnknown();

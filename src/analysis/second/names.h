@@ -31,6 +31,10 @@ void declareVariables(Model& model);
 /// function of its name further out, or to the one that comes with the language.
 Meaning meaningOf(const Model& model, const Scope& scope, std::string_view name, Use use);
 
+/// Whether what a name means is in doubt, since a part of the program that could not be read may give it a meaning. What a
+/// function itself names isn't.
+bool isDoubtful(const Model& model, const Meaning& meaning, std::string_view name);
+
 /// What the program calls a widget by, where nothing else has that name.
 bool isWidgetName(const Model& model, const Scope& scope, std::string_view name);
 

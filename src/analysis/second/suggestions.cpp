@@ -147,7 +147,7 @@ std::string nearestAsQuestion(std::string_view name, const std::vector<std::stri
 
 void tellUnknownName(Resolution& resolution, std::string_view name, resolved::Place place) {
     Model& model = resolution.model;
-    if (!isFirstTime(model, place.file, name)) {
+    if (model.doubt.covers(place) || !isFirstTime(model, place.file, name)) {
         return;
     }
     if (isSelf(name)) {
@@ -173,7 +173,7 @@ void tellUnknownName(Resolution& resolution, std::string_view name, resolved::Pl
 
 void tellUnknownFunction(Resolution& resolution, std::string_view name, resolved::Place place) {
     Model& model = resolution.model;
-    if (!isFirstTime(model, place.file, name) || tellBareMember(resolution, name, place) ||
+    if (model.doubt.covers(place) || !isFirstTime(model, place.file, name) || tellBareMember(resolution, name, place) ||
         tellInnerFunction(resolution, name, place)) {
         return;
     }
@@ -190,7 +190,7 @@ void tellNameWithoutValue(Resolution& resolution, const Meaning& meaning, std::s
 
 void tellUnknownMember(Model& model, std::string_view what, std::string_view member,
                        const std::vector<std::string_view>& members, resolved::Place place, std::string remedy) {
-    if (!model.toldMembers.emplace(what, member).second) {
+    if (model.doubt.covers(place) || !model.toldMembers.emplace(what, member).second) {
         return;
     }
     std::string all;

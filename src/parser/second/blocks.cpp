@@ -95,6 +95,7 @@ bool BlockGrammar::takeStrayIndent() {
     if (!tokens_.check(TokenType::INDENT)) {
         return false;
     }
+    recovery_.noteStrayIndent();
     note(fault::UNEXPECTED_INDENTATION, tokens_.rangeOf(tokens_.position() + 1));
     tokens_.advance();
     ++strayIndents_;

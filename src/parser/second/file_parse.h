@@ -26,9 +26,11 @@ struct FileParse {
     /// \param scanFaults what the scanner found wrong with it
     /// \param[out] thePlaces takes the places of nodes
     /// \param[out] faults takes all faults
-    FileParse(const ScannedSource& theScanned, SecondFaults scanFaults, NodePlaces& thePlaces, SecondFaults& faults)
+    /// \param[out] unread takes what could not be read for them
+    FileParse(const ScannedSource& theScanned, SecondFaults scanFaults, NodePlaces& thePlaces, SecondFaults& faults,
+              Unread& unread)
         : places(thePlaces), sourceNumber(places.addSource(theScanned.source, theScanned.tokens.size())),
-          tokens(theScanned), recovery(tokens, std::move(scanFaults), faults) {}
+          tokens(theScanned), recovery(tokens, std::move(scanFaults), faults, unread) {}
 
     FileParse(const FileParse&) = delete;
     FileParse& operator=(const FileParse&) = delete;

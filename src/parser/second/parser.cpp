@@ -5,10 +5,10 @@
 
 namespace pozhil::second {
 
-Program parseFile(const SourcePtr& source, NodePlaces& places, SecondFaults& faults) {
+Program parseFile(const SourcePtr& source, NodePlaces& places, SecondFaults& faults, Unread& unread) {
     SecondFaults scanFaults;
     const ScannedSource scanned = scanSecondEdition(source, scanFaults);
-    FileParse parse(scanned, std::move(scanFaults), places, faults);
+    FileParse parse(scanned, std::move(scanFaults), places, faults, unread);
     return parse.statements.parseProgram();
 }
 

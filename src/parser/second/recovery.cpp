@@ -35,6 +35,7 @@ bool mayComeOfHabit(int number) {
 } // namespace
 
 void Recovery::note(SecondFault fault) {
+    unreadParts_.noteFault(fault.number);
     addScanFaultsBefore(fault.place.range.begin);
     if (isEcho(fault)) {
         return;
@@ -71,6 +72,7 @@ void Recovery::addScanFaultsBefore(std::size_t end) {
 }
 
 void Recovery::finish() {
+    unreadParts_.finish();
     addScanFaultsBefore(TokenReader::NONE);
 }
 

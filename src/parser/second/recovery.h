@@ -4,6 +4,7 @@
 #include "base/scoped_value.h"
 #include "parser/second/syntax_fault.h"
 #include "parser/second/token_reader.h"
+#include "parser/second/unread_parts.h"
 
 #include <cstddef>
 #include <string>
@@ -19,8 +20,10 @@ public:
 
     /// \param scanFaults what the scanner found wrong with the text
     /// \param[out] faults takes those of scanner and parser in the order of the text
-    Recovery(TokenReader& tokens, SecondFaults scanFaults, SecondFaults& faults)
-        : tokens_(tokens), lines_(tokens.source()->text), scanFaults_(std::move(scanFaults)), faults_(faults) {}
+    /// \param[out] unread takes what could not be read for them
+    Recovery(TokenReader& tokens, SecondFaults scanFaults, SecondFaults& faults, Unread& unread)
+        : tokens_(tokens), lines_(tokens.source()->text), scanFaults_(std::move(scanFaults)), faults_(faults),
+          unread_(unread), unreadParts_(tokens, lines_, scanFaults_, unread) {}
 
     Recovery(const Recovery&) = delete;
     Recovery& operator=(const Recovery&) = delete;
@@ -31,12 +34,14 @@ public:
         const std::size_t first = tokens_.position();
         const int level = tokens_.indentation();
         const ScopedValue<std::size_t> statement(statement_, first);
+        UnreadParts::Attempt reading(unreadParts_, first);
         try {
             parse();
         } catch (const SyntaxFault& caught) {
             note(caught.fault);
             skipStatement(first, level);
         }
+        reading.finish();
     }
 
     /// Runs \p parse for the next item of a bracketed list. After a fault comes what is after the next comma, or the end of
@@ -44,12 +49,14 @@ public:
     template <class Parse> void attemptItem(const Parse& parse) {
         const std::size_t first = tokens_.position();
         const ScopedValue<std::size_t> statement(statement_, first);
+        UnreadParts::Attempt reading(unreadParts_, first);
         try {
             parse();
         } catch (const SyntaxFault& caught) {
             note(caught.fault);
             skipItem(first);
         }
+        reading.finish();
     }
 
     /// Keeps a fault that the parse goes on after.
@@ -64,8 +71,14 @@ public:
         return {number, {tokens_.source(), range}, std::move(values)};
     }
 
+    /// The next token is an indentation that begins no block.
+    void noteStrayIndent() { unreadParts_.noteStrayIndent(); }
+
     /// The file is parsed: keeps what the scanner found and nobody was told yet.
     void finish();
+
+    /// The parse gave up: nothing is known of the rest of the file.
+    void giveUp() { unread_.hasRest = true; }
 
 private:
     void add(SecondFault fault);
@@ -82,6 +95,8 @@ private:
     const LineIndex lines_;
     const SecondFaults scanFaults_;
     SecondFaults& faults_;
+    Unread& unread_;
+    UnreadParts unreadParts_;
     std::size_t addedScanFaults_ = 0;
     /// The first token of the statement that is parsed.
     std::size_t statement_ = 0;

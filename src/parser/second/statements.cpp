@@ -47,6 +47,7 @@ Program StatementGrammar::parseProgram() {
         recovery_.finish();
     } catch (const Recovery::Done&) {
         // What is known is enough for whoever asked.
+        recovery_.giveUp();
     }
     return program;
 }

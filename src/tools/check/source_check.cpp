@@ -10,8 +10,10 @@
 #include "language/diagnostic_causes.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 namespace pozhil::tools {
@@ -164,14 +166,31 @@ Findings faultFindings(const SecondFaults& faults) {
     return findings;
 }
 
+/// Faults of the grammar and of the meaning, in the order of the files and of their texts.
+SecondFaults inOrder(SecondFaults grammar, SecondFaults meaning, const SecondProgram& program) {
+    SecondFaults all = std::move(grammar);
+    std::move(meaning.begin(), meaning.end(), std::back_inserter(all));
+    std::unordered_map<const SourceText*, std::size_t> files;
+    for (const SecondFile& file : program.files) {
+        files.emplace(file.source.get(), files.size());
+    }
+    const auto order = [&](const SecondFault& fault) {
+        return std::make_pair(files[fault.place.source.get()], fault.place.range.begin);
+    };
+    std::stable_sort(all.begin(), all.end(),
+                     [&](const SecondFault& a, const SecondFault& b) { return order(a) < order(b); });
+    return all;
+}
+
+/// What is wrong with the grammar of one statement hides nothing of the others' meaning.
 Findings checkSecondEdition(const SourcePtr& source, const FrontEndOptions& options, bool withHints) {
     const SecondProgram program = parseSecondEdition(source, options);
-    if (!program.faults.empty()) {
+    if (!isReadThrough(program)) {
         return faultFindings(program.faults);
     }
     const SecondMeaning meaning = analyseSecondEdition(program);
-    Findings findings = faultFindings(meaning.faults);
-    if (withHints) {
+    Findings findings = faultFindings(inOrder(program.faults, meaning.faults, program));
+    if (withHints && findings.empty()) {
         for (const SecondHint& hint : meaning.hints) {
             findings.push_back(hintAt(hint.place, hint.text, hint.mend));
         }

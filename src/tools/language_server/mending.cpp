@@ -1,6 +1,7 @@
 #include "tools/language_server/mending.h"
 
 #include "base/line_index.h"
+#include "driver/settings.h"
 #include "tools/check/source_check.h"
 #include "tools/language_server/changed_texts.h"
 #include "tools/test/test_files.h"
@@ -93,7 +94,7 @@ std::vector<std::string> kindsOnLine(const SourcePtr& source, const Findings& fi
 Findings findingsOf(const SourcePtr& source, FrontEndOptions options) {
     options.isTest = tools::isTestFile(source->path);
     try {
-        return tools::checkSource(source, options);
+        return tools::checkSource(source, options, settings::showsHints());
     } catch (const std::ios_base::failure&) {
         return {}; // an import that can be opened but not read
     }

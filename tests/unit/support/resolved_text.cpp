@@ -59,6 +59,14 @@ std::vector<std::string> meaningFaults(const std::string& text) {
     return faultTexts(MeaningOf(text).meaning.faults);
 }
 
+std::vector<std::string> partialMeaningFaults(const std::string& text) {
+    const SecondProgram program = parseSecondEdition(makeSource("நிரல்.பொழில்", text), {});
+    if (program.faults.empty()) {
+        throw std::logic_error("nothing is wrong with its grammar");
+    }
+    return isReadThrough(program) ? faultTexts(analyseSecondEdition(program).faults) : std::vector<std::string>();
+}
+
 std::string ResolvedWriter::text(const resolved::Program& program) {
     std::string written;
     for (const auto& one : program.structures) {

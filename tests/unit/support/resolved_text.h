@@ -30,4 +30,7 @@ std::string certainKinds(const std::string& text);
 /// an arrow if there is one: "551 1 'அ'".
 std::vector<std::string> meaningFaults(const std::string& text);
 
+/// The same for a source that the parser finds fault with; nothing if it couldn't read all of it.
+std::vector<std::string> partialMeaningFaults(const std::string& text);
+
 } // namespace pozhil::test
