@@ -95,6 +95,15 @@ test('rename: in the first edition a variable is that of the whole program, in t
     });
 });
 
+test('rename: a variable of a method is another one than the field of its name', async () => {
+    const marked = 'கட்டமைப்பு ப:\n    எண்ணி = 0\n    செயல் க(தான்):\n        எண்|ணி = 1\n        திரும்பு எண்ணி கூட்டு தான்.எண்ணி\nஅச்சிடு(ப().க())\n';
+    const [field, first, second, ofField] = marked.replace('|', '').split('எண்ணி');
+    await withClient(async client => {
+        assert.equal(await renamed(client, SECOND + marked, 'மொத்தம்'),
+                     `${SECOND}${field}எண்ணி${first}மொத்தம்${second}மொத்தம்${ofField}எண்ணி${marked.split('எண்ணி').at(-1)}`);
+    });
+});
+
 // [what, program, new name, program afterwards], all of the second edition
 const OF_SECOND = [
     ['a variable of the file that functions assign by பொது', 'செயல் க():\n    பொது எண்ணி\n    எண்ணி = எண்ணி கூட்டு 1\nஎண்|ணி = 0\nக()\nஅச்சிடு(எண்ணி)\n'],

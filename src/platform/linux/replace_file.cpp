@@ -75,19 +75,23 @@ bool takeRoom(int descriptor, off_t size, const struct stat& former) {
     return failure == 0;
 }
 
-std::error_code writeOver(const fs::path& target, std::string_view contents, const struct stat& former) {
+/// \param isHarmed whether the file is neither what it was nor what it should be
+std::error_code writeOver(const fs::path& target, std::string_view contents, const struct stat& former,
+                          bool& isHarmed) {
     // Some file systems read where room is taken.
     const int descriptor = open(target.c_str(), O_RDWR | O_CLOEXEC);
     if (descriptor < 0) {
         return lastError();
     }
     const auto size = static_cast<off_t>(contents.size());
-    const bool isWhole = takeRoom(descriptor, size, former) && writeAll(descriptor, contents) &&
-                         ftruncate(descriptor, size) == 0 && fsync(descriptor) == 0;
+    const bool hasRoom = takeRoom(descriptor, size, former);
+    const bool isWhole =
+        hasRoom && writeAll(descriptor, contents) && ftruncate(descriptor, size) == 0 && fsync(descriptor) == 0;
     std::error_code error = isWhole ? std::error_code() : lastError();
     if (close(descriptor) != 0 && !error) {
         error = lastError();
     }
+    isHarmed = hasRoom && error;
     return error;
 }
 
@@ -105,13 +109,14 @@ std::error_code replaceFile(const fs::path& file, std::string_view contents) {
     }
     const fs::path made = freshBeside(target.parent_path() / ".pozhil");
     bool stands = false;
+    bool isHarmed = false;
     error = writeNew(made, contents, former, stands);
     if (!error && stands) {
         fs::rename(made, target, error);
     } else if (!error) {
-        error = writeOver(target, contents, former);
+        error = writeOver(target, contents, former, isHarmed);
     }
-    if (error || !stands) {
+    if ((error || !stands) && !isHarmed) {
         unlink(made.c_str());
     }
     return error;

@@ -9,7 +9,7 @@ namespace pozhil::tools {
 /// what is wrong with it, or if nothing is, what surely isn't meant.
 ///
 /// Of a source of the first edition all faults of spelling and grammar are found, of its meaning the first one; of one of
-/// the second edition all of the first stage that has any, MAX_FOUND_FAULTS at most.
+/// the second edition all of its grammar and of what could be read of its meaning, MAX_FOUND_FAULTS of each at most.
 /// \param withHints whether hints are told as well
 Findings checkSource(const SourcePtr& source, const FrontEndOptions& options, bool withHints);
 

@@ -118,8 +118,10 @@ private:
     }
 
     bool mayBeGivenOtherwise(std::size_t token) const {
+        const bool isInBracket = token > 1 && outline_.isType(token - 1, TokenType::LPAREN);
+        const std::size_t before = token - (isInBracket ? 2 : 1);
         const bool isGivenByWord =
-            token > 0 && (outline_.token(token - 1).value == "ஒவ்வொன்றாக" || outline_.token(token - 1).value == "பிடி");
+            token > 0 && (outline_.token(before).value == "ஒவ்வொன்றாக" || outline_.token(before).value == "பிடி");
         return isGivenByWord || outline_.isType(token + 1, TokenType::COMPOUND_ASSIGN);
     }
 

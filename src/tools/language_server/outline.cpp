@@ -3,6 +3,7 @@
 #include "diagnostics/fault.h"
 #include "scanner/lexer.h"
 #include "scanner/second/scanner.h"
+#include "tools/language_server/reaches.h"
 
 #include <algorithm>
 #include <iterator>
@@ -188,11 +189,18 @@ private:
                });
     }
 
+    /// Of what stands around a name. Fields of a structure aren't variables of its methods in the second edition.
+    bool hasVariable(std::string_view name, std::size_t around) const {
+        const SymbolKind kind = outline_.symbols[around].kind;
+        const bool isStructure = kind == SymbolKind::Structure || kind == SymbolKind::AbstractStructure;
+        return (outline_.edition == Edition::First || !isStructure) && has(name, around);
+    }
+
     /// A variable where it gets its first value; in a function within another one it may be that of the outer one.
     void addVariable(std::size_t name, SymbolKind kind = SymbolKind::Variable) {
         const std::string& value = outline_.token(name).value;
         for (std::size_t around = parent(); around != NO_INDEX; around = outline_.symbols[around].parent) {
-            if (has(value, around) || publicNames_.count({around, value}) != 0) {
+            if (hasVariable(value, around) || publicNames_.count({around, value}) != 0) {
                 return;
             }
         }
@@ -209,10 +217,12 @@ private:
         } else if (isKeyword(at_, "வகை") && isName(at_ + 1)) {
             open_.push_back({add(SymbolKind::Enumeration, at_ + 1, at_, parent()), depth_});
         } else if (isKeyword(at_, APPLICATION) && isName(at_ + 1)) {
-            open_.push_back({add(SymbolKind::Application, at_ + 1, at_, parent()), depth_, closingBracket(at_ + 2)});
+            open_.push_back(
+                {add(SymbolKind::Application, at_ + 1, at_, parent()), depth_, closingBracket(outline_, at_ + 2)});
         } else if (isKeyword(at_, APPLICATION) && outline_.isType(at_ + 1, TokenType::LPAREN)) {
             // Only one of several needs a name of its own.
-            open_.push_back({add(SymbolKind::Application, at_, at_, parent()), depth_, closingBracket(at_ + 1)});
+            open_.push_back(
+                {add(SymbolKind::Application, at_, at_, parent()), depth_, closingBracket(outline_, at_ + 1)});
         } else if (isKeyword(at_, "நூஇறக்கி") && outline_.isType(at_ + 1, TokenType::STRING)) {
             outline_.imports.push_back({outline_.token(at_ + 1).value, outline_.placeOf(at_ + 1)});
         } else if ((isKeyword(at_, "ஒவ்வொன்றாக") || isKeyword(at_, "பிடி")) && isName(nameAfter(at_))) {
@@ -301,7 +311,7 @@ private:
     void noteArrowParameters() {
         if (at_ > 0 && isName(at_ - 1)) {
             const std::size_t parameter = add(SymbolKind::Parameter, at_ - 1, at_ - 1, parent());
-            outline_.symbols[parameter].reach = {outline_.placeOf(at_ - 1).begin, lambdaEnd(at_)};
+            outline_.symbols[parameter].reach = {outline_.placeOf(at_ - 1).begin, endOfLambda(outline_, at_)};
             return;
         }
         std::size_t at = at_ - 1;
@@ -317,7 +327,7 @@ private:
     void noteLambdaParameters(std::size_t open) {
         const std::size_t first = outline_.symbols.size();
         noteParameters(open, parent());
-        const std::uint32_t end = lambdaEnd(closingBracket(open) + 1);
+        const std::uint32_t end = endOfLambda(outline_, closingBracket(outline_, open) + 1);
         for (std::size_t i = first; i < outline_.symbols.size(); ++i) {
             outline_.symbols[i].reach = {outline_.placeOf(open).begin, end};
         }
@@ -326,40 +336,9 @@ private:
     /// உருப்படி: name, which is known in the brackets that follow those that it stands in.
     void noteElement(std::size_t name) {
         const std::size_t element = add(SymbolKind::Variable, name, name, parent());
-        std::size_t closing = name;
-        for (int depth = 0; closing < outline_.scanned.tokens.size() && depth >= 0; ++closing) {
-            depth += outline_.isType(closing, TokenType::LPAREN)   ? 1
-                     : outline_.isType(closing, TokenType::RPAREN) ? -1
-                                                                   : 0;
-        }
-        // Right after the first brackets.
-        const std::size_t end = outline_.isType(closing, TokenType::LPAREN) ? closingBracket(closing) : closing - 1;
-        if (end < outline_.scanned.tokens.size()) {
+        if (const std::size_t end = endOfElement(outline_, name); end < outline_.scanned.tokens.size()) {
             outline_.symbols[element].reach = {outline_.placeOf(name).begin, outline_.placeOf(end).begin};
         }
-    }
-
-    /// Where the body of a function without a name ends: with its block, or with the line, list or bracket that it is in.
-    /// \param sign the arrow or colon before the body
-    std::uint32_t lambdaEnd(std::size_t sign) const {
-        const bool isBlock =
-            outline_.isType(sign + 1, TokenType::NEWLINE) || outline_.isType(sign + 1, TokenType::INDENT);
-        int depth = 0;
-        std::size_t at = sign + 1;
-        for (; at < outline_.scanned.tokens.size(); ++at) {
-            const TokenType type = outline_.token(at).type;
-            const bool isClosing = type == TokenType::RPAREN || type == TokenType::RBRACKET ||
-                                   type == TokenType::RBRACE || type == TokenType::DEDENT;
-            const bool isOpening = type == TokenType::LPAREN || type == TokenType::LBRACKET ||
-                                   type == TokenType::LBRACE || type == TokenType::INDENT;
-            depth += isOpening ? 1 : isClosing ? -1 : 0;
-            const bool isBorder = !isBlock && depth == 0 && (type == TokenType::COMMA || type == TokenType::NEWLINE);
-            if (depth < 0 || isBorder || (isBlock && depth == 0 && type == TokenType::DEDENT)) {
-                break;
-            }
-        }
-        return at < outline_.scanned.tokens.size() ? outline_.placeOf(at).begin
-                                                   : std::numeric_limits<std::uint32_t>::max();
     }
 
     /// What a function around assigns is its variable, wherever it does so.
@@ -368,7 +347,7 @@ private:
             return false;
         }
         std::size_t around = outline_.symbols[symbol.parent].parent;
-        while (around != NO_INDEX && !has(symbol.name, around)) {
+        while (around != NO_INDEX && !hasVariable(symbol.name, around)) {
             around = outline_.symbols[around].parent;
         }
         return around != NO_INDEX;
@@ -403,17 +382,6 @@ private:
                 break;
             }
         }
-    }
-
-    std::size_t closingBracket(std::size_t open) const {
-        int depth = 0;
-        for (std::size_t at = open; at < outline_.scanned.tokens.size(); ++at) {
-            depth += outline_.isType(at, TokenType::LPAREN) ? 1 : outline_.isType(at, TokenType::RPAREN) ? -1 : 0;
-            if (depth <= 0) {
-                return at;
-            }
-        }
-        return outline_.scanned.tokens.size();
     }
 
     Outline& outline_;

@@ -171,16 +171,10 @@ private:
     std::set<std::string_view> renamedKeys_;
 };
 
-std::optional<CompiledText> firstEditionText(const SourcePtr& source, const FrontEndOptions& options) {
-    try {
-        const ParsedSource parsed = parseSource(source, options);
-        OutputText output = generateText(parsed);
-        return CompiledText{false, output.text.substr(output.runtimeLength)};
-    } catch (const Fault&) {
-        return std::nullopt;
-    } catch (const std::exception&) {
-        return std::nullopt; // a stage that failed
-    }
+CompiledText firstEditionText(const SourcePtr& source, const FrontEndOptions& options) {
+    const ParsedSource parsed = parseSource(source, options);
+    OutputText output = generateText(parsed);
+    return {false, output.text.substr(output.runtimeLength)};
 }
 
 /// The text of the sources, from which faults of the running program quote, isn't the program.
@@ -194,6 +188,14 @@ std::string withoutSources(std::string text) {
     return text;
 }
 
+std::optional<CompiledText> secondEditionText(const SourcePtr& source, const FrontEndOptions& options) {
+    SecondTranslation translation = translateSecondEdition(source, options);
+    if (!translation.faults.empty()) {
+        return std::nullopt;
+    }
+    return CompiledText{true, withoutSources(translation.output.text.substr(translation.output.runtimeLength))};
+}
+
 } // namespace
 
 std::optional<CompiledText> compiledText(const SourcePtr& source, FrontEndOptions options) {
@@ -203,14 +205,13 @@ std::optional<CompiledText> compiledText(const SourcePtr& source, FrontEndOption
     if (!faults.empty()) {
         return std::nullopt;
     }
-    if (edition == Edition::First) {
-        return firstEditionText(source, options);
-    }
-    SecondTranslation translation = translateSecondEdition(source, options);
-    if (!translation.faults.empty()) {
+    try {
+        return edition == Edition::First ? firstEditionText(source, options) : secondEditionText(source, options);
+    } catch (const Fault&) {
         return std::nullopt;
+    } catch (const std::exception&) {
+        return std::nullopt; // a stage that failed, or an import that can be opened but not read
     }
-    return CompiledText{true, withoutSources(translation.output.text.substr(translation.output.runtimeLength))};
 }
 
 bool isSameButForName(const CompiledText& before, const CompiledText& after, std::string_view oldName,

@@ -4,8 +4,8 @@
 #include "front_end/second_imports.h"
 #include "platform/paths.h"
 #include "scanner/second/normal_form.h"
-#include "tools/check/source_search.h"
 #include "tools/language_server/changed_texts.h"
+#include "tools/language_server/import_graph.h"
 #include "tools/language_server/new_name.h"
 #include "tools/language_server/protocol.h"
 #include "tools/language_server/rename_proof.h"
@@ -84,96 +84,6 @@ void refuseUnwritable(const Workspace& workspace, const SourcePtr& source) {
         refuse(inQuotes(fileName(source)) + " எழுத முடியாத கோப்பு.");
     }
 }
-
-/// Which sources import which, over all that the workspace has.
-class ImportGraph {
-public:
-    explicit ImportGraph(const Workspace& workspace) : workspace_(workspace) {
-        for (const SourcePtr& source : workspace.openSources()) {
-            add({source, workspace.outlineOf(source)});
-        }
-        const bool hasFolder = !workspace.folder().empty();
-        for (const std::string& path :
-             hasFolder ? tools::findSources({workspace.folder()}).paths : std::vector<std::string>()) {
-            const SourcePtr source = workspace.load(path);
-            if (source != nullptr) {
-                add({source, workspace.outlineOf(source)});
-            }
-        }
-    }
-
-    /// All that a source imports, however far; itself first.
-    std::vector<std::string> reachedFrom(const std::string& start) const {
-        std::vector<std::string> reached = {start};
-        std::set<std::string> seen = {start};
-        for (std::size_t at = 0; at < reached.size(); ++at) {
-            for (const std::string& next : imports_.at(reached[at])) {
-                if (seen.insert(next).second) {
-                    reached.push_back(next);
-                }
-            }
-        }
-        return reached;
-    }
-
-    /// Fills in the programs that hold any of these sources, and their files.
-    void fillIn(NameUse& use, const std::set<std::string>& keys) const {
-        std::map<std::string, std::vector<std::string>> holders;
-        std::set<std::string> files = keys;
-        for (const auto& [key, file] : files_) {
-            std::vector<std::string> reached = reachedFrom(key);
-            if (std::any_of(reached.begin(), reached.end(), [&](const auto& one) { return keys.count(one) != 0; })) {
-                files.insert(reached.begin(), reached.end());
-                holders[key] = std::move(reached);
-            }
-        }
-        use.programs.clear();
-        use.files.clear();
-        for (const std::string& key : files) {
-            use.files.push_back(files_.at(key));
-        }
-        for (const auto& [key, reached] : holders) {
-            if (!isImported(key, holders)) {
-                use.programs.push_back(files_.at(key));
-            }
-        }
-    }
-
-    bool has(const std::string& key) const { return files_.count(key) != 0; }
-
-    void add(const NamedSource& file) {
-        std::vector<NamedSource> waiting = {file};
-        while (!waiting.empty()) {
-            const NamedSource next = waiting.back();
-            waiting.pop_back();
-            const std::string key = SecondImports::keyOf(next.source->path);
-            if (!files_.insert({key, next}).second) {
-                continue;
-            }
-            std::vector<std::string>& imported = imports_[key];
-            for (const NamedSource& other : visibleSources(workspace_, next)) {
-                imported.push_back(SecondImports::keyOf(other.source->path));
-                waiting.push_back(other);
-            }
-        }
-    }
-
-private:
-    /// Unless both import each other.
-    static bool isImported(const std::string& key, const std::map<std::string, std::vector<std::string>>& holders) {
-        const auto imports = [&](const std::string& one, const std::string& other) {
-            const std::vector<std::string>& reached = holders.at(one);
-            return std::find(reached.begin(), reached.end(), other) != reached.end();
-        };
-        return std::any_of(holders.begin(), holders.end(), [&](const auto& entry) {
-            return entry.first != key && imports(entry.first, key) && (!imports(key, entry.first) || entry.first < key);
-        });
-    }
-
-    const Workspace& workspace_;
-    std::map<std::string, NamedSource> files_;
-    std::map<std::string, std::vector<std::string>> imports_;
-};
 
 /// Finds the places of one name, file by file.
 class UseSearch {
@@ -343,10 +253,14 @@ void refuseKnownName(const Workspace& workspace, const NameUse& use, const std::
             }
         }
     }
+    std::vector<NamedSource> visible;
     for (const Reference& place : isOfMember ? std::vector<Reference>() : use.places) {
-        const NamedSource here = {place.source, workspace.outlineOf(place.source)};
-        for (const NamedSource& file : visibleSources(workspace, here)) {
-            const bool isHere = file.source->path == here.source->path;
+        // They come file by file.
+        if (visible.empty() || visible.front().source->path != place.source->path) {
+            visible = visibleSources(workspace, {place.source, workspace.outlineOf(place.source)});
+        }
+        for (const NamedSource& file : visible) {
+            const bool isHere = file.source->path == place.source->path;
             const Symbol* const symbol = file.outline->find(newName, isHere ? place.place.begin : 0);
             // Pages have names of their own.
             const bool isAlike = symbol != nullptr && (symbol->kind == SymbolKind::Application) == isOfPage;
@@ -404,7 +318,9 @@ void findUses(const Workspace& workspace, NameUse& use) {
             graph.add(symbol.file);
             keys.insert(SecondImports::keyOf(symbol.file.source->path));
         }
-        graph.fillIn(use, keys);
+        ImportGraph::Programs found = graph.programsWith(keys);
+        use.programs = std::move(found.programs);
+        use.files = std::move(found.files);
         isMore = UseSearch(workspace, use).search();
     }
     std::set<std::string> seen;

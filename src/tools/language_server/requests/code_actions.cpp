@@ -14,6 +14,8 @@ namespace pozhil::language_server {
 namespace {
 
 constexpr const char* QUICK_FIX = "quickfix";
+/// Each is tried by checking the whole program, and nobody chooses from a longer list.
+constexpr std::size_t MOST_ACTIONS = 10;
 
 /// Whether the client wants mends; the kinds that it names hold those below them.
 bool wantsMends(const Json& context) {
@@ -36,6 +38,9 @@ Json codeActions(const Workspace& workspace, const Json& params) {
     const std::size_t end = document->sourceOffsetAt(range.end);
     const tools::Findings findings = findingsOf(file.source, workspace.frontEndOptions());
     for (const tools::Finding& finding : findings) {
+        if (actions.size() == MOST_ACTIONS) {
+            break;
+        }
         const bool isHere = finding.place.source != nullptr && finding.place.source->path == file.source->path &&
                             finding.place.range.begin <= std::max(begin, end) &&
                             finding.place.range.end >= std::min(begin, end);
