@@ -1,6 +1,6 @@
 // Screens with more pixels than points: shapes are as sharp as texts, and shapes, texts, fields and presses keep together.
 
-import { PHONE, application, assert, near, webTest } from './harness/index.js';
+import { PHONE, application, assert, near, webTest } from '../harness/index.js';
 
 const RED = [255, 0, 0];
 const GREY = [245, 245, 245];

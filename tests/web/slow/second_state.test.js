@@ -1,7 +1,7 @@
 // What the variables of a page hold when a newer build is loaded.
 
-import { MARKER } from './harness/editions.js';
-import { address, application, assert, liveTest, webTest } from './harness/index.js';
+import { MARKER } from '../harness/editions.js';
+import { address, application, assert, liveTest, webTest } from '../harness/index.js';
 
 const BUTTON = 'பொத்தான்(உரை: "மாற்று", பொ_பாணி(அகலம்: 200, உயரம்: 40), அழுத்தினால்: மாற்று)';
 /// A page with these texts below a button that calls மாற்று.
