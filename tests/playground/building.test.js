@@ -2,7 +2,7 @@
 
 import assert from 'node:assert/strict';
 import { spawnSync } from 'node:child_process';
-import { mkdirSync, mkdtempSync, readFileSync, readdirSync, rmSync, writeFileSync } from 'node:fs';
+import { copyFileSync, mkdirSync, mkdtempSync, readFileSync, readdirSync, rmSync, symlinkSync, writeFileSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import path from 'node:path';
 import { test } from 'node:test';
@@ -62,5 +62,29 @@ test('replaces a former playground, and fills an empty folder', () => {
         assert.notEqual(texts['compiler.wasm'], 'old');
         assert.equal(texts['index.html'], readFileSync(path.join(ROOT, 'playground/page/index.html'), 'utf8'));
         assert.deepEqual(beside, ['my site']);
+    }
+});
+
+test('passes nothing on without its licence', () => {
+    const work = mkdtempSync(path.join(tmpdir(), 'playground-'));
+    try {
+        for (const name of ['editors', 'third_party', 'தொகுப்புகள்', 'எடுத்துக்காட்டுகள்']) {
+            symlinkSync(path.join(ROOT, name), path.join(work, name));
+        }
+        const unlicensed = path.join(work, 'playground/node_modules/@some/part');
+        mkdirSync(unlicensed, { recursive: true });
+        for (const name of ['gather.mjs', 'samples.txt', 'தொடக்கம்.பொழில்']) {
+            copyFileSync(path.join(ROOT, 'playground', name), path.join(work, 'playground', name));
+        }
+        const gather = () => spawnSync('node', [path.join(work, 'playground/gather.mjs'), work], { encoding: 'utf8' });
+        writeFileSync(path.join(unlicensed, 'README.md'), 'a part');
+        const refused = gather();
+        assert.equal(refused.status, 1);
+        assert.match(refused.stderr, /No licence: @some\/part/);
+        writeFileSync(path.join(unlicensed, 'COPYING'), 'as you like');
+        assert.equal(gather().status, 0);
+        assert.match(readFileSync(path.join(work, 'licences.txt'), 'utf8'), /^@some\/part\n\nas you like\n/);
+    } finally {
+        rmSync(work, { recursive: true });
     }
 });
