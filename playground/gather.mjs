@@ -3,7 +3,8 @@
 //
 //   node gather.mjs <folder>
 
-import { existsSync, readFileSync, readdirSync, writeFileSync } from 'node:fs';
+import { execFileSync } from 'node:child_process';
+import { existsSync, readFileSync, readdirSync, realpathSync, writeFileSync } from 'node:fs';
 import path from 'node:path';
 import { fileURLToPath } from 'node:url';
 
@@ -15,14 +16,14 @@ const MODULES = path.join(root, 'தொகுப்புகள்');
 /// Folders of modules: those of all programs, and texts of the second edition's own.
 const MODULE_FOLDERS = ['', 'இரண்டாம்_பதிப்பு'];
 
-/// Whose licences they are, and where; of em++, where Debian has it.
+/// Whose licences they are, and where.
 const LICENCES = [
     ...packagesIn(path.join(here, 'node_modules')),
     ...['vscode-oniguruma', 'vscode-textmate'].map(name => [name, path.join(root, 'editors/node_modules', name)]),
     ['utf8proc', path.join(root, 'third_party/utf8proc')],
-    ['Emscripten', '/usr/share/doc/emscripten'],
+    ['Emscripten', emscriptenLicence()],
 ];
-const LICENCE_FILE = /^(LICENSE|NOTICES|copyright)(\.(md|txt))?$/;
+const LICENCE_FILE = /^(LICEN[CS]E|COPYING|NOTICES|copyright)(\.(md|txt))?$/i;
 
 /// Names and folders of all packages that npm has put into a folder.
 function packagesIn(folder) {
@@ -32,11 +33,23 @@ function packagesIn(folder) {
     return below('', folder).flatMap(([name, inside]) => (isScope(name) ? below(`${name}/`, inside) : [[name, inside]]));
 }
 
-function licences() {
-    return LICENCES.filter(([, where]) => existsSync(where)).flatMap(([name, where]) => readdirSync(where)
-        .filter(file => LICENCE_FILE.test(file)).map(file => `${name}\n\n${read(path.join(where, file)).trim()}\n`))
-        .join(`\n${'-'.repeat(80)}\n\n`);
+/// Debian has it apart from em++, all others beside it.
+function emscriptenLicence() {
+    const debian = '/usr/share/doc/emscripten';
+    return existsSync(debian) ? debian
+        : path.dirname(realpathSync(execFileSync('sh', ['-c', 'command -v em++'], { encoding: 'utf8' }).trim()));
 }
+
+/// The texts of a part's licence. Without one, the part may not be passed on.
+function licencesOf([name, where]) {
+    const texts = readdirSync(where).filter(file => LICENCE_FILE.test(file)).map(file => read(path.join(where, file)).trim());
+    if (texts.join('') === '') {
+        throw new Error(`உரிமம் இல்லை / No licence: ${name} (${where})`);
+    }
+    return texts.map(text => `${name}\n\n${text}\n`);
+}
+
+const licences = () => LICENCES.flatMap(licencesOf).join(`\n${'-'.repeat(80)}\n\n`);
 
 const read = file => readFileSync(file, 'utf8');
 const write = (name, data) => writeFileSync(path.join(folder, name), JSON.stringify(data));

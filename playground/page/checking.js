@@ -49,9 +49,10 @@ export class Checking {
                 this.#findings.show(verdict);
             }
         } catch (failure) {
-            this.#findings.showNone(...FAILURES[failure.kind]);
+            this.#findings.showNone(...(FAILURES[failure.kind] ?? FAILURES.died));
+        } finally {
+            this.#isBusy = false;
         }
-        this.#isBusy = false;
         if (this.#isStale) {
             this.#isStale = false;
             this.check();

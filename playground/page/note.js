@@ -16,6 +16,12 @@ export function tellNote(tamil, inEnglish, onUndo = null) {
     byId('note').hidden = false;
 }
 
+/// What the message told of can't be taken back any more, as something else was done since.
+export function forgetUndo() {
+    undo = null;
+    byId('note-undo').hidden = true;
+}
+
 /// Makes its buttons work.
 export function prepareNote() {
     byId('note-close').addEventListener('click', close);

@@ -8,7 +8,7 @@ import { showExplanation } from './explanation.js';
 import { Findings } from './findings.js';
 import { loadLanguage } from './grammar.js';
 import { keep, kept } from './keeping.js';
-import { prepareNote, tellNote } from './note.js';
+import { forgetUndo, prepareNote, tellNote } from './note.js';
 import { addressOf, programOf } from './sharing.js';
 
 const FILE_NAME = 'நிரல்.பொழில்';
@@ -36,13 +36,14 @@ class Page {
     #compiler;
     #editor;
     #checking;
-    #programs;
+    #samples;
+    #isOpeningShared = false;
 
     constructor() {
         const parts = loadCompiler();
         parts.catch(() => {}); // told where something is asked
         this.#compiler = new Compiler(parts);
-        this.#programs = loadJson('samples.json').catch(() => []);
+        this.#samples = loadJson('samples.json').catch(() => []);
         prepareNote();
         this.#editor = new Editor({
             parent: byId('editor'), text: kept() ?? '', onChange: () => this.#textChanged(), onFormat: () => this.#format(),
@@ -57,17 +58,39 @@ class Page {
         byId('save').addEventListener('click', () => this.#save());
         addEventListener('hashchange', () => this.#openShared());
         this.#colour();
-        const [first] = await this.#listSamples();
-        if (kept() === null && first !== undefined) {
-            this.#editor.replace(first.text);
+        this.#listSamples();
+        if (!await this.#openShared()) {
+            await this.#openFirst();
         }
-        await this.#openShared();
         await this.#checking.check();
     }
 
+    /// A shared program is kept from its first edit on: until then its address has it, and the visitor's own stays kept.
     #textChanged() {
-        keep(this.#editor.text);
+        if (!this.#isOpeningShared) {
+            this.#leaveAddress();
+            keep(this.#editor.text);
+        }
+        forgetUndo();
         this.#checking.textChanged();
+    }
+
+    /// Takes the program out of the address, which would otherwise replace what is written from now on.
+    #leaveAddress() {
+        if (location.hash !== '') {
+            history.replaceState(null, '', location.pathname + location.search);
+        }
+    }
+
+    /// Puts the first example before somebody who has written nothing yet.
+    async #openFirst() {
+        const isUntouched = () => kept() === null && this.#editor.text === '';
+        if (isUntouched()) {
+            const [first] = await this.#samples;
+            if (first !== undefined && isUntouched()) {
+                this.#editor.replace(first.text);
+            }
+        }
     }
 
     async #colour() {
@@ -80,7 +103,7 @@ class Page {
     }
 
     async #listSamples() {
-        const samples = await this.#programs;
+        const samples = await this.#samples;
         const list = byId('samples');
         for (const edition of [2, 1]) {
             const group = element('optgroup', '');
@@ -99,7 +122,6 @@ class Page {
             list.value = '';
             this.#replace(sample.text, `'${sample.name}' திறக்கப்பட்டது.`, 'The example is open.');
         });
-        return samples;
     }
 
     #replace(text, tamil, inEnglish) {
@@ -108,18 +130,21 @@ class Page {
         tellNote(tamil, inEnglish, hadText ? () => this.#editor.undo() : null);
     }
 
-    /// Opens the program of the address, which then loses it, so that what is written from now on isn't replaced again.
+    /// Opens the program of the address, and promises whether there was one.
     async #openShared() {
         const program = await programOf(location.hash);
         if (program === undefined) {
-            return;
+            return false;
         }
-        history.replaceState(null, '', location.pathname + location.search);
         if (program === null) {
+            this.#leaveAddress();
             tellNote('இந்த முகவரியில் உள்ள நிரலைப் படிக்க முடியவில்லை.', 'The program in this address can\'t be read.');
-        } else {
-            this.#replace(program, 'பகிர்ந்த நிரல் திறக்கப்பட்டது.', 'The shared program is open.');
+            return false;
         }
+        this.#isOpeningShared = true;
+        this.#replace(program, 'பகிர்ந்த நிரல் திறக்கப்பட்டது.', 'The shared program is open.');
+        this.#isOpeningShared = false;
+        return true;
     }
 
     async #share() {

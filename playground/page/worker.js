@@ -31,8 +31,9 @@ async function answer({ what, text }) {
         const playground = await compiler;
         self.postMessage({ answer: playground[what](text) });
     } catch (error) {
-        // Browsers say that calls nest too deeply by an error of this kind; the parsers' own limits lie beyond.
-        self.postMessage({ failure: String(error), kind: error instanceof RangeError ? 'deep' : 'died' });
+        // Browsers say that calls nest too deeply by errors of these kinds; the parsers' own limits lie beyond.
+        const isDeep = error instanceof RangeError || error?.name === 'InternalError';
+        self.postMessage({ failure: String(error), kind: isDeep ? 'deep' : 'died' });
     }
 }
 

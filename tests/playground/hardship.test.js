@@ -41,12 +41,27 @@ function hostileTexts() {
     });
 }
 
+const FORMAT_ANSWER = /^(பிழையுள்ள நிரலை|இடைவெளிகளை மாற்றினால்|ஏற்கெனவே ஒரே பாணியில்|வடிவமைக்கப்பட்டது)/;
+const FORMAT_ANSWER_OR_NONE = new RegExp(`${FORMAT_ANSWER.source}|^சரிபார்ப்பி விடை தரவில்லை`);
+
+/// What the button for formatting answers.
+async function formatted(playground) {
+    if (await playground.page.isVisible('#note')) {
+        await playground.page.click('#note-close');
+    }
+    await playground.page.click('#format');
+    await playground.page.waitForSelector('#note:not([hidden])');
+    return playground.page.textContent('#note-text');
+}
+
 playgroundTest('survives any text', async playground => {
     for (const [name, text] of hostileTexts()) {
         await playground.write(text);
         const summary = await playground.summary();
         assert.match(summary, /^(பிழை|நிரல் இந்தப் பக்கத்துக்கு மிக ஆழமாக)/, `${name}: ${summary}`);
-        await playground.page.click('#format');
+        const isDeep = summary.startsWith('நிரல் இந்தப்');
+        const answer = await formatted(playground);
+        assert.match(answer, isDeep ? FORMAT_ANSWER_OR_NONE : FORMAT_ANSWER, `${name}: ${answer}`);
     }
     await checksAsEver(playground);
 });
@@ -79,6 +94,20 @@ playgroundTest('tells that the compiler broke down, and starts it again', async 
     await checksAsEver(playground);
 }, { served: withWorker(`{ const parse = JSON.parse; JSON.parse = text => {
     if (text.includes('வெடி')) { throw new WebAssembly.RuntimeError('unreachable'); } return parse(text); }; }\n`) });
+
+playgroundTest('checks again after an answer that it can\'t show', async playground => {
+    await playground.write('அச்சிடு(வெற்று)\n');
+    assert.match(await playground.summary(), /^சரிபார்ப்பி நின்றுவிட்டது/);
+    await checksAsEver(playground);
+}, { served: withWorker(`{ const parse = JSON.parse; JSON.parse = text =>
+    (text.includes('வெற்று') ? {} : parse(text)); }\n`) });
+
+playgroundTest('knows of depth in the words of every browser', async playground => {
+    await playground.write('அச்சிடு(ஆழம்)\n');
+    assert.match(await playground.summary(), /^நிரல் இந்தப் பக்கத்துக்கு மிக ஆழமாக/);
+    await checksAsEver(playground);
+}, { served: withWorker(`{ const parse = JSON.parse; JSON.parse = text => { if (text.includes('ஆழம்')) {
+    throw Object.assign(new Error('too much recursion'), { name: 'InternalError' }); } return parse(text); }; }\n`) });
 
 playgroundTest('tells that a check takes too long, and starts the compiler again', async playground => {
     await playground.write('அச்சிடு(தூங்கு)\n');

@@ -8,6 +8,11 @@ import { playgroundTest } from './site.js';
 const UNTIDY = 'ஃ பொழில் 2\nவயது=12\nஎனில் வயது பெரிது 10:\n  அச்சிடு( வயது )   \n\n\n\nஅச்சிடு("முடிந்தது")';
 const TIDY = 'ஃ பொழில் 2\nவயது = 12\nஎனில் வயது பெரிது 10:\n    அச்சிடு(வயது)\n\nஅச்சிடு("முடிந்தது")\n';
 
+const OWN = 'அச்சிடு("எனது")';
+const SHARED = 'அச்சிடு(1)';
+const hashOf = program => `#t=${Buffer.from(program).toString('base64url')}`;
+const hashNow = playground => playground.page.evaluate(() => location.hash);
+
 const note = playground => playground.page.textContent('#note-text');
 
 playgroundTest('formats a program and leaves the cursor at its word', async playground => {
@@ -49,17 +54,77 @@ playgroundTest('shares a program by an address, which can be taken back', async 
     await playground.page.waitForSelector('#note:not([hidden])');
     const address = await playground.page.evaluate(() => navigator.clipboard.readText());
     assert.ok(address.startsWith(`${playground.address}#p=`), address);
-    await playground.write('அச்சிடு("எனது")');
+    await playground.write(OWN);
     await playground.page.goto(address);
-    await playground.page.waitForFunction(text => localStorage.getItem('pozhil-playground-program') === text, UNTIDY);
-    assert.equal(await playground.page.evaluate(() => location.hash), '');
+    await playground.page.waitForSelector('#note-undo:not([hidden])');
+    assert.equal(await playground.shown(), UNTIDY);
     await playground.page.click('#note-undo');
-    assert.equal(await playground.text(), 'அச்சிடு("எனது")');
+    assert.equal(await playground.shown(), OWN);
+    assert.equal(await playground.text(), OWN);
+    assert.equal(await hashNow(playground), '');
 });
 
+playgroundTest('keeps the visitor\'s own program until a shared one is edited', async playground => {
+    await playground.write(OWN);
+    await playground.page.goto(playground.address + hashOf(`${SHARED}\r\n`));
+    await playground.page.waitForSelector('#note-undo:not([hidden])');
+    assert.equal(await playground.shown(), `${SHARED}\n`);
+    assert.equal(await playground.text(), OWN);
+    await playground.page.reload();
+    await playground.checked();
+    assert.equal(await playground.shown(), `${SHARED}\n`);
+    await playground.page.click('.cm-content');
+    await playground.page.keyboard.press('Control+Home');
+    await playground.page.keyboard.type('ஃ');
+    assert.equal(await playground.text(), `ஃ${SHARED}\n`);
+    assert.equal(await hashNow(playground), '');
+});
+
+playgroundTest('shares in the line of the address where nothing may be copied, and what is written then stays', async playground => {
+    await playground.write(UNTIDY);
+    await playground.page.evaluate(() => { navigator.clipboard.writeText = () => Promise.reject(new Error('no')); });
+    await playground.page.click('#share');
+    await playground.page.waitForFunction(() => location.hash.startsWith('#p='));
+    await playground.page.click('.cm-content');
+    await playground.page.keyboard.press('Control+Home');
+    await playground.page.keyboard.type('ஃ');
+    assert.equal(await hashNow(playground), '');
+    await playground.page.reload();
+    await playground.checked();
+    assert.equal(await playground.shown(), `ஃ${UNTIDY}`);
+});
+
+playgroundTest('offers to take back only what was done last', async playground => {
+    await playground.write(UNTIDY);
+    await playground.page.click('#format');
+    await playground.page.waitForSelector('#note-undo:not([hidden])');
+    await playground.page.click('.cm-content');
+    await playground.page.keyboard.type('ஃ');
+    await playground.page.waitForSelector('#note-undo', { state: 'hidden' });
+    assert.match(await note(playground), /^வடிவமைக்கப்பட்டது/);
+});
+
+playgroundTest('opens a shared program without waiting for the examples', async playground => {
+    assert.equal(await playground.shown(), SHARED);
+    assert.match(await playground.summary(), /^பிழை இல்லை/);
+    assert.equal(await playground.text(), null);
+    assert.equal(await playground.page.isHidden('#note-undo'), true);
+}, { hash: hashOf(SHARED), prepare: page => page.route('**/samples.json', () => {}) });
+
+playgroundTest('leaves what was written before the examples came, also where nothing may be kept', async playground => {
+    assert.equal(await playground.shown(), OWN);
+}, { prepare: async page => {
+    await page.addInitScript(() => Object.defineProperty(window, 'localStorage', { get() { throw new Error('no'); } }));
+    await page.route('**/samples.json', async route => {
+        await page.click('.cm-content');
+        await page.keyboard.insertText(OWN);
+        await route.continue();
+    });
+} });
+
 playgroundTest('reads an address without compression', async playground => {
-    assert.equal(await playground.text(), 'அச்சிடு(1)');
-}, { hash: `#t=${Buffer.from('அச்சிடு(1)').toString('base64url')}` });
+    assert.equal(await playground.shown(), SHARED);
+}, { hash: hashOf(SHARED) });
 
 for (const hash of ['#p=%%%', '#p=AAAA', '#t=gICA', `#p=${'A'.repeat(5000)}`]) {
     playgroundTest(`tells that an address can't be read: ${hash.slice(0, 8)}`, async playground => {

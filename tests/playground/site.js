@@ -47,8 +47,9 @@ export class Playground {
     errors = [];
     requests = [];
 
-    /// `options` of the browser's context; `files` to be served in the place of the built ones; `hash` of the address.
-    static async open({ options = {}, hash = '', served = files } = {}) {
+    /// `options` of the browser's context; `files` to be served in the place of the built ones; `hash` of the address;
+    /// `prepare` is given the empty page.
+    static async open({ options = {}, hash = '', served = files, prepare = async () => {} } = {}) {
         const playground = new Playground();
         playground.address = server.add(served);
         playground.context = await browser.newContext({ locale: 'ta-IN', ...options });
@@ -57,6 +58,7 @@ export class Playground {
         playground.page.on('pageerror', error => playground.errors.push(error.message));
         playground.page.on('console', message => message.type() === 'error' && playground.errors.push(message.text()));
         playground.page.on('request', request => playground.requests.push(request.url()));
+        await prepare(playground.page);
         await playground.page.goto(playground.address + hash);
         await playground.checked();
         return playground;
@@ -76,6 +78,11 @@ export class Playground {
         await this.page.keyboard.press('Control+A');
         await this.page.keyboard.press('Control+V');
         await this.checked();
+    }
+
+    /// What stands in the editor, if it is short enough to be all in view.
+    shown() {
+        return this.page.$$eval('.cm-line', lines => lines.map(line => line.textContent).join('\n'));
     }
 
     /// What stands in the editor, as it is kept.
