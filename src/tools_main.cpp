@@ -34,7 +34,7 @@ int run(const std::vector<std::string>& arguments) {
     } catch (const std::exception& exception) {
         std::error_code missing;
         if (std::filesystem::current_path(missing).empty()) {
-            std::cerr << "பிழை: இப்போதைய அடைவு இப்போது இல்லை! வேறோர் அடைவுக்குப் போய் மீண்டும் முயற்சிக்கவும்." << std::endl;
+            std::cerr << "பிழை: இப்போதைய அடைவு இப்போது இல்லை! வேறோர் அடைவுக்குப் போய் மீண்டும் முயலவும்." << std::endl;
             return tools::FAILED;
         }
         std::cerr << "பிழை: எதிர்பாராத சிக்கல்! (" << exception.what() << ")" << std::endl;

@@ -6,7 +6,7 @@ const PAUSE = 150;
 const FAILURES = {
     slow: ['சரிபார்க்க நெடுநேரம் ஆகிறது; நிரலைச் சுருக்கவும்.', 'The check takes too long; make the program shorter.'],
     deep: ['நிரல் இந்தப் பக்கத்துக்கு மிக ஆழமாக அடுக்கப்பட்டுள்ளது; அடுக்குகளைக் குறைக்கவும்.',
-           'The program nests too deeply for this page.'],
+           'The program nests too deeply for this page; use fewer levels.'],
     died: ['சரிபார்ப்பி நின்றுவிட்டது; நிரலை மாற்றினால் மீண்டும் தொடங்கும்.',
            'The check broke down; it starts again with the next change.'],
     missing: ['சரிபார்ப்பியை ஏற்ற முடியவில்லை; எழுதலாம், சேமிக்கலாம்.',

@@ -150,7 +150,7 @@ class Page {
     async #share() {
         const hash = await addressOf(this.#editor.text);
         if (hash === null) {
-            tellNote('இந்த நிரல் ஒரு முகவரிக்கு மிக நீளம்; கோப்பாகச் சேமித்துப் பகிரவும்.',
+            tellNote('இந்த நிரல் ஒரு முகவரிக்கு மிக நீளமானது; கோப்பாகச் சேமித்துப் பகிரவும்.',
                      'This program is too long for an address; save it and share the file.');
             return;
         }

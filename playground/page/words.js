@@ -7,7 +7,7 @@ export const WORDS = {
     'next': 'அடுத்தது',
     'previous': 'முந்தையது',
     'all': 'எல்லாம்',
-    'match case': 'எழுத்தளவு பார்',
+    'match case': 'பெரிய, சிறிய எழுத்து வேறு',
     'by word': 'முழுச் சொல்',
     'regexp': 'சுருக்கக் கோவை',
     'replace': 'மாற்று',

@@ -347,7 +347,7 @@ void checkNewName(const Workspace& workspace, const NameUse& use, const std::str
     for (const NamedSource& program : use.programs) {
         const auto before = compiledText(program.source, workspace.frontEndOptions());
         if (!before) {
-            refuse(inQuotes(fileName(program.source)) + " நிரலில் பிழை உள்ளது; அதைச் சரிசெய்த பின் பெயரை மாற்றலாம்.");
+            refuse(inQuotes(fileName(program.source)) + " நிரலில் பிழை உள்ளது; அதைச் சரி செய்த பின் பெயரை மாற்றலாம்.");
         }
         const SourcePtr source = renamed.load(program.source->path);
         const auto after = source == nullptr ? std::nullopt : compiledText(source, renamed.options());
