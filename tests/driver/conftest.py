@@ -46,6 +46,12 @@ def place(scratch, compiler, tools):
 
 
 @pytest.fixture
+def command(place):
+    """The command பொழில், which stands beside the compiler."""
+    return place.compiler.parent / "பொழில்"
+
+
+@pytest.fixture
 def real_place(scratch, compiler):
     """A working directory with the machine's own g++."""
     return Workplace(scratch / "work", scratch, compiler)

@@ -19,11 +19,6 @@ SUMMARY = "சரிபார்த்த கோப்புகள்: {}, ப�
 
 
 @pytest.fixture
-def command(place):
-    return place.compiler.parent / "பொழில்"
-
-
-@pytest.fixture
 def check(place, command):
     """Runs the word in the working directory."""
     def check_with(*arguments, word="சரிபார்", env=(), **settings):

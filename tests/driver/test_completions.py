@@ -11,11 +11,6 @@ PACKAGING = REPOSITORY / "packaging"
 
 
 @pytest.fixture
-def command(place):
-    return place.compiler.parent / "பொழில்"
-
-
-@pytest.fixture
 def candidates(place, command):
     """What may come after these words, as the command itself says; by what is typed, what it does."""
     def ask(*words):

@@ -16,11 +16,6 @@ WRONG = "அச்சிடு(  (1 )\n"
 
 
 @pytest.fixture
-def command(place):
-    return place.compiler.parent / "பொழில்"
-
-
-@pytest.fixture
 def format(place, command):
     """Runs the word in the working directory."""
     def format_with(*arguments, word="வடிவமை", **settings):

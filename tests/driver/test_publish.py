@@ -43,11 +43,6 @@ def place(installed_place, tools):
 
 
 @pytest.fixture
-def command(place):
-    return place.compiler.parent / "பொழில்"
-
-
-@pytest.fixture
 def publish(place, command):
     """Runs the command in the working directory."""
     def publish_with(*arguments, **settings):

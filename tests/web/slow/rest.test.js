@@ -1,7 +1,7 @@
 // Pages where nothing happens draw nothing; what moves, and what anybody does, is drawn at once.
 
-import { second } from './harness/editions.js';
-import { COARSE_PHONE, application, assert, near, webTest } from './harness/index.js';
+import { second } from '../harness/editions.js';
+import { COARSE_PHONE, application, assert, near, webTest } from '../harness/index.js';
 
 const counting = application(`
         நெடுவரிசை(உருளும்பட்டை: மெய், இடைவெளி: 20)(

@@ -1,6 +1,6 @@
 // Animations: what starts them, how they run back, and what they move.
 
-import { application, assert, near, webTest } from './harness/index.js';
+import { application, assert, near, webTest } from '../harness/index.js';
 
 const RED = [255, 0, 0];
 const BLUE = [0, 0, 255];

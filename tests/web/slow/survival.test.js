@@ -1,6 +1,6 @@
 // What a page outlives: builds that fail, a server that goes away, a lost drawing surface, and its own reload.
 
-import { address, application, assert, liveTest, near, webTest } from './harness/index.js';
+import { address, application, assert, liveTest, near, webTest } from '../harness/index.js';
 
 const showing = text => application(`        உரை("${text}")`);
 

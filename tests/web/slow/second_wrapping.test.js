@@ -1,7 +1,7 @@
 // Texts that wrap at the room there is, and texts that don't shrink with the window.
 
-import { faultCard, second } from './harness/editions.js';
-import { assert, near, webTest } from './harness/index.js';
+import { faultCard, second } from '../harness/editions.js';
+import { assert, near, webTest } from '../harness/index.js';
 
 const DESKTOP = { viewport: { width: 1280, height: 800 } };
 const LINE_HEIGHT = 1.4;
