@@ -154,7 +154,7 @@ playgroundTest('says when a program is too long for an address', async playgroun
     await playground.write(`எண்கள் = [${numbers.join(', ')}]\n`);
     await playground.page.click('#share');
     await playground.page.waitForSelector('#note:not([hidden])');
-    assert.match(await note(playground), /மிக நீளம்/);
+    assert.match(await note(playground), /மிக நீளமானது/);
 });
 
 playgroundTest('saves the program as a file', async playground => {
